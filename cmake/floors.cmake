@@ -1,0 +1,28 @@
+# One library per folder of src/. A floor names the floors that it knows; which ones it may know is
+# watched over by tests/architecture.
+
+# Pictures must be the same in every build: no fused multiply-add, and rounding by one instruction
+# (errno is never looked at).
+add_library(starfolds_options INTERFACE)
+target_include_directories(starfolds_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(NOT MSVC)
+  target_compile_options(starfolds_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
+    -Wimplicit-fallthrough -Werror -ffp-contract=off -fno-math-errno)
+  if(STARFOLDS_SANITIZE)
+    target_compile_options(starfolds_options INTERFACE
+      -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero
+      -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(starfolds_options INTERFACE
+      -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero)
+  endif()
+else()
+  target_compile_options(starfolds_options INTERFACE /W4 /WX /fp:precise)
+endif()
+
+# starfolds_floor(NAME SOURCES file... KNOWS floor-or-library...)
+function(starfolds_floor NAME)
+  cmake_parse_arguments(FLOOR "" "" "SOURCES;KNOWS" ${ARGN})
+  add_library(starfolds_${NAME} STATIC ${FLOOR_SOURCES})
+  target_link_libraries(starfolds_${NAME} PUBLIC starfolds_options ${FLOOR_KNOWS})
+endfunction()

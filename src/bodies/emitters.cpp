@@ -1,0 +1,37 @@
+#include "bodies/emitters.h"
+
+#include <cmath>
+
+#include "bodies/radial.h"
+
+namespace starfolds {
+
+void SeedQuasar(SeedPoint& point, const Body& body) {
+  SeedRadial(point, body, body.Run.RunSpin, body.Run.SweepPhase);
+  const double force = body.Run.Star.RunForce;
+  point.VX = static_cast<Single>(force * point.X);
+  point.VY = static_cast<Single>(force * point.Y);
+  point.VZ = static_cast<Single>(force * point.Z);
+}
+
+void SeedGraviton(SeedPoint& point, const Body& body) {
+  SeedRadial(point, body, body.Run.RunSpin, body.Run.SweepPhase);
+  point.VX = point.VY = point.VZ = 0;
+}
+
+void SeedStarwave(SeedPoint& point, const Body& body) {
+  const StarfoldProfile& set = body.Set;
+  const PreparedProfile& run = body.Run;
+  const double waves = std::max<Integer>(set.Starfold_RadBands, 1);
+  const double a = body.Random();
+  const double b = body.Random();
+  const double theta = std::floor(set.Starfold_RadSegs * a) * run.RunSegAngle +
+                       b * run.RunSegAngle * run.RunSegFill + run.SweepPhase;
+  point.X = point.Y = point.Z = 0;
+  point.VX = static_cast<Single>(run.RunRadiusTenth * std::cos(theta));
+  const double wave = std::floor(body.Random() * waves);
+  point.VY = static_cast<Single>(kTwoPi / waves * wave);
+  point.VZ = static_cast<Single>(run.RunRadiusTenth * std::sin(theta));
+}
+
+}  // namespace starfolds

@@ -1,0 +1,43 @@
+// The life of a star beyond being a dot: re-seeding, and the flare that comes with it.
+#pragma once
+
+#include "bodies/run_arrays.h"
+#include "bodies/star_motion.h"
+#include "colour/saver.h"
+
+namespace starfolds {
+
+/// What a frame's routines share.
+struct FrameScene {
+  Saver& Process;
+  RunArrays& Run;
+  /// 0 in a universe, 1 in a run of one plain profile, 2 in that of a composite.
+  Integer SingleBody = 0;
+};
+
+/// Seeds star `i` anew in the starfold `StarHome[i]` and rolls its flare: a pulsar, a nova or a new
+/// star (one draw against the profile's chances). A nova and a new star show at once.
+void ReseedStar(const FrameScene& scene, std::size_t i);
+
+/// The row of the nova's colour ramp with `left` of `frames` frames left. The system forms frames
+/// times 80 as a 16-bit number: beyond 409 frames of age it does not fit, and the last row that did
+/// stays.
+int NovaRow(Integer frames, Integer left);
+
+/// Draw or, in black, erase what the star shows as from the arrays.
+void DrawNewStar(const FrameScene& scene, std::size_t i, Colour colour);
+void DrawNova(const FrameScene& scene, std::size_t i, Colour colour);
+void DrawPulsar(const FrameScene& scene, std::size_t i, bool erase);
+Colour NewStarColour(const FrameScene& scene, std::size_t i);
+Colour NovaColour(const FrameScene& scene, std::size_t i);
+
+/// Erases a new star, a nova or a pulsar where it was last drawn.
+void EraseFlare(const FrameScene& scene, std::size_t i);
+
+/// Moves a nova or pulsar, notes its view and draws it where it is in front of the eye.
+void MoveAndDrawShell(const FrameScene& scene, std::size_t i);
+
+/// Notes a new star's depth and, where it is in front of the eye, its screen position; draws it.
+void PlaceAndDrawNewStar(const FrameScene& scene, std::size_t i, const View& view);
+
+}  // namespace starfolds

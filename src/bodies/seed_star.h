@@ -1,0 +1,16 @@
+// `SeedStar`: gives a star its place in its body, by the body's style, and its colour.
+#pragma once
+
+#include "bodies/run_arrays.h"
+#include "bodies/seed_point.h"
+
+namespace starfolds {
+
+/// The generator that a run's body of `style` uses for its stars.
+void SeedByStyle(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
+
+/// Places star `i` anew in the starfold `StarHome[i]`, as a star of `StarProf[i]`: position,
+/// velocity, spin, level, hue and colour. Age, wait and flares become 0.
+void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i);
+
+}  // namespace starfolds

@@ -1,0 +1,250 @@
+#include "colour/prepared.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "colour/saver.h"
+#include "numbers/conversions.h"
+
+namespace starfolds {
+namespace {
+
+/// Radians of a whole or broken number of degrees, by the Single circle constant.
+double Radians(double degrees) { return degrees * kTwoPi / 360; }
+
+/// One factor between 1 / magnitude and magnitude: most lie near 1 for exponents above 1, and
+/// whether a property is multiplied or divided is a coin toss.
+Single RandomFactor(Rnd& random, int magnitude, int exponent) {
+  const double a = random();
+  const Single b = random();
+  const double v = 1 + std::pow(a, exponent) * (magnitude - 1);
+  return static_cast<Single>(b < 0.5F ? v : 1 / v);
+}
+
+struct RandomFactors {
+  Single Size = 1;
+  Single Speed = 1;
+};
+
+RandomFactors DrawFactors(Saver& saver) {
+  const AdvancedSettings& advanced = saver.Stored.Advanced;
+  if (!advanced.Adv_Randomize) return {};
+  const int magnitude = ClampTo<int>(advanced.Adv_RandomMag, 1, 100);
+  const int exponent = ClampTo<int>(advanced.Adv_RandomExp, 1, 100);
+  RandomFactors factors;
+  factors.Size = RandomFactor(saver.Random, magnitude, exponent);
+  factors.Speed = RandomFactor(saver.Random, magnitude, exponent);
+  return factors;
+}
+
+void PrepareBody(PreparedProfile& run, const StarfoldProfile& profile, RandomFactors factors) {
+  run.RunRadius = static_cast<Single>(profile.Starfold_Radius * 0.01 * factors.Size);
+  run.RunDistance = static_cast<Single>(profile.Starfold_Distance * 0.01 * factors.Size);
+  run.RunSpin = static_cast<Single>(profile.Starfold_Rotation * 1e-06 * factors.Speed);
+  run.RunRadiusSq = run.RunRadius * run.RunRadius;
+  run.RunRadiusTenth = static_cast<Single>(run.RunRadius * 0.01);
+  run.RunSpin8 = run.RunSpin * 8;
+  run.RunCoreSpin = static_cast<Single>(std::sqrt(1 / std::abs(run.RunRadius + 1e-09)) *
+                                        kTwoPiWide * run.RunSpin);
+  run.RunSegFill = static_cast<Single>(profile.Starfold_RadFill * 0.01);
+  run.RunBandFill = static_cast<Single>(profile.Starfold_RadBFill * 0.01);
+  run.RunSegAngle = kTwoPi / std::max<Integer>(profile.Starfold_RadSegs, 1);
+  const double bandAngle = Radians(profile.Starfold_RadBands);
+  run.RunBandCos = static_cast<Single>(std::cos(bandAngle));
+  run.RunBandSin = static_cast<Single>(std::sin(bandAngle));
+  run.RunSpinCos = static_cast<Single>(std::cos(static_cast<double>(run.RunSpin)));
+  run.RunSpinSin = static_cast<Single>(std::sin(static_cast<double>(run.RunSpin)));
+  run.RunSpin8Cos = static_cast<Single>(std::cos(static_cast<double>(run.RunSpin8)));
+  run.RunSpin8Sin = static_cast<Single>(std::sin(static_cast<double>(run.RunSpin8)));
+}
+
+void PrepareRates(PreparedProfile& run, const StarfoldProfile& profile, RandomFactors factors) {
+  run.RunHeightExp = static_cast<Single>(profile.Starfold_HeightExp * 0.001);
+  run.RunBiasExp = static_cast<Single>(profile.Starfold_CP_B_Exp * 0.01);
+  run.RunBiasSpeed = static_cast<Single>(profile.Starfold_CP_B_Spd * 0.0001);
+  run.RunColorTenth = static_cast<Single>(profile.Starfold_ColorMult * 0.1);
+  run.RunColorThousandth = static_cast<Single>(profile.Starfold_ColorMult * 0.001);
+  run.RunNewExt = static_cast<Single>(profile.Starfold_NewExtMult * 0.001);
+  run.RunNovaChance = static_cast<Single>(profile.Starfold_NovaFreq * 0.0001);
+  run.RunNovaExt = static_cast<Single>(profile.Starfold_NovaExtMult * 0.0001);
+  run.RunPulsarChance = static_cast<Single>(profile.Starfold_PulsarFreq * 0.0001);
+  run.RunPulsarDepth = static_cast<Single>(profile.Starfold_PulsarDepth * 0.001);
+  run.RunCometChance = static_cast<Single>(profile.Starfold_CometFreq * 0.0001);
+  run.RunCometOrbit = static_cast<Single>(profile.Starfold_CometOrbit * 1e-05 * factors.Speed);
+  run.RunCometSpeed = static_cast<Single>(profile.Starfold_CometSpeed * 1e-05);
+  run.RunCometWind = static_cast<Single>(profile.Starfold_CometSWind * 1e-05);
+  run.RunHwcStart = profile.Starfold_HWC_Start;
+  run.RunHwcEnd = profile.Starfold_HWC_End;
+  run.RunHwcAcc = 0;
+  run.RibbonPhase = 0;
+}
+
+void PrepareMotion(PreparedProfile& run, const StarfoldProfile& profile) {
+  StarMotion& star = run.Star;
+  star.RunMotion = MotionOf(profile.Style());
+  star.AxisPlane = profile.Starfold_AxisPlane != 0;
+  star.HWheelInc = profile.Starfold_HWheelInc;
+  const double forceUnit = profile.Style() == FoldStyle::Quasar ? 0.01 : 0.0001;
+  star.RunForce = static_cast<Single>(profile.Starfold_QG_Force * forceUnit);
+  AssignRounded(star.WaveDecay, profile.Starfold_RadBFill);
+  star.WaveAmplitude = static_cast<Single>(static_cast<double>(profile.Starfold_GHW_Ratio) *
+                                           profile.Starfold_Radius * 0.01);
+  star.WavePhaseStep = static_cast<Single>(Radians(profile.Starfold_RadiusExp));
+}
+
+/// The tilt step of one level. With taper it falls off toward the outer levels; a step above half a
+/// turn is read as a backward turn and falls off the same way.
+double TiltStep(const StarfoldProfile& profile, int level, int levels) {
+  const double a = Radians(profile.Starfold_AngleTInc);
+  double step = a;
+  if (profile.Starfold_StdLevB_A1 != 0) {
+    const double taper = static_cast<double>(levels - level) / levels;
+    step = a <= kPi ? a * taper : kTwoPiWide - (kTwoPi - a) * taper;
+  }
+  const bool backward = profile.Starfold_StdLevB_A0 != 0 && level % 2 == 1;
+  return backward ? -step : step;
+}
+
+void PrepareLevels(PreparedProfile& run, StarfoldProfile& profile) {
+  const bool nested = profile.Style() == FoldStyle::Standard;
+  run.RunLevels = nested ? ClampTo<Integer>(profile.Starfold_StdLevels, 1, kMaxLevels) : Integer{1};
+  profile.Starfold_StdLevels = run.RunLevels;
+  run.RunLevelStep = static_cast<Single>(profile.Starfold_StdLevDRad * 0.01);
+  run.RunMaxRadius = static_cast<Single>(
+      (run.RunLevels - 1) * static_cast<double>(run.RunLevelStep) + run.RunRadius);
+  run.RunTilt = static_cast<Single>(Radians(-profile.Starfold_AngleTilt));
+  for (int i = 0; i < run.RunLevels; ++i) {
+    run.LevelTiltStep[i] = static_cast<Single>(TiltStep(profile, i, run.RunLevels));
+  }
+}
+
+/// Distances in user-defined records are hundredths of a tenth of the radius, from their centre.
+Single RecordLength(Integer place, Integer centre, double tenth) {
+  return static_cast<Single>((place * 0.01 - centre * 0.01) * tenth);
+}
+
+void PrepareIfs(PreparedProfile& run, const StarfoldProfile& profile) {
+  const double tenth = run.RunRadius * 0.1;
+  const IfsRecord& record = profile.IFS;
+  Long sum = 0;
+  for (int i = 0; i < ClampTo<int>(profile.Starfold_IFS_Points, 0, kMaxIfsPoints); ++i) {
+    const IfsPoint& point = record.Points[i];
+    RunIfsPoint& prepared = run.RunIfs[i];
+    prepared.X = RecordLength(point.IFS_LocX, record.IFS_CenterX, tenth);
+    prepared.Y = RecordLength(point.IFS_LocY, record.IFS_CenterY, tenth);
+    prepared.Z = RecordLength(point.IFS_LocZ, record.IFS_CenterZ, tenth);
+    prepared.Scale = static_cast<Single>(point.IFS_Scale * 0.01);
+    prepared.Cos = static_cast<Single>(std::cos(Radians(point.IFS_Angle)));
+    prepared.Sin = static_cast<Single>(std::sin(Radians(point.IFS_Angle)));
+    sum += std::max<Integer>(point.IFS_RelPct, 0);
+    prepared.Sum = sum;
+  }
+}
+
+void PrepareAtoms(PreparedProfile& run, const StarfoldProfile& profile) {
+  const double tenth = run.RunRadius * 0.1;
+  const AtomRecord& record = profile.Atom;
+  Long sum = 0;
+  for (int i = 0; i < ClampTo<int>(profile.Starfold_Atoms, 0, kMaxAtoms); ++i) {
+    const AtomPoint& atom = record.Atoms[i];
+    RunAtom& prepared = run.RunAtoms[i];
+    prepared.X = RecordLength(atom.Atom_LocX, record.Atom_CenterX, tenth);
+    prepared.Y = RecordLength(atom.Atom_LocY, record.Atom_CenterY, tenth);
+    prepared.Z = RecordLength(atom.Atom_LocZ, record.Atom_CenterZ, tenth);
+    prepared.Offset = static_cast<Single>(atom.Atom_Size * 0.01 * tenth);
+    const double radius = atom.Atom_Radius * 0.01 * tenth;
+    prepared.Radius = static_cast<Single>(radius);
+    prepared.RadiusHalf = static_cast<Single>(radius * 0.5);
+    prepared.RadiusCube = static_cast<Single>(radius * 0.594603);
+    prepared.RadiusEdge = static_cast<Single>(radius * 0.707106);
+    prepared.RadiusThird = static_cast<Single>(radius * 0.866025);
+    prepared.RunAtomStars = AtomPoints(atom.Atom_Structure);
+    sum += prepared.RunAtomStars;
+    prepared.Sum = sum;
+  }
+}
+
+void PrepareComposites(Saver& saver) {
+  for (int k = 0; k < kCompositeCount; ++k) {
+    const CompositeProfile& composite = saver.Composites[k];
+    Integer sum = 0;
+    for (int i = 0; i < composite.MemberCount(); ++i) {
+      const int member = ClampTo<int>(composite.CompFold_Type[i], 0, kProfileCount - 1);
+      sum = static_cast<Integer>(sum + saver.Prepared[member].RunLevels);
+      saver.MemberSum[k][i] = sum;
+    }
+  }
+}
+
+/// Takes whole turns off an angle that has run past one.
+Single WithinTurn(double angle) {
+  return static_cast<Single>(angle > kTwoPi ? angle - kTwoPi : angle);
+}
+
+}  // namespace
+
+Motion MotionOf(FoldStyle style) {
+  switch (style) {
+    case FoldStyle::Nebula:
+    case FoldStyle::Quasar: return Motion::Drift;
+    case FoldStyle::Graviton: return Motion::Attract;
+    case FoldStyle::Starwave: return Motion::Wave;
+    case FoldStyle::Standard:
+    case FoldStyle::IfsPoint:
+    case FoldStyle::IfsWireframe:
+    case FoldStyle::IfsFractal:
+    case FoldStyle::UserIfs:
+    case FoldStyle::Molecule: break;
+  }
+  return Motion::Rotate;
+}
+
+void PrepareProfiles(Saver& saver) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    StarfoldProfile& profile = saver.Profiles[p];
+    PreparedProfile& run = saver.Prepared[p];
+    const RandomFactors factors = DrawFactors(saver);
+    PrepareBody(run, profile, factors);
+    PrepareRates(run, profile, factors);
+    PrepareMotion(run, profile);
+    PrepareLevels(run, profile);
+    PrepareIfs(run, profile);
+    PrepareAtoms(run, profile);
+  }
+  PrepareComposites(saver);
+}
+
+void ResetAngles(PreparedProfile& run, const StarfoldProfile& profile) {
+  for (int level = 0; level < run.RunLevels; ++level) {
+    run.LevelTilt[level] = -run.RunTilt;
+    run.Star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(-run.RunTilt)));
+    run.Star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(-run.RunTilt)));
+  }
+  run.SpinPhase = 0;
+  run.SweepPhase = 0;
+  run.SweepCos = 1;
+  run.SweepSin = 0;
+  run.HueWheel = profile.Starfold_HueStart;
+}
+
+void AdvanceAngles(Saver& saver) {
+  for (PreparedProfile& run : saver.Prepared) {
+    for (int level = 0; level < run.RunLevels; ++level) {
+      const double step = run.LevelTiltStep[level];
+      if (step == 0) continue;  // a body that does not tumble keeps its cosine and sine
+      const Single tilt = WithinTurn(run.LevelTilt[level] + step);
+      run.LevelTilt[level] = tilt;
+      run.Star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(tilt)));
+      run.Star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(tilt)));
+    }
+    const double hue = static_cast<double>(run.HueWheel) + run.Star.HWheelInc;
+    run.HueWheel = static_cast<Single>(hue >= 360 ? hue - 360 : hue);
+    run.SpinPhase = WithinTurn(static_cast<double>(run.SpinPhase) + run.RunCoreSpin);
+    if (run.RunSpin8 == 0) continue;  // nor does a body that does not turn sweep
+    run.SweepPhase = WithinTurn(static_cast<double>(run.SweepPhase) + run.RunSpin8);
+    run.SweepCos = static_cast<Single>(std::cos(static_cast<double>(run.SweepPhase)));
+    run.SweepSin = static_cast<Single>(std::sin(static_cast<double>(run.SweepPhase)));
+  }
+}
+
+}  // namespace starfolds

@@ -1,0 +1,64 @@
+// The state of one saver process, as one value: made by `main` or by a test, handed to whoever
+// needs it. It stands on the lowest floor that knows all of its parts. There is no other state
+// than this and the arrays of a run, so any number of them live side by side.
+#pragma once
+
+#include "colour/prepared.h"
+#include "colour/tables.h"
+#include "numbers/rnd.h"
+#include "platform/desktop_services.h"
+#include "platform/pump.h"
+#include "platform/surface.h"
+#include "settings/fields.h"
+#include "settings/records.h"
+
+namespace starfolds {
+
+/// `RunMode`.
+enum class RunMode : Integer {
+  Application = 0,
+  ScreenSaver = 1,  // also while the properties dialog is open
+  Preview = 2,      // inside a host's window
+};
+
+/// The surface a run plots on, as measured when its host was set up.
+struct Display {
+  Surface* hDCDraw = nullptr;
+  Integer SurfaceWidth = 0;
+  Integer SurfaceHeight = 0;
+  Integer CenterX = 0;
+  Integer CenterY = 0;
+  Single FocalLength = 1;
+  Single FocalPixels = 0;  // (CenterX + CenterY) * 0.5 * FocalLength
+  Long FrameDelayMs = 0;   // least time of a frame; 0 until a host sets it
+  Long FrameStartTick = 0;
+};
+
+struct Saver {
+  /// What the user has stored. The truth between runs; each run reads it anew.
+  SettingsRecords Stored;
+
+  // The records of the run: read by `ReadUniverseSettings`, clamped and scaled in place.
+  UniverseSettings Universe;
+  ProfileArray Profiles;
+  CompositeArray Composites;
+  VisitList Visits;
+
+  PreparedArray Prepared;
+  MemberSums MemberSum{};
+  ColourTables Colours;
+  Display Screen;
+  Rnd Random;
+
+  RunMode Mode = RunMode::Application;
+  bool StopRun = false;  // the effect must stop for good
+  bool NewRun = false;   // this run must be abandoned for one with fresh settings
+  bool QuitApp = false;  // the properties dialog asked the application to end
+  Long PreviewParent = 0;
+
+  // The machine. All three are set before a run begins and outlive it.
+  Pump* Events = nullptr;
+  DesktopServices* Desktop = nullptr;
+};
+
+}  // namespace starfolds

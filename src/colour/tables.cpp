@@ -1,0 +1,228 @@
+#include "colour/tables.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "colour/saver.h"
+#include "numbers/conversions.h"
+
+namespace starfolds {
+namespace {
+
+int Red(Colour colour) { return static_cast<int>(colour & 0xFFU); }
+int Green(Colour colour) { return static_cast<int>(colour >> 8U & 0xFFU); }
+int Blue(Colour colour) { return static_cast<int>(colour >> 16U & 0xFFU); }
+
+Colour Grey(double level) {
+  const int rounded = RoundedToLimits<Integer>(level);
+  return PackRgb(rounded, rounded, rounded);
+}
+
+int FloorToInt(double value) { return static_cast<int>(FloorToWhole(value)); }
+
+int WrapHue(std::int64_t hue) { return static_cast<int>(WrapIndex(hue, 360)); }
+
+/// The six sectors of the hue circle: which channel is full, which one rises or falls, and which
+/// one rests at the base. `full`, `rising` and `falling` make a channel from its strength.
+template <class Full, class Rising, class Falling>
+Colour HueSector(int hue, int base, Full full, Rising rising, Falling falling, int red, int green,
+                 int blue) {
+  if (hue < 60) return PackRgb(full(red), rising(green), base);
+  if (hue < 120) return PackRgb(falling(red), full(green), base);
+  if (hue < 180) return PackRgb(base, full(green), rising(blue));
+  if (hue < 240) return PackRgb(base, falling(green), full(blue));
+  if (hue < 300) return PackRgb(rising(red), base, full(blue));
+  if (hue < 360) return PackRgb(full(red), base, falling(blue));
+  return 0;
+}
+
+/// Hue by `Starfold_ColorComp`, in degrees and not yet within the circle.
+double SeedHue(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
+               int offset) {
+  const PreparedProfile& run = saver.Prepared[prof];
+  const double wheel = run.HueWheel;
+  const double distance =
+      std::abs(1 - std::sqrt(std::abs(x * x + y * y + z * z)) / run.RunMaxRadius);
+  switch (saver.Profiles[prof].Starfold_ColorComp) {
+    case 0: return rv * static_cast<double>(run.RunColorTenth) * 10 + wheel;
+    case 1: return std::sqrt(rv * static_cast<double>(run.RunColorTenth) * 1000) + wheel;
+    case 2: return distance * run.RunColorTenth + wheel;
+    case 3: return distance * distance * run.RunColorTenth + wheel;
+    case 5: return span * static_cast<double>(run.RunColorThousandth) * 360 + wheel;
+    case 6:
+      return wheel + offset + saver.Random() * static_cast<double>(run.RunColorThousandth) * 10;
+    default: return wheel;
+  }
+}
+
+}  // namespace
+
+Colour PackRgb(int red, int green, int blue) {
+  const auto channel = [](int value) { return static_cast<Colour>(std::clamp(value, 0, 255)); };
+  return channel(blue) << 16U | channel(green) << 8U | channel(red);
+}
+
+Colour HueToRgb(int hue, int base, int red, int green, int blue) {
+  const double t = (hue % 60) * 0.016666666;
+  const auto full = [&](int x) { return base + 2 * x; };
+  const auto rising = [&](int x) { return FloorToInt(2 * t * x + base); };
+  const auto falling = [&](int x) { return FloorToInt(2 * (1 - t) * x + base); };
+  return HueSector(hue, base, full, rising, falling, red, green, blue);
+}
+
+Colour FlareHue(int hue) { return HueToRgb(WrapHue(hue), 55, 100, 100, 100); }
+
+Colour ScaleColor(Colour colour, Single factor) {
+  const auto scaled = [&](int channel) {
+    return static_cast<int>(RoundedToLimits<Integer>(channel * static_cast<double>(factor)));
+  };
+  return PackRgb(scaled(Red(colour)), scaled(Green(colour)), scaled(Blue(colour)));
+}
+
+void BuildHueWheel(std::array<Colour, 361>& table, const StarfoldProfile& profile) {
+  const int base = RoundedToLimits<Integer>(profile.Starfold_HueBase * (255.0 / 100));
+  const int blend = ClampTo<int>(profile.Starfold_HueBlend, 1, 60);
+  const Single c = static_cast<Single>((255 - base) * 0.01);
+  const Single perDegree = static_cast<Single>(1.0 / blend);
+  for (int hue = 0; hue < 360; ++hue) {
+    // The ramp restarts every `blend` degrees inside its fixed sector: the saw-tooth is intended.
+    const Single t = static_cast<Single>(hue % blend) * perDegree;
+    const auto full = [&](int x) { return FloorToInt(x * static_cast<double>(c) + base); };
+    const auto rising = [&](int x) { return FloorToInt(static_cast<double>(t) * c * x + base); };
+    const auto falling = [&](int x) {
+      return FloorToInt((1 - static_cast<double>(t)) * c * x + base);
+    };
+    table[hue] = HueSector(hue, base, full, rising, falling, profile.Starfold_HueRed,
+                           profile.Starfold_HueGrn, profile.Starfold_HueBlu);
+  }
+}
+
+void BuildFlareTable(FlareTable& table, int startHue, int endHue) {
+  const Colour start = FlareHue(startHue);
+  for (int i = 0; i < 8; ++i) {
+    const double f = i / 7.0;
+    const auto fade = [&](int channel) {
+      return static_cast<int>(RoundHalfEven(255 - (255 - channel) * f));
+    };
+    table[i] = PackRgb(fade(Red(start)), fade(Green(start)), fade(Blue(start)));
+  }
+  Single dimming = 1;
+  for (int i = 8; i < 72; ++i) {
+    const double hue = (i - 8) / 64.0 * (endHue - startHue) + startHue;
+    dimming = static_cast<Single>(((120 - i) + 8) / 120.0);
+    table[i] = ScaleColor(FlareHue(static_cast<int>(RoundHalfEven(hue))), dimming);
+  }
+  const Colour end = FlareHue(endHue);
+  for (int i = 72; i < kFlareSteps; ++i) {
+    table[i] = ScaleColor(end, static_cast<Single>((80 - i) / 9.0 * dimming));
+  }
+}
+
+void BuildHueWheels(Saver& saver) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    BuildHueWheel(saver.Colours.Profile[p].HueTable, saver.Profiles[p]);
+  }
+}
+
+void BuildFlareTables(Saver& saver, int universeStart, int universeEnd) {
+  BuildFlareTable(saver.Colours.UniverseFlare, universeStart, universeEnd);
+  for (int p = 0; p < kProfileCount; ++p) {
+    const StarfoldProfile& profile = saver.Profiles[p];
+    BuildFlareTable(saver.Colours.Profile[p].NovaRamp, profile.Starfold_HWC_Start,
+                    profile.Starfold_HWC_End);
+  }
+}
+
+void BuildNewStarRamp(Saver& saver) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    StarfoldProfile& profile = saver.Profiles[p];
+    auto& ramp = saver.Colours.Profile[p].NewColors;
+    ramp.fill(0);
+    profile.Starfold_NewFrames = ClampTo<Integer>(profile.Starfold_NewFrames, 0, 99);
+    const int frames = profile.Starfold_NewFrames;
+    if (frames == 0) continue;
+    const int rise = frames / 4;
+    for (int j = 0; j < rise; ++j) {
+      const double x = (j + 1) * static_cast<double>(kHalfPi) / (rise + 1);
+      ramp[frames - j] = Grey(std::sin(x) * 175 + 80);
+    }
+    for (int i = rise; i <= frames; ++i) {
+      const double x = (i - rise) * static_cast<double>(kHalfPi) / (frames - rise);
+      ramp[frames - i] = Grey(std::cos(x) * 175 + 80);
+    }
+  }
+}
+
+void BuildPulsarTables(Saver& saver) {
+  constexpr double threeQuarters = 4.71238911151886;  // the sine runs from -1 up and back
+  for (int p = 0; p < kProfileCount; ++p) {
+    StarfoldProfile& profile = saver.Profiles[p];
+    ProfileColours& colours = saver.Colours.Profile[p];
+    colours.PulsarColors.fill(0);
+    colours.PulsarExtents.fill(0);
+    profile.Starfold_PulsarFrames = ClampTo<Integer>(profile.Starfold_PulsarFrames, 0, 99);
+    const int frames = profile.Starfold_PulsarFrames;
+    if (frames == 0) continue;
+    const int hueStart = profile.Starfold_HWC_Start;
+    const int hueEnd = profile.Starfold_HWC_End;
+    const double extentSpan = profile.Starfold_PulsarMaxExt - profile.Starfold_PulsarMinExt;
+    const double extentSum = profile.Starfold_PulsarMinExt + profile.Starfold_PulsarMaxExt;
+    const double step = static_cast<double>(kTwoPi) / frames;
+    const auto fadeInEnd = RoundHalfEven(frames * 0.25 - 1);
+    const auto fadeOutBegin = RoundHalfEven(frames * 0.75 + 1);
+    double s = 0;
+    for (int k = 0; k < frames; ++k) {
+      const double wave = std::sin(k * static_cast<double>(kTwoPi) / frames + threeQuarters);
+      const double hue = std::abs(hueStart - hueEnd) * 0.5 * wave + (hueStart + hueEnd) * 0.5;
+      const Colour full = FlareHue(static_cast<int>(RoundHalfEven(hue)));
+      if (k < fadeInEnd) {
+        s += step;
+        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(std::sin(s)));
+      } else if (k >= fadeOutBegin) {
+        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(std::sin(s)));
+        s -= step;
+      } else {
+        colours.PulsarColors[k] = full;
+      }
+      colours.PulsarExtents[k] =
+          static_cast<Single>((extentSpan * 0.5 * wave + extentSum * 0.5) * 0.001);
+    }
+  }
+}
+
+void MarkHueCycling(Saver& saver) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    const StarfoldProfile& profile = saver.Profiles[p];
+    const bool nebula = profile.Style() == FoldStyle::Nebula;
+    const bool wave = profile.Style() == FoldStyle::Starwave;
+    const bool styleCycles = nebula ? profile.Starfold_CP_AdvHW > 0 : !wave;
+    saver.Prepared[p].Star.HueCycleOn = profile.Starfold_ColorComp != 4 && styleCycles;
+  }
+}
+
+void DriftCometHues(Saver& saver) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    PreparedProfile& run = saver.Prepared[p];
+    run.RunHwcAcc += saver.Profiles[p].Starfold_HWC_Inc;
+    if (!(run.RunHwcAcc > 1)) continue;
+    run.RunHwcAcc = 0;
+    ++run.RunHwcStart;
+    ++run.RunHwcEnd;
+    if (run.RunHwcStart > 1080 && run.RunHwcEnd > 1080) {
+      run.RunHwcStart -= 1080;
+      run.RunHwcEnd -= 1080;
+    }
+    BuildFlareTable(saver.Colours.Profile[p].NovaRamp, run.RunHwcStart, run.RunHwcEnd);
+  }
+}
+
+StarTint SeedColor(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
+                   int offset, StarTint former) {
+  if (saver.Profiles[prof].Starfold_ColorComp == 4) return {former.StarHue, 0};
+  const double hue = SeedHue(saver, prof, x, y, z, rv, span, offset);
+  Long whole = RoundedOr(RoundedOr(Long{0}, former.StarHue), hue);
+  whole = WrapHue(whole);
+  return {static_cast<Single>(whole), saver.Colours.Profile[prof].HueTable[whole]};
+}
+
+}  // namespace starfolds

@@ -1,0 +1,76 @@
+// The colour tables and the only colour arithmetic of the system. No colour is computed per pixel:
+// a star carries a hue and a colour word, and the frame looks colours up.
+#pragma once
+
+#include <array>
+
+#include "platform/surface.h"
+#include "settings/records.h"
+
+namespace starfolds {
+
+inline constexpr int kFlareSteps = 80;
+inline constexpr int kMaxFlareFrames = 100;
+
+/// A fade from white through a hue range into the dark; step 80 is black.
+using FlareTable = std::array<Colour, kFlareSteps + 1>;
+
+/// The tables of one profile.
+struct ProfileColours {
+  std::array<Colour, 361> HueTable{};  // by hue in degrees; 360 stays black
+  FlareTable NovaRamp{};
+  std::array<Colour, kMaxFlareFrames> NewColors{};     // grey by frames left of a new star
+  std::array<Colour, kMaxFlareFrames> PulsarColors{};  // by step of the pulsar's cycle
+  std::array<Single, kMaxFlareFrames> PulsarExtents{};
+};
+
+struct ColourTables {
+  std::array<ProfileColours, kProfileCount> Profile;
+  FlareTable UniverseFlare{};
+};
+
+/// Packs three channels, each held at 0 and 255.
+Colour PackRgb(int red, int green, int blue);
+
+/// The hue circle: `hue` in degrees, 0 to 359, beyond it black; channels run from `base` to `base`
+/// + 2 * strength.
+Colour HueToRgb(int hue, int base, int red, int green, int blue);
+
+/// The hue circle at the strengths of the flare tables, channels 55 to 255, any hue (mod 360).
+Colour FlareHue(int hue);
+
+/// Each channel times `factor`, rounded.
+Colour ScaleColor(Colour colour, Single factor);
+
+/// The star colours of one profile by hue.
+void BuildHueWheel(std::array<Colour, 361>& table, const StarfoldProfile& profile);
+
+void BuildFlareTable(FlareTable& table, int startHue, int endHue);
+
+struct Saver;
+
+void BuildHueWheels(Saver& saver);
+/// `UniverseFlare` between the two hues, and each profile's `NovaRamp` between its comet hues.
+void BuildFlareTables(Saver& saver, int universeStart, int universeEnd);
+/// Clamps `Starfold_NewFrames` in the records to 0..99.
+void BuildNewStarRamp(Saver& saver);
+/// Clamps `Starfold_PulsarFrames` in the records to 0..99.
+void BuildPulsarTables(Saver& saver);
+/// Decides for each profile whether the hues of its stars cycle.
+void MarkHueCycling(Saver& saver);
+/// Moves each profile's comet hues by `Starfold_HWC_Inc` degrees per frame.
+void DriftCometHues(Saver& saver);
+
+/// The colour rules of `Starfold_ColorComp`.
+struct StarTint {
+  Single StarHue;
+  Colour StarColor;
+};
+
+/// The hue and the colour of a newly seeded star at (x, y, z) of its body. `rv` is its rotation
+/// step, `span` its place along a ribbon, `offset` the hue that a generator gave it; `former` is
+/// what it had (black stars keep their hue).
+StarTint SeedColor(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
+                   int offset, StarTint former);
+
+}  // namespace starfolds

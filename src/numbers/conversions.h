@@ -1,0 +1,74 @@
+// Conversions between the number words. A value that does not fit its type is never undefined
+// behaviour here: the caller's former value stands, which is the rule of the whole system.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "numbers/words.h"
+
+namespace starfolds {
+
+/// Nearest whole number, halves to even (the default rounding mode of the processor). Values that
+/// no 64-bit number holds, and NaN, give the lowest 64-bit number, which fits no narrower word.
+inline std::int64_t RoundHalfEven(double value) { return std::llrint(value); }
+
+/// Largest whole number not above `value`, in the same 64-bit form and with the same answer for
+/// what does not fit.
+inline std::int64_t FloorToWhole(double value) { return std::llrint(std::floor(value)); }
+
+template <class Word>
+constexpr bool Fits(std::int64_t value) {
+  return value >= std::numeric_limits<Word>::min() && value <= std::numeric_limits<Word>::max();
+}
+
+/// Stores the rounded value if the target's type can hold it; otherwise the former value stands.
+/// Returns whether it was stored.
+template <class Word>
+inline bool AssignRounded(Word& target, double value) {
+  const std::int64_t whole = RoundHalfEven(value);
+  if (!Fits<Word>(whole)) return false;
+  target = static_cast<Word>(whole);
+  return true;
+}
+
+/// The rounded value as a word, or `former` where it does not fit.
+template <class Word>
+inline Word RoundedOr(Word former, double value) {
+  AssignRounded(former, value);
+  return former;
+}
+
+/// Rounds and holds the result at the limits of the word, for values that a clamp follows.
+template <class Word>
+inline Word RoundedToLimits(double value) {
+  if (std::isnan(value)) return 0;
+  const double low = std::numeric_limits<Word>::min();
+  const double high = std::numeric_limits<Word>::max();
+  return static_cast<Word>(RoundHalfEven(std::clamp(value, low, high)));
+}
+
+/// A product of two 16-bit words as the 16-bit word it is stored in; `former` where it overflows.
+inline Integer ProductOr(Integer former, Integer a, Integer b) {
+  const std::int32_t product = static_cast<std::int32_t>(a) * b;
+  return Fits<Integer>(product) ? static_cast<Integer>(product) : former;
+}
+
+/// Remainder with the sign of the divisor, so that an index made from it is never negative.
+constexpr std::int64_t WrapIndex(std::int64_t value, std::int64_t size) {
+  const std::int64_t rest = value % size;
+  return rest < 0 ? rest + size : rest;
+}
+
+/// A number held between two limits; NaN becomes the low limit.
+template <class Word>
+constexpr Word ClampTo(Word value, Word low, Word high) {
+  return value >= low ? std::min(value, high) : low;
+}
+
+/// -1, 0 or 1.
+constexpr int Sign(double value) { return (value > 0) - (value < 0); }
+
+}  // namespace starfolds

@@ -1,0 +1,91 @@
+#include "numbers/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace starfolds {
+namespace {
+
+constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Reads the grammar sign? digits* (point digits*)? (exponent sign? digits+)? from `text` and
+/// returns how many characters belong to it; 0 where no digit is found. A leading plus counts.
+std::size_t NumberLength(std::string_view text) {
+  std::size_t at = 0;
+  auto skipDigits = [&] {
+    const std::size_t from = at;
+    while (at < text.size() && IsDigit(text[at])) ++at;
+    return at - from;
+  };
+  if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+  std::size_t digits = skipDigits();
+  if (at < text.size() && text[at] == '.') {
+    ++at;
+    digits += skipDigits();
+  }
+  if (digits == 0) return 0;
+  const std::size_t mantissaEnd = at;
+  if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+    ++at;
+    if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+    if (skipDigits() == 0) return mantissaEnd;
+  }
+  return at;
+}
+
+/// The value of a text of which every character belongs to the grammar above.
+double NumberValue(std::string_view text) {
+  if (text.front() == '+') text.remove_prefix(1);
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc::result_out_of_range) return value;
+  // from_chars leaves the value alone out of range: a negative exponent means too small.
+  const std::size_t exponent = text.find_first_of("eE");
+  const bool tiny =
+      exponent != std::string_view::npos && text.substr(exponent + 1).starts_with('-');
+  if (tiny) return 0;
+  const double largest = std::numeric_limits<double>::max();
+  return text.front() == '-' ? -largest : largest;
+}
+
+}  // namespace
+
+std::string_view Trimmed(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+double LenientNumber(std::string_view text) {
+  std::string packed;
+  for (const char c : text) {
+    if (!IsBlank(c)) packed.push_back(c);
+  }
+  const std::size_t length = NumberLength(packed);
+  return length == 0 ? 0 : NumberValue(std::string_view(packed).substr(0, length));
+}
+
+bool IsNumeric(std::string_view text) {
+  const std::string_view core = Trimmed(text);
+  return !core.empty() && NumberLength(core) == core.size();
+}
+
+std::string NumberText(Single value) {
+  if (std::isnan(value)) return "0";
+  if (std::isinf(value)) value = std::copysign(std::numeric_limits<Single>::max(), value);
+  char plain[64];
+  const auto fixed = std::to_chars(plain, plain + sizeof plain, value, std::chars_format::fixed);
+  const std::string text(plain, fixed.ptr);
+  const auto digits = std::count_if(text.begin(), text.end(), IsDigit);
+  if (fixed.ec == std::errc() && digits <= 15) return text;
+  char shortest[64];
+  const auto general = std::to_chars(shortest, shortest + sizeof shortest, value);
+  return {shortest, general.ptr};
+}
+
+std::string NumberText(Long value) { return std::to_string(value); }
+
+}  // namespace starfolds

@@ -1,0 +1,15 @@
+#include "platform/desktop_services.h"
+
+#include <algorithm>
+
+namespace starfolds {
+
+bool MemoryDesktop::WindowExists(const std::string& caption) {
+  return std::find(Captions.begin(), Captions.end(), caption) != Captions.end();
+}
+
+bool MemoryDesktop::IsWindow(Long handle) {
+  return handle != 0 && std::find(Windows.begin(), Windows.end(), handle) != Windows.end();
+}
+
+}  // namespace starfolds

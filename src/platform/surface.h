@@ -1,0 +1,91 @@
+// The drawing surface: the one place that knows how pixels lie in memory.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "numbers/words.h"
+
+namespace starfolds {
+
+/// A colour word, 0x00BBGGRR.
+using Colour = std::uint32_t;
+
+/// A canvas of colour words, and a journal of the pixels written since the last `Present`, from
+/// which a screen takes over just what changed. The engine draws with nothing but `SetPixelV`; a
+/// pixel stays until it is written again.
+class Surface {
+ public:
+  /// One journal entry: y in the high, x in the low 16 bits.
+  using PixelPlace = std::uint32_t;
+
+  /// `journalCapacity` is the number of writes between two `Present`s that are remembered one by
+  /// one; beyond it (or with 0) the whole canvas counts as changed.
+  explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0);
+  virtual ~Surface() = default;
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+
+  int Width() const { return static_cast<int>(width_); }
+  int Height() const { return static_cast<int>(height_); }
+
+  /// Writes one pixel. Coordinates off the surface do nothing, whatever they are.
+  void SetPixelV(Long x, Long y, Colour colour) {
+    const auto column = static_cast<std::uint32_t>(x);
+    const auto row = static_cast<std::uint32_t>(y);
+    if (column >= width_ || row >= height_) return;
+    pixels_[static_cast<std::size_t>(row) * width_ + column] = colour;
+    if (journalSize_ < journal_.size()) {
+      journal_[journalSize_++] = row << 16U | column;
+    } else {
+      everythingChanged_ = true;
+    }
+  }
+
+  /// The colour at a place on the surface; 0 (black) off it.
+  Colour Pixel(Long x, Long y) const;
+
+  /// Row-major, `Width() * Height()` words, no padding.
+  const std::vector<Colour>& Pixels() const { return pixels_; }
+
+  /// Makes every pixel black.
+  void Clear();
+
+  /// Takes a new size; the canvas is black afterwards. Negative sizes count as 0.
+  void Resize(Integer width, Integer height);
+
+  /// Shows what was written since the last call. `FramePace` calls it once a frame.
+  virtual void Present() = 0;
+
+ protected:
+  bool EverythingChanged() const { return everythingChanged_; }
+  const PixelPlace* JournalBegin() const { return journal_.data(); }
+  const PixelPlace* JournalEnd() const { return journal_.data() + journalSize_; }
+
+  /// Begins the next frame's journal. A presenter that could not show anything leaves it out.
+  void ForgetJournal() {
+    journalSize_ = 0;
+    everythingChanged_ = false;
+  }
+
+ private:
+  std::uint32_t width_ = 0;
+  std::uint32_t height_ = 0;
+  std::vector<Colour> pixels_;
+  std::vector<PixelPlace> journal_;
+  std::size_t journalSize_ = 0;
+  bool everythingChanged_ = true;
+};
+
+/// A surface that nobody looks at while it is drawn. It never waits.
+class MemorySurface : public Surface {
+ public:
+  using Surface::Surface;
+  void Present() override { ForgetJournal(); }
+
+  /// FNV-1a (Fowler, Noll, Vo) with a colour word as its unit, so the same number on every machine.
+  std::uint64_t Hash() const;
+};
+
+}  // namespace starfolds

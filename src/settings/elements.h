@@ -1,0 +1,23 @@
+// The periodic table's first 17 elements, as the molecules show them.
+#pragma once
+
+#include <string_view>
+
+#include "numbers/words.h"
+
+namespace starfolds {
+
+inline constexpr int kElementCount = 17;
+
+struct Element {
+  std::string_view Name;  // some stand as this table always had them
+  std::string_view Symbol;
+  std::string_view Shells;  // electrons per shell
+  Integer Radius;
+  Integer Color;  // a hue in degrees
+};
+
+/// Element 1 to 17, by atomic number; numbers beyond are held at the ends.
+const Element& ElementInfo(int element);
+
+}  // namespace starfolds

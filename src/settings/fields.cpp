@@ -1,0 +1,456 @@
+#include "settings/fields.h"
+
+#include <array>
+#include <cmath>
+
+#include "numbers/conversions.h"
+#include "numbers/text.h"
+
+namespace starfolds {
+namespace {
+
+using enum RangeRule;
+using U = UniverseSettings;
+using P = StarfoldProfile;
+using C = CompositeProfile;
+using A = AdvancedSettings;
+
+constexpr bool kWhole = true;
+
+const Field<U> kUniverseFields[] = {
+    {"Universe_Stars", &U::Universe_Stars, Fixed, 10, 30000,
+     "Stars in all the Starfolds (10 - 30000):"},
+    {"Universe_Starfold", &U::Universe_Starfold, Fixed, 1, 999,
+     "Starfolds in the Universe (1- 999):"},
+    {"Universe_STrail", &U::Universe_STrail, Fixed, 1, 99, "Star Trail Length in Pixels (1 - 99):"},
+    {"Universe_Expand", &U::Universe_Expand, Fixed, 0, 99999, "Expansion Speed (0 - 99999):"},
+    {"Universe_ESteps", &U::Universe_ESteps, Fixed, 1, 9999, "Expansion Steps (1 - 9999):"},
+    {"Universe_Persist", &U::Universe_Persist, Fixed, 0.25, 1, "Star Persistence (0.25 - 1.0):"},
+    {"Universe_Damping", &U::Universe_Damping, Fixed, 0, 1,
+     "Universe Expansion Damping (0.0 - 1.0):"},
+    {"Universe_HW_Start", &U::Universe_HW_Start, Fixed, 0, 999, "Hue Start, End (0 - 999):"},
+    {"Universe_HW_End", &U::Universe_HW_End, Fixed, 0, 999, "Hue Start, End (0 - 999):"},
+    {"Universe_Recycle", &U::Universe_Recycle, Fixed, 1, 999,
+     "Recycle Universe after visiting Starfolds (1 - 999):"},
+    {"Universe_Profile", &U::Universe_Profile, Fixed, 0, 51, "Universe Profile:"},
+    {"Universe_NewFreq", &U::Universe_NewFreq, Fixed, 0, 9999, "New Stars Frequency (0 - 9999):"},
+    {"Universe_NewPctStEx", &U::Universe_NewPctStEx, Fixed, 0, 100,
+     "Exclusive to Current Starfold % (0 - 100):", kWhole},
+    {"Universe_Tour", &U::Universe_Tour, None, 0, 0, "Tour the Universe"},
+    {"Universe_GSteps", &U::Universe_GSteps, Fixed, 1, 9999, "Steps per Control Point (1 - 9999):"},
+    {"Universe_GPCtrl", &U::Universe_GPCtrl, Fixed, 1, 999,
+     "Control Points per Starfold Visit (1 - 999):"},
+    {"Universe_GCCtrl", &U::Universe_GCCtrl, Fixed, 0, 999,
+     "Control Points thru Starfold Core (0 - 999):"},
+    {"Universe_DstCen", &U::Universe_DstCen, Fixed, 0, 999999,
+     "Distance from Universe Center (0 - 999999):"},
+    {"Universe_C_Ramp", &U::Universe_C_Ramp, Fixed, 0, 999, "Camera Rotation Ramping (0 - 999):"},
+    {"Universe_GS_Idx", &U::Universe_GS_Idx, None, 0, 0,
+     "Tour per space-separated Starfold indices (1-66)"},
+    {"Universe_GVisit", &U::Universe_GVisit, None, 0, 0, "Visit Starfold Types Sequentially:"},
+    {"Universe_RotCam", &U::Universe_RotCam, None, 0, 0, "Rotate Camera on approach to Starfolds:"},
+    {"Universe_AmStar", &U::Universe_AmStar, Fixed, 0, 3000, "Stars (0 - 3000):"},
+    {"Universe_AmPers", &U::Universe_AmPers, Fixed, 0.25, 1, "Persistence (0.25 - 1.0):"},
+    {"Universe_AmCAge", &U::Universe_AmCAge, Fixed, 0, 10, "Age Increment (0.0 - 10.0):"},
+    {"Universe_AmFrames", &U::Universe_AmFrames, Fixed, 0, 999, "Cycle Down Frames (0 - 999):"},
+    {"Universe_AmMaxExt", &U::Universe_AmMaxExt, Fixed, 1, 9999,
+     "Max. Size Extension (1 - 99999):", kWhole, 99999},
+    {"Universe_GravForce", &U::Universe_GravForce, Fixed, 0, 999999,
+     "Gravitational Magnitude (0 - 999999):"},
+    {"Universe_GravFrame", &U::Universe_GravFrame, Fixed, 1, 999,
+     "Calc. Velocity Vectors per Frame (1 - 999):"},
+};
+
+const Field<P> kProfileFields[] = {
+    {"_UniFoldPct", &P::UniFoldPct, Fixed, 0, 9999, "Relative Percent in Universe"},
+    {"_UniFoldName", &P::UniFoldName, None, 0, 0, "Name"},
+    {"Starfold_StdLevels", &P::Starfold_StdLevels, Fixed, 1, 10, "Levels"},
+    {"Starfold_StdLevDRad", &P::Starfold_StdLevDRad, None, 0, 0, "Level Radius Step"},
+    {"Starfold_StdLevHSca", &P::Starfold_StdLevHSca, None, 0, 0, "Level Height Scale"},
+    {"Starfold_StdLevB_HS", &P::Starfold_StdLevB_HS, None, 0, 0, "Levels Scale their Own Shape"},
+    {"Starfold_StdLevB_A0", &P::Starfold_StdLevB_A0, None, 0, 0, "Alternate Tilt of Odd Levels"},
+    {"Starfold_StdLevB_A1", &P::Starfold_StdLevB_A1, None, 0, 0, "Taper Tilt toward Outer Levels"},
+    {"Starfold_HueRed", &P::Starfold_HueRed, Fixed, 0, 100, "Starfold Hue:  Red"},
+    {"Starfold_HueGrn", &P::Starfold_HueGrn, Fixed, 0, 100, "Starfold Hue:  Green"},
+    {"Starfold_HueBlu", &P::Starfold_HueBlu, Fixed, 0, 100, "Starfold Hue:  Blue"},
+    {"Starfold_HueBase", &P::Starfold_HueBase, Fixed, 0, 100, "Starfold Hue:  Base"},
+    {"Starfold_HueBlend", &P::Starfold_HueBlend, Fixed, 1, 60, "Starfold Hue:  Blend"},
+    {"Starfold_Radius", &P::Starfold_Radius, Fixed, 1, 30000, "Starfold Radius"},
+    {"Starfold_Rotation", &P::Starfold_Rotation, Fixed, 0, 30000, "Starfold Rotation Speed"},
+    {"Starfold_Distance", &P::Starfold_Distance, Fixed, 0, 30000,
+     "Starfold Core Distance from Eye"},
+    {"Starfold_RadSegs", &P::Starfold_RadSegs, RadSegs, 0, 0, "Starfold Radial Arms"},
+    {"Starfold_RadFill", &P::Starfold_RadFill, RadFill, 0, 0, "Starfold Radial Arm Fill %", kWhole},
+    {"Starfold_RadBands", &P::Starfold_RadBands, RadBands, 0, 0, "Starfold Radial Bands"},
+    {"Starfold_RadBFill", &P::Starfold_RadBFill, RadBFill, 0, 0, "Starfold Radial Band Fill %",
+     kWhole},
+    {"Starfold_NewFreq", &P::Starfold_NewFreq, Fixed, 0, 9999, "New Star Frequency"},
+    {"Starfold_NewFrames", &P::Starfold_NewFrames, Fixed, 0, 99, "New Star Frames"},
+    {"Starfold_NewExtMult", &P::Starfold_NewExtMult, Fixed, 1, 9999,
+     "New Star Extension Multiplier"},
+    {"Starfold_NovaFreq", &P::Starfold_NovaFreq, Fixed, 0, 9999, "Nova Star Frequency"},
+    {"Starfold_NovaFrames", &P::Starfold_NovaFrames, Fixed, 1, 999, "Nova Star Frames"},
+    {"Starfold_NovaExtMult", &P::Starfold_NovaExtMult, Fixed, 1, 9999,
+     "Nova Star Extension Multiplier"},
+    {"Starfold_PulsarFreq", &P::Starfold_PulsarFreq, Fixed, 0, 9999, "Pulsar Star Frequency"},
+    {"Starfold_PulsarDepth", &P::Starfold_PulsarDepth, Fixed, 0, 9999, "Pulsar Star Z-Depth"},
+    {"Starfold_PulsarShape", &P::Starfold_PulsarShape, Fixed, 0, 4, "Pulsar Star General Shape"},
+    {"Starfold_PulsarCycles", &P::Starfold_PulsarCycles, Fixed, 1, 99, "Pulsar Star Cycles"},
+    {"Starfold_PulsarFrames", &P::Starfold_PulsarFrames, Fixed, 1, 99,
+     "Pulsar Star Frames per Cycle"},
+    {"Starfold_PulsarMinExt", &P::Starfold_PulsarMinExt, Fixed, 1, 9999,
+     "Pulsar Star Radius Start"},
+    {"Starfold_PulsarMaxExt", &P::Starfold_PulsarMaxExt, Fixed, 1, 9999, "Pulsar Star Radius End"},
+    {"Starfold_CometFreq", &P::Starfold_CometFreq, Fixed, 0, 9999, "Comet Frequency"},
+    {"Starfold_CometStars", &P::Starfold_CometStars, Fixed, 1, 999, "Comet Stars"},
+    {"Starfold_CometOrbit", &P::Starfold_CometOrbit, Fixed, 0, 9999, "Comet Orbital Speed"},
+    {"Starfold_CometSpeed", &P::Starfold_CometSpeed, Fixed, 0, 9999, "Comet Emit Speed"},
+    {"Starfold_CometSWind", &P::Starfold_CometSWind, Fixed, 0, 9999, "Comet Solar Wind"},
+    {"Starfold_CometCPersist", &P::Starfold_CometCPersist, Fixed, 0.1, 0.9999, "Comet Persistence"},
+    {"Starfold_CometSPersist", &P::Starfold_CometSPersist, Fixed, 0.1, 0.9999,
+     "Comet Star Persistence"},
+    {"Starfold_HWC_Start", &P::Starfold_HWC_Start, Fixed, 0, 999, "Comet Hue Wheel Start"},
+    {"Starfold_HWC_End", &P::Starfold_HWC_End, Fixed, 0, 999, "Comet Hue Wheel End"},
+    {"Starfold_HWC_Inc", &P::Starfold_HWC_Inc, Fixed, 0, 1, "Comet Hue Wheel Increment"},
+    {"Starfold_GHW_Ratio", &P::Starfold_GHW_Ratio, Fixed, 0, 99.9, "Starfold Height/Width Ratio"},
+    {"Starfold_RadiusExp", &P::Starfold_RadiusExp, Fixed, 0, 99.9, "Starfold Radius Exponent"},
+    {"Starfold_HeightExp", &P::Starfold_HeightExp, Fixed, 0, 99.9, "Starfold Height Exponent"},
+    {"Starfold_AngleTilt", &P::Starfold_AngleTilt, Fixed, 0, 360, "Starfold Angular Tilt"},
+    {"Starfold_AngleTInc", &P::Starfold_AngleTInc, Fixed, 0, 360,
+     "Starfold Angular Tilt Increment"},
+    {"Starfold_ColorMult", &P::Starfold_ColorMult, Fixed, 0, 30000, "Starfold Color Multiplier"},
+    {"Starfold_HWheelInc", &P::Starfold_HWheelInc, Fixed, 0, 360, "Starfold Hue Wheel Increment"},
+    {"Starfold_FoldStyle", &P::Starfold_FoldStyle, Fixed, 0, 9, "Starfold Style"},
+    {"Starfold_AxisPlane", &P::Starfold_AxisPlane, Fixed, 0, 1, "Starfold Axial Plane of Rotation"},
+    {"Starfold_ColorComp", &P::Starfold_ColorComp, Fixed, 0, 6, "Starfold Color Computation Index"},
+    {"Starfold_HueStart", &P::Starfold_HueStart, Fixed, 0, 359, "Starfold Hue Wheel Start"},
+    {"Starfold_Profile", &P::Starfold_Profile, Fixed, 0, 6, "Starfold Shape Profile"},
+    {"Starfold_CP_Points", &P::Starfold_CP_Points, Fixed, 1, 20, "Nebula Control Points"},
+    {"Starfold_CP_Steps", &P::Starfold_CP_Steps, Fixed, 0, 9999, "Nebula Control Point Steps"},
+    {"Starfold_CP_Close", &P::Starfold_CP_Close, Fixed, 0, 1, "Nebula Control Points Closed"},
+    {"Starfold_CP_AdvHW", &P::Starfold_CP_AdvHW, Fixed, 0, 1, "Nebula Advances the Hue Wheel"},
+    {"Starfold_CP_B_Pts", &P::Starfold_CP_B_Pts, Fixed, 1, 99, "Nebula Bias Points"},
+    {"Starfold_CP_B_Exp", &P::Starfold_CP_B_Exp, Fixed, 0, 100, "Nebula Bias Exponent"},
+    {"Starfold_CP_B_Spd", &P::Starfold_CP_B_Spd, Fixed, 0, 999, "Nebula Bias Travel Speed"},
+    {"Starfold_QG_Force", &P::Starfold_QG_Force, Fixed, 0, 99.9,
+     "Quasar Emit Speed, Graviton Force"},
+    {"Starfold_IFS_Points", &P::Starfold_IFS_Points, Fixed, 0, kMaxIfsPoints, "Attractor Points"},
+    {"Starfold_Atoms", &P::Starfold_Atoms, Fixed, 0, kMaxAtoms, "Atoms"},
+};
+
+const Field<C> kCompositeFields[] = {
+    {"_CompFoldName", &C::CompFoldName, None, 0, 0, "Name"},
+    {"_CompFoldPct", &C::CompFoldPct, Fixed, 0, 9999, "Relative Percent in Universe"},
+    {"CompFold_Count", &C::CompFold_Count, Fixed, 0, 49, "Members"},
+};
+
+const Field<A> kAdvancedFields[] = {
+    {"Adv_TimeDelay", &A::Adv_TimeDelay, Fixed, 0, 999, "Frame delay in milliseconds (0 - 999):"},
+    {"FocalLength", &A::FocalLength, Fixed, 0.01, 10, "Focal length distance (0.01 - 10.0):"},
+    {"LockMessage", &A::LockMessage, None, 0, 0, "Text:"},
+    {"Adv_FontName", &A::Adv_FontName, None, 0, 0, "Font:"},
+    {"Adv_FontSize", &A::Adv_FontSize, Fixed, 10, 80, "Size:"},
+    {"Adv_FontHueV", &A::Adv_FontHueV, Fixed, 0, 359, "Text Hue (0 - 359):"},
+    {"Adv_WinResize", &A::Adv_WinResize, None, 0, 0, "Window can be resized (EXE version only)"},
+    {"Adv_MouseMove", &A::Adv_MouseMove, None, 0, 0, "Ignore mouse moves in screen saver mode"},
+    {"Adv_DispBackG", &A::Adv_DispBackG, None, 0, 0,
+     "Display in background (double-click to stop)"},
+    {"Adv_Randomize", &A::Adv_Randomize, None, 0, 0, "Randomize Properties"},
+    {"Adv_RandomMag", &A::Adv_RandomMag, Fixed, 1, 100, "Randomization Magnitude (1 - 100):"},
+    {"Adv_RandomExp", &A::Adv_RandomExp, Fixed, 1, 100, "Bias Exponent to Normal (1 - 100):"},
+    {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier"},
+    {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle"},
+};
+
+const Field<IfsRecord> kIfsCenterFields[] = {
+    {"IFS_CenterX", &IfsRecord::IFS_CenterX, Fixed, 0, 9999, "Center X"},
+    {"IFS_CenterY", &IfsRecord::IFS_CenterY, Fixed, 0, 9999, "Center Y"},
+    {"IFS_CenterZ", &IfsRecord::IFS_CenterZ, Fixed, 0, 9999, "Center Z"},
+};
+
+const Field<IfsPoint> kIfsPointFields[] = {
+    {"IFS_LocX", &IfsPoint::IFS_LocX, Fixed, 0, 9999, "Loc X"},
+    {"IFS_LocY", &IfsPoint::IFS_LocY, Fixed, 0, 9999, "Loc Y"},
+    {"IFS_LocZ", &IfsPoint::IFS_LocZ, Fixed, 0, 9999, "Loc Z"},
+    {"IFS_Scale", &IfsPoint::IFS_Scale, Fixed, 0, 100, "Scale"},
+    {"IFS_Axis", &IfsPoint::IFS_Axis, Fixed, 0, 2, "Axis"},
+    {"IFS_Angle", &IfsPoint::IFS_Angle, Fixed, 0, 360, "Angle"},
+    {"IFS_RelPct", &IfsPoint::IFS_RelPct, Fixed, 0, 9999, "Rel.Pct."},
+};
+
+const Field<AtomRecord> kAtomCenterFields[] = {
+    {"Atom_CenterX", &AtomRecord::Atom_CenterX, Fixed, 0, 9999, "Center X"},
+    {"Atom_CenterY", &AtomRecord::Atom_CenterY, Fixed, 0, 9999, "Center Y"},
+    {"Atom_CenterZ", &AtomRecord::Atom_CenterZ, Fixed, 0, 9999, "Center Z"},
+};
+
+const Field<AtomPoint> kAtomPointFields[] = {
+    {"Atom_Element", &AtomPoint::Atom_Element, Fixed, 1, 17, "Periodic Table Element:"},
+    {"Atom_LocX", &AtomPoint::Atom_LocX, Fixed, 0, 9999, "Loc X"},
+    {"Atom_LocY", &AtomPoint::Atom_LocY, Fixed, 0, 9999, "Loc Y"},
+    {"Atom_LocZ", &AtomPoint::Atom_LocZ, Fixed, 0, 9999, "Loc Z"},
+    {"Atom_Structure", &AtomPoint::Atom_Structure, Fixed, 0, 11, "Atomic Structure:"},
+    {"Atom_Size", &AtomPoint::Atom_Size, Fixed, 0, 9999, "Atom Offset"},
+    {"Atom_Radius", &AtomPoint::Atom_Radius, Fixed, 0, 9999, "Symmetry Radius"},
+};
+
+/// The style table: one row a style, in the order of the four style rules.
+struct StyleRow {
+  Limits Segs, Fill, Bands, BFill;
+};
+constexpr StyleRow kStyleRows[kStyleCount] = {
+    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Standard
+    {{1, 99}, {0, 100}, {0, 360}, {0, 100}},  // single point attractor
+    {{4, 10}, {0, 100}, {1, 99}, {0, 100}},   // nested wireframe
+    {{4, 10}, {0, 100}, {0, 100}, {0, 100}},  // space-filling fractal
+    {{1, 20}, {0, 9999}, {1, 99}, {0, 100}},  // Nebula
+    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Quasar
+    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Graviton
+    {{1, 99}, {0, 100}, {1, 99}, {0, 999}},   // Starwave
+    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // user-defined IFS
+    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // molecular structure
+};
+
+template <class Word>
+void ClampNumber(Word& value, Limits limits, bool wholeNumber) {
+  if constexpr (std::is_same_v<Word, Single>) {
+    if (wholeNumber) value = RoundedToLimits<Long>(value);
+  }
+  value = ClampTo(value, static_cast<Word>(limits.Low), static_cast<Word>(limits.High));
+}
+
+/// Holds one field of a record to `limits`; texts and Booleans have none.
+template <class Record>
+void ClampField(Record& record, const Field<Record>& field, Limits limits) {
+  std::visit(
+      [&](auto member) {
+        using Value = std::remove_reference_t<decltype(record.*member)>;
+        if constexpr (!std::is_same_v<Value, bool> && !std::is_same_v<Value, std::string>) {
+          ClampNumber(record.*member, limits, field.WholeNumber);
+        }
+      },
+      field.Where);
+}
+
+template <class Record>
+void ClampFields(Record& record, std::span<const Field<Record>> fields) {
+  for (const Field<Record>& field : fields) {
+    if (field.Rule == Fixed) ClampField(record, field, {field.Low, field.High});
+  }
+}
+
+bool IsLattice(Integer structure) { return structure >= 6 && structure < 12; }
+
+template <class Record>
+const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name) {
+  for (const Field<Record>& field : fields) {
+    if (field.Name == name) return &field;
+  }
+  return nullptr;
+}
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+template <class Record>
+std::optional<std::string> SetOrSay(Record& record, const Field<Record>& field,
+                                    std::string_view text) {
+  if (SetFieldText(record, field, text)) return std::nullopt;
+  return Quoted(field.Name) + " takes a number, not " + Quoted(text);
+}
+
+/// The number behind `prefix` in a section's name, if it is one below `count`.
+std::optional<int> SectionIndex(std::string_view section, std::string_view prefix, int count) {
+  if (!section.starts_with(prefix)) return std::nullopt;
+  const std::string_view digits = section.substr(prefix.size());
+  if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos) {
+    return std::nullopt;
+  }
+  const double index = LenientNumber(digits);
+  if (index >= count) return std::nullopt;
+  return static_cast<int>(index);
+}
+
+std::optional<std::string> SetInComposite(CompositeProfile& composite, std::string_view name,
+                                          std::string_view value) {
+  if (const auto* field = FindField(CompositeFields(), name)) {
+    return SetOrSay(composite, *field, value);
+  }
+  const auto member = SectionIndex(name, "CompFold_Type", kMaxMembers);
+  if (!member) return "there is no setting " + Quoted(name) + " in a composite";
+  if (!IsNumeric(value)) return Quoted(name) + " takes a number, not " + Quoted(value);
+  composite.CompFold_Type[*member] = RoundedToLimits<Integer>(LenientNumber(value));
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::span<const Field<UniverseSettings>> UniverseFields() { return kUniverseFields; }
+std::span<const Field<StarfoldProfile>> ProfileFields() { return kProfileFields; }
+std::span<const Field<CompositeProfile>> CompositeFields() { return kCompositeFields; }
+std::span<const Field<AdvancedSettings>> AdvancedFields() { return kAdvancedFields; }
+std::span<const Field<IfsRecord>> IfsCenterFields() { return kIfsCenterFields; }
+std::span<const Field<IfsPoint>> IfsPointFields() { return kIfsPointFields; }
+std::span<const Field<AtomRecord>> AtomCenterFields() { return kAtomCenterFields; }
+std::span<const Field<AtomPoint>> AtomPointFields() { return kAtomPointFields; }
+
+Limits StyleLimits(RangeRule rule, Integer style) {
+  const StyleRow& row = kStyleRows[ClampTo<int>(style, 0, kStyleCount - 1)];
+  switch (rule) {
+    case RadSegs: return row.Segs;
+    case RadFill: return row.Fill;
+    case RadBands: return row.Bands;
+    case RadBFill: return row.BFill;
+    case None:
+    case Fixed: break;
+  }
+  return {};
+}
+
+Integer AtomPoints(Integer structure) {
+  constexpr Integer points[] = {1, 6, 8, 18, 26, 38};
+  return structure >= 0 && structure < 6 ? points[structure] : Integer{1};
+}
+
+void ClampUniverse(UniverseSettings& universe) { ClampFields(universe, UniverseFields()); }
+
+void ClampProfile(StarfoldProfile& profile) {
+  profile.Starfold_FoldStyle = ClampTo<Integer>(profile.Starfold_FoldStyle, 0, kStyleCount - 1);
+  for (const Field<StarfoldProfile>& field : ProfileFields()) {
+    if (field.Rule == None) continue;
+    const Limits limits = field.Rule == Fixed ? Limits{field.Low, field.High}
+                                              : StyleLimits(field.Rule, profile.Starfold_FoldStyle);
+    ClampField(profile, field, limits);
+  }
+  if (profile.Starfold_IFS_Points > 0) ClampFields(profile.IFS, IfsCenterFields());
+  for (int i = 0; i < profile.Starfold_IFS_Points; ++i) {
+    ClampFields(profile.IFS.Points[i], IfsPointFields());
+  }
+  if (profile.Starfold_Atoms > 0) ClampFields(profile.Atom, AtomCenterFields());
+  for (int i = 0; i < profile.Starfold_Atoms; ++i) {
+    AtomPoint& atom = profile.Atom.Atoms[i];
+    ClampFields(atom, AtomPointFields());
+    atom.Atom_Count = ClampTo<Integer>(atom.Atom_Count, 1, 100);
+    if (IsLattice(atom.Atom_Structure)) atom.Atom_LocX = ClampTo<Integer>(atom.Atom_LocX, 1, 99);
+  }
+}
+
+void ClampComposite(CompositeProfile& composite) {
+  ClampFields(composite, CompositeFields());
+  for (int i = 0; i < composite.MemberCount(); ++i) {
+    composite.CompFold_Type[i] = ClampTo<Integer>(composite.CompFold_Type[i], 0, 49);
+  }
+}
+
+void ClampAdvanced(AdvancedSettings& advanced) {
+  ClampFields(advanced, AdvancedFields());
+  if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
+  advanced.LockMessage = std::string(Trimmed(advanced.LockMessage)).substr(0, 100);
+  if (advanced.Adv_EffectFPC > 0) {
+    advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
+  }
+}
+
+template <class Record>
+std::string FieldText(const Record& record, const Field<Record>& field) {
+  return std::visit(
+      [&](auto member) -> std::string {
+        const auto& value = record.*member;
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, std::string>) {
+          return value;
+        } else if constexpr (std::is_same_v<Value, bool>) {
+          return value ? "1" : "0";
+        } else if constexpr (std::is_same_v<Value, Single>) {
+          return NumberText(value);
+        } else {
+          return NumberText(Long{value});
+        }
+      },
+      field.Where);
+}
+
+template <class Record>
+bool SetFieldText(Record& record, const Field<Record>& field, std::string_view text) {
+  return std::visit(
+      [&](auto member) {
+        auto& value = record.*member;
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, std::string>) {
+          value = std::string(text);
+          return true;
+        } else {
+          if (!IsNumeric(text)) return false;
+          const double number = LenientNumber(text);
+          if constexpr (std::is_same_v<Value, bool>) {
+            value = number != 0;
+          } else if constexpr (std::is_same_v<Value, Single>) {
+            constexpr double largest = std::numeric_limits<Single>::max();
+            value = static_cast<Single>(ClampTo(number, -largest, largest));
+          } else {
+            value = RoundedToLimits<Value>(number);
+          }
+          return true;
+        }
+      },
+      field.Where);
+}
+
+#define STARFOLDS_FIELD_TEXT(Record)                                   \
+  template std::string FieldText(const Record&, const Field<Record>&); \
+  template bool SetFieldText(Record&, const Field<Record>&, std::string_view);
+STARFOLDS_FIELD_TEXT(UniverseSettings)
+STARFOLDS_FIELD_TEXT(StarfoldProfile)
+STARFOLDS_FIELD_TEXT(CompositeProfile)
+STARFOLDS_FIELD_TEXT(AdvancedSettings)
+STARFOLDS_FIELD_TEXT(IfsRecord)
+STARFOLDS_FIELD_TEXT(IfsPoint)
+STARFOLDS_FIELD_TEXT(AtomRecord)
+STARFOLDS_FIELD_TEXT(AtomPoint)
+#undef STARFOLDS_FIELD_TEXT
+
+std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
+                                     std::string_view value) {
+  if (const auto* field = FindField(UniverseFields(), name)) {
+    return SetOrSay(records.Universe, *field, value);
+  }
+  if (const auto* field = FindField(AdvancedFields(), name)) {
+    return SetOrSay(records.Advanced, *field, value);
+  }
+  if (const auto* field = FindField(ProfileFields(), name)) {
+    for (StarfoldProfile& profile : records.Profiles) {
+      if (auto message = SetOrSay(profile, *field, value)) return message;
+    }
+    return std::nullopt;
+  }
+  const std::size_t slash = name.find_first_of("/\\");
+  if (slash != std::string_view::npos) {
+    const std::string_view section = name.substr(0, slash);
+    const std::string_view key = name.substr(slash + 1);
+    if (const auto index = SectionIndex(section, "Starfold", kProfileCount)) {
+      const auto* field = FindField(ProfileFields(), key);
+      if (!field) return "there is no setting " + Quoted(key) + " in a profile";
+      return SetOrSay(records.Profiles[*index], *field, value);
+    }
+    if (const auto index = SectionIndex(section, "CompFold", kCompositeCount)) {
+      return SetInComposite(records.Composites[*index], key, value);
+    }
+  }
+  return "there is no setting " + Quoted(name);
+}
+
+VisitList ParseVisitList(std::string_view text) {
+  VisitList list;
+  while (!text.empty() && list.Count < VisitList::kRoom) {
+    const std::size_t end = std::min(text.find(' '), text.size());
+    const std::string_view piece = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    if (!IsNumeric(piece)) continue;
+    const double number = LenientNumber(piece);
+    if (number > 0 && number <= kBodyCount) {
+      list.Bodies[list.Count++] = ClampTo<Integer>(RoundedToLimits<Integer>(number) - 1, 0, 65);
+    }
+  }
+  return list;
+}
+
+}  // namespace starfolds

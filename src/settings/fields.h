@@ -1,0 +1,90 @@
+// The one table of the settings. Whoever reads, writes, clamps, labels or tests a setting walks
+// these rows; a new setting is one member in records.h and one row here.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "settings/records.h"
+
+namespace starfolds {
+
+/// How a number is held to its range. `Fixed`: as `Low` and `High` say. The others: the range
+/// depends on the profile's style and stands in `StyleLimits`.
+enum class RangeRule { None, Fixed, RadSegs, RadFill, RadBands, RadBFill };
+
+/// One setting of a record.
+template <class Record>
+struct Field {
+  /// A typed pointer to the member; its kind is the kind of the setting.
+  using Member = std::variant<Integer Record::*, Long Record::*, Single Record::*, bool Record::*,
+                              std::string Record::*>;
+
+  std::string_view Name;  // as stored
+  Member Where;
+  RangeRule Rule = RangeRule::None;
+  double Low = 0;
+  double High = 0;
+  std::string_view Label;
+  bool WholeNumber = false;  // a Single that its clamp rounds to a whole number
+  double DialogHigh = 0;     // the dialog's high limit where it differs from the run's; else 0
+};
+
+/// In the order of the records.
+std::span<const Field<UniverseSettings>> UniverseFields();
+std::span<const Field<StarfoldProfile>> ProfileFields();
+std::span<const Field<CompositeProfile>> CompositeFields();
+std::span<const Field<AdvancedSettings>> AdvancedFields();
+/// The sub-records of a profile: the centres, and one point or atom in its packed order.
+std::span<const Field<IfsRecord>> IfsCenterFields();
+std::span<const Field<IfsPoint>> IfsPointFields();
+std::span<const Field<AtomRecord>> AtomCenterFields();
+std::span<const Field<AtomPoint>> AtomPointFields();
+
+struct Limits {
+  double Low = 0;
+  double High = 0;
+};
+
+/// The limits of `rule` for a profile of `style` (held to 0..9); rule is one of the four style
+/// rules.
+Limits StyleLimits(RangeRule rule, Integer style);
+
+/// Points of an atom's structure, 0 to 13; 1 outside.
+Integer AtomPoints(Integer structure);
+
+/// Holds every field to its range, as before each run (universe) or after each load (others).
+void ClampUniverse(UniverseSettings& universe);
+void ClampProfile(StarfoldProfile& profile);
+void ClampComposite(CompositeProfile& composite);
+void ClampAdvanced(AdvancedSettings& advanced);
+
+/// The setting's value as the text it is stored as.
+template <class Record>
+std::string FieldText(const Record& record, const Field<Record>& field);
+
+/// Reads the setting from text. Text that is no number leaves a number as it was and gives false;
+/// a number beyond the type's range becomes the type's limit. Booleans are true for any number
+/// but 0.
+template <class Record>
+bool SetFieldText(Record& record, const Field<Record>& field, std::string_view text);
+
+/// Sets any setting of all the records by its name: "Universe_Stars", "Adv_TimeDelay",
+/// "Starfold_Radius" (in all 50 profiles), "Starfold7/Starfold_Radius" (in profile 7),
+/// "CompFold3/CompFold_Type0". Gives a message where the name or the value is no good.
+std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
+                                     std::string_view value);
+
+/// The bodies that `Universe_GS_Idx` names, 0-based, at most 64: the pieces between blanks that are
+/// numbers from 1 to 66. All other pieces are passed over.
+struct VisitList {
+  static constexpr int kRoom = 64;
+  std::array<Integer, kRoom> Bodies{};
+  int Count = 0;
+};
+VisitList ParseVisitList(std::string_view text);
+
+}  // namespace starfolds

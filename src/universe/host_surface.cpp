@@ -1,0 +1,58 @@
+#include "universe/host_surface.h"
+
+#include "numbers/conversions.h"
+
+namespace starfolds {
+namespace {
+
+void MeasureSurface(Saver& saver, Surface& target, double zoom) {
+  Display& screen = saver.Screen;
+  screen.hDCDraw = &target;
+  screen.SurfaceWidth = RoundedToLimits<Integer>(target.Width());
+  screen.SurfaceHeight = RoundedToLimits<Integer>(target.Height());
+  AssignRounded(screen.CenterX, screen.SurfaceWidth * 0.5);
+  AssignRounded(screen.CenterY, screen.SurfaceHeight * 0.5);
+  screen.FocalPixels =
+      static_cast<Single>((screen.CenterX + screen.CenterY) * 0.5 * screen.FocalLength * zoom);
+}
+
+}  // namespace
+
+void SetupDisplay(Saver& saver, Surface& target, std::uint64_t seed) {
+  AdvancedSettings advanced = saver.Stored.Advanced;
+  ClampAdvanced(advanced);
+  saver.Screen.FocalLength = advanced.FocalLength;
+  saver.Screen.FrameDelayMs = advanced.Adv_TimeDelay;
+  MeasureSurface(saver, target, 1);
+  saver.Random.Seed(seed);
+}
+
+void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single zoom,
+                         std::uint64_t seed) {
+  ResetSurface(target);
+  if (fixedView) {
+    saver.Screen.FocalLength = 1;
+    saver.Screen.FrameDelayMs = 32;
+  }
+  MeasureSurface(saver, target, zoom);
+  saver.Random.Seed(seed);
+}
+
+void ResetSurface(Surface& target) { target.Clear(); }
+
+void ReadUniverseSettings(Saver& saver, bool smallPreview) {
+  saver.Universe = saver.Stored.Universe;
+  saver.Profiles = saver.Stored.Profiles;
+  saver.Composites = saver.Stored.Composites;
+  saver.Visits = ParseVisitList(saver.Universe.Universe_GS_Idx);
+  if (smallPreview) {
+    AssignRounded(saver.Universe.Universe_Stars, saver.Universe.Universe_Stars * 0.65);
+    AssignRounded(saver.Universe.Universe_AmStar, saver.Universe.Universe_AmStar * 0.5);
+  }
+  for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
+  for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
+  BuildFlareTables(saver, saver.Universe.Universe_HW_Start, saver.Universe.Universe_HW_End);
+  BuildHueWheels(saver);
+}
+
+}  // namespace starfolds

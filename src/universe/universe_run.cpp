@@ -1,0 +1,213 @@
+#include "universe/universe_run.h"
+
+#include <algorithm>
+
+#include "bodies/comets.h"
+#include "bodies/star_step.h"
+#include "universe/ambient.h"
+#include "universe/creation.h"
+#include "universe/gravity.h"
+#include "universe/pacing.h"
+#include "universe/tour.h"
+
+namespace starfolds {
+namespace {
+
+/// The state of one run, from the clamps to its end.
+struct UniverseTour {
+  UniverseScene Scene;
+  TourWindow Window = {};
+  TourPlace Place = {};
+  TourPoint Eye = {};
+  Integer VisitCount = 0;
+  Integer VisitProf = 0;
+  Integer CometProf = 0;
+  Integer GravTick = 0;
+
+  Saver& Process() { return Scene.Process; }
+  FrameScene Frame() { return {Scene.Process, Scene.Run, 0}; }
+};
+
+Integer NextTourProfile(Saver& saver, Integer former) {
+  const Integer choice = saver.Universe.Universe_Profile;
+  if (choice < kCycleRandomly) return choice;
+  if (choice == kCycleRandomly) {
+    return static_cast<Integer>(DrawBelow(saver.Random, kProfileCount));
+  }
+  return static_cast<Integer>((former + 1) % kProfileCount);
+}
+
+TourPoint Viewpoint(const Saver& saver) { return {0, 0, -saver.Universe.Universe_DstCen}; }
+
+TourPoint FoldPlace(const StarfoldArrays& folds, Integer i) {
+  const auto fold = static_cast<std::size_t>(i);
+  return {folds.StarfoldX[fold], folds.StarfoldY[fold], folds.StarfoldZ[fold]};
+}
+
+void StepGravityOfFrame(UniverseTour& tour) {
+  const UniverseSettings& universe = tour.Process().Universe;
+  if (!(universe.Universe_GravForce > 0)) return;
+  tour.GravTick = static_cast<Integer>((tour.GravTick + 1) % universe.Universe_GravFrame);
+  StepGravity(tour.Scene.Run.Folds, universe.Universe_GravForce, tour.GravTick == 0);
+}
+
+void PlaceStarfoldsToEye(StarfoldArrays& folds, const TourPoint& eye) {
+  for (std::size_t i = 0; i < folds.StarfoldX.size(); ++i) {
+    folds.StarfoldRelX[i] = folds.StarfoldX[i] - eye.X;
+    folds.StarfoldRelY[i] = folds.StarfoldY[i] - eye.Y;
+    folds.StarfoldRelZ[i] = folds.StarfoldZ[i] - eye.Z;
+  }
+}
+
+void StepAmbientOfFrame(UniverseTour& tour) {
+  UniverseScene& scene = tour.Scene;
+  StepAmbientStars({scene.Process, scene.Run.Ambient, scene.Shape}, tour.Eye,
+                   scene.Growth.ExpandTotal, scene.Growth.ExpandStep, AmbientMode::Finished,
+                   scene.TourProfile);
+}
+
+/// One frame of a visit. False: the run must end.
+bool TourFrame(UniverseTour& tour) {
+  Saver& saver = tour.Process();
+  RunArrays& run = tour.Scene.Run;
+  tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
+  StampFrame(saver);
+  if (!saver.Universe.Universe_Tour) tour.Eye = Viewpoint(saver);
+  StepGravityOfFrame(tour);
+  PlaceStarfoldsToEye(run.Folds, tour.Eye);
+  AdvanceAngles(saver);
+  StarStep(tour.Frame(), tour.Place);
+  StepAmbientOfFrame(tour);
+  StepNebulaRibbons(saver, run.Slots, run.Folds.StarfoldProf);
+  if (saver.NewRun) {
+    saver.NewRun = false;
+    return false;
+  }
+  return !FramePace(saver);
+}
+
+/// One frame of the pull-out. It is not stamped, so it waits for the screen and not for the frame's
+/// delay, and neither gravity nor ribbons nor `NewRun` are looked at.
+bool PullOutFrame(UniverseTour& tour) {
+  Saver& saver = tour.Process();
+  tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
+  PlaceStarfoldsToEye(tour.Scene.Run.Folds, tour.Eye);
+  AdvanceAngles(saver);
+  StarStep(tour.Frame(), tour.Place);
+  StepAmbientOfFrame(tour);
+  return !FramePace(saver);
+}
+
+/// The frames of one control step.
+template <class FrameRoutine>
+bool ControlStep(UniverseTour& tour, FrameRoutine frame) {
+  const Integer steps = tour.Process().Universe.Universe_GSteps;
+  const Single step = Single{1} / steps;
+  tour.Place.SplineT = 0;
+  for (int i = 0; i < steps; ++i) {
+    if (!frame(tour)) return false;
+    tour.Place.SplineT += step;
+  }
+  return true;
+}
+
+bool VisitStarfold(UniverseTour& tour, Integer visit) {
+  Saver& saver = tour.Process();
+  const StarfoldArrays& folds = tour.Scene.Run.Folds;
+  const int approach = saver.Universe.Universe_GPCtrl;
+  const int closeIn = saver.Universe.Universe_GCCtrl;
+  tour.Place.VisitIdx = visit;
+  tour.VisitProf = ResolveProfile(saver, folds.StarfoldProf[static_cast<std::size_t>(visit)]);
+  for (int segment = 1; segment <= approach + closeIn; ++segment) {
+    tour.Place.SegIdx = static_cast<Integer>(segment);
+    tour.Window.Append(VisitPoint(FoldPlace(folds, visit),
+                                  saver.Prepared[tour.VisitProf].RunDistance, segment, approach,
+                                  closeIn));
+    if (segment == 2) {
+      tour.CometProf = tour.VisitProf;
+      ResetComets(saver, tour.Scene.Run.Comets, visit, tour.VisitProf);
+    }
+    tour.Place.VisitProf = tour.CometProf;
+    if (!ControlStep(tour, TourFrame)) return false;
+  }
+  return true;
+}
+
+bool PullOut(UniverseTour& tour) {
+  Saver& saver = tour.Process();
+  const int steps = saver.Universe.Universe_GPCtrl;
+  if (!saver.Universe.Universe_Tour) tour.Window.Fill(Viewpoint(saver));
+  tour.Place.TourOn = false;
+  tour.Place.VisitIdx = tour.VisitCount;
+  for (int k = 1; k <= steps; ++k) {
+    tour.Window.Append(PullOutPoint(tour.Scene.Growth.ExpandTotal, k, steps));
+    if (!ControlStep(tour, PullOutFrame)) return false;
+  }
+  return true;
+}
+
+bool Create(UniverseTour& tour) {
+  Saver& saver = tour.Process();
+  tour.Scene.TourProfile = NextTourProfile(saver, tour.Scene.TourProfile);
+  tour.Scene.Run.TrailHead = 0;
+  tour.Scene.Growth = {saver.Universe.Universe_Expand, 0};
+  for (int p = 0; p < kProfileCount; ++p) {
+    saver.Prepared[p].HueWheel = saver.Profiles[p].Starfold_HueStart;
+  }
+  CreateUniverse(tour.Scene);
+  if (saver.StopRun) return false;
+  if (saver.NewRun) {
+    saver.NewRun = false;
+    return false;
+  }
+  return true;
+}
+
+bool VisitAll(UniverseTour& tour) {
+  StarfoldArrays& folds = tour.Scene.Run.Folds;
+  std::fill(folds.StarfoldVX.begin(), folds.StarfoldVX.end(), Single{0});
+  std::fill(folds.StarfoldVY.begin(), folds.StarfoldVY.end(), Single{0});
+  std::fill(folds.StarfoldVZ.begin(), folds.StarfoldVZ.end(), Single{0});
+  tour.Window.Fill(Viewpoint(tour.Process()));
+  tour.Place.TourOn = true;
+  for (Integer visit = 0; visit < tour.VisitCount; ++visit) {
+    if (!VisitStarfold(tour, visit)) return false;
+  }
+  return true;
+}
+
+void ClearAway(UniverseTour& tour) {
+  ResetComets(tour.Process(), tour.Scene.Run.Comets, tour.VisitCount, tour.VisitProf);
+  tour.Process().Screen.hDCDraw->Clear();
+}
+
+}  // namespace
+
+void EnterUniverseSettings(UniverseSettings& universe) {
+  ClampUniverse(universe);
+  universe.Universe_STrail =
+      std::min<Integer>(universe.Universe_STrail, Integer{30000} / universe.Universe_Stars);
+  universe.Universe_Expand = static_cast<Single>(universe.Universe_Expand * 0.001);
+  universe.Universe_Damping =
+      static_cast<Single>((1 - static_cast<double>(universe.Universe_Damping)) * 0.5 + 0.5);
+  universe.Universe_NewPctStEx = static_cast<Single>(universe.Universe_NewPctStEx * 0.01);
+  universe.Universe_DstCen = static_cast<Single>(universe.Universe_DstCen * 0.01);
+  universe.Universe_AmMaxExt = static_cast<Single>(universe.Universe_AmMaxExt * 0.01);
+  universe.Universe_GravForce = static_cast<Single>(universe.Universe_GravForce * 1e-07);
+}
+
+void UniverseRun(Saver& saver) {
+  EnterUniverseSettings(saver.Universe);
+  RunArrays run(saver.Universe, saver.Universe.Universe_Starfold, saver.Universe.Universe_AmStar);
+  UniverseTour tour{.Scene = {saver, run}};
+  PrepareProfiles(saver);
+  tour.VisitCount = std::min(saver.Universe.Universe_Starfold, saver.Universe.Universe_Recycle);
+  BuildAmbRamp(run.Ambient);
+  MarkHueCycling(saver);
+  BuildPulsarTables(saver);
+  BuildNewStarRamp(saver);
+
+  while (Create(tour) && VisitAll(tour) && PullOut(tour)) ClearAway(tour);
+}
+
+}  // namespace starfolds
