@@ -241,14 +241,6 @@ void ClampFields(Record& record, std::span<const Field<Record>> fields) {
 
 bool IsLattice(Integer structure) { return structure >= 6 && structure < 12; }
 
-template <class Record>
-const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name) {
-  for (const Field<Record>& field : fields) {
-    if (field.Name == name) return &field;
-  }
-  return nullptr;
-}
-
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 template <class Record>

@@ -44,6 +44,15 @@ std::span<const Field<IfsPoint>> IfsPointFields();
 std::span<const Field<AtomRecord>> AtomCenterFields();
 std::span<const Field<AtomPoint>> AtomPointFields();
 
+/// The row of the setting called `name`, as it is stored; null where there is none.
+template <class Record>
+const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name) {
+  for (const Field<Record>& field : fields) {
+    if (field.Name == name) return &field;
+  }
+  return nullptr;
+}
+
 struct Limits {
   double Low = 0;
   double High = 0;
