@@ -148,15 +148,15 @@ void MoveNucleus(const CometScene& scene, CometHead& head) {
 /// The star flies on, and shows while it is young.
 void FlyStar(const CometScene& scene, std::size_t j) {
   CometArrays& comets = scene.Comets();
-  const StarfoldArrays& folds = scene.Frame.Run.Folds;
   comets.CometStarX[j] += comets.CometStarVX[j];
   comets.CometStarY[j] += comets.CometStarVY[j];
   comets.CometStarZ[j] += comets.CometStarVZ[j];
-  const View view{static_cast<double>(comets.CometStarX[j]) + folds.StarfoldRelX[scene.Fold],
-                  static_cast<double>(comets.CometStarY[j]) + folds.StarfoldRelY[scene.Fold],
-                  static_cast<double>(comets.CometStarZ[j]) + folds.StarfoldRelZ[scene.Fold]};
+  const RelPlace& home = scene.Frame.Run.Folds.StarfoldRel[scene.Fold];
+  const View view{comets.CometStarX[j] + home.X, comets.CometStarY[j] + home.Y,
+                  comets.CometStarZ[j] + home.Z};
   if (!view.InFront()) return;
-  ProjectView(scene.Frame.Process.Screen, view, comets.CometStarScrX[j], comets.CometStarScrY[j]);
+  ProjectView(Lens(scene.Frame.Process.Screen), view, comets.CometStarScrX[j],
+              comets.CometStarScrY[j]);
   const Integer age = comets.CometStarHue[j];
   if (age < kFlareSteps) {
     scene.Canvas().SetPixelV(comets.CometStarScrX[j], comets.CometStarScrY[j],

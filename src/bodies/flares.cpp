@@ -6,45 +6,88 @@
 namespace starfolds {
 namespace {
 
-const ProfileColours& ColoursOf(const FrameScene& scene, std::size_t i) {
-  return scene.Process.Colours.Profile[scene.Run.Stars.StarProf[i]];
+StarState& StateOf(const FrameScene& scene, std::size_t i) { return scene.Run.Stars.Star[i]; }
+FlareState& FlareOf(const FrameScene& scene, std::size_t i) { return scene.Run.Stars.Flare[i]; }
+
+const ProfileColours& ColoursOf(const FrameScene& scene, const StarState& star) {
+  return scene.Process.Colours.Profile[static_cast<std::size_t>(star.StarProf)];
 }
 
-const StarMotion& MotionOfStar(const FrameScene& scene, std::size_t i) {
-  return scene.Process.Prepared[scene.Run.Stars.StarProf[i]].Star;
+const PreparedProfile& PreparedOf(const FrameScene& scene, const StarState& star) {
+  return scene.Process.Prepared[static_cast<std::size_t>(star.StarProf)];
 }
 
-View ViewOf(const FrameScene& scene, std::size_t i) {
-  return ViewStar(scene.Run.Stars, i, MotionOfStar(scene, i), scene.Run.Folds);
+View ViewOf(const FrameScene& scene, const StarState& star) {
+  return ViewStar(star, PreparedOf(scene, star).Star, scene.Run.Folds);
 }
 
-void NoteView(StarArrays& stars, std::size_t i, const View& view) {
-  stars.StarViewX[i] = static_cast<Single>(view.X);
-  stars.StarViewY[i] = static_cast<Single>(view.Y);
-  stars.StarViewZ[i] = static_cast<Single>(view.Depth);
+void NoteView(FlareState& flare, const View& view) {
+  flare.StarViewX = static_cast<Single>(view.X);
+  flare.StarViewY = static_cast<Single>(view.Y);
+  flare.StarViewZ = static_cast<Single>(view.Depth);
+}
+
+Colour NewStarColour(const FrameScene& scene, const StarState& star) {
+  return ColoursOf(scene, star).NewColors[static_cast<std::size_t>(star.StarNewLeft)];
+}
+
+Colour NovaColour(const FrameScene& scene, const StarState& star, const FlareState& flare) {
+  return ColoursOf(scene, star).NovaRamp[NovaRow(flare.StarFlareFrames, star.StarNovaLeft)];
+}
+
+/// Draws, or in black erases, what the star shows as from the arrays.
+void DrawNewStar(const FrameScene& scene, std::size_t i, Colour colour) {
+  const FlareState& flare = FlareOf(scene, i);
+  if (!(flare.StarFlareZ > kNearDepth)) return;
+  PlotNew(scene.Process.Screen, flare.StarFlareX, flare.StarFlareY, flare.StarFlareZ,
+          StateOf(scene, i).StarNewLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
+}
+
+void DrawNova(const FrameScene& scene, std::size_t i, Colour colour) {
+  const FlareState& flare = FlareOf(scene, i);
+  if (!(flare.StarViewZ > kNearDepth)) return;
+  PlotNova(scene.Process.Screen, flare.StarViewX, flare.StarViewY, flare.StarViewZ,
+           StateOf(scene, i).StarNovaLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
+}
+
+enum class Ink { Colour, Black };
+
+void DrawPulsar(const FrameScene& scene, std::size_t i, Ink ink) {
+  const FlareState& flare = FlareOf(scene, i);
+  if (!(flare.StarViewZ > kNearDepth)) return;
+  const StarState& star = StateOf(scene, i);
+  const StarfoldProfile& profile = scene.Process.Profiles[static_cast<std::size_t>(star.StarProf)];
+  const int phase = star.StarPulsarLeft % std::max<int>(profile.Starfold_PulsarFrames, 1);
+  const ProfileColours& colours = ColoursOf(scene, star);
+  PlotPulsar(scene.Process.Screen, flare.StarViewX, flare.StarViewY, flare.StarViewZ,
+             colours.PulsarExtents[phase], profile.Starfold_PulsarShape,
+             PreparedOf(scene, star).RunPulsarDepth,
+             ink == Ink::Black ? 0 : colours.PulsarColors[phase]);
 }
 
 void BeginPulsar(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
-  StarArrays& stars = scene.Run.Stars;
-  stars.StarPulsarLeft[i] = ProductOr(stars.StarPulsarLeft[i], profile.Starfold_PulsarCycles,
-                                      profile.Starfold_PulsarFrames);
-  stars.StarFlareFrames[i] = profile.Starfold_PulsarFrames;
-  NoteView(stars, i, ViewOf(scene, i));
+  StarState& star = StateOf(scene, i);
+  star.StarPulsarLeft =
+      ProductOr(star.StarPulsarLeft, profile.Starfold_PulsarCycles, profile.Starfold_PulsarFrames);
+  FlareOf(scene, i).StarFlareFrames = profile.Starfold_PulsarFrames;
+  NoteView(FlareOf(scene, i), ViewOf(scene, star));
 }
 
 void BeginNova(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
-  StarArrays& stars = scene.Run.Stars;
-  stars.StarNovaLeft[i] = stars.StarFlareFrames[i] = profile.Starfold_NovaFrames;
-  stars.StarFlareExt[i] = scene.Process.Prepared[stars.StarProf[i]].RunNovaExt;
-  NoteView(stars, i, ViewOf(scene, i));
-  if (stars.StarNovaLeft[i] > 0) DrawNova(scene, i, NovaColour(scene, i));
+  StarState& star = StateOf(scene, i);
+  FlareState& flare = FlareOf(scene, i);
+  star.StarNovaLeft = flare.StarFlareFrames = profile.Starfold_NovaFrames;
+  flare.StarFlareExt = PreparedOf(scene, star).RunNovaExt;
+  NoteView(flare, ViewOf(scene, star));
+  if (star.StarNovaLeft > 0) DrawNova(scene, i, NovaColour(scene, star, flare));
 }
 
 void BeginNewStar(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
-  StarArrays& stars = scene.Run.Stars;
-  stars.StarNewLeft[i] = stars.StarFlareFrames[i] = profile.Starfold_NewFrames;
-  stars.StarFlareExt[i] = scene.Process.Prepared[stars.StarProf[i]].RunNewExt;
-  PlaceAndDrawNewStar(scene, i, ViewOf(scene, i));
+  StarState& star = StateOf(scene, i);
+  FlareState& flare = FlareOf(scene, i);
+  star.StarNewLeft = flare.StarFlareFrames = profile.Starfold_NewFrames;
+  flare.StarFlareExt = PreparedOf(scene, star).RunNewExt;
+  PlaceAndDrawNewStar(scene, i, ViewOf(scene, star));
 }
 
 }  // namespace
@@ -55,73 +98,40 @@ int NovaRow(Integer frames, Integer left) {
   return static_cast<int>(RoundHalfEven(age * kFlareSteps / static_cast<double>(frames)));
 }
 
-Colour NewStarColour(const FrameScene& scene, std::size_t i) {
-  return ColoursOf(scene, i).NewColors[scene.Run.Stars.StarNewLeft[i]];
-}
-
-Colour NovaColour(const FrameScene& scene, std::size_t i) {
-  const StarArrays& stars = scene.Run.Stars;
-  return ColoursOf(scene, i).NovaRamp[NovaRow(stars.StarFlareFrames[i], stars.StarNovaLeft[i])];
-}
-
-void DrawNewStar(const FrameScene& scene, std::size_t i, Colour colour) {
-  const StarArrays& stars = scene.Run.Stars;
-  if (!(stars.StarFlareZ[i] > kNearDepth)) return;
-  PlotNew(scene.Process.Screen, stars.StarFlareX[i], stars.StarFlareY[i], stars.StarFlareZ[i],
-          stars.StarNewLeft[i], stars.StarFlareFrames[i], stars.StarFlareExt[i], colour);
-}
-
-void DrawNova(const FrameScene& scene, std::size_t i, Colour colour) {
-  const StarArrays& stars = scene.Run.Stars;
-  if (!(stars.StarViewZ[i] > kNearDepth)) return;
-  PlotNova(scene.Process.Screen, stars.StarViewX[i], stars.StarViewY[i], stars.StarViewZ[i],
-           stars.StarNovaLeft[i], stars.StarFlareFrames[i], stars.StarFlareExt[i], colour);
-}
-
-void DrawPulsar(const FrameScene& scene, std::size_t i, bool erase) {
-  const StarArrays& stars = scene.Run.Stars;
-  if (!(stars.StarViewZ[i] > kNearDepth)) return;
-  const int prof = stars.StarProf[i];
-  const StarfoldProfile& profile = scene.Process.Profiles[prof];
-  const int phase = stars.StarPulsarLeft[i] % std::max<int>(profile.Starfold_PulsarFrames, 1);
-  const ProfileColours& colours = ColoursOf(scene, i);
-  PlotPulsar(scene.Process.Screen, stars.StarViewX[i], stars.StarViewY[i], stars.StarViewZ[i],
-             colours.PulsarExtents[phase], profile.Starfold_PulsarShape,
-             scene.Process.Prepared[prof].RunPulsarDepth, erase ? 0 : colours.PulsarColors[phase]);
-}
-
 void EraseFlare(const FrameScene& scene, std::size_t i) {
-  const StarArrays& stars = scene.Run.Stars;
-  if (stars.StarNewLeft[i] > 0) return DrawNewStar(scene, i, 0);
-  if (stars.StarNovaLeft[i] > 0) return DrawNova(scene, i, 0);
-  DrawPulsar(scene, i, true);
+  const StarState& star = StateOf(scene, i);
+  if (star.StarNewLeft > 0) return DrawNewStar(scene, i, 0);
+  if (star.StarNovaLeft > 0) return DrawNova(scene, i, 0);
+  DrawPulsar(scene, i, Ink::Black);
 }
 
 void MoveAndDrawShell(const FrameScene& scene, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
-  MoveStar(stars, i, MotionOfStar(scene, i));
-  NoteView(stars, i, ViewOf(scene, i));
-  if (stars.StarNovaLeft[i] > 0) return DrawNova(scene, i, NovaColour(scene, i));
-  DrawPulsar(scene, i, false);
+  StarState& star = StateOf(scene, i);
+  FlareState& flare = FlareOf(scene, i);
+  MoveStar(star, PreparedOf(scene, star).Star);
+  NoteView(flare, ViewOf(scene, star));
+  if (star.StarNovaLeft > 0) return DrawNova(scene, i, NovaColour(scene, star, flare));
+  DrawPulsar(scene, i, Ink::Colour);
 }
 
 void PlaceAndDrawNewStar(const FrameScene& scene, std::size_t i, const View& view) {
-  StarArrays& stars = scene.Run.Stars;
-  stars.StarFlareZ[i] = static_cast<Single>(view.Depth);
+  const StarState& star = StateOf(scene, i);
+  FlareState& flare = FlareOf(scene, i);
+  flare.StarFlareZ = static_cast<Single>(view.Depth);
   if (!view.InFront()) return;
-  ProjectView(scene.Process.Screen, view, stars.StarFlareX[i], stars.StarFlareY[i]);
-  if (stars.StarNewLeft[i] > 0) DrawNewStar(scene, i, NewStarColour(scene, i));
+  ProjectView(Lens(scene.Process.Screen), view, flare.StarFlareX, flare.StarFlareY);
+  if (star.StarNewLeft > 0) DrawNewStar(scene, i, NewStarColour(scene, star));
 }
 
 void ReseedStar(const FrameScene& scene, std::size_t i) {
   Saver& saver = scene.Process;
-  StarArrays& stars = scene.Run.Stars;
-  const Integer entry = scene.Run.Folds.StarfoldProf[stars.StarHome[i]];
-  stars.StarProf[i] = scene.SingleBody == 1 ? entry : PickProfile(saver, entry);
-  SeedStar(saver, stars, scene.Run.Slots, i);
+  StarState& star = StateOf(scene, i);
+  const Integer entry = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)];
+  star.StarProf = scene.SingleBody == 1 ? entry : PickProfile(saver, entry);
+  SeedStar(saver, scene.Run.Stars, scene.Run.Slots, i);
 
-  const StarfoldProfile& profile = saver.Profiles[stars.StarProf[i]];
-  const PreparedProfile& run = saver.Prepared[stars.StarProf[i]];
+  const StarfoldProfile& profile = saver.Profiles[static_cast<std::size_t>(star.StarProf)];
+  const PreparedProfile& run = PreparedOf(scene, star);
   const Single roll = saver.Random();
   if (roll < run.RunPulsarChance) return BeginPulsar(scene, i, profile);
   if (roll < static_cast<double>(run.RunNovaChance) + run.RunPulsarChance) {

@@ -24,13 +24,6 @@ void ReseedStar(const FrameScene& scene, std::size_t i);
 /// stays.
 int NovaRow(Integer frames, Integer left);
 
-/// Draw or, in black, erase what the star shows as from the arrays.
-void DrawNewStar(const FrameScene& scene, std::size_t i, Colour colour);
-void DrawNova(const FrameScene& scene, std::size_t i, Colour colour);
-void DrawPulsar(const FrameScene& scene, std::size_t i, bool erase);
-Colour NewStarColour(const FrameScene& scene, std::size_t i);
-Colour NovaColour(const FrameScene& scene, std::size_t i);
-
 /// Erases a new star, a nova or a pulsar where it was last drawn.
 void EraseFlare(const FrameScene& scene, std::size_t i);
 

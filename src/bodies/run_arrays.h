@@ -1,6 +1,7 @@
 // The arrays of a run, grouped by who reads them. They are sized once when a run begins and belong
 // to it: nothing of them survives. A star, a starfold, an ambient star and a comet star is one
-// index into the parallel arrays of its group.
+// index into the parallel arrays of its group. What is read together in the star loop lies
+// together.
 #pragma once
 
 #include <array>
@@ -13,64 +14,74 @@
 
 namespace starfolds {
 
+/// What the star loop reads and writes of a star in every frame: one cache line.
+struct alignas(64) StarState {
+  // Place in the body's frame, of which Y is the axis; X and Z turn together.
+  Single StarX = 0, StarZ = 0;
+  Single StarSpinCos = 1, StarSpinSin = 0;
+  Single StarY = 0;
+  Single StarHue = 0;  // degrees
+  Colour StarColor = 0;
+  Integer StarProf = 0, StarHome = 0, StarLevel = 0;
+  Integer StarNewLeft = 0, StarNovaLeft = 0, StarPulsarLeft = 0;  // at most one is above 0
+  Integer StarWait = 0;  // frames until a star that waits for its trail is re-seeded
+  Single StarVX = 0, StarVY = 0, StarVZ = 0;  // per frame; StarVY is a wave star's phase
+  Long StarAge = 0;                           // frames since it was seeded
+  Long StarFrame = 0;  // the `BodyFrame` of a settled star that rotates; 0: it has none
+
+  bool InFlare() const { return (StarNewLeft | StarNovaLeft | StarPulsarLeft) != 0; }
+};
+static_assert(sizeof(StarState) == 64);
+
+/// What only a star in flare needs.
+struct FlareState {
+  Integer StarFlareFrames = 0;
+  Single StarFlareExt = 0;
+  Long StarFlareX = 0, StarFlareY = 0;                 // a new star's last plot, on the screen
+  Single StarFlareZ = 0;                               // and its depth
+  Single StarViewX = 0, StarViewY = 0, StarViewZ = 0;  // a nova's or pulsar's last, to the eye
+};
+
+/// A pixel that a star has drawn.
+struct TrailPlace {
+  Long TrailX = 0, TrailY = 0;
+};
+
 /// Per star; the trails hold `trail` places per star, as a ring that all stars share the head of.
 struct StarArrays {
-  // Read and written every frame.
-  std::vector<Single> StarX, StarY, StarZ;     // place in the body's frame; Y is its axis
-  std::vector<Single> StarVX, StarVY, StarVZ;  // per frame; StarVY is a wave star's phase
-  std::vector<Single> StarSpinCos, StarSpinSin;
-  std::vector<Colour> StarColor;
-  std::vector<Single> StarHue;  // degrees
-  std::vector<Integer> StarProf, StarHome, StarLevel;
-  std::vector<Integer> StarNewLeft, StarNovaLeft, StarPulsarLeft;  // at most one is above 0
-  std::vector<Integer> StarWait;  // frames until a star that waits for its trail is re-seeded
-  std::vector<Long> StarAge;      // frames since it was seeded
-  std::vector<Long> TrailX, TrailY;
-
-  // Read by stars in flare.
-  std::vector<Integer> StarFlareFrames;
-  std::vector<Single> StarFlareExt;
-  std::vector<Long> StarFlareX, StarFlareY;             // a new star's last plot, on the screen
-  std::vector<Single> StarFlareZ;                       // and its depth
-  std::vector<Single> StarViewX, StarViewY, StarViewZ;  // a nova's or pulsar's last, to the eye
+  std::vector<StarState> Star;
+  std::vector<FlareState> Flare;
+  std::vector<TrailPlace> Trail;
 
   StarArrays(std::size_t stars, std::size_t trail)
-      : StarX(stars),
-        StarY(stars),
-        StarZ(stars),
-        StarVX(stars),
-        StarVY(stars),
-        StarVZ(stars),
-        StarSpinCos(stars),
-        StarSpinSin(stars),
-        StarColor(stars),
-        StarHue(stars),
-        StarProf(stars),
-        StarHome(stars),
-        StarLevel(stars),
-        StarNewLeft(stars),
-        StarNovaLeft(stars),
-        StarPulsarLeft(stars),
-        StarWait(stars),
-        StarAge(stars),
-        TrailX(stars * trail),
-        TrailY(stars * trail),
-        StarFlareFrames(stars),
-        StarFlareExt(stars),
-        StarFlareX(stars),
-        StarFlareY(stars),
-        StarFlareZ(stars),
-        StarViewX(stars),
-        StarViewY(stars),
-        StarViewZ(stars) {}
+      : Star(stars), Flare(stars), Trail(stars * trail) {}
+};
+
+/// Where a starfold is to the eye, anew every frame. The values are Singles, kept as doubles
+/// because that is how every star of it reads them.
+struct RelPlace {
+  double X = 0, Y = 0, Z = 0;  // `StarfoldRelX`, `StarfoldRelY`, `StarfoldRelZ`
+
+  RelPlace() = default;
+  RelPlace(Single x, Single y, Single z) : X(x), Y(y), Z(z) {}
+};
+
+/// One level of a starfold that rotates, for one frame: all that its stars share, in a cache line.
+struct alignas(64) BodyFrame {
+  RelPlace Rel;
+  double TiltCos = 1, TiltSin = 0;
+  const Colour* HueTable = nullptr;  // none where the hues stand still
+  Single HWheelInc = 0;
+  bool AxisPlane = false;
 };
 
 /// Per starfold.
 struct StarfoldArrays {
   std::vector<Integer> StarfoldProf;  // 0 to 49 a profile, 50 and up a composite
   std::vector<Single> StarfoldX, StarfoldY, StarfoldZ;
-  std::vector<Single> StarfoldVX, StarfoldVY, StarfoldVZ;        // from gravity
-  std::vector<Single> StarfoldRelX, StarfoldRelY, StarfoldRelZ;  // to the eye, anew every frame
+  std::vector<Single> StarfoldVX, StarfoldVY, StarfoldVZ;  // from gravity
+  std::vector<RelPlace> StarfoldRel;
+  std::vector<BodyFrame> Frames;  // ten levels a starfold, from 1 on; 0 is nobody's
 
   explicit StarfoldArrays(std::size_t folds)
       : StarfoldProf(folds),
@@ -80,9 +91,8 @@ struct StarfoldArrays {
         StarfoldVX(folds),
         StarfoldVY(folds),
         StarfoldVZ(folds),
-        StarfoldRelX(folds),
-        StarfoldRelY(folds),
-        StarfoldRelZ(folds) {}
+        StarfoldRel(folds),
+        Frames(folds * kMaxLevels + 1) {}
 };
 
 /// Per ambient star.

@@ -9,29 +9,29 @@
 namespace starfolds {
 namespace {
 
-SeedPoint PointOf(const StarArrays& stars, std::size_t i) {
+SeedPoint PointOf(const StarState& star) {
   SeedPoint point;
-  point.X = stars.StarX[i];
-  point.Y = stars.StarY[i];
-  point.Z = stars.StarZ[i];
-  point.VX = stars.StarVX[i];
-  point.VY = stars.StarVY[i];
-  point.VZ = stars.StarVZ[i];
-  point.SpinCos = stars.StarSpinCos[i];
-  point.SpinSin = stars.StarSpinSin[i];
+  point.X = star.StarX;
+  point.Y = star.StarY;
+  point.Z = star.StarZ;
+  point.VX = star.StarVX;
+  point.VY = star.StarVY;
+  point.VZ = star.StarVZ;
+  point.SpinCos = star.StarSpinCos;
+  point.SpinSin = star.StarSpinSin;
   return point;
 }
 
-void StorePoint(StarArrays& stars, std::size_t i, const SeedPoint& point) {
-  stars.StarX[i] = point.X;
-  stars.StarY[i] = point.Y;
-  stars.StarZ[i] = point.Z;
-  stars.StarVX[i] = point.VX;
-  stars.StarVY[i] = point.VY;
-  stars.StarVZ[i] = point.VZ;
-  stars.StarSpinCos[i] = point.SpinCos;
-  stars.StarSpinSin[i] = point.SpinSin;
-  stars.StarLevel[i] = point.Level;
+void StorePoint(StarState& star, const SeedPoint& point) {
+  star.StarX = point.X;
+  star.StarY = point.Y;
+  star.StarZ = point.Z;
+  star.StarVX = point.VX;
+  star.StarVY = point.VY;
+  star.StarVZ = point.VZ;
+  star.StarSpinCos = point.SpinCos;
+  star.StarSpinSin = point.SpinSin;
+  star.StarLevel = point.Level;
 }
 
 }  // namespace
@@ -52,22 +52,23 @@ void SeedByStyle(SeedPoint& point, const Body& body, BodySlots& slots, std::size
 }
 
 void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) {
-  stars.StarAge[i] = 0;
-  stars.StarWait[i] = 0;
-  stars.StarNewLeft[i] = 0;
-  stars.StarNovaLeft[i] = 0;
-  stars.StarPulsarLeft[i] = 0;
+  StarState& star = stars.Star[i];
+  star.StarAge = 0;
+  star.StarWait = 0;
+  star.StarNewLeft = 0;
+  star.StarNovaLeft = 0;
+  star.StarPulsarLeft = 0;
+  star.StarFrame = 0;
 
-  const int prof = stars.StarProf[i];
-  SeedPoint point = PointOf(stars, i);
-  SeedByStyle(point, Body(saver, prof), slots, static_cast<std::size_t>(stars.StarHome[i]));
-  StorePoint(stars, i, point);
+  const int prof = star.StarProf;
+  SeedPoint point = PointOf(star);
+  SeedByStyle(point, Body(saver, prof), slots, static_cast<std::size_t>(star.StarHome));
+  StorePoint(star, point);
 
-  const StarTint tint =
-      SeedColor(saver, prof, point.X, point.Y, point.Z, point.RotationStep, point.Span,
-                point.HueOffset, {stars.StarHue[i], stars.StarColor[i]});
-  stars.StarHue[i] = tint.StarHue;
-  stars.StarColor[i] = tint.StarColor;
+  const StarTint tint = SeedColor(saver, prof, point.X, point.Y, point.Z, point.RotationStep,
+                                  point.Span, point.HueOffset, {star.StarHue, star.StarColor});
+  star.StarHue = tint.StarHue;
+  star.StarColor = tint.StarColor;
 }
 
 }  // namespace starfolds

@@ -1,6 +1,6 @@
 // How a star moves in a frame and where it shows: the innermost code of the system. Everything here
-// is inline and free of branches that the compiler could not take out of a rotating star's way;
-// arithmetic runs in double and is stored as Singles.
+// is inline; a rotating star costs one predictable branch, no trigonometry and, in front of the
+// eye, one division. Arithmetic runs in double and is stored as Singles.
 #pragma once
 
 #include <cmath>
@@ -15,55 +15,53 @@ namespace starfolds {
 /// Keeps the squared distance from the core off zero in the attraction.
 inline constexpr double kSoftCore = 1e-09;
 
-inline void RotateStar(StarArrays& stars, std::size_t i) {
-  const double c = stars.StarSpinCos[i];
-  const double s = stars.StarSpinSin[i];
-  const double x = stars.StarX[i];
-  const double z = stars.StarZ[i];
-  stars.StarX[i] = static_cast<Single>(x * c - s * z);
-  stars.StarZ[i] = static_cast<Single>(z * c + s * x);
+inline void RotateStar(StarState& star) {
+  const double c = star.StarSpinCos;
+  const double s = star.StarSpinSin;
+  const double x = star.StarX;
+  const double z = star.StarZ;
+  star.StarX = static_cast<Single>(x * c - s * z);
+  star.StarZ = static_cast<Single>(z * c + s * x);
 }
 
-inline void DriftStar(StarArrays& stars, std::size_t i) {
-  stars.StarX[i] = static_cast<Single>(static_cast<double>(stars.StarX[i]) + stars.StarVX[i]);
-  stars.StarY[i] = static_cast<Single>(static_cast<double>(stars.StarY[i]) + stars.StarVY[i]);
-  stars.StarZ[i] = static_cast<Single>(static_cast<double>(stars.StarZ[i]) + stars.StarVZ[i]);
+inline void DriftStar(StarState& star) {
+  star.StarX += star.StarVX;
+  star.StarY += star.StarVY;
+  star.StarZ += star.StarVZ;
 }
 
-inline void AttractStar(StarArrays& stars, std::size_t i, const StarMotion& motion) {
-  const double x = stars.StarX[i];
-  const double y = stars.StarY[i];
-  const double z = stars.StarZ[i];
+inline void AttractStar(StarState& star, const StarMotion& motion) {
+  const double x = star.StarX;
+  const double y = star.StarY;
+  const double z = star.StarZ;
   const double k = -motion.RunForce / (z * z + x * x + y * y + kSoftCore);
-  stars.StarVX[i] = static_cast<Single>(stars.StarVX[i] + k * x);
-  stars.StarVY[i] = static_cast<Single>(stars.StarVY[i] + k * y);
-  stars.StarVZ[i] = static_cast<Single>(stars.StarVZ[i] + k * z);
-  DriftStar(stars, i);
+  star.StarVX = static_cast<Single>(star.StarVX + k * x);
+  star.StarVY = static_cast<Single>(star.StarVY + k * y);
+  star.StarVZ = static_cast<Single>(star.StarVZ + k * z);
+  DriftStar(star);
 }
 
 /// Ages the star, so that with trails, where every star ages by itself, a wave ages twice as fast.
-inline void WaveStar(StarArrays& stars, std::size_t i, const StarMotion& motion) {
-  const Long age = ++stars.StarAge[i];
-  stars.StarX[i] = static_cast<Single>(static_cast<double>(stars.StarX[i]) + stars.StarVX[i]);
-  const Single phase =
-      static_cast<Single>(static_cast<double>(stars.StarVY[i]) + motion.WavePhaseStep);
-  stars.StarVY[i] = phase;
+inline void WaveStar(StarState& star, const StarMotion& motion) {
+  ++star.StarAge;
+  star.StarX += star.StarVX;
+  star.StarVY += motion.WavePhaseStep;
   const double decay = motion.WaveDecay;
-  const double fading = decay > 0 ? decay / (age + decay) : 0;
-  stars.StarY[i] =
-      static_cast<Single>(motion.WaveAmplitude * std::sin(static_cast<double>(phase)) * fading);
-  stars.StarZ[i] = static_cast<Single>(static_cast<double>(stars.StarZ[i]) + stars.StarVZ[i]);
+  const double fading = decay > 0 ? decay / (star.StarAge + decay) : 0;
+  star.StarY = static_cast<Single>(motion.WaveAmplitude *
+                                   std::sin(static_cast<double>(star.StarVY)) * fading);
+  star.StarZ += star.StarVZ;
 }
 
-inline void MoveStar(StarArrays& stars, std::size_t i, const StarMotion& motion) {
+inline void MoveStar(StarState& star, const StarMotion& motion) {
   if (motion.RunMotion == Motion::Rotate) [[likely]] {
-    return RotateStar(stars, i);
+    return RotateStar(star);
   }
   switch (motion.RunMotion) {
     case Motion::Rotate: return;
-    case Motion::Drift: return DriftStar(stars, i);
-    case Motion::Attract: return AttractStar(stars, i, motion);
-    case Motion::Wave: return WaveStar(stars, i, motion);
+    case Motion::Drift: return DriftStar(star);
+    case Motion::Attract: return AttractStar(star, motion);
+    case Motion::Wave: return WaveStar(star, motion);
   }
 }
 
@@ -74,28 +72,56 @@ struct View {
   bool InFront() const { return Depth > kNearDepth; }
 };
 
-/// Tilts a star's place by its level and puts it where its starfold is.
-inline View ViewStar(const StarArrays& stars, std::size_t i, const StarMotion& motion,
-                     const StarfoldArrays& folds) {
-  const auto level = static_cast<std::size_t>(stars.StarLevel[i]);
-  const auto home = static_cast<std::size_t>(stars.StarHome[i]);
-  const double c = motion.LevelCos[level];
-  const double s = motion.LevelSin[level];
-  const double x = stars.StarX[i];
-  const double y = stars.StarY[i];
-  const double z = stars.StarZ[i];
-  const double depth = y * s + z * c + folds.StarfoldRelZ[home];
-  const double u = z * s - y * c;
-  if (motion.AxisPlane) return {u + folds.StarfoldRelX[home], x + folds.StarfoldRelY[home], depth};
-  return {x + folds.StarfoldRelX[home], u + folds.StarfoldRelY[home], depth};
+/// The place of a star of level-tilt (c, s), at `home` to the eye.
+inline View TiltStar(const StarState& star, double c, double s, bool axisPlane,
+                     const RelPlace& home) {
+  const double x = star.StarX;
+  const double y = star.StarY;
+  const double z = star.StarZ;
+  const double depth = y * s + z * c + home.Z;
+  const double across = z * s - y * c;
+  if (axisPlane) return {across + home.X, x + home.Y, depth};
+  return {x + home.X, across + home.Y, depth};
 }
+
+/// Tilts a star's place by its level and puts it where its starfold is.
+inline View ViewStar(const StarState& star, const StarMotion& motion, const StarfoldArrays& folds) {
+  const auto level = static_cast<std::size_t>(star.StarLevel);
+  return TiltStar(star, motion.LevelCos[level], motion.LevelSin[level], motion.AxisPlane,
+                  folds.StarfoldRel[static_cast<std::size_t>(star.StarHome)]);
+}
+
+/// What a projection needs of the display, ready to use.
+struct Lens {
+  double Focal, CentreX, CentreY;
+
+  explicit Lens(const Display& screen)
+      : Focal(screen.FocalPixels), CentreX(screen.CenterX), CentreY(screen.CenterY) {}
+};
 
 /// Where a view in front of the eye falls on the screen. A place that no Long holds leaves the
 /// former one on that axis.
-inline void ProjectView(const Display& screen, const View& view, Long& x, Long& y) {
-  const double f = screen.FocalPixels / view.Depth;
-  AssignRounded(x, view.X * f + screen.CenterX);
-  AssignRounded(y, view.Y * f + screen.CenterY);
+inline void ProjectView(const Lens& lens, const View& view, Long& x, Long& y) {
+  const double f = lens.Focal / view.Depth;
+  AssignRounded(x, view.X * f + lens.CentreX);
+  AssignRounded(y, view.Y * f + lens.CentreY);
+}
+
+/// Projects and plots a star in front of the eye, and notes the place.
+inline void PlotView(Surface::Pen& pen, const Lens& lens, const View& view, TrailPlace& trail,
+                     Colour colour) {
+  const double f = lens.Focal / view.Depth;
+  const std::int64_t x = RoundHalfEven(view.X * f + lens.CentreX);
+  const std::int64_t y = RoundHalfEven(view.Y * f + lens.CentreY);
+  if (pen.Holds(static_cast<std::uint64_t>(x), static_cast<std::uint64_t>(y))) [[likely]] {
+    trail.TrailX = static_cast<Long>(x);
+    trail.TrailY = static_cast<Long>(y);
+    pen.SetPixelWithin(trail.TrailX, trail.TrailY, colour);
+    return;
+  }
+  if (Fits<Long>(x)) trail.TrailX = static_cast<Long>(x);
+  if (Fits<Long>(y)) trail.TrailY = static_cast<Long>(y);
+  pen.SetPixelV(trail.TrailX, trail.TrailY, colour);
 }
 
 }  // namespace starfolds

@@ -8,14 +8,28 @@
 namespace starfolds {
 namespace {
 
-bool InFlare(const StarArrays& stars, std::size_t i) {
-  return (stars.StarNewLeft[i] | stars.StarNovaLeft[i] | stars.StarPulsarLeft[i]) != 0;
+const StarMotion& MotionOfStar(const FrameScene& scene, const StarState& star) {
+  return scene.Process.Prepared[static_cast<std::size_t>(star.StarProf)].Star;
+}
+
+/// Moves a hue by one frame and looks its colour up.
+void MoveHue(StarState& star, Single increment, const Colour* hueTable) {
+  const Single sum = star.StarHue + increment;
+  star.StarHue = sum >= 360 ? sum - 360 : sum;
+  star.StarColor = hueTable[RoundHue(star.StarHue)];
+}
+
+void AdvanceStarHue(const Saver& saver, StarState& star) {
+  const auto prof = static_cast<std::size_t>(star.StarProf);
+  const StarMotion& motion = saver.Prepared[prof].Star;
+  if (!motion.HueCycleOn) return;
+  MoveHue(star, motion.HWheelInc, saver.Colours.Profile[prof].HueTable.data());
 }
 
 /// Counts a nova or pulsar down. At its end the star is re-seeded and the answer is false.
 bool CountShellDown(const FrameScene& scene, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
-  Integer& left = stars.StarNovaLeft[i] > 0 ? stars.StarNovaLeft[i] : stars.StarPulsarLeft[i];
+  StarState& star = scene.Run.Stars.Star[i];
+  Integer& left = star.StarNovaLeft > 0 ? star.StarNovaLeft : star.StarPulsarLeft;
   --left;
   if (left > 0) return true;
   ReseedStar(scene, i);
@@ -23,55 +37,108 @@ bool CountShellDown(const FrameScene& scene, std::size_t i) {
 }
 
 void StepFlareWithoutTrail(const FrameScene& scene, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
+  StarState& star = scene.Run.Stars.Star[i];
   EraseFlare(scene, i);
-  if (stars.StarNewLeft[i] == 0) {
+  if (star.StarNewLeft == 0) {
     if (CountShellDown(scene, i)) MoveAndDrawShell(scene, i);
     return;
   }
   // At 0 it is a plain star from the next frame on, and its first erase falls on a stale place.
-  if (--stars.StarNewLeft[i] == 0) return;
-  const StarMotion& motion = scene.Process.Prepared[stars.StarProf[i]].Star;
-  MoveStar(stars, i, motion);
-  PlaceAndDrawNewStar(scene, i, ViewStar(stars, i, motion, scene.Run.Folds));
+  if (--star.StarNewLeft == 0) return;
+  const StarMotion& motion = MotionOfStar(scene, star);
+  MoveStar(star, motion);
+  PlaceAndDrawNewStar(scene, i, ViewStar(star, motion, scene.Run.Folds));
 }
 
-/// The loop of the common case: a plain star costs two pixels.
-void StepStarsWithoutTrails(const FrameScene& scene) {
+/// The frame of reference that a settled star can share with others; 0 where its body does not
+/// rotate, or is a composite and holds stars of several profiles.
+Long SharedFrame(const FrameScene& scene, const StarState& star) {
+  const Integer home = star.StarHome;
+  const bool shared = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(home)] == star.StarProf;
+  if (!shared || MotionOfStar(scene, star).RunMotion != Motion::Rotate) return 0;
+  return home * kMaxLevels + star.StarLevel + 1;
+}
+
+/// Notes for each level of the starfolds that rotate what its stars share in this frame.
+void FillFrames(const FrameScene& scene) {
+  StarfoldArrays& folds = scene.Run.Folds;
+  for (std::size_t home = 0; home < folds.StarfoldProf.size(); ++home) {
+    const Integer entry = folds.StarfoldProf[home];
+    if (IsComposite(entry)) continue;
+    const PreparedProfile& run = scene.Process.Prepared[static_cast<std::size_t>(entry)];
+    for (int level = 0; level < run.RunLevels; ++level) {
+      folds.Frames[home * kMaxLevels + static_cast<std::size_t>(level) + 1] = {
+          folds.StarfoldRel[home],
+          run.Star.LevelCos[level],
+          run.Star.LevelSin[level],
+          run.Star.HueCycleOn ? scene.Process.Colours.Profile[entry].HueTable.data() : nullptr,
+          run.Star.HWheelInc,
+          run.Star.AxisPlane};
+    }
+  }
+}
+
+/// A star in flare, one that moves by another rule than rotation, or one that was seeded in the
+/// last frame.
+void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   StarArrays& stars = scene.Run.Stars;
-  const PreparedArray& prepared = scene.Process.Prepared;
-  const StarfoldArrays& folds = scene.Run.Folds;
-  const Display& screen = scene.Process.Screen;
-  Surface& surface = *screen.hDCDraw;
-  const std::size_t count = stars.StarX.size();
+  StarState& star = stars.Star[i];
+  if (star.InFlare()) {
+    StepFlareWithoutTrail(scene, i);
+    return AdvanceStarHue(scene.Process, star);
+  }
+  Surface::Pen pen(*scene.Process.Screen.hDCDraw);
+  TrailPlace& trail = stars.Trail[i];
+  pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
+  const StarMotion& motion = MotionOfStar(scene, star);
+  MoveStar(star, motion);
+  const View view = ViewStar(star, motion, scene.Run.Folds);
+  if (view.InFront()) {
+    PlotView(pen, Lens(scene.Process.Screen), view, trail, star.StarColor);
+  }
+  star.StarFrame = SharedFrame(scene, star);
+  AdvanceStarHue(scene.Process, star);
+}
+
+/// The loop of the common case. A settled star of a rotating body costs two pixels, and what it
+/// shares with the rest of its body is made ready once a frame.
+void StepStarsWithoutTrails(const FrameScene& scene) {
+  FillFrames(scene);
+  StarArrays& stars = scene.Run.Stars;
+  const BodyFrame* const frames = scene.Run.Folds.Frames.data();
+  Surface::Pen pen(*scene.Process.Screen.hDCDraw);
+  const Lens lens(scene.Process.Screen);
+  const std::size_t count = stars.Star.size();
   for (std::size_t i = 0; i < count; ++i) {
-    if (InFlare(stars, i)) [[unlikely]] {
-      StepFlareWithoutTrail(scene, i);
+    StarState& star = stars.Star[i];
+    if (star.StarFrame == 0) [[unlikely]] {
+      StepStarTheLongWay(scene, i);
       continue;
     }
-    surface.SetPixelV(stars.TrailX[i], stars.TrailY[i], 0);
-    const StarMotion& motion = prepared[stars.StarProf[i]].Star;
-    MoveStar(stars, i, motion);
-    const View view = ViewStar(stars, i, motion, folds);
-    if (!view.InFront()) continue;
-    ProjectView(screen, view, stars.TrailX[i], stars.TrailY[i]);
-    surface.SetPixelV(stars.TrailX[i], stars.TrailY[i], stars.StarColor[i]);
+    TrailPlace& trail = stars.Trail[i];
+    pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
+    RotateStar(star);
+    const BodyFrame& frame = frames[star.StarFrame];
+    const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
+    if (view.InFront()) PlotView(pen, lens, view, trail, star.StarColor);
+    if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);
   }
 }
 
 /// A nova or pulsar with trails; the profile of a star that is re-seeded here is drawn once more.
 void StepShellWithTrail(const FrameScene& scene, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
   if (CountShellDown(scene, i)) return MoveAndDrawShell(scene, i);
-  stars.StarProf[i] = PickProfile(scene.Process, scene.Run.Folds.StarfoldProf[stars.StarHome[i]]);
+  StarState& star = scene.Run.Stars.Star[i];
+  star.StarProf = PickProfile(
+      scene.Process, scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)]);
 }
 
 /// A star that waits for its trail to drain neither moves nor shows. True while that is so.
 bool StepWaiting(const FrameScene& scene, const TourPlace& place, double crossFade, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
-  if (stars.StarWait[i] == 0) return false;
-  if (--stars.StarWait[i] == 0) {
-    stars.StarHome[i] = ChooseHome(scene, place, crossFade);
+  StarState& star = scene.Run.Stars.Star[i];
+  if (star.StarWait == 0) return false;
+  if (--star.StarWait == 0) {
+    star.StarHome = ChooseHome(scene, place, crossFade);
     ReseedStar(scene, i);
   }
   return true;
@@ -79,34 +146,33 @@ bool StepWaiting(const FrameScene& scene, const TourPlace& place, double crossFa
 
 void StepStarsWithTrails(const FrameScene& scene, const TourPlace& place, double crossFade) {
   StarArrays& stars = scene.Run.Stars;
-  const PreparedArray& prepared = scene.Process.Prepared;
   const StarfoldArrays& folds = scene.Run.Folds;
-  const Display& screen = scene.Process.Screen;
-  Surface& surface = *screen.hDCDraw;
-  const std::size_t count = stars.StarX.size();
-  const auto trail = static_cast<std::size_t>(scene.Process.Universe.Universe_STrail);
-  std::size_t slot = static_cast<std::size_t>(scene.Run.TrailHead);
-  for (std::size_t i = 0; i < count; ++i, slot += trail) {
-    ++stars.StarAge[i];
-    if (InFlare(stars, i)) [[unlikely]] {
+  Surface::Pen pen(*scene.Process.Screen.hDCDraw);
+  const Lens lens(scene.Process.Screen);
+  const auto length = static_cast<std::size_t>(scene.Process.Universe.Universe_STrail);
+  auto slot = static_cast<std::size_t>(scene.Run.TrailHead);
+  for (std::size_t i = 0; i < stars.Star.size(); ++i, slot += length) {
+    StarState& star = stars.Star[i];
+    TrailPlace& trail = stars.Trail[slot];
+    ++star.StarAge;
+    if (star.InFlare()) [[unlikely]] {
       EraseFlare(scene, i);
-      if (stars.StarNewLeft[i] > 0) --stars.StarNewLeft[i];
+      if (star.StarNewLeft > 0) --star.StarNewLeft;
     } else {
-      surface.SetPixelV(stars.TrailX[slot], stars.TrailY[slot], 0);
+      pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
     }
     if (StepWaiting(scene, place, crossFade, i)) continue;
-    if (stars.StarNovaLeft[i] > 0 || stars.StarPulsarLeft[i] > 0) {
+    if (star.StarNovaLeft > 0 || star.StarPulsarLeft > 0) {
       StepShellWithTrail(scene, i);
       continue;
     }
-    const StarMotion& motion = prepared[stars.StarProf[i]].Star;
-    MoveStar(stars, i, motion);
-    const View view = ViewStar(stars, i, motion, folds);
-    if (stars.StarNewLeft[i] > 0) {
+    const StarMotion& motion = MotionOfStar(scene, star);
+    MoveStar(star, motion);
+    const View view = ViewStar(star, motion, folds);
+    if (star.StarNewLeft > 0) {
       PlaceAndDrawNewStar(scene, i, view);
     } else if (view.InFront()) {
-      ProjectView(screen, view, stars.TrailX[slot], stars.TrailY[slot]);
-      surface.SetPixelV(stars.TrailX[slot], stars.TrailY[slot], stars.StarColor[i]);
+      PlotView(pen, lens, view, trail, star.StarColor);
     }
   }
 }
@@ -134,14 +200,16 @@ void RecycleStars(const FrameScene& scene, const TourPlace& place, const Recycli
   const int count = RecycleCount(recycling.Quota, scene.Process.Random);
   for (int n = 0; n < count; ++n) {
     const auto j = static_cast<std::size_t>(
-        DrawBelow(scene.Process.Random, static_cast<int>(stars.StarX.size())));
-    if (InFlare(stars, j)) continue;
+        DrawBelow(scene.Process.Random, static_cast<int>(stars.Star.size())));
+    StarState& star = stars.Star[j];
+    if (star.InFlare()) continue;
     if (trail == 1) {
-      scene.Process.Screen.hDCDraw->SetPixelV(stars.TrailX[j], stars.TrailY[j], 0);
-      stars.StarHome[j] = ChooseHome(scene, place, recycling.CrossFade);
+      scene.Process.Screen.hDCDraw->SetPixelV(stars.Trail[j].TrailX, stars.Trail[j].TrailY, 0);
+      star.StarHome = ChooseHome(scene, place, recycling.CrossFade);
       ReseedStar(scene, j);
-    } else if (stars.StarAge[j] > trail && stars.StarWait[j] == 0) {
-      stars.StarWait[j] = static_cast<Integer>(trail + 1);
+      AdvanceStarHue(scene.Process, star);
+    } else if (star.StarAge > trail && star.StarWait == 0) {
+      star.StarWait = static_cast<Integer>(trail + 1);
     }
   }
 }
@@ -189,18 +257,8 @@ Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double cross
   return crossFade <= random() ? place.VisitIdx : static_cast<Integer>(place.VisitIdx - 1);
 }
 
-void AdvanceStarHues(Saver& saver, StarArrays& stars) {
-  const std::size_t count = stars.StarHue.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    const auto prof = static_cast<std::size_t>(stars.StarProf[i]);
-    const StarMotion& motion = saver.Prepared[prof].Star;
-    if (!motion.HueCycleOn) continue;
-    const double sum = static_cast<double>(stars.StarHue[i]) + motion.HWheelInc;
-    const Single hue = static_cast<Single>(sum >= 360 ? sum - 360 : sum);
-    stars.StarHue[i] = hue;
-    const std::int64_t degree = RoundHalfEven(hue);
-    stars.StarColor[i] = saver.Colours.Profile[prof].HueTable[degree == 360 ? 0 : degree];
-  }
+void AdvanceStarHues(const Saver& saver, StarArrays& stars) {
+  for (StarState& star : stars.Star) AdvanceStarHue(saver, star);
 }
 
 void StarStep(const FrameScene& scene, const TourPlace& place) {
@@ -209,14 +267,16 @@ void StarStep(const FrameScene& scene, const TourPlace& place) {
   if (trail == 1) {
     StepStarsWithoutTrails(scene);
     StepComets(scene, place);
+    RecycleStars(scene, place, recycling);
+    DriftCometHues(scene.Process);
   } else {
     StepStarsWithTrails(scene, place, recycling.CrossFade);
     StepComets(scene, place);
     scene.Run.TrailHead = static_cast<Integer>((scene.Run.TrailHead + 1) % trail);
+    RecycleStars(scene, place, recycling);
+    DriftCometHues(scene.Process);
+    AdvanceStarHues(scene.Process, scene.Run.Stars);
   }
-  RecycleStars(scene, place, recycling);
-  DriftCometHues(scene.Process);
-  AdvanceStarHues(scene.Process, scene.Run.Stars);
 }
 
 }  // namespace starfolds

@@ -34,6 +34,6 @@ int RecycleCount(Long quota, Rnd& random);
 Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double crossFade);
 
 /// Moves the hue of every star whose profile cycles, and looks its colour up anew.
-void AdvanceStarHues(Saver& saver, StarArrays& stars);
+void AdvanceStarHues(const Saver& saver, StarArrays& stars);
 
 }  // namespace starfolds

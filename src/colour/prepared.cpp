@@ -176,6 +176,14 @@ void PrepareComposites(Saver& saver) {
   }
 }
 
+/// Sets the angle of one level, in radians.
+void SetLevelTilt(PreparedProfile& run, int level, Single angle) {
+  StarMotion& star = run.Star;
+  run.LevelTilt[level] = angle;
+  star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(angle)));
+  star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(angle)));
+}
+
 /// Takes whole turns off an angle that has run past one.
 Single WithinTurn(double angle) {
   return static_cast<Single>(angle > kTwoPi ? angle - kTwoPi : angle);
@@ -215,11 +223,7 @@ void PrepareProfiles(Saver& saver) {
 }
 
 void ResetAngles(PreparedProfile& run, const StarfoldProfile& profile) {
-  for (int level = 0; level < run.RunLevels; ++level) {
-    run.LevelTilt[level] = -run.RunTilt;
-    run.Star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(-run.RunTilt)));
-    run.Star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(-run.RunTilt)));
-  }
+  for (int level = 0; level < run.RunLevels; ++level) SetLevelTilt(run, level, -run.RunTilt);
   run.SpinPhase = 0;
   run.SweepPhase = 0;
   run.SweepCos = 1;
@@ -232,10 +236,7 @@ void AdvanceAngles(Saver& saver) {
     for (int level = 0; level < run.RunLevels; ++level) {
       const double step = run.LevelTiltStep[level];
       if (step == 0) continue;  // a body that does not tumble keeps its cosine and sine
-      const Single tilt = WithinTurn(run.LevelTilt[level] + step);
-      run.LevelTilt[level] = tilt;
-      run.Star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(tilt)));
-      run.Star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(tilt)));
+      SetLevelTilt(run, level, WithinTurn(run.LevelTilt[level] + step));
     }
     const double hue = static_cast<double>(run.HueWheel) + run.Star.HWheelInc;
     run.HueWheel = static_cast<Single>(hue >= 360 ? hue - 360 : hue);

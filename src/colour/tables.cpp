@@ -95,6 +95,7 @@ void BuildHueWheel(std::array<Colour, 361>& table, const StarfoldProfile& profil
     table[hue] = HueSector(hue, base, full, rising, falling, profile.Starfold_HueRed,
                            profile.Starfold_HueGrn, profile.Starfold_HueBlu);
   }
+  table[360] = table[0];
 }
 
 void BuildFlareTable(FlareTable& table, int startHue, int endHue) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 
 #include "platform/surface.h"
 #include "settings/records.h"
@@ -17,7 +18,7 @@ using FlareTable = std::array<Colour, kFlareSteps + 1>;
 
 /// The tables of one profile.
 struct ProfileColours {
-  std::array<Colour, 361> HueTable{};  // by hue in degrees; 360 stays black
+  std::array<Colour, 361> HueTable{};  // by hue in degrees; 360 is 0 again
   FlareTable NovaRamp{};
   std::array<Colour, kMaxFlareFrames> NewColors{};     // grey by frames left of a new star
   std::array<Colour, kMaxFlareFrames> PulsarColors{};  // by step of the pulsar's cycle
@@ -28,6 +29,11 @@ struct ColourTables {
   std::array<ProfileColours, kProfileCount> Profile;
   FlareTable UniverseFlare{};
 };
+
+/// The row of `HueTable` for a hue of 0 to 360 degrees.
+inline std::size_t RoundHue(Single hue) {
+  return static_cast<std::size_t>(static_cast<unsigned>(std::lrint(hue)));
+}
 
 /// Packs three channels, each held at 0 and 255.
 Colour PackRgb(int red, int green, int blue);

@@ -31,17 +31,49 @@ class Surface {
   int Height() const { return static_cast<int>(height_); }
 
   /// Writes one pixel. Coordinates off the surface do nothing, whatever they are.
-  void SetPixelV(Long x, Long y, Colour colour) {
-    const auto column = static_cast<std::uint32_t>(x);
-    const auto row = static_cast<std::uint32_t>(y);
-    if (column >= width_ || row >= height_) return;
-    pixels_[static_cast<std::size_t>(row) * width_ + column] = colour;
-    if (journalSize_ < journal_.size()) {
-      journal_[journalSize_++] = row << 16U | column;
-    } else {
-      everythingChanged_ = true;
+  void SetPixelV(Long x, Long y, Colour colour) { Pen(*this).SetPixelV(x, y, colour); }
+
+  /// The writer of pixels. A loop that writes many keeps one, so that the surface's measures stay
+  /// in registers; it is good until the surface takes another size.
+  class Pen {
+   public:
+    explicit Pen(Surface& surface)
+        : surface_(surface),
+          pixels_(surface.pixels_.data()),
+          width_(surface.width_),
+          height_(surface.height_),
+          journal_(surface.journal_.data()),
+          journalCapacity_(surface.journal_.size()) {}
+
+    void SetPixelV(Long x, Long y, Colour colour) {
+      if (Holds(static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y))) {
+        SetPixelWithin(x, y, colour);
+      }
     }
-  }
+
+    /// Whether a place is on the surface; negative coordinates come as large ones.
+    bool Holds(std::uint64_t x, std::uint64_t y) const { return x < width_ && y < height_; }
+
+    /// `SetPixelV` for a place that the surface holds.
+    void SetPixelWithin(Long x, Long y, Colour colour) {
+      const auto column = static_cast<std::uint32_t>(x);
+      const auto row = static_cast<std::uint32_t>(y);
+      pixels_[static_cast<std::size_t>(row) * width_ + column] = colour;
+      if (surface_.journalSize_ < journalCapacity_) {
+        journal_[surface_.journalSize_++] = row << 16U | column;
+      } else {
+        surface_.everythingChanged_ = true;
+      }
+    }
+
+   private:
+    Surface& surface_;
+    Colour* pixels_;
+    std::size_t width_;
+    std::size_t height_;
+    PixelPlace* journal_;
+    std::size_t journalCapacity_;
+  };
 
   /// The colour at a place on the surface; 0 (black) off it.
   Colour Pixel(Long x, Long y) const;

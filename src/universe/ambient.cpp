@@ -49,7 +49,7 @@ void DrawAmbientStar(const AmbientScene& scene, std::size_t i, const TourPoint& 
   const View view{static_cast<double>(stars.AmbX[i]) - eye.X,
                   static_cast<double>(stars.AmbY[i]) - eye.Y, stars.AmbDepth[i]};
   if (!view.InFront()) return;
-  ProjectView(screen, view, stars.AmbScrX[i], stars.AmbScrY[i]);
+  ProjectView(Lens(screen), view, stars.AmbScrX[i], stars.AmbScrY[i]);
   if (stars.AmbLeft[i] > 0) {
     const int frame = universe.Universe_AmFrames - stars.AmbLeft[i];
     PlotNew(screen, stars.AmbScrX[i], stars.AmbScrY[i], stars.AmbDepth[i], stars.AmbLeft[i],

@@ -126,9 +126,7 @@ void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
     birth.FoldVX[i] *= birth.CreationDamp;
     birth.FoldVY[i] *= birth.CreationDamp;
     birth.FoldVZ[i] *= birth.CreationDamp;
-    folds.StarfoldRelX[i] = folds.StarfoldX[i];
-    folds.StarfoldRelY[i] = folds.StarfoldY[i];
-    folds.StarfoldRelZ[i] = folds.StarfoldZ[i] + distance;
+    folds.StarfoldRel[i] = {folds.StarfoldX[i], folds.StarfoldY[i], folds.StarfoldZ[i] + distance};
   }
 }
 
@@ -136,10 +134,10 @@ void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
 void SettleStar(UniverseScene& scene, std::size_t i) {
   Saver& saver = scene.Process;
   StarArrays& stars = scene.Run.Stars;
-  stars.StarHome[i] =
-      static_cast<Integer>(DrawBelow(saver.Random, saver.Universe.Universe_Starfold));
-  stars.StarProf[i] =
-      PickProfile(saver, scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(stars.StarHome[i])]);
+  const int home = DrawBelow(saver.Random, saver.Universe.Universe_Starfold);
+  stars.Star[i].StarHome = static_cast<Integer>(home);
+  stars.Star[i].StarProf =
+      PickProfile(saver, scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(home)]);
   SeedStar(saver, stars, scene.Run.Slots, i);
 }
 
@@ -150,7 +148,8 @@ class BirthFrame {
       : scene_(scene),
         birth_(birth),
         stars_(scene.Run.Stars),
-        screen_(scene.Process.Screen),
+        pen_(*scene.Process.Screen.hDCDraw),
+        lens_(scene.Process.Screen),
         trail_(scene.Process.Universe.Universe_STrail),
         frame_(frame) {
     const double step = static_cast<double>(kFlareSteps) / scene.Process.Universe.Universe_ESteps;
@@ -175,13 +174,12 @@ class BirthFrame {
 
  private:
   void Wipe(std::size_t ring) {
-    screen_.hDCDraw->SetPixelV(stars_.TrailX[ring], stars_.TrailY[ring], 0);
+    pen_.SetPixelV(stars_.Trail[ring].TrailX, stars_.Trail[ring].TrailY, 0);
   }
 
   void Plot(std::size_t ring, const View& view, Colour colour) {
     if (!view.InFront()) return;
-    ProjectView(screen_, view, stars_.TrailX[ring], stars_.TrailY[ring]);
-    screen_.hDCDraw->SetPixelV(stars_.TrailX[ring], stars_.TrailY[ring], colour);
+    PlotView(pen_, lens_, view, stars_.Trail[ring], colour);
   }
 
   void FlyOn(std::size_t i, std::size_t ring) {
@@ -209,18 +207,20 @@ class BirthFrame {
   }
 
   void LiveOn(std::size_t i, std::size_t ring) {
-    ++stars_.StarAge[i];
+    StarState& star = stars_.Star[i];
+    ++star.StarAge;
     Wipe(ring);
     const StarMotion& motion =
-        scene_.Process.Prepared[static_cast<std::size_t>(stars_.StarProf[i])].Star;
-    MoveStar(stars_, i, motion);
-    Plot(ring, ViewStar(stars_, i, motion, scene_.Run.Folds), stars_.StarColor[i]);
+        scene_.Process.Prepared[static_cast<std::size_t>(star.StarProf)].Star;
+    MoveStar(star, motion);
+    Plot(ring, ViewStar(star, motion, scene_.Run.Folds), star.StarColor);
   }
 
   UniverseScene& scene_;
   Birth& birth_;
   StarArrays& stars_;
-  const Display& screen_;
+  Surface::Pen pen_;
+  Lens lens_;
   Integer trail_;
   int frame_;
   Colour flightColor_ = 0;
@@ -280,7 +280,7 @@ void StopAmbientStars(AmbientArrays& ambient) {
 void CreateUniverse(UniverseScene& scene) {
   Saver& saver = scene.Process;
   const UniverseSettings& universe = saver.Universe;
-  Birth birth(scene.Run.Stars.StarX.size(), scene.Run.Folds.StarfoldX.size());
+  Birth birth(scene.Run.Stars.Star.size(), scene.Run.Folds.StarfoldX.size());
   AssignRounded(birth.MinFlightFrames, universe.Universe_ESteps * 0.25);
   birth.CreationDamp = universe.Universe_Damping;
 

@@ -25,12 +25,13 @@ void SeedBody(const FrameScene& scene, Integer body, bool isComposite) {
   Saver& saver = scene.Process;
   StarArrays& stars = scene.Run.Stars;
   const CompositeProfile* composite = isComposite ? &saver.Composites[body] : nullptr;
-  for (std::size_t i = 0; i < stars.StarX.size(); ++i) {
-    stars.StarHome[i] = 0;
-    stars.StarProf[i] = body;
+  for (std::size_t i = 0; i < stars.Star.size(); ++i) {
+    stars.Star[i].StarHome = 0;
+    stars.Star[i].StarProf = body;
     if (composite) {
       const int member = DrawBelow(saver.Random, composite->MemberCount());
-      stars.StarProf[i] = ClampTo<Integer>(composite->CompFold_Type[member], 0, kProfileCount - 1);
+      stars.Star[i].StarProf =
+          ClampTo<Integer>(composite->CompFold_Type[member], 0, kProfileCount - 1);
     }
     SeedStar(saver, stars, scene.Run.Slots, i);
   }
@@ -46,7 +47,7 @@ void SingleBodyRun(Saver& saver, Integer body, bool limitFrames, Integer frameLi
   const Integer entry = isComposite ? static_cast<Integer>(body + kFirstComposite) : body;
   const Integer visited = ResolveProfile(saver, entry);
   run.Folds.StarfoldProf[0] = entry;
-  run.Folds.StarfoldRelZ[0] = saver.Prepared[visited].RunDistance;
+  run.Folds.StarfoldRel[0] = {0, 0, saver.Prepared[visited].RunDistance};
   run.Comets.CometCount = CometRoom(saver.Profiles[visited].Starfold_CometStars);
   InitBodies(saver, run.Slots, run.Folds.StarfoldProf);
 

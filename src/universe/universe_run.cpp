@@ -52,10 +52,9 @@ void StepGravityOfFrame(UniverseTour& tour) {
 }
 
 void PlaceStarfoldsToEye(StarfoldArrays& folds, const TourPoint& eye) {
-  for (std::size_t i = 0; i < folds.StarfoldX.size(); ++i) {
-    folds.StarfoldRelX[i] = folds.StarfoldX[i] - eye.X;
-    folds.StarfoldRelY[i] = folds.StarfoldY[i] - eye.Y;
-    folds.StarfoldRelZ[i] = folds.StarfoldZ[i] - eye.Z;
+  for (std::size_t i = 0; i < folds.StarfoldRel.size(); ++i) {
+    folds.StarfoldRel[i] = {folds.StarfoldX[i] - eye.X, folds.StarfoldY[i] - eye.Y,
+                            folds.StarfoldZ[i] - eye.Z};
   }
 }
 

@@ -1,0 +1,91 @@
+// Named scenes that tests, benchmarks and pictures share: a process state with a memory surface, a
+// counted clock and a seed, ready to run.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "bodies/seed_star.h"
+#include "bodies/star_step.h"
+#include "colour/saver.h"
+#include "universe/host_surface.h"
+
+namespace starfolds::scenes {
+
+/// A memory surface that runs `OnFrame` once a frame.
+class WatchedSurface : public MemorySurface {
+ public:
+  using MemorySurface::MemorySurface;
+  std::function<void()> OnFrame;
+
+  void Present() override {
+    MemorySurface::Present();
+    if (OnFrame) OnFrame();
+  }
+};
+
+/// A saver process in memory. `Settings()` may be changed until `Read()`.
+class Stage {
+ public:
+  explicit Stage(Integer width = 640, Integer height = 360, std::uint64_t seed = 1)
+      : Canvas(width, height) {
+    Process->Events = &Clock;
+    Process->Desktop = &Desktop;
+    SetupDisplay(*Process, Canvas, seed);
+  }
+
+  SettingsRecords& Settings() { return Process->Stored; }
+
+  /// Reads the settings for a run.
+  void Read(bool smallPreview = false) { ReadUniverseSettings(*Process, smallPreview); }
+
+  /// Makes the run stop after so many frames.
+  void StopAfter(int frames) {
+    Canvas.OnFrame = [this, frames] {
+      if (++FramesShown >= frames) Process->StopRun = true;
+    };
+  }
+
+  // Large; kept off the stack.
+  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  WatchedSurface Canvas;
+  CountedPump Clock;
+  MemoryDesktop Desktop;
+  int FramesShown = 0;
+};
+
+/// One body of profile 0, seeded and straight ahead, whose frames the caller steps one by one.
+class BodyStage : public Stage {
+ public:
+  BodyStage(Integer width, Integer height, Integer stars, Integer trail = 1,
+            const std::function<void(SettingsRecords&)>& change = {})
+      : Stage(width, height) {
+    Settings().Universe.Universe_Stars = stars;
+    Settings().Universe.Universe_STrail = trail;
+    if (change) change(Settings());
+    Read();
+    PrepareProfiles(*Process);
+    Process->Universe.Universe_Starfold = 1;
+    Run = std::make_unique<RunArrays>(Process->Universe, Integer{1}, Integer{0});
+    Run->Folds.StarfoldRel[0] = {0, 0, Process->Prepared[0].RunDistance};
+    InitBodies(*Process, Run->Slots, Run->Folds.StarfoldProf);
+    for (std::size_t i = 0; i < Run->Stars.Star.size(); ++i) {
+      SeedStar(*Process, Run->Stars, Run->Slots, i);
+    }
+    MarkHueCycling(*Process);
+    BuildPulsarTables(*Process);
+    BuildNewStarRamp(*Process);
+  }
+
+  FrameScene Frame() { return {*Process, *Run, 1}; }
+
+  void Step() {
+    AdvanceAngles(*Process);
+    StarStep(Frame(), {0, 0, 32000, 0, false});
+  }
+
+  std::unique_ptr<RunArrays> Run;
+};
+
+}  // namespace starfolds::scenes
