@@ -1,0 +1,158 @@
+#include "colour/prepared.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "colour/saver.h"
+
+namespace starfolds {
+namespace {
+
+constexpr double kDegree = std::numbers::pi / 180;
+
+class Prepared : public ::testing::Test {
+ protected:
+  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  StarfoldProfile& First() { return Process->Profiles[0]; }
+  PreparedProfile& Run() { return Process->Prepared[0]; }
+
+  void Randomize(Integer magnitude, Integer exponent) {
+    AdvancedSettings& advanced = Process->Stored.Advanced;
+    advanced.Adv_Randomize = true;
+    advanced.Adv_RandomMag = magnitude;
+    advanced.Adv_RandomExp = exponent;
+  }
+};
+
+TEST_F(Prepared, UnitsAreConvertedOnce) {
+  First().Starfold_Radius = 250;
+  First().Starfold_Rotation = 2000;
+  First().Starfold_RadSegs = 8;
+  PrepareProfiles(*Process);
+  EXPECT_FLOAT_EQ(Run().RunRadius, 2.5F);
+  EXPECT_FLOAT_EQ(Run().RunRadiusSq, 6.25F);
+  EXPECT_FLOAT_EQ(Run().RunRadiusTenth, 0.025F);
+  EXPECT_FLOAT_EQ(Run().RunSpin, 0.002F);
+  EXPECT_FLOAT_EQ(Run().RunSpin8, 0.016F);
+  EXPECT_NEAR(Run().RunCoreSpin, std::sqrt(1 / 2.5) * 2 * std::numbers::pi * 0.002, 1e-7);
+  EXPECT_NEAR(Run().RunSegAngle, std::numbers::pi / 4, 1e-6);
+  EXPECT_NEAR(Run().RunTilt, -170 * kDegree, 1e-5);
+}
+
+TEST_F(Prepared, ForceDependsOnTheStyle) {
+  First().Starfold_QG_Force = 5;
+  First().Starfold_FoldStyle = 5;
+  Process->Profiles[1].Starfold_QG_Force = 5;
+  Process->Profiles[1].Starfold_FoldStyle = 6;
+  PrepareProfiles(*Process);
+  EXPECT_FLOAT_EQ(Run().Star.RunForce, 0.05F);
+  EXPECT_FLOAT_EQ(Process->Prepared[1].Star.RunForce, 0.0005F);
+}
+
+TEST_F(Prepared, OnlyTheStandardStyleHasLevels) {
+  First().Starfold_StdLevels = 4;
+  First().Starfold_StdLevDRad = 200;
+  Process->Profiles[1].Starfold_StdLevels = 4;
+  Process->Profiles[1].Starfold_FoldStyle = 5;
+  PrepareProfiles(*Process);
+  EXPECT_EQ(Run().RunLevels, 4);
+  EXPECT_FLOAT_EQ(Run().RunMaxRadius, 9.0F) << "three steps of 2 beyond the radius of 3";
+  EXPECT_EQ(Process->Prepared[1].RunLevels, 1);
+  EXPECT_EQ(Process->Profiles[1].Starfold_StdLevels, 1) << "written back to the record";
+}
+
+TEST_F(Prepared, TiltStepsTaperAndAlternate) {
+  First().Starfold_StdLevels = 4;
+  First().Starfold_AngleTInc = 8;
+  First().Starfold_StdLevB_A1 = 1;
+  First().Starfold_StdLevB_A0 = 1;
+  PrepareProfiles(*Process);
+  const double expected[] = {8, -6, 4, -2};
+  for (int i = 0; i < 4; ++i) EXPECT_NEAR(Run().LevelTiltStep[i], expected[i] * kDegree, 1e-5) << i;
+}
+
+TEST_F(Prepared, ATiltBeyondHalfATurnTapersBackward) {
+  First().Starfold_StdLevels = 2;
+  First().Starfold_AngleTInc = 352;
+  First().Starfold_StdLevB_A1 = 1;
+  PrepareProfiles(*Process);
+  EXPECT_NEAR(Run().LevelTiltStep[0], 352 * kDegree, 1e-5);
+  EXPECT_NEAR(Run().LevelTiltStep[1], 356 * kDegree, 1e-5) << "half of eight degrees back";
+}
+
+TEST_F(Prepared, ARandomFactorMultipliesOrDivides) {
+  Randomize(5, 2);
+  // Profile 0: size times 1 + 0.25 * 4, speed by 1 + 1/16 * 4.
+  const std::array<Single, 4> draws{0.5F, 0.1F, 0.25F, 0.9F};
+  Process->Random.Script(draws);
+  PrepareProfiles(*Process);
+  EXPECT_FLOAT_EQ(Run().RunRadius, 3.0F * 2);
+  EXPECT_FLOAT_EQ(Run().RunDistance, 4.0F * 2);
+  EXPECT_FLOAT_EQ(Run().RunSpin, 0.0005F / 1.25F);
+  EXPECT_FLOAT_EQ(Run().RunCometOrbit, 0.001F / 1.25F);
+  EXPECT_FLOAT_EQ(Run().Star.WaveAmplitude, 0.3F * 3.0F) << "the wave's height keeps its size";
+}
+
+TEST_F(Prepared, EveryProfileDrawsFourTimesWhetherUsedOrNot) {
+  Randomize(5, 2);
+  const std::array<Single, 201> draws{};
+  Process->Random.Script(draws);
+  PrepareProfiles(*Process);
+  EXPECT_EQ(Process->Random.ScriptedDrawsLeft(), 1U);
+}
+
+TEST_F(Prepared, AMagnitudeOfOneChangesNothing) {
+  PrepareProfiles(*Process);
+  const Single radius = Run().RunRadius;
+  Randomize(1, 1);
+  PrepareProfiles(*Process);
+  EXPECT_EQ(Run().RunRadius, radius);
+}
+
+TEST_F(Prepared, RecordsAreMeasuredFromTheirCentreInTenthsOfTheRadius) {
+  First().Starfold_Radius = 1000;
+  First().Starfold_FoldStyle = 8;
+  First().Starfold_IFS_Points = 2;
+  First().IFS.IFS_CenterX = 500;
+  First().IFS.Points[0].IFS_LocX = 1500;
+  First().IFS.Points[0].IFS_Scale = 33;
+  First().IFS.Points[0].IFS_RelPct = 4;
+  First().IFS.Points[1].IFS_RelPct = 2;
+  PrepareProfiles(*Process);
+  EXPECT_FLOAT_EQ(Run().RunIfs[0].X, 10.0F) << "(15 - 5) tenths of 10";
+  EXPECT_FLOAT_EQ(Run().RunIfs[1].X, -5.0F);
+  EXPECT_FLOAT_EQ(Run().RunIfs[0].Scale, 0.33F);
+  EXPECT_EQ(Run().RunIfs[1].Sum, 6);
+}
+
+TEST_F(Prepared, MembersWeighByTheirLevels) {
+  First().Starfold_StdLevels = 3;
+  CompositeProfile& composite = Process->Composites[2];
+  composite.CompFold_Count = 3;
+  composite.CompFold_Type = {0, 7, 0};
+  PrepareProfiles(*Process);
+  EXPECT_EQ(Process->MemberSum[2][0], 3);
+  EXPECT_EQ(Process->MemberSum[2][1], 4);
+  EXPECT_EQ(Process->MemberSum[2][2], 7);
+}
+
+TEST_F(Prepared, AnglesAdvanceAndComeRound) {
+  First().Starfold_AngleTilt = 359;
+  First().Starfold_AngleTInc = 2;
+  First().Starfold_HueStart = 359;
+  First().Starfold_HWheelInc = 1.5F;
+  PrepareProfiles(*Process);
+  ResetAngles(Run(), First());
+  EXPECT_NEAR(Run().Star.LevelCos[0], std::cos(359 * kDegree), 1e-5);
+  AdvanceAngles(*Process);
+  EXPECT_NEAR(Run().LevelTilt[0], 1 * kDegree, 1e-5);
+  EXPECT_NEAR(Run().Star.LevelSin[0], std::sin(1 * kDegree), 1e-5);
+  EXPECT_NEAR(Run().HueWheel, 0.5, 1e-4);
+  EXPECT_NEAR(Run().SweepCos, std::cos(Run().SweepPhase), 1e-6);
+  EXPECT_GT(Run().SweepPhase, 0);
+}
+
+}  // namespace
+}  // namespace starfolds

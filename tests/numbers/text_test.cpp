@@ -1,0 +1,56 @@
+#include "numbers/text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "numbers/rnd.h"
+
+namespace starfolds {
+namespace {
+
+TEST(Text, LenientScanTakesTheNumberAtTheStart) {
+  struct Case {
+    const char* Text;
+    double Value;
+  };
+  for (const Case& c :
+       {Case{"", 0},          Case{"abc", 0},    Case{"12abc", 12}, Case{"  7 ", 7},
+        Case{"1 2.5x", 12.5}, Case{"-3", -3},    Case{"+4", 4},     Case{".5", 0.5},
+        Case{"5.", 5},        Case{"1e3", 1000}, Case{"1e", 1},     Case{"2e-", 2},
+        Case{":12345", 0},    Case{"1,5", 1},    Case{"--1", 0},    Case{".", 0},
+        Case{"1e-9999", 0},   Case{"0x10", 0},   Case{"nan", 0},    Case{"inf", 0}}) {
+    EXPECT_EQ(LenientNumber(c.Text), c.Value) << c.Text;
+  }
+  EXPECT_TRUE(std::isfinite(LenientNumber("1e9999")));
+  EXPECT_LT(LenientNumber("-1e9999"), -1e300);
+}
+
+TEST(Text, NumericTestWantsTheWholeText) {
+  for (const char* text : {"5", " 5 ", "-1.5", "+.5", "1e5", "7."})
+    EXPECT_TRUE(IsNumeric(text)) << text;
+  for (const char* text : {"", " ", "a", "5a", "1 2", "1e", ".", "-", "0x1", "nan", "1,5"}) {
+    EXPECT_FALSE(IsNumeric(text)) << text;
+  }
+}
+
+TEST(Text, NumbersReadBackTheSame) {
+  Rnd random(5);
+  for (int i = 0; i < 20000; ++i) {
+    const double magnitude = std::pow(10.0, random() * 60.0 - 30);
+    const Single value = static_cast<Single>((random() - 0.5) * magnitude);
+    EXPECT_EQ(static_cast<Single>(LenientNumber(NumberText(value))), value) << NumberText(value);
+  }
+}
+
+TEST(Text, NumbersAreShortAndPlain) {
+  EXPECT_EQ(NumberText(0.99F), "0.99");
+  EXPECT_EQ(NumberText(2500.0F), "2500");
+  EXPECT_EQ(NumberText(0.0025F), "0.0025");
+  EXPECT_EQ(NumberText(-0.5F), "-0.5");
+  EXPECT_EQ(NumberText(Long{-30000}), "-30000");
+  EXPECT_EQ(NumberText(std::nanf("")), "0");
+}
+
+}  // namespace
+}  // namespace starfolds
