@@ -1,0 +1,161 @@
+#include "bodies/plotters.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+
+#include "scenes/scenes.h"
+
+namespace starfolds {
+namespace {
+
+using Places = std::set<std::pair<int, int>>;
+
+/// A wide screen with its centre at (200, 150) and focal length 1.
+class Plotters : public ::testing::Test {
+ protected:
+  Plotters() : stage_(400, 300) {}
+
+  Display& Screen() { return stage_.Process->Screen; }
+
+  /// The lit pixels relative to the screen's centre.
+  Places Lit() const {
+    Places places;
+    for (Long y = 0; y < 300; ++y) {
+      for (Long x = 0; x < 400; ++x) {
+        if (stage_.Canvas.Pixel(x, y) != 0) places.insert({x - 200, y - 150});
+      }
+    }
+    return places;
+  }
+
+  scenes::Stage stage_;
+};
+
+/// The four places (+-a, 0), (0, +-b) and the like, built by hand for the expectations.
+void AddAxis(Places& places, int n) { places.insert({{-n, 0}, {n, 0}, {0, -n}, {0, n}}); }
+void AddHalfAxis(Places& places, int n) { places.insert({{-n, 0}, {n, 0}, {0, n}}); }
+void AddPair(Places& places, int a, int b) { places.insert({{-a, -b}, {a, -b}, {-a, b}, {a, b}}); }
+
+TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
+  struct Case {
+    double Unit;  // pixels
+    std::size_t Pixels;
+  };
+  for (const Case& c : {Case{0.01, 1}, Case{1.0 / 32, 5}, Case{3.0 / 32, 9}, Case{7.0 / 32, 17},
+                        Case{1, 25}, Case{3, 25}}) {
+    stage_.Canvas.Clear();
+    PlotNew(Screen(), 200, 150, 1, 8, 8, static_cast<Single>(c.Unit), 0xFFFFFF);
+    EXPECT_EQ(Lit().size(), c.Pixels) << c.Unit;
+  }
+}
+
+TEST_F(Plotters, ALargeNewStarIsACrossWithDiagonals) {
+  PlotNew(Screen(), 200, 150, 2, 4, 8, 4, 0xFFFFFF);  // 1/2 * 4 * 4/8: one pixel a unit
+  Places expected{{0, 0}};
+  for (const int m : {1, 4, 16, 32}) AddAxis(expected, m);
+  for (const int m : {8, 12}) AddPair(expected, m, m);
+  EXPECT_EQ(Lit(), expected);
+}
+
+TEST_F(Plotters, FlareSizesFollowTheFocalLengthAndNotTheWindow) {
+  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
+  const Places small = Lit();
+  stage_.Canvas.Clear();
+  Screen().FocalPixels *= 7;
+  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
+  EXPECT_EQ(Lit(), small);
+  Screen().FocalLength = 2;
+  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
+  EXPECT_NE(Lit(), small);
+}
+
+TEST_F(Plotters, ANovaFarOffShowsItsFiveSlicesAtOnePlace) {
+  // At depth 1000 the slices lie a fraction of a pixel apart, so their rings share one centre and
+  // the unit: 1/1000 * 2000 = 2 pixels in the first frame.
+  PlotNova(Screen(), 0, 0, 1000, 9, 9, 2000, 0xFFFFFF);
+  Places expected{{0, 0}};
+  const auto unit = [](int m, double depth) {
+    return static_cast<int>(std::lrint(2000 / depth * m));
+  };
+  for (const int m : {16, 32}) AddAxis(expected, unit(m, 1000));
+  AddHalfAxis(expected, unit(11, 1000));
+  for (const int m : {16, 7, 11}) AddPair(expected, unit(m, 1000), unit(m, 1000));
+  AddPair(expected, unit(2, 1000), unit(24, 1000));
+  AddPair(expected, unit(24, 1000), unit(2, 1000));
+  for (const double depth : {1200.0, 800.0}) {
+    AddPair(expected, unit(3, depth), unit(10, depth));
+    AddPair(expected, unit(10, depth), unit(3, depth));
+    AddPair(expected, unit(7, depth), unit(5, depth));
+    AddPair(expected, unit(5, depth), unit(7, depth));
+    AddAxis(expected, unit(24, depth));
+  }
+  for (const double depth : {1400.0, 600.0}) {
+    AddAxis(expected, unit(2, depth));
+    AddPair(expected, unit(3, depth), unit(5, depth));
+    AddPair(expected, unit(5, depth), unit(3, depth));
+  }
+  EXPECT_EQ(Lit(), expected);
+}
+
+TEST_F(Plotters, ANovaGrowsByItsPowerOfTime) {
+  const auto radius = [&](Integer left) {
+    stage_.Canvas.Clear();
+    PlotNova(Screen(), 0, 0, 1, left, 100, 0.05F, 0xFFFFFF);
+    int reach = 0;
+    for (const auto& [x, y] : Lit()) reach = std::max(reach, y == 0 ? x : 0);
+    return reach;
+  };
+  EXPECT_EQ(radius(100), std::lrint(0.05 * 32));
+  EXPECT_EQ(radius(1), std::lrint(0.05 * 32 * std::pow(100, 0.6375)));
+}
+
+TEST_F(Plotters, SpheresAreRound) {
+  for (const Integer shape : {3, 4}) {
+    stage_.Canvas.Clear();
+    PlotPulsar(Screen(), 0, 0, 1, 3, shape, 0, 0xFFFFFF);
+    std::size_t rim = 0;
+    for (const auto& [x, y] : Lit()) {
+      const double distance = std::hypot(x, y);
+      EXPECT_LT(distance, 32 * 3 * 1.08) << shape;  // whole multiples: 21, 27 lies 7 % outside
+      rim += distance > 32 * 3 * 0.97;
+    }
+    EXPECT_GE(rim, shape == 3 ? 16U : 20U) << "the places of the circle at the centre";
+  }
+}
+
+TEST_F(Plotters, EveryShapeErasesWhatItDrew) {
+  for (Integer shape = -1; shape <= 5; ++shape) {
+    for (const Single depth : {0.0002F, 0.3F, 2.0F, 500.0F}) {
+      const auto plot = [&](Colour colour) {
+        PlotPulsar(Screen(), 0.01F, -0.02F, depth, 1.7F, shape, 0.4F, colour);
+        PlotNova(Screen(), 0.01F, -0.02F, depth, 30, 40, 0.3F, colour);
+      };
+      plot(0xFFFFFF);
+      EXPECT_FALSE(Lit().empty() && depth > 0.1F) << shape << " " << depth;
+      plot(0);
+      EXPECT_TRUE(Lit().empty()) << shape << " " << depth;
+    }
+  }
+}
+
+TEST_F(Plotters, UnknownShapesAndFlaresWithoutSizeAreOnePixel) {
+  for (const Integer shape : {Integer{-1}, Integer{5}, Integer{3}}) {
+    stage_.Canvas.Clear();
+    PlotPulsar(Screen(), 0, 0, 1, shape == 3 ? 0.0F : 2.0F, shape, 1, 1);
+    EXPECT_EQ(Lit(), (Places{{0, 0}})) << shape;
+  }
+}
+
+TEST_F(Plotters, PlacesBeyondAnyNumberDoNotHarm) {
+  const Single huge = 3e38F;
+  for (const Single view : {-huge, -1.0F, 0.0F, huge}) {
+    PlotNova(Screen(), view, -view, 0.00010001F, 1, 32767, huge, 1);
+    PlotPulsar(Screen(), view, view, 0.00010001F, huge, 0, huge, 1);
+    PlotNew(Screen(), 2147483647, -2147483647 - 1, 0.00010001F, 99, 1, huge, 1);
+  }
+}
+
+}  // namespace
+}  // namespace starfolds
