@@ -1,0 +1,102 @@
+#include "universe/ambient.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "scenes/scenes.h"
+
+namespace starfolds {
+namespace {
+
+/// A finished universe of radius 50 with so many ambient stars and nothing else.
+class Ambient : public ::testing::Test {
+ protected:
+  void SetUpStars(Integer stars, Integer frames) {
+    UniverseSettings& universe = Stage.Process->Universe;
+    Stage.Read();
+    universe.Universe_AmStar = stars;
+    universe.Universe_AmFrames = frames;
+    universe.Universe_Expand = 2.5F;
+    universe.Universe_AmMaxExt = 10;
+    PrepareProfiles(*Stage.Process);
+    for (int p = 0; p < kProfileCount; ++p) {
+      ResetAngles(Stage.Process->Prepared[p], Stage.Process->Profiles[p]);
+    }
+    Stars = std::make_unique<AmbientArrays>(stars, frames);
+    BuildAmbRamp(*Stars);
+    SeedAmbientStars(Scene(), 0, 2.5F);
+  }
+  AmbientScene Scene() { return {*Stage.Process, *Stars, Shape}; }
+  void Step(AmbientMode mode = AmbientMode::Finished) {
+    StepAmbientStars(Scene(), {0, 0, -300}, 50, 1, mode, 0);
+  }
+  std::ptrdiff_t Lit() const {
+    const auto& pixels = Stage.Canvas.Pixels();
+    return std::count_if(pixels.begin(), pixels.end(), [](Colour c) { return c != 0; });
+  }
+
+  scenes::Stage Stage;
+  std::unique_ptr<AmbientArrays> Stars;
+  ExpansionShape Shape;
+};
+
+TEST_F(Ambient, TheRampFallsFromWhiteToward88) {
+  SetUpStars(1, 30);
+  EXPECT_EQ(Stars->AmbRamp[0], 0xFFFFFFU);
+  EXPECT_EQ(Stars->AmbRamp[1], 0xFFFFFFU);
+  EXPECT_EQ(Stars->AmbRamp[16], 0xCECECEU) << "88 + 167 * cos 45 is 206";
+  EXPECT_EQ(Stars->AmbRamp.size(), 31U);
+}
+
+TEST_F(Ambient, WithoutFramesAStarIsAPixelAtOnce) {
+  SetUpStars(200, 0);
+  Stage.Process->Universe.Universe_AmPers = 0.25F;
+  for (int frame = 0; frame < 50; ++frame) Step();
+  EXPECT_GT(Lit(), 20);
+  EXPECT_LE(Lit(), 200);
+}
+
+TEST_F(Ambient, AStarThatAlwaysSurvivesCoolsToBlackInItsPlace) {
+  SetUpStars(50, 5);
+  Stage.Process->Universe.Universe_AmPers = 1;
+  Stage.Process->Universe.Universe_AmCAge = 1;
+  const auto places = Stars->AmbX;
+  for (int frame = 0; frame < 40; ++frame) Step();
+  EXPECT_GT(Lit(), 0);
+  for (int frame = 0; frame < 45; ++frame) Step();
+  EXPECT_EQ(Lit(), 0);
+  EXPECT_EQ(Stars->AmbX, places);
+}
+
+TEST_F(Ambient, ReborStarsFlashWithinTheUniverseAndLeaveNothingBehind) {
+  SetUpStars(300, 12);
+  Stage.Process->Universe.Universe_AmPers = 0.25F;
+  for (int frame = 0; frame < 30; ++frame) Step();
+  EXPECT_GT(
+      std::count_if(Stars->AmbLeft.begin(), Stars->AmbLeft.end(), [](Integer n) { return n > 0; }),
+      100);
+  for (const Single x : Stars->AmbX) EXPECT_LE(std::abs(x), 50 * 2.5 * 1.01);
+  for (const Single v : Stars->AmbVX) EXPECT_EQ(v, 0);
+  Stage.Process->Universe.Universe_AmPers = 1;
+  Stage.Process->Universe.Universe_AmCAge = 10;
+  for (int frame = 0; frame < 30; ++frame) Step();
+  EXPECT_EQ(Lit(), 0) << "every flash was taken off the screen";
+}
+
+TEST_F(Ambient, InAGrowingUniverseAStarMovesOnAtItsShareOfTheSpeed) {
+  SetUpStars(40, 3);
+  Stage.Process->Universe.Universe_AmPers = 0.25F;
+  for (int frame = 0; frame < 5; ++frame) Step(AmbientMode::Growing);
+  std::size_t moving = 0;
+  for (std::size_t i = 0; i < Stars->AmbX.size(); ++i) {
+    if (Stars->AmbLeft[i] != 3) continue;  // reborn in the last frame
+    EXPECT_NEAR(Stars->AmbVX[i], Stars->AmbX[i] / 50, 1e-5);
+    ++moving;
+  }
+  EXPECT_GT(moving, 0U);
+}
+
+}  // namespace
+}  // namespace starfolds

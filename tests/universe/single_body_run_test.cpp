@@ -1,0 +1,81 @@
+#include "universe/single_body_run.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "scenes/scenes.h"
+
+namespace starfolds {
+namespace {
+
+class SingleBody : public ::testing::Test {
+ protected:
+  void Run(Integer body, bool limit, Integer frames, Long stars, Integer trail, bool composite,
+           Single scale) {
+    Stage.Read();
+    SingleBodyRun(*Stage.Process, body, limit, frames, stars, trail, composite, scale);
+  }
+  int CountFrames() {
+    Stage.Canvas.OnFrame = [this] { ++Stage.FramesShown; };
+    return Stage.FramesShown;
+  }
+  scenes::Stage Stage{160, 120};
+};
+
+TEST_F(SingleBody, StopsAfterItsFrames) {
+  CountFrames();
+  Run(0, true, 400, 50, 1, false, 1);
+  EXPECT_EQ(Stage.FramesShown, 399) << "the last frame ends the run before it is paced";
+  EXPECT_FALSE(Stage.Process->StopRun);
+}
+
+TEST_F(SingleBody, NewRunEndsItAtTheNextFrameAndIsCleared) {
+  Stage.Canvas.OnFrame = [this] { Stage.Process->NewRun = ++Stage.FramesShown == 5; };
+  Run(0, false, 0, 50, 1, false, 1);
+  EXPECT_EQ(Stage.FramesShown, 5);
+  EXPECT_FALSE(Stage.Process->NewRun);
+}
+
+TEST_F(SingleBody, CountsAreScaledAndTheTrailFitsTheStars) {
+  Stage.StopAfter(1);
+  Run(0, false, 0, 4000, 99, false, 0.8F);
+  EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 3200);
+  EXPECT_EQ(Stage.Process->Universe.Universe_STrail, 30000 / 3200);
+}
+
+TEST_F(SingleBody, StandsStraightAheadWhateverTheUniverseSays) {
+  Stage.Settings().Universe.Universe_DstCen = 999999;
+  Stage.Settings().Profiles[3].Starfold_Distance = 900;
+  Stage.StopAfter(3);
+  Run(3, false, 0, 200, 1, false, 1);
+  const auto& pixels = Stage.Canvas.Pixels();
+  const auto lit = std::count_if(pixels.begin(), pixels.end(), [](Colour c) { return c != 0; });
+  EXPECT_GT(lit, 30);
+}
+
+TEST_F(SingleBody, ACompositeShowsTheStarsOfAllItsMembers) {
+  CompositeProfile& composite = Stage.Settings().Composites[2];
+  composite.CompFold_Count = 2;
+  composite.CompFold_Type = {4, 9};
+  // One member is green alone, the other red.
+  Stage.Settings().Profiles[4].Starfold_HueRed = Stage.Settings().Profiles[4].Starfold_HueBlu = 0;
+  Stage.Settings().Profiles[9].Starfold_HueGrn = Stage.Settings().Profiles[9].Starfold_HueBlu = 0;
+  for (const int member : {4, 9}) {
+    Stage.Settings().Profiles[member].Starfold_ColorMult = 30000;
+    Stage.Settings().Profiles[member].Starfold_CometFreq = 0;
+  }
+  Stage.StopAfter(2);
+  Run(2, false, 0, 800, 1, true, 1);
+  int red = 0;
+  int green = 0;
+  for (const Colour colour : Stage.Canvas.Pixels()) {
+    red += (colour & 0xFFFFFF) > 0 && (colour & 0xFFFF00) == 0;
+    green += (colour & 0x00FF00) > 0 && (colour & 0xFF00FF) == 0;
+  }
+  EXPECT_GT(red, 50);
+  EXPECT_GT(green, 50);
+}
+
+}  // namespace
+}  // namespace starfolds

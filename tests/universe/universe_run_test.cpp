@@ -1,0 +1,333 @@
+#include "universe/universe_run.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "numbers/text.h"
+#include "scenes/scenes.h"
+
+namespace starfolds {
+namespace {
+
+using scenes::Stage;
+
+/// A universe of few stars and short phases: 10 + visits * 3 * 4 + 2 * 4 frames.
+void MakeSmall(UniverseSettings& universe) {
+  universe.Universe_Stars = 60;
+  universe.Universe_Starfold = 8;
+  universe.Universe_Recycle = 3;
+  universe.Universe_ESteps = 10;
+  universe.Universe_GSteps = 4;
+  universe.Universe_GPCtrl = 2;
+  universe.Universe_GCCtrl = 1;
+  universe.Universe_AmStar = 10;
+}
+
+void RunFrames(Stage& stage, int frames) {
+  stage.StopAfter(frames);
+  stage.Read();
+  UniverseRun(*stage.Process);
+}
+
+/// All styles, flares and comets in play.
+void MakeColourful(SettingsRecords& settings) {
+  for (int p = 0; p < kProfileCount; ++p) {
+    StarfoldProfile& profile = settings.Profiles[p];
+    profile.UniFoldPct = 1;
+    profile.Starfold_FoldStyle = static_cast<Integer>(p % kStyleCount);
+    profile.Starfold_Profile = static_cast<Integer>(p % 7);
+    profile.Starfold_PulsarShape = static_cast<Integer>(p % 5);
+    profile.Starfold_AxisPlane = static_cast<Integer>(p % 2);
+    profile.Starfold_AngleTInc = static_cast<Single>(p % 3);
+    profile.Starfold_StdLevels = static_cast<Integer>(1 + p % 4);
+    profile.Starfold_PulsarFreq = 1500;
+    profile.Starfold_CometFreq = 2000;
+    profile.Starfold_NewFreq = 2500;
+    profile.Starfold_HWC_Inc = 0.4F;
+    profile.Starfold_Atoms = 4;
+    for (int k = 0; k < 4; ++k) {
+      profile.Atom.Atoms[k] = {static_cast<Integer>(1 + p % 17),
+                               4,
+                               3,
+                               2,
+                               static_cast<Integer>((p / 10 + 3 * k) % 12),
+                               40,
+                               500,
+                               1};
+    }
+  }
+  CompositeProfile& composite = settings.Composites[0];
+  composite.CompFoldPct = 20;
+  composite.CompFold_Count = 3;
+  composite.CompFold_Type = {4, 10, 29};
+  settings.Composites[1].CompFoldPct = 5;  // one without a member
+}
+
+TEST(EnterSettings, ClampsThenConvertsUnits) {
+  UniverseSettings universe;
+  universe.Universe_Stars = 7;
+  universe.Universe_Starfold = 5000;
+  universe.Universe_Profile = 60;
+  universe.Universe_Expand = -3;
+  universe.Universe_Damping = 0.5F;
+  universe.Universe_NewPctStEx = 34.5F;
+  universe.Universe_AmMaxExt = 20000;
+  universe.Universe_GravForce = 1e9F;
+  EnterUniverseSettings(universe);
+  EXPECT_EQ(universe.Universe_Stars, 10);
+  EXPECT_EQ(universe.Universe_Starfold, 999);
+  EXPECT_EQ(universe.Universe_Profile, 51);
+  EXPECT_EQ(universe.Universe_Expand, 0);
+  EXPECT_FLOAT_EQ(universe.Universe_Damping, 0.75F);
+  EXPECT_FLOAT_EQ(universe.Universe_NewPctStEx, 0.34F) << "34.5 rounds to even";
+  EXPECT_FLOAT_EQ(universe.Universe_AmMaxExt, 99.99F);
+  EXPECT_NEAR(universe.Universe_GravForce, 0.0999999, 1e-8);
+}
+
+TEST(EnterSettings, TheTrailsOfAllStarsFitSixteenBits) {
+  for (const auto& [stars, trail] :
+       {std::pair{30000, 1}, std::pair{10000, 3}, std::pair{400, 75}}) {
+    UniverseSettings universe;
+    universe.Universe_Stars = static_cast<Integer>(stars);
+    universe.Universe_STrail = 99;
+    EnterUniverseSettings(universe);
+    EXPECT_EQ(universe.Universe_STrail, trail) << stars;
+  }
+}
+
+TEST(SmallPreview, TakesFewerStars) {
+  Stage stage;
+  stage.Settings().Universe.Universe_Stars = 30;
+  stage.Settings().Universe.Universe_AmStar = 25;
+  stage.Read(true);
+  EXPECT_EQ(stage.Process->Universe.Universe_Stars, 20) << "19.5 rounds to even";
+  EXPECT_EQ(stage.Process->Universe.Universe_AmStar, 12);
+}
+
+TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
+  Stage stage(160, 120);
+  MakeSmall(stage.Settings().Universe);
+  Long lastStamp = -1;
+  int unstamped = 0;
+  stage.Canvas.OnFrame = [&] {
+    if (++stage.FramesShown >= 2 * (10 + 36 + 8)) stage.Process->StopRun = true;
+    unstamped += stage.Process->Screen.FrameStartTick == lastStamp;
+    lastStamp = stage.Process->Screen.FrameStartTick;
+  };
+  stage.Read();
+  UniverseRun(*stage.Process);
+  EXPECT_EQ(stage.FramesShown, 108);
+  EXPECT_EQ(unstamped, 16) << "only the frames of the two pull-outs are not stamped";
+}
+
+/// Whether more columns than rows of the picture are lit.
+bool LiesFlat(const Surface& surface) {
+  std::set<Long> rows;
+  std::set<Long> columns;
+  for (Long y = 0; y < surface.Height(); ++y) {
+    for (Long x = 0; x < surface.Width(); ++x) {
+      if (surface.Pixel(x, y) == 0) continue;
+      rows.insert(y);
+      columns.insert(x);
+    }
+  }
+  return columns.size() > rows.size();
+}
+
+TEST(UniverseRunTest, ProfilesShapeTheBlastsInTurnOrAlways) {
+  struct Case {
+    Integer Choice;
+    std::string Blasts;  // of the first three universes: flat or upright
+  };
+  for (const Case& c : {Case{51, "fuf"}, Case{1, "uuu"}, Case{2, "fff"}}) {
+    Stage stage(160, 120);
+    MakeSmall(stage.Settings().Universe);
+    stage.Settings().Universe.Universe_Profile = c.Choice;
+    for (int p = 0; p < kProfileCount; ++p) {
+      StarfoldProfile& profile = stage.Settings().Profiles[p];
+      profile.Starfold_GHW_Ratio = 0;  // a flat disc, seen edge on
+      profile.Starfold_AngleTilt = 0;
+      profile.Starfold_AxisPlane = static_cast<Integer>(p % 2);
+    }
+    std::string blasts;
+    stage.Canvas.OnFrame = [&] {
+      if (stage.FramesShown++ % 54 == 1) blasts += LiesFlat(stage.Canvas) ? 'f' : 'u';
+      stage.Process->StopRun = blasts.size() == 3;
+    };
+    stage.Read();
+    UniverseRun(*stage.Process);
+    EXPECT_EQ(blasts, c.Blasts) << c.Choice;
+  }
+}
+
+TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
+  Stage stage(160, 120);
+  MakeSmall(stage.Settings().Universe);
+  for (const int at : {5, 30}) {  // in the creation, and on the tour
+    stage.FramesShown = 0;
+    stage.Canvas.OnFrame = [&stage, at] {
+      if (++stage.FramesShown == at) stage.Process->NewRun = true;
+    };
+    stage.Read();
+    UniverseRun(*stage.Process);
+    EXPECT_EQ(stage.FramesShown, at);
+    EXPECT_FALSE(stage.Process->NewRun);
+    EXPECT_FALSE(stage.Process->StopRun);
+  }
+}
+
+TEST(UniverseRunTest, ANewRunInThePullOutWaitsForTheNextUniverse) {
+  Stage stage(160, 120);
+  MakeSmall(stage.Settings().Universe);
+  stage.Canvas.OnFrame = [&stage] {
+    if (++stage.FramesShown == 10 + 36 + 2) stage.Process->NewRun = true;
+  };
+  stage.Read();
+  UniverseRun(*stage.Process);
+  EXPECT_EQ(stage.FramesShown, 10 + 36 + 8 + 1) << "the first frame of the next creation";
+}
+
+TEST(UniverseRunTest, WithoutATourTheEyeStandsStill) {
+  Stage stage(160, 120);
+  MakeSmall(stage.Settings().Universe);
+  UniverseSettings& universe = stage.Settings().Universe;
+  universe.Universe_Tour = false;
+  universe.Universe_NewFreq = 0;
+  universe.Universe_AmStar = 0;
+  for (StarfoldProfile& profile : stage.Settings().Profiles) {
+    profile.Starfold_Rotation = 0;
+    profile.Starfold_NewFreq = 0;
+    profile.Starfold_CometFreq = 0;
+    profile.Starfold_HWheelInc = 0;
+  }
+  std::vector<std::uint64_t> tour;
+  stage.Canvas.OnFrame = [&] {
+    ++stage.FramesShown;
+    // The first frame of the tour still wipes what creation left.
+    if (stage.FramesShown > 12 && stage.FramesShown <= 46) tour.push_back(stage.Canvas.Hash());
+    if (stage.FramesShown == 50) stage.Process->StopRun = true;
+  };
+  stage.Read();
+  UniverseRun(*stage.Process);
+  EXPECT_EQ(std::count(tour.begin(), tour.end(), tour.front()), 34);
+  EXPECT_NE(stage.Canvas.Hash(), tour.front()) << "the pull-out leaves";
+}
+
+/// The picture of a run is a promise: the same seed gives the same pixels, in every build. If a
+/// change is meant to alter pictures, these numbers change with it, and the change log says so.
+TEST(Determinism, ThePinnedPicturesStand) {
+  Stage plain(320, 200);
+  RunFrames(plain, 700);
+  EXPECT_EQ(plain.Canvas.Hash(), 2331413076646788581U);
+
+  Stage colourful(320, 200, 77);
+  MakeColourful(colourful.Settings());
+  colourful.Settings().Universe.Universe_STrail = 3;
+  colourful.Settings().Advanced.Adv_Randomize = true;
+  RunFrames(colourful, 900);
+  EXPECT_EQ(colourful.Canvas.Hash(), 6117863179652412281U);
+}
+
+TEST(Determinism, TwoRunsInOneProcessDoNotTouchEachOther) {
+  const auto runAlone = [](std::uint64_t seed) {
+    Stage stage(200, 120, seed);
+    MakeColourful(stage.Settings());
+    RunFrames(stage, 400);
+    return stage.Canvas.Hash();
+  };
+  Stage outer(200, 120, 5);
+  Stage inner(200, 120, 6);
+  MakeColourful(outer.Settings());
+  MakeColourful(inner.Settings());
+  outer.Canvas.OnFrame = [&] {
+    if (++outer.FramesShown == 200) RunFrames(inner, 400);
+    if (outer.FramesShown == 400) outer.Process->StopRun = true;
+  };
+  outer.Read();
+  UniverseRun(*outer.Process);
+  EXPECT_EQ(outer.Canvas.Hash(), runAlone(5));
+  EXPECT_EQ(inner.Canvas.Hash(), runAlone(6));
+}
+
+struct LimitCase {
+  const char* Name;
+  void (*Change)(SettingsRecords&);
+};
+
+class Limits : public ::testing::TestWithParam<LimitCase> {};
+
+TEST_P(Limits, Run) {
+  Stage stage(160, 120);
+  MakeSmall(stage.Settings().Universe);
+  MakeColourful(stage.Settings());
+  GetParam().Change(stage.Settings());
+  RunFrames(stage, 120);
+  EXPECT_EQ(stage.FramesShown, 120);
+}
+
+/// Every number of every record at one end of its range, or beyond.
+void SetAll(SettingsRecords& settings, double value) {
+  const std::string text = NumberText(static_cast<Single>(value));
+  const auto set = [&](auto& record, auto fields) {
+    for (const auto& field : fields) {
+      if (field.Rule != RangeRule::None) SetFieldText(record, field, text);
+    }
+  };
+  set(settings.Universe, UniverseFields());
+  for (StarfoldProfile& profile : settings.Profiles) {
+    const Integer style = profile.Starfold_FoldStyle;
+    set(profile, ProfileFields());
+    profile.Starfold_FoldStyle = style;
+    profile.UniFoldPct = 1;
+    for (IfsPoint& point : profile.IFS.Points) set(point, IfsPointFields());
+    for (AtomPoint& atom : profile.Atom.Atoms) set(atom, AtomPointFields());
+  }
+  for (CompositeProfile& composite : settings.Composites) set(composite, CompositeFields());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , Limits,
+    ::testing::Values(
+        LimitCase{"FewestStars", [](SettingsRecords& s) { s.Universe.Universe_Stars = 10; }},
+        LimitCase{"MostStars", [](SettingsRecords& s) { s.Universe.Universe_Stars = 30000; }},
+        LimitCase{"LongestTrail", [](SettingsRecords& s) { s.Universe.Universe_STrail = 99; }},
+        LimitCase{"MostStarfoldsWithGravity",
+                  [](SettingsRecords& s) {
+                    s.Universe.Universe_Starfold = 999;
+                    s.Universe.Universe_GravForce = 999999;
+                    s.Universe.Universe_GravFrame = 5;
+                  }},
+        LimitCase{"NoExpansion", [](SettingsRecords& s) { s.Universe.Universe_Expand = 0; }},
+        LimitCase{"OneStepEach",
+                  [](SettingsRecords& s) {
+                    s.Universe.Universe_ESteps = 1;
+                    s.Universe.Universe_GSteps = 1;
+                    s.Universe.Universe_GPCtrl = 1;
+                    s.Universe.Universe_GCCtrl = 0;
+                  }},
+        LimitCase{"NoAmbientStars", [](SettingsRecords& s) { s.Universe.Universe_AmStar = 0; }},
+        LimitCase{"AllAtZero", [](SettingsRecords& s) { SetAll(s, 0); }},
+        LimitCase{"AllBelow", [](SettingsRecords& s) { SetAll(s, -1e30); }},
+        LimitCase{"AllBeyond",
+                  [](SettingsRecords& s) {
+                    SetAll(s, 1e30);
+                    s.Universe.Universe_ESteps = 20;
+                  }}),
+    [](const auto& limits) { return limits.param.Name; });
+
+TEST(LongRun, ManyUniversesNeitherGrowNorComplain) {
+  Stage stage(96, 64);
+  MakeSmall(stage.Settings().Universe);
+  MakeColourful(stage.Settings());
+  stage.Settings().Universe.Universe_Stars = 30;
+  stage.Settings().Universe.Universe_STrail = 2;
+  stage.Settings().Universe.Universe_Profile = kCycleRandomly;
+  RunFrames(stage, 200000);
+  EXPECT_EQ(stage.FramesShown, 200000);
+}
+
+}  // namespace
+}  // namespace starfolds
