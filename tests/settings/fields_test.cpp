@@ -1,0 +1,176 @@
+#include "settings/fields.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace starfolds {
+namespace {
+
+template <class Record>
+void ExpectSoundTable(std::span<const Field<Record>> fields, const Record& defaults) {
+  std::set<std::string_view> names;
+  for (const Field<Record>& field : fields) {
+    EXPECT_TRUE(names.insert(field.Name).second) << field.Name << " stands twice";
+    EXPECT_FALSE(field.Label.empty()) << field.Name;
+    Record copy = defaults;
+    EXPECT_TRUE(SetFieldText(copy, field, FieldText(defaults, field))) << field.Name;
+    EXPECT_EQ(FieldText(copy, field), FieldText(defaults, field)) << field.Name;
+  }
+}
+
+TEST(FieldTable, NamesAreUniqueAndDefaultsReadBack) {
+  const SettingsRecords records;
+  ExpectSoundTable(UniverseFields(), records.Universe);
+  ExpectSoundTable(ProfileFields(), records.Profiles[0]);
+  ExpectSoundTable(CompositeFields(), records.Composites[0]);
+  ExpectSoundTable(AdvancedFields(), records.Advanced);
+}
+
+TEST(FieldTable, EveryMemberHasItsOwnRow) {
+  StarfoldProfile profile;
+  std::set<std::string> texts;
+  int number = 0;
+  for (const Field<StarfoldProfile>& field : ProfileFields()) {
+    ASSERT_TRUE(SetFieldText(profile, field, std::to_string(++number)));
+  }
+  for (const Field<StarfoldProfile>& field : ProfileFields())
+    texts.insert(FieldText(profile, field));
+  EXPECT_EQ(texts.size(), ProfileFields().size());
+}
+
+TEST(FieldTable, DefaultsLieInTheirRanges) {
+  SettingsRecords records;
+  const SettingsRecords before;
+  ClampUniverse(records.Universe);
+  ClampProfile(records.Profiles[0]);
+  ClampAdvanced(records.Advanced);
+  for (const auto& field : UniverseFields()) {
+    EXPECT_EQ(FieldText(records.Universe, field), FieldText(before.Universe, field)) << field.Name;
+  }
+  for (const auto& field : ProfileFields()) {
+    EXPECT_EQ(FieldText(records.Profiles[0], field), FieldText(before.Profiles[0], field))
+        << field.Name;
+  }
+}
+
+TEST(SetFieldText, RubbishLeavesTheFormerValueAndExcessBecomesTheLimit) {
+  StarfoldProfile profile;
+  const auto* frames = FindField(ProfileFields(), "Starfold_NewFrames");
+  ASSERT_NE(frames, nullptr);
+  for (const char* rubbish : {"", "abc", "1x", "nan"}) {
+    EXPECT_FALSE(SetFieldText(profile, *frames, rubbish)) << rubbish;
+  }
+  EXPECT_EQ(profile.Starfold_NewFrames, 8);
+  EXPECT_TRUE(SetFieldText(profile, *frames, " 2.5 "));
+  EXPECT_EQ(profile.Starfold_NewFrames, 2);
+  EXPECT_TRUE(SetFieldText(profile, *frames, "70000"));
+  EXPECT_EQ(profile.Starfold_NewFrames, 32767);
+  UniverseSettings universe;
+  const auto* tour = FindField(UniverseFields(), "Universe_Tour");
+  EXPECT_TRUE(SetFieldText(universe, *tour, "0"));
+  EXPECT_FALSE(universe.Universe_Tour);
+  EXPECT_TRUE(SetFieldText(universe, *tour, "-1"));
+  EXPECT_TRUE(universe.Universe_Tour);
+}
+
+TEST(ClampProfileTest, RangesFollowTheClampedStyle) {
+  struct Case {
+    int Style, Segs, ExpectedStyle, ExpectedSegs;
+  };
+  for (const Case& c : {Case{2, 2, 2, 4}, Case{0, 2, 0, 2}, Case{3, 99, 3, 10},
+                        Case{12, 500, 9, 99}, Case{-4, 0, 0, 1}, Case{4, 50, 4, 20}}) {
+    StarfoldProfile profile;
+    profile.Starfold_FoldStyle = static_cast<Integer>(c.Style);
+    profile.Starfold_RadSegs = static_cast<Integer>(c.Segs);
+    ClampProfile(profile);
+    EXPECT_EQ(profile.Starfold_FoldStyle, c.ExpectedStyle);
+    EXPECT_EQ(profile.Starfold_RadSegs, c.ExpectedSegs) << c.Style;
+  }
+}
+
+TEST(ClampProfileTest, FillsAreWholePercents) {
+  StarfoldProfile profile;
+  profile.Starfold_RadFill = 33.5F;
+  profile.Starfold_RadBFill = 34.5F;
+  ClampProfile(profile);
+  EXPECT_EQ(profile.Starfold_RadFill, 34);
+  EXPECT_EQ(profile.Starfold_RadBFill, 34);
+  profile.Starfold_FoldStyle = 7;
+  profile.Starfold_RadBFill = 999.4F;
+  ClampProfile(profile);
+  EXPECT_EQ(profile.Starfold_RadBFill, 999);
+}
+
+TEST(ClampProfileTest, OnlyEntriesInUseAreTouchedAndALatticeHasAnEdge) {
+  StarfoldProfile profile;
+  profile.Starfold_Atoms = 1;
+  profile.Atom.Atoms[0] = {99, 0, -5, 20000, 8, 1, 1, 0};
+  profile.Atom.Atoms[1].Atom_Element = 99;
+  ClampProfile(profile);
+  EXPECT_EQ(profile.Atom.Atoms[0].Atom_Element, 17);
+  EXPECT_EQ(profile.Atom.Atoms[0].Atom_LocX, 1) << "a lattice has at least one point an edge";
+  EXPECT_EQ(profile.Atom.Atoms[0].Atom_LocY, 0);
+  EXPECT_EQ(profile.Atom.Atoms[0].Atom_LocZ, 9999);
+  EXPECT_EQ(profile.Atom.Atoms[0].Atom_Count, 1);
+  EXPECT_EQ(profile.Atom.Atoms[1].Atom_Element, 99);
+}
+
+TEST(ClampCompositeTest, ACountBeyondTheRoomWalksNoMemberBeyondIt) {
+  CompositeProfile composite;
+  composite.CompFold_Count = 3000;
+  composite.CompFold_Type.fill(77);
+  ClampComposite(composite);
+  EXPECT_EQ(composite.CompFold_Count, 49);
+  EXPECT_EQ(composite.MemberCount(), kMaxMembers);
+  for (const Integer member : composite.CompFold_Type) EXPECT_EQ(member, 49);
+}
+
+TEST(ClampAdvancedTest, TextsHaveTheirLimits) {
+  AdvancedSettings advanced;
+  advanced.LockMessage = "  " + std::string(120, 'x') + " ";
+  advanced.Adv_FontName = "";
+  advanced.Adv_EffectFPC = 3;
+  ClampAdvanced(advanced);
+  EXPECT_EQ(advanced.LockMessage, std::string(100, 'x'));
+  EXPECT_EQ(advanced.Adv_FontName, "MS Sans Serif");
+  EXPECT_EQ(advanced.Adv_EffectFPC, 100);
+}
+
+TEST(SetByNameTest, FindsEverySettingAndSaysWhatItCannotFind) {
+  SettingsRecords records;
+  EXPECT_FALSE(SetByName(records, "Universe_Stars", "123"));
+  EXPECT_FALSE(SetByName(records, "Adv_TimeDelay", "7"));
+  EXPECT_FALSE(SetByName(records, "Starfold_Radius", "777"));
+  EXPECT_FALSE(SetByName(records, "Starfold7/Starfold_Radius", "42"));
+  EXPECT_FALSE(SetByName(records, "CompFold3\\CompFold_Type0", "9"));
+  EXPECT_FALSE(SetByName(records, "CompFold3/_CompFoldPct", "30"));
+  EXPECT_EQ(records.Universe.Universe_Stars, 123);
+  EXPECT_EQ(records.Advanced.Adv_TimeDelay, 7);
+  EXPECT_EQ(records.Profiles[49].Starfold_Radius, 777);
+  EXPECT_EQ(records.Profiles[7].Starfold_Radius, 42);
+  EXPECT_EQ(records.Composites[3].CompFold_Type[0], 9);
+  EXPECT_EQ(records.Composites[3].CompFoldPct, 30);
+  for (const char* name : {"", "Universe_", "/", "Starfold50/Starfold_Radius", "Starfold-1/x",
+                           "Starfold99999999999999999999/Starfold_Radius", "Starfold7/",
+                           "CompFold3/CompFold_Type48", "universe_stars"}) {
+    EXPECT_TRUE(SetByName(records, name, "1")) << name;
+  }
+  EXPECT_TRUE(SetByName(records, "Universe_Stars", "many"));
+  EXPECT_EQ(records.Universe.Universe_Stars, 123);
+}
+
+TEST(VisitListTest, TakesTheNumbersOfBodiesAndPassesOverTheRest) {
+  EXPECT_EQ(ParseVisitList("").Count, 0);
+  EXPECT_EQ(ParseVisitList("   ").Count, 0);
+  const VisitList list = ParseVisitList(" 1 x  66 67 0 -3 2.0 1e1 0.2");
+  ASSERT_EQ(list.Count, 5);
+  const Integer expected[] = {0, 65, 1, 9, 0};
+  for (int i = 0; i < list.Count; ++i) EXPECT_EQ(list.Bodies[i], expected[i]) << i;
+  std::string many;
+  for (int i = 0; i < 500; ++i) many += "5 ";
+  EXPECT_EQ(ParseVisitList(many).Count, VisitList::kRoom);
+}
+
+}  // namespace
+}  // namespace starfolds
