@@ -163,13 +163,13 @@ struct RunArrays {
   BodySlots Slots;
   Integer TrailHead = 0;  // the ring place that all stars overwrite this frame
 
-  /// Sized by the clamped settings of the run.
+  /// Sized by the clamped settings of the run; a run of a single body has no ambient stars.
   RunArrays(const UniverseSettings& universe, Integer folds, Integer ambientStars)
       : Stars(static_cast<std::size_t>(universe.Universe_Stars),
               static_cast<std::size_t>(universe.Universe_STrail)),
         Folds(static_cast<std::size_t>(folds)),
         Ambient(static_cast<std::size_t>(ambientStars),
-                static_cast<std::size_t>(universe.Universe_AmFrames)) {}
+                ambientStars > 0 ? static_cast<std::size_t>(universe.Universe_AmFrames) : 0) {}
 };
 
 }  // namespace starfolds

@@ -104,23 +104,23 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
 /// shares with the rest of its body is made ready once a frame.
 void StepStarsWithoutTrails(const FrameScene& scene) {
   FillFrames(scene);
-  StarArrays& stars = scene.Run.Stars;
+  StarState* const stars = scene.Run.Stars.Star.data();
+  TrailPlace* const trails = scene.Run.Stars.Trail.data();
   const BodyFrame* const frames = scene.Run.Folds.Frames.data();
   Surface::Pen pen(*scene.Process.Screen.hDCDraw);
   const Lens lens(scene.Process.Screen);
-  const std::size_t count = stars.Star.size();
+  const std::size_t count = scene.Run.Stars.Star.size();
   for (std::size_t i = 0; i < count; ++i) {
-    StarState& star = stars.Star[i];
+    StarState& star = stars[i];
     if (star.StarFrame == 0) [[unlikely]] {
       StepStarTheLongWay(scene, i);
       continue;
     }
-    TrailPlace& trail = stars.Trail[i];
-    pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
+    pen.SetPixelV(trails[i].TrailX, trails[i].TrailY, 0);
     RotateStar(star);
     const BodyFrame& frame = frames[star.StarFrame];
     const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
-    if (view.InFront()) PlotView(pen, lens, view, trail, star.StarColor);
+    if (view.InFront()) PlotView(pen, lens, view, trails[i], star.StarColor);
     if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);
   }
 }

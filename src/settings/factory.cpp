@@ -241,4 +241,9 @@ void LoadFactoryTheme(UniverseSettings& universe, int theme, bool is20) {
   if (!row.empty()) Decode(universe, UniverseFields(), row, 0, kThemeLayout);
 }
 
+void LoadFactorySettings(SettingsRecords& records, FactorySet set, int theme) {
+  LoadFactorySet(records, set);
+  LoadFactoryTheme(records.Universe, theme, set == FactorySet::Starfolds20);
+}
+
 }  // namespace starfolds

@@ -38,6 +38,10 @@ void LoadFactoryComposites(CompositeArray& composites, FactorySet set);
 /// All profiles and composites. The rows are in range; nothing is clamped.
 void LoadFactorySet(SettingsRecords& records, FactorySet set);
 
+/// What a process starts from that has nothing stored: a set, and a theme in the variant that goes
+/// with it.
+void LoadFactorySettings(SettingsRecords& records, FactorySet set, int theme);
+
 /// Loads theme 1 to 8. The list of bodies to visit becomes empty, camera ramping stays.
 void LoadFactoryTheme(UniverseSettings& universe, int theme, bool is20);
 

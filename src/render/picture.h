@@ -1,0 +1,31 @@
+// A finished picture, as the writers of files take it.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "platform/surface.h"
+
+namespace starfolds {
+
+/// `Width * Height` colour words, row by row, without padding. The words belong to someone else.
+struct Picture {
+  int Width = 0;
+  int Height = 0;
+  std::span<const Colour> Pixels;
+
+  std::span<const Colour> Row(int y) const {
+    const auto width = static_cast<std::size_t>(Width);
+    return Pixels.subspan(static_cast<std::size_t>(y) * width, width);
+  }
+};
+
+inline Picture PictureOf(const Surface& surface) {
+  return {surface.Width(), surface.Height(), surface.Pixels()};
+}
+
+constexpr std::uint8_t RedOf(Colour colour) { return static_cast<std::uint8_t>(colour); }
+constexpr std::uint8_t GreenOf(Colour colour) { return static_cast<std::uint8_t>(colour >> 8U); }
+constexpr std::uint8_t BlueOf(Colour colour) { return static_cast<std::uint8_t>(colour >> 16U); }
+
+}  // namespace starfolds

@@ -1,0 +1,14 @@
+// Pictures as PNG files.
+#pragma once
+
+#include <string>
+
+#include "render/fault.h"
+#include "render/picture.h"
+
+namespace starfolds {
+
+/// Writes `picture` with each pixel as a block of `scale` x `scale`.
+Fault WritePng(const std::string& path, const Picture& picture, int scale);
+
+}  // namespace starfolds

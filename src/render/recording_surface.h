@@ -1,0 +1,37 @@
+// The surface that the renderer runs the engine on.
+#pragma once
+
+#include <functional>
+
+#include "render/frame_sinks.h"
+
+namespace starfolds {
+
+/// Hands each planned frame to the sinks when the engine shows it, and tells the run to stop after
+/// the last frame or when a sink has failed.
+class RecordingSurface : public MemorySurface {
+ public:
+  /// Called after every frame, written or not.
+  std::function<void(FrameNumber)> OnFrame;
+
+  /// `stopRun` is the run's flag. All arguments but `plan` outlive the surface.
+  RecordingSurface(Integer width, Integer height, const FramePlan& plan, const FrameSinks& sinks,
+                   bool& stopRun)
+      : MemorySurface(width, height), plan_(plan), sinks_(sinks), stopRun_(stopRun) {}
+
+  void Present() override;
+
+  /// What went wrong in a sink, if anything did.
+  const Fault& Trouble() const { return trouble_; }
+
+ private:
+  void WriteFrame();
+
+  FramePlan plan_;
+  const FrameSinks& sinks_;
+  bool& stopRun_;
+  FrameNumber frame_ = 0;
+  Fault trouble_;
+};
+
+}  // namespace starfolds

@@ -1,0 +1,63 @@
+#include "render/render_run.h"
+
+#include "colour/saver.h"
+#include "numbers/conversions.h"
+#include "render/progress.h"
+#include "render/recording_surface.h"
+#include "render/standard_streams.h"
+#include "universe/host_surface.h"
+#include "universe/single_body_run.h"
+#include "universe/universe_run.h"
+
+namespace starfolds {
+namespace {
+
+void RunBody(Saver& saver, Integer body, bool isComposite) {
+  const Long stars = ClampTo<Long>(saver.Universe.Universe_Stars, 10, 30000);
+  const Integer trail = ClampTo<Integer>(saver.Universe.Universe_STrail, 1, 999);
+  constexpr bool limitFrames = false;  // the recording surface counts them
+  constexpr Single allStars = 1;
+  SingleBodyRun(saver, body, limitFrames, 0, stars, trail, isComposite, allStars);
+}
+
+void RunEffect(Saver& saver, const RenderOptions& options) {
+  if (options.Profile) {
+    RunBody(saver, *options.Profile, false);
+  } else if (options.Composite) {
+    RunBody(saver, *options.Composite, true);
+  } else {
+    UniverseRun(saver);
+  }
+}
+
+Fault FinishAll(const FrameSinks& sinks) {
+  for (const auto& sink : sinks) {
+    if (Fault fault = sink->Finish()) return fault;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+Fault Render(const RenderOptions& options) {
+  const FrameSinks sinks = MakeSinks(options);
+  CountedPump pump;
+  MemoryDesktop desktop;
+  const auto saver = std::make_unique<Saver>();
+  saver->Stored = options.Settings;
+  saver->Events = &pump;
+  saver->Desktop = &desktop;
+
+  RecordingSurface surface(static_cast<Integer>(options.Width),
+                           static_cast<Integer>(options.Height), options.Plan, sinks,
+                           saver->StopRun);
+  Progress progress(options.Plan.Frames, ErrorIsTerminal());
+  surface.OnFrame = [&](FrameNumber frame) { progress.Show(frame); };
+  SetupDisplay(*saver, surface, options.Seed);
+  ReadUniverseSettings(*saver, false);
+  RunEffect(*saver, options);
+  progress.End();
+  return surface.Trouble() ? surface.Trouble() : FinishAll(sinks);
+}
+
+}  // namespace starfolds

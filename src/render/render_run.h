@@ -1,0 +1,11 @@
+// One rendering, from the options to the finished files.
+#pragma once
+
+#include "render/fault.h"
+#include "render/options.h"
+
+namespace starfolds {
+
+Fault Render(const RenderOptions& options);
+
+}  // namespace starfolds

@@ -1,0 +1,173 @@
+#include "render/options.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace starfolds {
+namespace {
+
+using testing::HasSubstr;
+using testing::Optional;
+
+using Arguments = std::vector<std::string_view>;
+
+RenderOptions Parsed(const Arguments& arguments) {
+  RenderOptions options;
+  const Fault fault = ParseOptions(arguments, options);
+  EXPECT_EQ(fault, std::nullopt) << *fault;
+  return options;
+}
+
+TEST(Options, EachIsRead) {
+  const RenderOptions options = Parsed({"--size",    "641x16384",
+                                        "--scale",   "2",
+                                        "--seed",    "18446744073709551615",
+                                        "--frames",  "90",
+                                        "--first",   "4",
+                                        "--every",   "7",
+                                        "--profile", "49",
+                                        "--png",     "pictures",
+                                        "--y4m",     "-",
+                                        "--sheet",   "sheet.png",
+                                        "--set",     "Universe_Stars=777",
+                                        "--set",     "Starfold3/_UniFoldName=a=b"});
+  EXPECT_EQ(options.Action, RenderAction::Render);
+  EXPECT_EQ(options.Width, 641);
+  EXPECT_EQ(options.Height, 16384);
+  EXPECT_EQ(options.Scale, 2);
+  EXPECT_EQ(options.Seed, std::numeric_limits<std::uint64_t>::max());
+  EXPECT_EQ(options.Plan.Frames, 90);
+  EXPECT_EQ(options.Plan.First, 4);
+  EXPECT_EQ(options.Plan.Every, 7);
+  EXPECT_EQ(options.Profile, 49);
+  EXPECT_EQ(options.PngFolder, "pictures");
+  EXPECT_EQ(options.VideoFile, "-");
+  EXPECT_EQ(options.SheetFile, "sheet.png");
+  EXPECT_FALSE(options.Hash);
+  EXPECT_EQ(options.Settings.Universe.Universe_Stars, 777);
+  EXPECT_EQ(options.Settings.Profiles[3].UniFoldName, "a=b");
+}
+
+TEST(Options, SettingsStartFromTheFactoryWhateverTheOrder) {
+  const RenderOptions none = Parsed({"--hash"});
+  EXPECT_EQ(none.Settings.Profiles[1].UniFoldName, "Star Rings");
+  EXPECT_EQ(none.Settings.Universe.Universe_Starfold, 100);
+  const RenderOptions options = Parsed({"--set", "Starfold1/Starfold_Radius=7", "--theme", "8",
+                                        "--factory", "1", "--composite", "15", "--hash"});
+  EXPECT_EQ(options.Settings.Profiles[1].UniFoldName, "Pancake-Like Disk");
+  EXPECT_EQ(options.Settings.Profiles[1].Starfold_Radius, 7);
+  EXPECT_EQ(options.Settings.Universe.Universe_GravForce, 125000);
+  EXPECT_EQ(options.Composite, 15);
+  EXPECT_EQ(Parsed({"--factory", "1", "--hash"}).Settings.Universe.Universe_Stars, 2500)
+      << "theme 1 has a variant for the 2.0 set";
+}
+
+TEST(Options, TheListNamesWhatThereIs) {
+  const std::string list = ListText(Parsed({"--list", "--factory", "1", "--hash"}));
+  EXPECT_THAT(list, HasSubstr("profile 26 Ruby Sphere\n"));
+  EXPECT_THAT(list, HasSubstr("composite 1 Spine Disk Shell\n"));
+  EXPECT_THAT(list, HasSubstr("theme 7 Rollercoaster Ride Through the Cosmos\n"));
+}
+
+TEST(Options, AValueMayStandBehindAnEqualsSign) {
+  const RenderOptions options =
+      Parsed({"--size=8x9", "--set=Universe_Stars=11", "--png=--odd name", "--hash"});
+  EXPECT_EQ(options.Width, 8);
+  EXPECT_EQ(options.Height, 9);
+  EXPECT_EQ(options.Settings.Universe.Universe_Stars, 11);
+  EXPECT_EQ(options.PngFolder, "--odd name");
+  EXPECT_TRUE(options.Hash);
+}
+
+TEST(Options, TheLastOneCounts) {
+  EXPECT_EQ(Parsed({"--seed", "1", "--hash", "--seed", "2"}).Seed, 2U);
+}
+
+TEST(Options, HelpAndVersionNeedNothingElse) {
+  EXPECT_EQ(Parsed({"--help"}).Action, RenderAction::Help);
+  EXPECT_EQ(Parsed({"--version", "--no-such"}).Action, RenderAction::Version);
+}
+
+TEST(Options, HelpNamesEveryOptionThatTheParserTakes) {
+  const std::string help = HelpText();
+  for (const std::string name : {"--size", "--scale", "--seed", "--frames", "--first", "--every",
+                                 "--set", "--profile", "--png", "--y4m", "--sheet"}) {
+    EXPECT_THAT(help, HasSubstr("\n  " + name + " "));
+    RenderOptions options;
+    const std::string_view argument = name;
+    EXPECT_EQ(ParseOptions({&argument, 1}, options), name + " needs a value");
+  }
+}
+
+struct BadLine {
+  Arguments Line;
+  const char* Message;  // a part of it
+};
+
+const std::string kLong(1'000'000, '9');
+
+const BadLine kBadLines[] = {
+    {{}, "nothing to write"},
+    {{"--frames", "5"}, "nothing to write"},
+    {{"--hash", ""}, "there is no option \"\""},
+    {{"--hash", "--sizes=1x1"}, "there is no option \"--sizes\""},
+    {{"--hash=1"}, "--hash takes no value"},
+    {{"--size"}, "--size needs a value"},
+    {{"--png", "--hash"}, "--png needs a value"},
+    {{"--size", "640"}, "--size: takes WIDTHxHEIGHT"},
+    {{"--size", "640x"}, "not \"640x\""},
+    {{"--size", "0x480"}, "from 1 to 16384"},
+    {{"--size", "640x16385"}, "from 1 to 16384"},
+    {{"--size", "640 x 480"}, "not \"640 x 480\""},
+    {{"--size", "99999999999x2"}, "from 1 to 16384"},
+    {{"--hash", "--size", "16384x16384"}, "more than 67108864 pixels"},
+    {{"--hash", "--size", "4096x8192", "--scale", "2"}, "more than 67108864 pixels"},
+    {{"--scale", "5"}, "from 1 to 4"},
+    {{"--seed", "-1"}, "not \"-1\""},
+    {{"--seed", "18446744073709551616"}, "not \"18446744073709551616\""},
+    {{"--seed", " 1"}, "not \" 1\""},
+    {{"--seed", "1e3"}, "not \"1e3\""},
+    {{"--frames", "0"}, "from 1 to 100000000"},
+    {{"--frames", kLong}, "from 1 to 100000000"},
+    {{"--first", "0"}, "--first: takes a whole number"},
+    {{"--every", "0"}, "--every: takes a whole number"},
+    {{"--hash", "--frames", "10", "--first", "11"}, "--first 11 lies beyond the last frame, 10"},
+    {{"--profile", "50"}, "from 0 to 49"},
+    {{"--composite", "16"}, "from 0 to 15"},
+    {{"--factory", "2"}, "from 0 to 1"},
+    {{"--theme", "0"}, "from 1 to 8"},
+    {{"--hash", "--profile", "1", "--composite", "1"}, "give one of them"},
+    {{"--set", "Universe_Stars"}, "takes Name=value"},
+    {{"--set", "=1"}, "there is no setting \"\""},
+    {{"--set", "Universe_Star=1"}, "there is no setting \"Universe_Star\""},
+    {{"--set", "Universe_Stars=many"}, "takes a number, not \"many\""},
+    {{"--set", "Starfold50/Starfold_Radius=1"}, "there is no setting"},
+    {{"--set", "CompFold0/CompFold_Type48=1"}, "there is no setting"},
+    {{"--sheet", "s.png"}, "--sheet has room for 400 frames, not 1000"},
+    {{"--hash", "--y4m", "-"}, "cannot both have the standard output"},
+};
+
+TEST(Options, BadOnesAreRefusedWithAMessage) {
+  for (const BadLine& bad : kBadLines) {
+    RenderOptions options;
+    EXPECT_THAT(ParseOptions(bad.Line, options), Optional(HasSubstr(bad.Message)))
+        << testing::PrintToString(bad.Line).substr(0, 200);
+  }
+}
+
+TEST(FramePlan, CountsTheFramesThatItWrites) {
+  for (const FramePlan plan : {FramePlan{10, 1, 1}, FramePlan{10, 1, 3}, FramePlan{10, 4, 3},
+                               FramePlan{10, 10, 3}, FramePlan{10, 2, 100}, FramePlan{10, 11, 1}}) {
+    std::vector<FrameNumber> written;
+    for (FrameNumber frame = 0; frame <= 20; ++frame) {
+      if (plan.Writes(frame)) written.push_back(frame);
+    }
+    EXPECT_EQ(static_cast<FrameNumber>(written.size()), plan.Count());
+    EXPECT_TRUE(written.empty() || written.front() == plan.First);
+  }
+}
+
+}  // namespace
+}  // namespace starfolds

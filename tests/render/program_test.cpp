@@ -1,0 +1,177 @@
+// `starfolds-render` as a user starts it.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <map>
+#include <sstream>
+
+#include "render/test_files.h"
+
+namespace starfolds {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using testing::UnorderedElementsAre;
+
+struct Outcome {
+  int ExitCode = -1;
+  std::string Out;
+  std::string Err;
+};
+
+/// Runs the program with `arguments`, as a shell reads them.
+Outcome RunProgram(const TestFolder& folder, const std::string& arguments) {
+  const TestFolder streams;
+  const std::string command = "cd '" + folder.Path("") + "' && '" STARFOLDS_RENDER_PROGRAM "' " +
+                              arguments + " >'" + streams.Path("out") + "' 2>'" +
+                              streams.Path("err") + "'";
+  const int status = std::system(command.c_str());
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, FileText(streams.Path("out")),
+          FileText(streams.Path("err"))};
+}
+
+/// The hash of each frame that a `--hash` run has printed.
+std::map<int, std::string> Hashes(const std::string& arguments) {
+  const TestFolder folder;
+  const Outcome outcome = RunProgram(folder, "--size 160x90 --hash " + arguments);
+  EXPECT_EQ(outcome.ExitCode, 0) << outcome.Err;
+  EXPECT_THAT(outcome.Err, IsEmpty());
+  std::map<int, std::string> hashes;
+  std::istringstream lines(outcome.Out);
+  std::string word, hash;
+  int frame = 0;
+  while (lines >> word >> frame >> hash) hashes[frame] = hash;
+  return hashes;
+}
+
+TEST(Program, TheSameSeedGivesTheSamePixels) {
+  const auto once = Hashes("--frames 400 --every 57 --seed 5");
+  EXPECT_EQ(once.size(), 8U);
+  EXPECT_EQ(once, Hashes("--frames 400 --every 57 --seed 5"));
+  EXPECT_NE(once, Hashes("--frames 400 --every 57 --seed 6"));
+}
+
+TEST(Program, FirstAndEveryChooseFramesAndChangeNone) {
+  const auto all = Hashes("--frames 20");
+  EXPECT_EQ(all.size(), 20U);
+  const auto some = Hashes("--frames 20 --first 6 --every 7");
+  EXPECT_EQ(some, (std::map<int, std::string>{{6, all.at(6)}, {13, all.at(13)}, {20, all.at(20)}}));
+}
+
+TEST(Program, AProfileIsOneBodyThatTakesTheSettings) {
+  const auto body = Hashes("--frames 3 --profile 0");
+  EXPECT_NE(body, Hashes("--frames 3"));
+  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Starfold0/Starfold_Radius=100"));
+  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Universe_STrail=3"));
+  EXPECT_EQ(body, Hashes("--frames 3 --profile 0 --set Starfold1/Starfold_Radius=100"));
+}
+
+TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
+  const auto body = Hashes("--frames 3 --composite 1");
+  EXPECT_NE(body, Hashes("--frames 3 --profile 2")) << "its first member alone";
+  EXPECT_NE(body, Hashes("--frames 3 --composite 1 --set Starfold49/Starfold_Radius=100"));
+}
+
+TEST(Program, SettingsBeyondTheirRangeAreHeldToIt) {
+  const auto held =
+      Hashes("--frames 3 --profile 0 --set Universe_Stars=-5 --set Universe_STrail=0");
+  EXPECT_EQ(held, Hashes("--frames 3 --profile 0 --set Universe_Stars=10 --set Universe_STrail=1"));
+  EXPECT_EQ(Hashes("--frames 3 --profile 0 --set Universe_AmFrames=-1e300"),
+            Hashes("--frames 3 --profile 0"));
+  EXPECT_EQ(Hashes("--frames 2 --set Universe_Stars=1e300 --set Universe_Starfold=-1e300"),
+            Hashes("--frames 2 --set Universe_Stars=30000 --set Universe_Starfold=1"));
+}
+
+TEST(Program, AllOutputsShowTheSameFrame) {
+  const TestFolder folder;
+  const Outcome outcome =
+      RunProgram(folder,
+                 "--size 7x5 --frames 9 --first 3 --every 6 --profile 0 --set FocalLength=3 "
+                 "--png made/here --y4m v.y4m --sheet s.png");
+  EXPECT_EQ(outcome.ExitCode, 0) << outcome.Err;
+  EXPECT_THAT(outcome.Err, IsEmpty());
+  EXPECT_THAT(folder.Names(),
+              UnorderedElementsAre("made", "made/here", "made/here/frame-000003.png",
+                                   "made/here/frame-000009.png", "v.y4m", "s.png"));
+  const ReadPicture last = ReadPng(folder.Path("made/here/frame-000009.png"));
+  ASSERT_EQ(last.Width, 7);
+  ASSERT_EQ(last.Height, 5);
+  const std::string video = FileText(folder.Path("v.y4m"));
+  EXPECT_THAT(video, StartsWith("YUV4MPEG2 W7 H5 F25:1 "));
+  const std::string luma = video.substr(video.size() - 3 * 7 * 5, 7 * 5);
+  int stars = 0;
+  for (std::size_t i = 0; i < luma.size(); ++i) {
+    EXPECT_EQ(luma[i] != 16, last.Pixels[i] != 0) << i;
+    stars += last.Pixels[i] != 0;
+  }
+  EXPECT_GT(stars, 0);
+}
+
+TEST(Program, VideoGoesToTheStandardOutput) {
+  const TestFolder folder;
+  const Outcome outcome = RunProgram(folder, "--size 5x3 --frames 2 --y4m -");
+  EXPECT_EQ(outcome.ExitCode, 0) << outcome.Err;
+  const std::string header = "YUV4MPEG2 W5 H3 F25:1 Ip A1:1 C444\n";
+  EXPECT_THAT(outcome.Out, StartsWith(header));
+  EXPECT_EQ(outcome.Out.size(), header.size() + 2 * (6 + 3 * 5 * 3));
+}
+
+TEST(Program, PrintsHelpAndVersion) {
+  const TestFolder folder;
+  const Outcome help = RunProgram(folder, "--help");
+  EXPECT_EQ(help.ExitCode, 0);
+  EXPECT_THAT(help.Out, HasSubstr("--set Name=value"));
+  const Outcome version = RunProgram(folder, "--version");
+  EXPECT_EQ(version.ExitCode, 0);
+  EXPECT_THAT(version.Out, testing::MatchesRegex("starfolds-render [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+struct BadLine {
+  const char* Arguments;
+  const char* Message;  // a part of it
+};
+
+const BadLine kBadLines[] = {
+    {"", "nothing to write"},
+    {"--no-such", "--no-such"},
+    {"--hash --seed \"$(printf 'a\\033[2Jb')\"", "a?[2Jb"},
+    {"--png file", "cannot make the folder \"file\""},
+    {"--sheet none/s.png", "No such file or directory"},
+    {"--y4m none/v.y4m", "No such file or directory"},
+    {"--y4m .", "Is a directory"},
+    {"--y4m full", "No space left on device"},
+    {"--sheet full", "No space left on device"},
+};
+
+/// A fault is told on the standard error output, and no file is left behind. The full device is
+/// reached by a link, lest a fault in the program replaces the device itself.
+TEST(Program, EndsWithCode2AfterAFault) {
+  for (const BadLine& bad : kBadLines) {
+    SCOPED_TRACE(bad.Arguments);
+    const TestFolder folder;
+    std::ofstream(folder.Path("file")) << "former";
+    std::filesystem::create_symlink("/dev/full", folder.Path("full"));
+    const Outcome outcome =
+        RunProgram(folder, "--size 64x36 --frames 60 " + std::string(bad.Arguments));
+    EXPECT_EQ(outcome.ExitCode, 2);
+    EXPECT_THAT(outcome.Out, IsEmpty());
+    EXPECT_THAT(outcome.Err, StartsWith("starfolds-render: "));
+    EXPECT_THAT(outcome.Err, HasSubstr(bad.Message));
+    EXPECT_THAT(folder.Names(), UnorderedElementsAre("file", "full"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("full")));
+    EXPECT_EQ(FileText(folder.Path("file")), "former");
+  }
+}
+
+TEST(Program, AFullStandardOutputIsAFault) {
+  const TestFolder folder;
+  const Outcome outcome = RunProgram(folder, "--size 9x9 --frames 3 --hash >/dev/full; exit $?");
+  EXPECT_EQ(outcome.ExitCode, 2);
+}
+
+}  // namespace
+}  // namespace starfolds
