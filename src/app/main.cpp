@@ -1,0 +1,129 @@
+// `starfolds`: the screen saver.
+#include <QApplication>
+#include <QFileInfo>
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/options.h"
+#include "app/windows.h"
+#include "desktop/desktop_services_qt.h"
+#include "desktop/qt_pump.h"
+#include "desktop/signals.h"
+#include "hosting/main.h"
+#include "settings/factory.h"
+
+namespace {
+
+using namespace starfolds;
+
+constexpr int kExitCannotDo = 1;
+constexpr int kExitWrongUse = 2;
+
+/// Arguments come back in messages; a terminal shall not obey them.
+std::string Harmless(std::string text) {
+  for (char& c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    if (code < ' ' || code == 0x7F) c = '?';
+  }
+  return text;
+}
+
+int Complain(const std::string& message, int exitCode) {
+  std::fprintf(stderr, "starfolds: %s\n", Harmless(message).c_str());
+  return exitCode;
+}
+
+int Print(const std::string& text) {
+  const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+  return printed ? 0 : Complain("cannot write to the standard output", kExitCannotDo);
+}
+
+/// The toolkit ends the process with a core dump where it finds no desktop.
+bool HasDesktop() {
+#ifdef __linux__
+  const auto given = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
+  return given("DISPLAY") || given("WAYLAND_DISPLAY") || given("QT_QPA_PLATFORM");
+#else
+  return true;
+#endif
+}
+
+/// Only the program's name: the toolkit would take some of the system's switches for its own.
+struct ToolkitArguments {
+  explicit ToolkitArguments(char* program) : Values{program, nullptr} {}
+  int Count = 1;
+  std::array<char*, 2> Values;
+};
+
+bool ShowsDialogs(const StartOptions& options) {
+  switch (options.AskedFor) {
+    case Role::Window:
+    case Role::Settings: return true;
+    case Role::FromCommandLine: return AsksForProperties(options.CommandLine);
+    default: return false;
+  }
+}
+
+StartUp DescribeStart(const StartOptions& options) {
+  const QFileInfo file(QCoreApplication::applicationFilePath());
+  return {file.absolutePath().toStdString(), file.completeBaseName().toStdString(),
+          options.CommandLine};
+}
+
+/// Opens the window that was asked for, and returns when it is gone.
+void Run(Saver& saver, const StartOptions& options, StartActions& windows) {
+  switch (options.AskedFor) {
+    case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
+    case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
+    case Role::Window: saver.Mode = RunMode::Application; return ShowEffectWindow(saver, windows);
+    default: return Main(saver, DescribeStart(options), windows);
+  }
+}
+
+int RunOnDesktop(char* program, const StartOptions& options) {
+  if (!HasDesktop()) {
+    return Complain("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
+                    kExitCannotDo);
+  }
+  StopSignals stopSignals;
+  // The look of the user's desktop more than doubles the memory and the time of the start on some
+  // of them, and a window full of stars shows nothing of it.
+  QGuiApplication::setDesktopSettingsAware(ShowsDialogs(options));
+  ToolkitArguments arguments(program);
+  QApplication application(arguments.Count, arguments.Values.data());
+  QtPump pump;
+  const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
+
+  const auto saver = std::make_unique<Saver>();
+  saver->Events = &pump;
+  saver->Desktop = desktop.get();
+  LoadFactorySettings(saver->Stored, FactorySet::Starfolds4x, 1);
+  stopSignals.Watch([&] {
+    saver->QuitApp = true;
+    saver->StopRun = true;
+  });
+
+  const SeedSource seed = [&] { return options.Seed ? *options.Seed : ClockSeed(); };
+  AppWindows windows(*saver, seed);
+  Run(*saver, options, windows);
+  return windows.ExitCode();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+  StartOptions options;
+  if (const auto wrong = ParseStartOptions(arguments, options)) {
+    return Complain(*wrong + " (--help lists the options)", kExitWrongUse);
+  }
+  switch (options.AskedFor) {
+    case Role::Help: return Print(UsageText());
+    case Role::Version: return Print("starfolds " STARFOLDS_VERSION "\n");
+    default: return RunOnDesktop(argv[0], options);
+  }
+}

@@ -1,0 +1,36 @@
+// The saver's own options. They are looked at before the system's switches, so that `Main` gets a
+// command line as ever.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace starfolds {
+
+enum class Role {
+  FromCommandLine,  // no role was asked for by an option: `Main` decides
+  Help,
+  Version,
+  Saver,
+  Window,
+  Settings,
+};
+
+struct StartOptions {
+  Role AskedFor = Role::FromCommandLine;
+  std::optional<std::uint64_t> Seed;
+  std::string CommandLine;  // for `Main`: every argument, joined by blanks
+};
+
+/// Reads the arguments behind the program's name. They are options only if the first one begins
+/// with "--"; of several roles the last one counts. Returns what is wrong with them.
+std::optional<std::string> ParseStartOptions(std::span<const std::string_view> arguments,
+                                             StartOptions& options);
+
+/// What `--help` prints.
+std::string UsageText();
+
+}  // namespace starfolds

@@ -1,0 +1,34 @@
+// The windows that a start may open.
+#pragma once
+
+#include <string>
+
+#include "hosting/main.h"
+#include "hosting/run_loop.h"
+
+namespace starfolds {
+
+/// Opens the windows that exist. For the ones that do not it says so on stderr, and the process is
+/// to end with `ExitCode`.
+class AppWindows : public StartActions {
+ public:
+  AppWindows(Saver& saver, SeedSource seed);
+
+  bool FileExists(const std::string& path) override;
+  void ShowFrmSaver() override;
+  void ShowFrmAppExe() override;
+  void ShowFrmProps() override;
+  void LoadFrmPreview() override;
+  void LoadTemplate(const std::string& path) override;
+
+  int ExitCode() const { return exitCode_; }
+
+ private:
+  void CannotDo(const char* message);
+
+  Saver& saver_;
+  SeedSource seed_;
+  int exitCode_ = 0;
+};
+
+}  // namespace starfolds

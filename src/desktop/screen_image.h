@@ -1,0 +1,53 @@
+// Writing a surface into the 32-bit picture that a window shows.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "desktop/pixel_scale.h"
+#include "platform/surface.h"
+
+namespace starfolds {
+
+/// A colour word as a window shows it: opaque, and red and blue change places.
+constexpr std::uint32_t ScreenWord(Colour colour) {
+  return 0xFF000000U | (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
+}
+
+/// The coordinates of a journal entry.
+constexpr int ColumnOf(Surface::PixelPlace place) { return static_cast<int>(place & 0xFFFFU); }
+constexpr int RowOf(Surface::PixelPlace place) { return static_cast<int>(place >> 16U); }
+
+/// Somebody else's picture in memory, in physical pixels, one word 0xffRRGGBB each. It is good only
+/// until the owner lays his picture out anew, so it is made fresh for every frame.
+class ScreenImage {
+ public:
+  ScreenImage(void* bits, std::ptrdiff_t bytesPerLine, int width, int height)
+      : bits_(static_cast<std::byte*>(bits)),
+        bytesPerLine_(bytesPerLine),
+        width_(width),
+        height_(height) {}
+
+  /// The pixels of the surface that a journal names.
+  void PaintPlaces(const PixelScale& scale, const Surface& surface,
+                   std::span<const Surface::PixelPlace> places);
+
+  /// The whole surface, and black around it where the picture is larger. The scale has the
+  /// surface's size.
+  void PaintAll(const PixelScale& scale, const Surface& surface);
+
+ private:
+  std::uint32_t* Line(int row) {
+    return reinterpret_cast<std::uint32_t*>(bits_ + row * bytesPerLine_);
+  }
+  void PaintBlock(const PixelScale& scale, int x, int y, std::uint32_t word);
+  void PaintLine(int row, const AxisScale& columns, const Colour* colours);
+
+  std::byte* bits_;
+  std::ptrdiff_t bytesPerLine_;
+  int width_;
+  int height_;
+};
+
+}  // namespace starfolds

@@ -1,0 +1,223 @@
+#include "desktop/window_surface.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPlatformSurfaceEvent>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+namespace starfolds {
+namespace {
+
+/// Writes between two frames that are remembered one by one: enough for 30000 stars that are each
+/// wiped and plotted, with their flares. A frame with more is painted whole. Half a megabyte.
+constexpr std::size_t kJournalCapacity = 128 * 1024;
+
+/// The size of a resizable window until the user gives it another, as a share of the screen.
+constexpr double kWindowShare = 0.6;
+
+Qt::WindowFlags StackingFlag(Stacking stacking) {
+  switch (stacking) {
+    case Stacking::AtBottom: return Qt::WindowStaysOnBottomHint;
+    case Stacking::Ordinary: return {};
+    case Stacking::OnTop: return Qt::WindowStaysOnTopHint;
+  }
+  return {};
+}
+
+bool IsWhole(double factor) { return factor == std::floor(factor); }
+
+}  // namespace
+
+class WindowSurface::EffectWindow : public QWindow {
+ public:
+  EffectWindow(WindowSurface& surface, WindowEvents& events) : surface_(surface), events_(&events) {
+    setSurfaceType(QSurface::RasterSurface);
+  }
+
+  /// From here on nobody hears of the window's end.
+  void Mute() { events_ = &nobody_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { events_->KeyDown(event->key()); }
+  void mousePressEvent(QMouseEvent*) override { events_->MouseDown(); }
+  void mouseDoubleClickEvent(QMouseEvent*) override { events_->DoubleClick(); }
+  void mouseMoveEvent(QMouseEvent* event) override {
+    const QPoint place = event->position().toPoint();
+    events_->MouseMove(place.x(), place.y());
+  }
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    events_->CloseRequested();
+  }
+  void exposeEvent(QExposeEvent*) override {
+    surface_.repaintAll_ = true;
+    if (isExposed()) events_->Exposed();
+  }
+  void paintEvent(QPaintEvent*) override { surface_.Repaint(); }
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::PlatformSurface) {
+      const auto* change = static_cast<QPlatformSurfaceEvent*>(event);
+      if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
+        events_->Destroyed();
+      }
+    }
+    return QWindow::event(event);
+  }
+
+ private:
+  WindowSurface& surface_;
+  WindowEvents* events_;
+  WindowEvents nobody_;
+};
+
+WindowSurface::WindowSurface(WindowEvents& events)
+    : Surface(0, 0, kJournalCapacity),
+      window_(std::make_unique<EffectWindow>(*this, events)),
+      store_(std::make_unique<QBackingStore>(window_.get())) {}
+
+WindowSurface::~WindowSurface() { window_->Mute(); }
+
+void WindowSurface::SetName(const std::string& objectName) {
+  window_->setObjectName(QString::fromStdString(objectName));
+}
+
+void WindowSurface::SetCaption(const std::string& caption) {
+  window_->setTitle(QString::fromStdString(caption));
+}
+
+void WindowSurface::HidePointer() { window_->setCursor(Qt::BlankCursor); }
+
+void WindowSurface::ShowFullScreen(Stacking stacking) {
+  window_->setFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlag(stacking));
+  window_->setGeometry(QGuiApplication::primaryScreen()->geometry());
+  window_->showFullScreen();
+  window_->requestActivate();
+}
+
+void WindowSurface::ShowResizable() {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  QRect place(QPoint(), room.size() * kWindowShare);
+  place.moveCenter(room.center());
+  window_->setFlags(Qt::Window);
+  window_->setGeometry(place);
+  window_->show();
+  window_->requestActivate();
+}
+
+QWindow& WindowSurface::Window() { return *window_; }
+
+bool WindowSurface::IsExposed() const { return window_->isExposed(); }
+
+void WindowSurface::TakeWindowSize() {
+  Resize(static_cast<Integer>(window_->width()), static_cast<Integer>(window_->height()));
+}
+
+void WindowSurface::Present() {
+  if (window_->isExposed()) {
+    FitBackingStore();
+    const bool whole = repaintAll_ || EverythingChanged();
+    const QRegion region = whole ? QRegion(QRect(QPoint(), store_->size())) : TouchedRegion();
+    if (!region.isEmpty()) {
+      store_->beginPaint(region);
+      repaintAll_ = !Paint(*store_->paintDevice(), whole);
+      store_->endPaint();
+      store_->flush(region);
+    }
+  } else {
+    repaintAll_ = true;
+  }
+  ForgetJournal();
+}
+
+void WindowSurface::Repaint() {
+  repaintAll_ = true;
+  Present();
+}
+
+/// The window may have another size, or stand on a screen of another density, than the last time.
+void WindowSurface::FitBackingStore() {
+  if (store_->size() == window_->size() && factor_ == window_->devicePixelRatio()) return;
+  factor_ = window_->devicePixelRatio();
+  store_->resize(window_->size());
+  repaintAll_ = true;
+}
+
+/// The tiles that the journal touches, in logical pixels. The window system rounds their borders at
+/// a fractional factor in its own manner, so there they are grown by one.
+QRegion WindowSurface::TouchedRegion() {
+  for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
+    tiles_.Touch(ColumnOf(*place), RowOf(*place));
+  }
+  rects_.clear();
+  for (const TileRect& tile : tiles_.Take()) {
+    rects_.emplace_back(tile.X, tile.Y, tile.Width, tile.Height);
+  }
+  QRegion region;
+  if (IsWhole(factor_)) {
+    region.setRects(rects_.data(), static_cast<int>(rects_.size()));
+  } else {
+    for (const QRect& rect : rects_) region += rect.adjusted(-1, -1, 1, 1);
+  }
+  return region & QRect(QPoint(), store_->size());
+}
+
+/// False: the window system has laid its picture out anew without a word, so the changes alone will
+/// not do and the next frame has to be painted whole.
+bool WindowSurface::Paint(QPaintDevice& picture, bool whole) {
+  const QSize size(picture.width(), picture.height());
+  if (whole) {
+    MeasureScale(size);
+  } else if (size != pictureSize_) {
+    return false;
+  }
+  if (picture.devType() == QInternal::Image && picture.depth() == 32) {
+    auto& image = static_cast<QImage&>(picture);
+    PaintDirectly({image.bits(), image.bytesPerLine(), image.width(), image.height()}, whole);
+  } else {
+    PaintWithPainter(picture, whole);
+  }
+  return true;
+}
+
+void WindowSurface::MeasureScale(QSize pictureSize) {
+  pictureSize_ = pictureSize;
+  scale_.Columns.Measure(Width(), factor_, pictureSize.width());
+  scale_.Rows.Measure(Height(), factor_, pictureSize.height());
+  tiles_.Resize(Width(), Height());
+}
+
+void WindowSurface::PaintDirectly(ScreenImage image, bool whole) {
+  if (whole) {
+    image.PaintAll(scale_, *this);
+  } else {
+    image.PaintPlaces(scale_, *this, {JournalBegin(), JournalEnd()});
+  }
+}
+
+/// The slow way, for screens of fewer colours. The painter measures in logical pixels.
+void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
+  QPainter painter(&picture);
+  if (!whole) {
+    for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
+      const int x = ColumnOf(*place);
+      const int y = RowOf(*place);
+      painter.fillRect(x, y, 1, 1, QColor::fromRgb(ScreenWord(Pixel(x, y))));
+    }
+    return;
+  }
+  painter.fillRect(QRect(QPoint(), store_->size()), Qt::black);
+  QImage line(std::max(Width(), 1), 1, QImage::Format_RGB32);
+  for (int y = 0; y < Height(); ++y) {
+    auto* const words = reinterpret_cast<std::uint32_t*>(line.bits());
+    for (int x = 0; x < Width(); ++x) words[x] = ScreenWord(Pixel(x, y));
+    painter.drawImage(QRect(0, y, Width(), 1), line, QRect(0, 0, Width(), 1));
+  }
+}
+
+}  // namespace starfolds

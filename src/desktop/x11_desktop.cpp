@@ -1,0 +1,195 @@
+#include "desktop/x11_desktop.h"
+
+#include <xcb/xcb.h>
+
+#include <QGuiApplication>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+namespace starfolds {
+namespace {
+
+/// Whatever the client library hands out comes from malloc.
+struct Freed {
+  void operator()(void* memory) const { std::free(memory); }
+};
+
+/// What the server answered; nothing where it answered with an error, as for a window that has gone
+/// in the meantime.
+template <class Reply>
+using Answer = std::unique_ptr<Reply, Freed>;
+
+/// How deep windows are searched where no window manager keeps a list of them: the root's children
+/// are programs' windows, or the frames around them.
+constexpr int kTreeDepth = 3;
+
+/// Longest property that is read, in units of four bytes.
+constexpr std::uint32_t kPropertyRoom = 64 * 1024;
+
+/// Tells the window manager that a person asked for it, not a program by itself.
+constexpr std::uint32_t kSourcePager = 2;
+
+class X11Desktop : public DesktopServices {
+ public:
+  X11Desktop(xcb_connection_t* connection, xcb_window_t root)
+      : connection_(connection),
+        root_(root),
+        managerCheck_(Atom("_NET_SUPPORTING_WM_CHECK")),
+        clientList_(Atom("_NET_CLIENT_LIST")),
+        activeWindow_(Atom("_NET_ACTIVE_WINDOW")),
+        windowName_(Atom("_NET_WM_NAME")) {}
+
+  bool WindowExists(const std::string& caption) override {
+    return Find(caption) != XCB_WINDOW_NONE;
+  }
+
+  void BringToFront(const std::string& caption) override {
+    const xcb_window_t window = Find(caption);
+    if (window == XCB_WINDOW_NONE) return;
+    if (HasManager()) {
+      AskManagerToActivate(window);
+    } else {
+      RaiseAndFocus(window);
+    }
+    xcb_flush(connection_);
+  }
+
+  bool IsWindow(Long handle) override {
+    return handle > 0 && Attributes(static_cast<xcb_window_t>(handle)) != nullptr;
+  }
+
+  /// X11 has no password of its own for savers: hosts lock the screen themselves.
+  void ChangePassword(Long) override {}
+
+ private:
+  xcb_atom_t Atom(std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const Answer<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection_, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+  }
+
+  /// Every call that names somebody else's window hands in a place for the error: without one it
+  /// would reach the toolkit's event loop as a complaint.
+  Answer<xcb_get_window_attributes_reply_t> Attributes(xcb_window_t window) {
+    xcb_generic_error_t* error = nullptr;
+    Answer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+        connection_, xcb_get_window_attributes(connection_, window), &error));
+    std::free(error);
+    return reply;
+  }
+
+  Answer<xcb_get_property_reply_t> Property(xcb_window_t window, xcb_atom_t name) {
+    xcb_generic_error_t* error = nullptr;
+    const auto cookie =
+        xcb_get_property(connection_, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kPropertyRoom);
+    Answer<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, &error));
+    std::free(error);
+    return reply;
+  }
+
+  std::vector<xcb_window_t> WindowProperty(xcb_window_t window, xcb_atom_t name) {
+    const auto reply = Property(window, name);
+    if (!reply || reply->format != 32) return {};
+    const auto* const begin = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
+    return {begin, begin + xcb_get_property_value_length(reply.get()) / 4};
+  }
+
+  std::string TextProperty(xcb_window_t window, xcb_atom_t name) {
+    const auto reply = Property(window, name);
+    if (!reply || reply->format != 8) return {};
+    const auto* const text = static_cast<const char*>(xcb_get_property_value(reply.get()));
+    return {text, static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+  }
+
+  std::string Caption(xcb_window_t window) {
+    std::string caption = TextProperty(window, windowName_);
+    return caption.empty() ? TextProperty(window, XCB_ATOM_WM_NAME) : caption;
+  }
+
+  /// A manager that has died leaves its mark on the root. The mark of a living one names a window
+  /// that names itself.
+  bool HasManager() {
+    const auto mark = WindowProperty(root_, managerCheck_);
+    return !mark.empty() && WindowProperty(mark.front(), managerCheck_) == mark;
+  }
+
+  std::vector<xcb_window_t> Children(xcb_window_t window) {
+    xcb_generic_error_t* error = nullptr;
+    const Answer<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection_, xcb_query_tree(connection_, window), &error));
+    std::free(error);
+    if (!reply) return {};
+    const xcb_window_t* const begin = xcb_query_tree_children(reply.get());
+    return {begin, begin + xcb_query_tree_children_length(reply.get())};
+  }
+
+  void CollectBelow(xcb_window_t window, int depth, std::vector<xcb_window_t>& found) {
+    if (depth == 0) return;
+    for (const xcb_window_t child : Children(window)) {
+      found.push_back(child);
+      CollectBelow(child, depth - 1, found);
+    }
+  }
+
+  std::vector<xcb_window_t> TopLevelWindows() {
+    if (HasManager()) return WindowProperty(root_, clientList_);
+    std::vector<xcb_window_t> found;
+    CollectBelow(root_, kTreeDepth, found);
+    return found;
+  }
+
+  xcb_window_t Find(const std::string& caption) {
+    for (const xcb_window_t window : TopLevelWindows()) {
+      if (Caption(window) == caption) return window;
+    }
+    return XCB_WINDOW_NONE;
+  }
+
+  void AskManagerToActivate(xcb_window_t window) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = activeWindow_;
+    message.data.data32[0] = kSourcePager;
+    message.data.data32[1] = XCB_CURRENT_TIME;
+    xcb_send_event(connection_, 0, root_,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&message));
+  }
+
+  void RaiseAndFocus(xcb_window_t window) {
+    const std::uint32_t above = XCB_STACK_MODE_ABOVE;
+    DropErrors(xcb_map_window_checked(connection_, window));
+    DropErrors(
+        xcb_configure_window_checked(connection_, window, XCB_CONFIG_WINDOW_STACK_MODE, &above));
+    DropErrors(
+        xcb_set_input_focus_checked(connection_, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME));
+  }
+
+  void DropErrors(xcb_void_cookie_t cookie) { std::free(xcb_request_check(connection_, cookie)); }
+
+  xcb_connection_t* connection_;
+  xcb_window_t root_;
+  xcb_atom_t managerCheck_;
+  xcb_atom_t clientList_;
+  xcb_atom_t activeWindow_;
+  xcb_atom_t windowName_;
+};
+
+xcb_window_t RootOfFirstScreen(xcb_connection_t* connection) {
+  return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
+}  // namespace
+
+std::unique_ptr<DesktopServices> MakeX11Desktop() {
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
+  return std::make_unique<X11Desktop>(x11->connection(), RootOfFirstScreen(x11->connection()));
+}
+
+}  // namespace starfolds

@@ -1,0 +1,11 @@
+// The captions by which the processes of the saver find each other's windows.
+#pragma once
+
+namespace starfolds {
+
+/// Of the saver's window, and of the application window where it can be resized.
+inline constexpr char kSaverCaption[] = "TSLN:Starfolds 4.1a";
+/// Of the properties dialog.
+inline constexpr char kPropertiesCaption[] = "Starfold Properties";
+
+}  // namespace starfolds

@@ -1,0 +1,97 @@
+#include "hosting/main.h"
+
+#include <string_view>
+
+#include "hosting/captions.h"
+#include "numbers/conversions.h"
+#include "numbers/text.h"
+
+namespace starfolds {
+namespace {
+
+constexpr std::size_t kSwitchLength = 2;
+constexpr std::string_view kTemplateExtension = ".SFD";
+
+/// Only the letters that switches and extensions are made of, whatever the locale.
+std::string UpperCased(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return upper;
+}
+
+std::string Switch(std::string_view line) { return UpperCased(line.substr(0, kSwitchLength)); }
+
+/// The window handle behind a switch. What is no number, or fits no handle, gives 0, which names no
+/// window.
+Long HandleBehindSwitch(std::string_view line) {
+  return RoundedOr<Long>(0, LenientNumber(line.substr(kSwitchLength)));
+}
+
+bool NamesTemplate(std::string_view line) { return UpperCased(line).ends_with(kTemplateExtension); }
+
+/// A copy of the program that is called ".exe", with no saver of the same name beside it, is a
+/// plain application whatever its command line says.
+bool IsPlainApplication(const StartUp& start, StartActions& actions) {
+  std::string path = start.ProgramFolder;
+  if (!path.ends_with('/') && !path.ends_with('\\')) path += '/';
+  path += start.ProgramName;
+  return actions.FileExists(path + ".exe") && !actions.FileExists(path + ".scr");
+}
+
+void OpenProperties(Saver& saver, StartActions& actions) {
+  if (saver.Desktop->WindowExists(kPropertiesCaption)) {
+    saver.Desktop->BringToFront(kPropertiesCaption);
+  } else {
+    actions.ShowFrmProps();
+  }
+}
+
+}  // namespace
+
+void ShowEffectWindow(Saver& saver, StartActions& actions) {
+  saver.StopRun = false;
+  if (saver.Mode == RunMode::ScreenSaver) {
+    actions.ShowFrmSaver();
+  } else {
+    actions.ShowFrmAppExe();
+  }
+}
+
+bool AsksForProperties(const std::string& commandLine) {
+  return Trimmed(commandLine).empty() || Switch(commandLine) == "/C";
+}
+
+void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActions& actions) {
+  saver.Mode = RunMode::ScreenSaver;
+  const std::string given = Switch(commandLine);
+  if (AsksForProperties(commandLine)) {
+    OpenProperties(saver, actions);
+  } else if (given == "/S") {
+    if (!saver.Desktop->WindowExists(kSaverCaption)) ShowEffectWindow(saver, actions);
+  } else if (given == "/P") {
+    saver.Mode = RunMode::Preview;
+    saver.PreviewParent = HandleBehindSwitch(commandLine);
+    actions.LoadFrmPreview();
+  } else if (given == "/A") {
+    saver.Desktop->ChangePassword(HandleBehindSwitch(commandLine));
+  } else {
+    if (NamesTemplate(commandLine)) actions.LoadTemplate(commandLine);
+    ShowEffectWindow(saver, actions);
+  }
+}
+
+void Main(Saver& saver, const StartUp& start, StartActions& actions) {
+  saver.QuitApp = false;
+  saver.StopRun = false;
+  saver.NewRun = false;
+  if (IsPlainApplication(start, actions)) {
+    saver.Mode = RunMode::Application;
+    ShowEffectWindow(saver, actions);
+  } else {
+    DispatchCommandLine(saver, start.CommandLine, actions);
+  }
+}
+
+}  // namespace starfolds
