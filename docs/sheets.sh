@@ -1,0 +1,70 @@
+#!/usr/bin/env bash
+# Renders the contact sheets of the factory settings into docs/pictures/sheets/: every profile and
+# composite of both sets as a viewer sees it from its own distance, and the eight universe themes.
+# Usage: docs/sheets.sh PROGRAM   (the path of starfolds-render)
+set -euo pipefail
+program=$(realpath "$1")
+mkdir -p "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
+cd "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+# tile FILE FRAME OPTION...: one frame as a tile.
+tile() {
+  local file=$1 frame=$2
+  shift 2
+  "$program" --size 384x216 --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
+  mv "$scratch"/frame/frame-*.png "$file"
+}
+
+# sheet FILE COLUMNS: all tiles in the order of their names, each over what its name says.
+sheet() {
+  local file=$1 columns=$2 arguments=() picture label
+  for picture in "$scratch"/tiles/*.png; do
+    label=$(basename "$picture" .png)
+    arguments+=(-label "${label#*_}" "$picture")
+  done
+  montage -background '#303030' -fill '#d0d0d0' -pointsize 13 "${arguments[@]}" \
+    -tile "${columns}x" -geometry +3+3 -strip "$file"
+  rm -r "$scratch/tiles"
+}
+
+# bodies SET KIND FRAME: a sheet of all profiles or composites of a set. Undefined ones are the
+# first one again.
+bodies() {
+  local set=$1 kind=$2 frame=$3 number name
+  mkdir -p "$scratch/tiles"
+  "$program" --factory "$set" --list --hash | sed -n "s/^$kind //p" | grep -v ' Undefined$' |
+    while read -r number name; do
+      tile "$(printf '%s/tiles/%02d_%s %s.png' "$scratch" "$number" "$number" "${name//\// }")" \
+        "$frame" --factory "$set" "--$kind" "$number" --set Universe_STrail=1 \
+        --set Universe_Stars=5000
+    done
+  sheet "set$set-${kind}s.png" 5
+}
+
+# themes: blast, end of the blast, a visit and the pull-out of each theme. The frames follow from
+# its steps: a visit has steps times control points, and the pull-out begins behind the last.
+themes() {
+  local theme blast steps approach closein visit
+  local -a step=(0 160 100 250 300 160 250 75 300) points=(0 2 2 1 3 2 1 1 1)
+  local -a core=(0 3 4 4 0 2 4 1 0) expand=(0 300 300 500 1 300 300 250 300)
+  mkdir -p "$scratch/tiles"
+  for theme in 1 2 3 4 5 6 7 8; do
+    blast=${expand[theme]} steps=${step[theme]} approach=${points[theme]} closein=${core[theme]}
+    visit=$((steps * (approach + closein)))
+    tile "$scratch/tiles/${theme}1_theme $theme: blast.png" $((blast / 30 + 2)) --theme "$theme"
+    tile "$scratch/tiles/${theme}2_theme $theme: settling.png" $((blast / 2 + 12)) --theme "$theme"
+    tile "$scratch/tiles/${theme}3_theme $theme: visit.png" \
+      $((blast + visit - steps / 2)) --theme "$theme"
+    tile "$scratch/tiles/${theme}4_theme $theme: pull-out.png" \
+      $((blast + visit + steps * approach / 5)) --theme "$theme" --set Universe_Recycle=1
+  done
+  sheet themes.png 4
+}
+
+for set in 0 1; do
+  bodies "$set" profile 300
+  bodies "$set" composite 300
+done
+themes
