@@ -15,27 +15,27 @@ namespace {
 
 enum class BirthState : Integer { Flying, Wiping, Settled };
 
+/// A star in the blast, until it has settled in a starfold.
+struct BirthStar {
+  Single BirthX = 0, BirthY = 0, BirthZ = 0;
+  Single BirthVX = 0, BirthVY = 0, BirthVZ = 0;
+  BirthState State = BirthState::Flying;
+  Integer BirthStep = 0;  // frames in the state
+};
+
+/// The creation velocity of a starfold; gravity has another.
+struct FoldVelocity {
+  Single FoldVX = 0, FoldVY = 0, FoldVZ = 0;
+};
+
 /// What lives only as long as one creation.
 struct Birth {
-  std::vector<Single> BirthX, BirthY, BirthZ, BirthVX, BirthVY, BirthVZ;
-  std::vector<BirthState> State;
-  std::vector<Integer> BirthStep;  // frames in the state
-  std::vector<Single> FoldVX, FoldVY, FoldVZ;
+  std::vector<BirthStar> Stars;
+  std::vector<FoldVelocity> Folds;
   Single CreationDamp = 1;  // what all speeds are multiplied by in this frame
   Integer MinFlightFrames = 0;
 
-  Birth(std::size_t stars, std::size_t folds)
-      : BirthX(stars),
-        BirthY(stars),
-        BirthZ(stars),
-        BirthVX(stars),
-        BirthVY(stars),
-        BirthVZ(stars),
-        State(stars, BirthState::Flying),
-        BirthStep(stars),
-        FoldVX(folds),
-        FoldVY(folds),
-        FoldVZ(folds) {}
+  Birth(std::size_t stars, std::size_t folds) : Stars(stars), Folds(folds) {}
 };
 
 /// Shares of the 66 bodies as running sums. If nobody has a share, profile 0 has it all.
@@ -79,16 +79,16 @@ struct Shares {
 
 /// Every star at the core, with its own velocity of the blast.
 void SeedFlight(UniverseScene& scene, Birth& birth) {
-  for (std::size_t i = 0; i < birth.BirthX.size(); ++i) {
+  for (BirthStar& star : birth.Stars) {
     const ExpansionVector start =
         SeedExpansionVector(scene.Process, scene.Shape, scene.TourProfile, scene.Growth.ExpandStep,
                             0, ExpansionMode::Burst);
-    birth.BirthX[i] = start.X;
-    birth.BirthY[i] = start.Y;
-    birth.BirthZ[i] = start.Z;
-    birth.BirthVX[i] = start.VX;
-    birth.BirthVY[i] = start.VY;
-    birth.BirthVZ[i] = start.VZ;
+    star.BirthX = start.X;
+    star.BirthY = start.Y;
+    star.BirthZ = start.Z;
+    star.BirthVX = start.VX;
+    star.BirthVY = start.VY;
+    star.BirthVZ = start.VZ;
   }
 }
 
@@ -102,13 +102,12 @@ void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
   for (std::size_t i = 0; i < folds.StarfoldProf.size(); ++i) {
     folds.StarfoldProf[i] =
         universe.Universe_GVisit ? shares.PickInTurn(cursor) : shares.PickByShare(saver.Random());
-    const auto star = static_cast<std::size_t>(DrawBelow(saver.Random, universe.Universe_Stars));
-    folds.StarfoldX[i] = birth.BirthX[star];
-    folds.StarfoldY[i] = birth.BirthY[star];
-    folds.StarfoldZ[i] = birth.BirthZ[star];
-    birth.FoldVX[i] = birth.BirthVX[star];
-    birth.FoldVY[i] = birth.BirthVY[star];
-    birth.FoldVZ[i] = birth.BirthVZ[star];
+    const int pick = DrawBelow(saver.Random, universe.Universe_Stars);
+    const BirthStar& star = birth.Stars[static_cast<std::size_t>(pick)];
+    folds.StarfoldX[i] = star.BirthX;
+    folds.StarfoldY[i] = star.BirthY;
+    folds.StarfoldZ[i] = star.BirthZ;
+    birth.Folds[i] = {star.BirthVX, star.BirthVY, star.BirthVZ};
   }
   if (!universe.Universe_Tour || universe.Universe_GVisit) return;
   const auto listed = std::min<std::size_t>(saver.Visits.Count, folds.StarfoldProf.size());
@@ -120,12 +119,13 @@ void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
   StarfoldArrays& folds = scene.Run.Folds;
   const Single distance = scene.Process.Universe.Universe_DstCen;
   for (std::size_t i = 0; i < folds.StarfoldX.size(); ++i) {
-    folds.StarfoldX[i] += birth.FoldVX[i];
-    folds.StarfoldY[i] += birth.FoldVY[i];
-    folds.StarfoldZ[i] += birth.FoldVZ[i];
-    birth.FoldVX[i] *= birth.CreationDamp;
-    birth.FoldVY[i] *= birth.CreationDamp;
-    birth.FoldVZ[i] *= birth.CreationDamp;
+    FoldVelocity& velocity = birth.Folds[i];
+    folds.StarfoldX[i] += velocity.FoldVX;
+    folds.StarfoldY[i] += velocity.FoldVY;
+    folds.StarfoldZ[i] += velocity.FoldVZ;
+    velocity.FoldVX *= birth.CreationDamp;
+    velocity.FoldVY *= birth.CreationDamp;
+    velocity.FoldVZ *= birth.CreationDamp;
     folds.StarfoldRel[i] = {folds.StarfoldX[i], folds.StarfoldY[i], folds.StarfoldZ[i] + distance};
   }
 }
@@ -158,17 +158,18 @@ class BirthFrame {
   }
 
   void StepStars() {
-    for (std::size_t i = 0; i < birth_.State.size(); ++i) {
+    for (std::size_t i = 0; i < birth_.Stars.size(); ++i) {
+      BirthStar& star = birth_.Stars[i];
       const std::size_t ring =
           i * static_cast<std::size_t>(trail_) + static_cast<std::size_t>(scene_.Run.TrailHead);
-      switch (birth_.State[i]) {
-        case BirthState::Flying: FlyOn(i, ring); break;
-        case BirthState::Wiping: WipeOn(i, ring); break;
+      switch (star.State) {
+        case BirthState::Flying: FlyOn(star, ring); break;
+        case BirthState::Wiping: WipeOn(star, i, ring); break;
         case BirthState::Settled: LiveOn(i, ring); break;
       }
-      birth_.BirthVX[i] *= birth_.CreationDamp;
-      birth_.BirthVY[i] *= birth_.CreationDamp;
-      birth_.BirthVZ[i] *= birth_.CreationDamp;
+      star.BirthVX *= birth_.CreationDamp;
+      star.BirthVY *= birth_.CreationDamp;
+      star.BirthVZ *= birth_.CreationDamp;
     }
   }
 
@@ -182,27 +183,27 @@ class BirthFrame {
     PlotView(pen_, lens_, view, stars_.Trail[ring], colour);
   }
 
-  void FlyOn(std::size_t i, std::size_t ring) {
+  void FlyOn(BirthStar& star, std::size_t ring) {
     const UniverseSettings& universe = scene_.Process.Universe;
-    if (++birth_.BirthStep[i] > trail_) Wipe(ring);
+    if (++star.BirthStep > trail_) Wipe(ring);
     const Single draw = scene_.Process.Random();
     if (!(draw < universe.Universe_Persist) && frame_ >= birth_.MinFlightFrames) {
-      birth_.State[i] = BirthState::Wiping;
-      birth_.BirthStep[i] = 0;
+      star.State = BirthState::Wiping;
+      star.BirthStep = 0;
       return;
     }
-    birth_.BirthX[i] += birth_.BirthVX[i];
-    birth_.BirthY[i] += birth_.BirthVY[i];
-    birth_.BirthZ[i] += birth_.BirthVZ[i];
-    const double depth = static_cast<double>(universe.Universe_DstCen) + birth_.BirthZ[i];
-    Plot(ring, {birth_.BirthX[i], birth_.BirthY[i], depth}, flightColor_);
+    star.BirthX += star.BirthVX;
+    star.BirthY += star.BirthVY;
+    star.BirthZ += star.BirthVZ;
+    const double depth = static_cast<double>(universe.Universe_DstCen) + star.BirthZ;
+    Plot(ring, {star.BirthX, star.BirthY, depth}, flightColor_);
   }
 
   /// The star is dark until its trail is gone; then it is reborn.
-  void WipeOn(std::size_t i, std::size_t ring) {
+  void WipeOn(BirthStar& star, std::size_t i, std::size_t ring) {
     Wipe(ring);
-    if (++birth_.BirthStep[i] != trail_) return;
-    birth_.State[i] = BirthState::Settled;
+    if (++star.BirthStep != trail_) return;
+    star.State = BirthState::Settled;
     SettleStar(scene_, i);
   }
 
@@ -297,8 +298,8 @@ void CreateUniverse(UniverseScene& scene) {
     if (saver.NewRun) break;
   }
   StopAmbientStars(scene.Run.Ambient);
-  for (std::size_t i = 0; i < birth.State.size(); ++i) {
-    if (birth.State[i] != BirthState::Settled) SettleStar(scene, i);
+  for (std::size_t i = 0; i < birth.Stars.size(); ++i) {
+    if (birth.Stars[i].State != BirthState::Settled) SettleStar(scene, i);
   }
 }
 
