@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bodies/body_slots.h"
+#include "colour/prepared.h"
 #include "numbers/words.h"
 #include "platform/surface.h"
 
@@ -27,7 +28,7 @@ struct alignas(64) StarState {
   Integer StarWait = 0;  // frames until a star that waits for its trail is re-seeded
   Single StarVX = 0, StarVY = 0, StarVZ = 0;  // per frame; StarVY is a wave star's phase
   Long StarAge = 0;                           // frames since it was seeded
-  Long StarFrame = 0;  // the `BodyFrame` of a settled star that rotates; 0: it has none
+  Long StarFrame = 0;                         // the `BodyFrame` of a settled star; 0: it has none
 
   bool InFlare() const { return (StarNewLeft | StarNovaLeft | StarPulsarLeft) != 0; }
 };
@@ -66,14 +67,16 @@ struct RelPlace {
   RelPlace(Single x, Single y, Single z) : X(x), Y(y), Z(z) {}
 };
 
-/// One level of a starfold that rotates, for one frame: all that its stars share, in a cache line.
+/// One level of a starfold, for one frame: all that its stars share, in a cache line.
 struct alignas(64) BodyFrame {
   RelPlace Rel;
   double TiltCos = 1, TiltSin = 0;
+  const StarMotion* Motion = nullptr;
   const Colour* HueTable = nullptr;  // none where the hues stand still
   Single HWheelInc = 0;
   bool AxisPlane = false;
 };
+static_assert(sizeof(BodyFrame) == 64);
 
 /// Per starfold.
 struct StarfoldArrays {

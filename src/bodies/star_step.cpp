@@ -50,16 +50,15 @@ void StepFlareWithoutTrail(const FrameScene& scene, std::size_t i) {
   PlaceAndDrawNewStar(scene, i, ViewStar(star, motion, scene.Run.Folds));
 }
 
-/// The frame of reference that a settled star can share with others; 0 where its body does not
-/// rotate, or is a composite and holds stars of several profiles.
+/// The frame of reference that a settled star can share with others; 0 where its body is a
+/// composite and holds stars of several profiles.
 Long SharedFrame(const FrameScene& scene, const StarState& star) {
   const Integer home = star.StarHome;
   const bool shared = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(home)] == star.StarProf;
-  if (!shared || MotionOfStar(scene, star).RunMotion != Motion::Rotate) return 0;
-  return home * kMaxLevels + star.StarLevel + 1;
+  return shared ? home * kMaxLevels + star.StarLevel + 1 : 0;
 }
 
-/// Notes for each level of the starfolds that rotate what its stars share in this frame.
+/// Notes for each level of the starfolds what its stars share in this frame.
 void FillFrames(const FrameScene& scene) {
   StarfoldArrays& folds = scene.Run.Folds;
   for (std::size_t home = 0; home < folds.StarfoldProf.size(); ++home) {
@@ -71,6 +70,7 @@ void FillFrames(const FrameScene& scene) {
           folds.StarfoldRel[home],
           run.Star.LevelCos[level],
           run.Star.LevelSin[level],
+          &run.Star,
           run.Star.HueCycleOn ? scene.Process.Colours.Profile[entry].HueTable.data() : nullptr,
           run.Star.HWheelInc,
           run.Star.AxisPlane};
@@ -78,8 +78,7 @@ void FillFrames(const FrameScene& scene) {
   }
 }
 
-/// A star in flare, one that moves by another rule than rotation, or one that was seeded in the
-/// last frame.
+/// A star in flare, one of a composite, or one that was seeded in the last frame.
 void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   StarArrays& stars = scene.Run.Stars;
   StarState& star = stars.Star[i];
@@ -100,8 +99,8 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   AdvanceStarHue(scene.Process, star);
 }
 
-/// The loop of the common case. A settled star of a rotating body costs two pixels, and what it
-/// shares with the rest of its body is made ready once a frame.
+/// The loop of the common case. A settled star costs two pixels, and what it shares with the rest
+/// of its body is made ready once a frame.
 void StepStarsWithoutTrails(const FrameScene& scene) {
   FillFrames(scene);
   StarState* const stars = scene.Run.Stars.Star.data();
@@ -117,8 +116,8 @@ void StepStarsWithoutTrails(const FrameScene& scene) {
       continue;
     }
     pen.SetPixelV(trails[i].TrailX, trails[i].TrailY, 0);
-    RotateStar(star);
     const BodyFrame& frame = frames[star.StarFrame];
+    MoveStar(star, *frame.Motion);
     const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
     if (view.InFront()) PlotView(pen, lens, view, trails[i], star.StarColor);
     if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);

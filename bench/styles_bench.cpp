@@ -1,0 +1,159 @@
+// What the styles cost: the step of a star and the seeding of one, style by style, and the comets
+// and ambient stars beside them. The floor loop runs in the same program, so that rows compare as
+// ratios to it. Each style is the first factory profile that has it.
+#include <string>
+
+#include "bodies/comets.h"
+#include "floor_loop.h"
+#include "measure.h"
+#include "settings/factory.h"
+#include "universe/ambient.h"
+#include "universe/universe_run.h"
+
+namespace starfolds {
+namespace {
+
+constexpr Integer kStars = 5000;
+constexpr Integer kTrail = 6;
+constexpr int kBatch = 100;     // frames between two looks at the clock
+constexpr int kSettling = 600;  // frames in which a body comes to look as it does for good
+constexpr TourPlace kNoTour{0, 0, 32000, 0, false};
+
+/// The row of the first factory profile of a style.
+int FactoryRowOf(FoldStyle style) {
+  StarfoldProfile profile;
+  for (int row = 0; row < kProfileCount; ++row) {
+    LoadFactoryProfile(profile, FactorySet::Starfolds4x, row);
+    if (profile.Style() == style) return row;
+  }
+  return 0;
+}
+
+/// A body of a factory profile whose stars do not flare.
+scenes::BodyStage FactoryBody(int row, Integer stars, Integer trail) {
+  return scenes::BodyStage(1920, 1080, stars, trail, [row](SettingsRecords& settings) {
+    StarfoldProfile& profile = settings.Profiles[0];
+    LoadFactoryProfile(profile, FactorySet::Starfolds4x, row);
+    profile.Starfold_NewFrames = 0;
+    profile.Starfold_NovaFreq = 0;
+    profile.Starfold_PulsarFreq = 0;
+    profile.Starfold_CometFreq = 0;
+  });
+}
+
+void StepBody(scenes::BodyStage& stage) { StarStep(stage.Frame(), kNoTour); }
+
+/// The step of a body that has run for a while. It is not re-seeded any more, so a batch of frames
+/// begins again and again with the same stars, before those that drift have left.
+void MeasureStep(benchmark::State& state, FoldStyle style, Integer trail) {
+  const int row = FactoryRowOf(style);
+  scenes::BodyStage stage = FactoryBody(row, kStars, trail);
+  for (int frame = 0; frame < kSettling; ++frame) {
+    stage.Step();
+    StepNebulaRibbonsAlike(*stage.Process, stage.Run->Slots, 0);
+  }
+  stage.Process->Profiles[0].Starfold_NewFreq = 0;
+  const StarArrays settled = stage.Run->Stars;
+  for (auto _ : state) {
+    state.PauseTiming();
+    stage.Run->Stars = settled;
+    StepBody(stage);
+    state.ResumeTiming();
+    for (int frame = 0; frame < kBatch; ++frame) StepBody(stage);
+    benchmark::ClobberMemory();
+  }
+  CountStars(state, static_cast<std::size_t>(kStars) * kBatch);
+  state.SetLabel(std::string(FactoryProfileName(row, FactorySet::Starfolds4x)));
+}
+
+void FloorLoop(benchmark::State& state) {
+  Floor floor(FactoryBody(FactoryRowOf(FoldStyle::Standard), kStars, 1));
+  for (auto _ : state) {
+    for (int frame = 0; frame < kBatch; ++frame) floor.Step();
+    benchmark::ClobberMemory();
+  }
+  CountStars(state, floor.X.size() * kBatch);
+}
+
+FoldStyle StyleOf(const benchmark::State& state) { return static_cast<FoldStyle>(state.range(0)); }
+
+void Step(benchmark::State& state) { MeasureStep(state, StyleOf(state), 1); }
+void StepWithTrails(benchmark::State& state) { MeasureStep(state, StyleOf(state), kTrail); }
+
+void Seed(benchmark::State& state) {
+  const int row = FactoryRowOf(StyleOf(state));
+  scenes::BodyStage stage = FactoryBody(row, kStars, 1);
+  for (auto _ : state) {
+    for (std::size_t i = 0; i < kStars; ++i) {
+      SeedStar(*stage.Process, stage.Run->Stars, stage.Run->Slots, i);
+    }
+    benchmark::ClobberMemory();
+  }
+  CountStars(state, kStars);
+  state.SetLabel(std::string(FactoryProfileName(row, FactorySet::Starfolds4x)));
+}
+
+/// Comets that are all there and stay, with stars that end and are reborn at the profile's rate.
+void CometStars(benchmark::State& state) {
+  scenes::BodyStage stage = FactoryBody(FactoryRowOf(FoldStyle::Standard), 1, 1);
+  CometArrays& comets = stage.Run->Comets;
+  ResetComets(*stage.Process, comets, 0, 0);
+  stage.Process->Profiles[0].Starfold_CometCPersist = 1;
+  stage.Process->Prepared[0].RunCometChance = 1;
+  for (int frame = 0; frame < kSettling; ++frame) CometStep(stage.Frame(), 0, 0, kNoTour.SegIdx);
+  stage.Process->Prepared[0].RunCometChance = 0;
+  std::size_t stars = 0;
+  for (const CometHead& head : comets.Heads) stars += static_cast<std::size_t>(head.CometLeft);
+  for (auto _ : state) {
+    for (int frame = 0; frame < kBatch; ++frame) CometStep(stage.Frame(), 0, 0, kNoTour.SegIdx);
+    benchmark::ClobberMemory();
+  }
+  CountStars(state, stars * kBatch);
+}
+
+/// The ambient stars of a finished universe at its defaults, seen from where its creation was.
+void AmbientStars(benchmark::State& state) {
+  scenes::Stage stage(1920, 1080);
+  stage.Read();
+  UniverseSettings& universe = stage.Process->Universe;
+  EnterUniverseSettings(universe);
+  PrepareProfiles(*stage.Process);
+  AmbientArrays stars(static_cast<std::size_t>(universe.Universe_AmStar),
+                      static_cast<std::size_t>(universe.Universe_AmFrames));
+  BuildAmbRamp(stars);
+  ExpansionShape shape;
+  SetUpExpansion(*stage.Process, shape, 0);
+  const AmbientScene scene{*stage.Process, stars, shape};
+  const TourPoint eye{0, 0, -universe.Universe_DstCen};
+  const Single radius = universe.Universe_Expand * universe.Universe_ESteps / 2;
+  SeedAmbientStars(scene, 0, 0);
+  const auto step = [&] { StepAmbientStars(scene, eye, radius, 0, AmbientMode::Finished, 0); };
+  for (int frame = 0; frame < 10 * kSettling; ++frame) step();
+  for (auto _ : state) {
+    for (int frame = 0; frame < kBatch; ++frame) step();
+    benchmark::ClobberMemory();
+  }
+  CountStars(state, stars.AmbX.size() * kBatch);
+}
+
+void Measured(benchmark::internal::Benchmark* bench) {
+  bench->MinTime(0.1);
+  RepeatAndTakeQuickest(bench);
+}
+
+void EveryStyle(benchmark::internal::Benchmark* bench) {
+  bench->DenseRange(0, kStyleCount - 1);
+  Measured(bench);
+}
+
+BENCHMARK(FloorLoop)->Apply(Measured);
+BENCHMARK(Step)->Apply(EveryStyle);
+BENCHMARK(StepWithTrails)->Arg(0)->Apply(Measured);
+BENCHMARK(Seed)->Apply(EveryStyle);
+BENCHMARK(CometStars)->Apply(Measured);
+BENCHMARK(AmbientStars)->Apply(Measured);
+
+}  // namespace
+}  // namespace starfolds
+
+BENCHMARK_MAIN();
