@@ -14,6 +14,7 @@ namespace starfolds {
 /// entered for good (`exec`) would end by itself, for good, when the last window closes.
 class QtPump : public Pump {
  public:
+  /// The application object exists already; without it the alarm would never be heard.
   explicit QtPump(std::unique_ptr<Alarm> alarm = MakeAlarm());
 
   Long TickCount() override;

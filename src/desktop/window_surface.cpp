@@ -16,7 +16,7 @@ namespace {
 
 /// Writes between two frames that are remembered one by one: enough for 30000 stars that are each
 /// wiped and plotted, with their flares. A frame with more is painted whole. Half a megabyte.
-constexpr std::size_t kJournalCapacity = 128 * 1024;
+constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
 /// The size of a resizable window until the user gives it another, as a share of the screen.
 constexpr double kWindowShare = 0.6;
