@@ -1,0 +1,61 @@
+#include "app/options.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace starfolds {
+namespace {
+
+using Arguments = std::vector<std::string_view>;
+
+StartOptions Parsed(const Arguments& arguments) {
+  StartOptions options;
+  EXPECT_EQ(ParseStartOptions(arguments, options), std::nullopt);
+  return options;
+}
+
+std::string Refused(const Arguments& arguments) {
+  StartOptions options;
+  return ParseStartOptions(arguments, options).value_or("");
+}
+
+TEST(StartOptions, LeaveTheCommandLineToTheSystem) {
+  EXPECT_EQ(Parsed({}).CommandLine, "");
+  const StartOptions preview = Parsed({"/P", "12345"});
+  EXPECT_EQ(preview.AskedFor, Role::FromCommandLine);
+  EXPECT_EQ(preview.CommandLine, "/P 12345");
+  EXPECT_EQ(Parsed({"/My Folder/a", "b.sfd"}).CommandLine, "/My Folder/a b.sfd");
+  EXPECT_EQ(Parsed({"", "/S"}).CommandLine, " /S");
+  EXPECT_EQ(Parsed({"/S", "--window"}).AskedFor, Role::FromCommandLine);
+}
+
+TEST(StartOptions, NameARole) {
+  EXPECT_EQ(Parsed({"--saver"}).AskedFor, Role::Saver);
+  EXPECT_EQ(Parsed({"--window"}).AskedFor, Role::Window);
+  EXPECT_EQ(Parsed({"--settings"}).AskedFor, Role::Settings);
+  EXPECT_EQ(Parsed({"--help"}).AskedFor, Role::Help);
+  EXPECT_EQ(Parsed({"--version"}).AskedFor, Role::Version);
+}
+
+TEST(StartOptions, TakeASeed) {
+  EXPECT_EQ(Parsed({"--saver"}).Seed, std::nullopt);
+  EXPECT_EQ(Parsed({"--saver", "--seed", "0"}).Seed, 0U);
+  EXPECT_EQ(Parsed({"--seed", "18446744073709551615", "--window"}).Seed, ~std::uint64_t{0});
+}
+
+TEST(StartOptions, AreRefusedWhereTheyMakeNoSense) {
+  EXPECT_NE(Refused({"--root"}).find("'--root'"), std::string::npos);
+  EXPECT_NE(Refused({"--saver", "rings.sfd"}).find("'rings.sfd'"), std::string::npos);
+  EXPECT_NE(Refused({"--saver=1"}), "");
+  EXPECT_NE(Refused({"--"}), "");
+  for (const char* const seed : {"", "x", "-1", "1x", " 1", "1.5", "18446744073709551616"}) {
+    EXPECT_NE(Refused({"--saver", "--seed", seed}), "") << seed;
+  }
+  EXPECT_NE(Refused({"--saver", "--seed"}), "");
+  EXPECT_NE(Refused({"--seed", "1"}), "");
+  EXPECT_NE(Refused({"--settings", "--seed", "1"}), "");
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,75 @@
+#!/bin/bash
+# program_test.sh STARFOLDS: what the program says and how it ends where no window comes up.
+set -u
+program=$1
+faults=0
+output=$(mktemp)
+errors=$(mktemp)
+trap 'rm -f "$output" "$errors"' EXIT
+
+# expect CODE OUTPUT-PATTERN ERROR-PATTERN ARGUMENT...: an empty pattern wants silence.
+expect() {
+  local code=$1 said=$2 complained=$3 file pattern
+  shift 3
+  timeout 20 "$program" "$@" >"$output" 2>"$errors" </dev/null
+  local got=$?
+  # The toolkit complains where a bare test machine has no session.
+  sed -i '/^QStandardPaths: /d' "$errors"
+  if [ "$got" != "$code" ]; then
+    echo "starfolds $*: exit code $got instead of $code" >&2
+    faults=$((faults + 1))
+  fi
+  for file in "$output" "$errors"; do
+    pattern=$said
+    [ "$file" = "$errors" ] && pattern=$complained
+    if { [ -z "$pattern" ] && [ -s "$file" ]; } ||
+       { [ -n "$pattern" ] && ! grep -q -- "$pattern" "$file"; }; then
+      echo "starfolds $*: wanted '$pattern', got:" >&2
+      cat "$file" >&2
+      faults=$((faults + 1))
+    fi
+  done
+}
+
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+expect 0 'Usage: starfolds' '' --help
+expect 0 '^starfolds [0-9]' '' --version
+expect 2 '' "unknown option '--root'" --root
+expect 2 '' '--seed needs' --saver --seed many
+expect 1 '' 'no desktop' --saver
+expect 1 '' 'no desktop' /S
+DISPLAY='' WAYLAND_DISPLAY='' expect 1 '' 'no desktop' --window
+
+export QT_QPA_PLATFORM=offscreen
+expect 1 '' 'settings dialog is not part.*--saver and --window'
+expect 1 '' 'settings dialog is not part' --settings
+expect 1 '' 'settings dialog is not part' /c:77
+expect 1 '' 'preview is not part' /P 12345
+expect 1 '' 'Template files cannot be loaded' rings.sfd
+expect 0 '' '' /A 12345
+
+# A complaint is one line, and nothing in it commands the terminal.
+expect 2 '' "unknown option '--.\[31mred'" $'--\e[31mred'
+if [ "$(wc -l <"$errors")" != 1 ] || grep -q $'\e' "$errors"; then
+  echo "the complaint about a wild option is no plain line" >&2
+  faults=$((faults + 1))
+fi
+
+# The program's name decides, too: an .exe without an .scr beside it runs as the application, whose
+# window takes the signal; with one beside it the switch counts again.
+folder=$(mktemp -d)
+cp "$program" "$folder/stars.exe"
+timeout -s TERM 1 "$folder/stars.exe" /C 2>"$errors"
+if [ $? != 124 ] || grep -q 'not part' "$errors"; then
+  echo "stars.exe did not run as the application" >&2
+  faults=$((faults + 1))
+fi
+touch "$folder/stars.scr"
+timeout -s TERM 20 "$folder/stars.exe" /C 2>"$errors"
+if [ $? != 1 ] || ! grep -q 'not part' "$errors"; then
+  echo "stars.exe with stars.scr beside it did not look at its switch" >&2
+  faults=$((faults + 1))
+fi
+rm -r "$folder"
+
+[ "$faults" = 0 ] || exit 1

@@ -1,0 +1,99 @@
+#include "desktop/dirty_tiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace starfolds {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int kTile = DirtyTiles::kTileSize;
+
+void TouchTile(DirtyTiles& tiles, int column, int row) {
+  tiles.Touch(column * kTile + kTile - 1, row * kTile);
+}
+
+/// How many of the rectangles hold the pixel.
+int Holders(const std::vector<TileRect>& rects, int x, int y) {
+  int holders = 0;
+  for (const TileRect& rect : rects) {
+    const bool inside =
+        x >= rect.X && x < rect.X + rect.Width && y >= rect.Y && y < rect.Y + rect.Height;
+    holders += inside ? 1 : 0;
+  }
+  return holders;
+}
+
+TEST(DirtyTiles, JoinsNeighboursOfARowAndCutsAtTheEdgeOfTheSurface) {
+  DirtyTiles tiles;
+  tiles.Resize(10 * kTile + 5, 6 * kTile + 3);
+  tiles.Touch(0, 0);
+  tiles.Touch(kTile, 0);
+  tiles.Touch(3 * kTile, 0);
+  tiles.Touch(10 * kTile + 4, 6 * kTile + 2);
+  EXPECT_THAT(tiles.Take(),
+              ElementsAre(TileRect{0, 0, 2 * kTile, kTile}, TileRect{3 * kTile, 0, kTile, kTile},
+                          TileRect{10 * kTile, 6 * kTile, 5, 3}));
+  EXPECT_THAT(tiles.Take(), IsEmpty());
+}
+
+TEST(DirtyTiles, BecomeTheirBoundsAboveSevenTenths) {
+  DirtyTiles tiles;
+  tiles.Resize(20 * kTile, 20 * kTile);
+  // Two rows of ten tiles: with all of the first and four of the second they are just 7/10.
+  for (int i = 0; i < 10; ++i) TouchTile(tiles, 3 + i, 5);
+  for (int i = 0; i < 4; ++i) TouchTile(tiles, 3 + i, 6);
+  EXPECT_EQ(tiles.Take().size(), 2U);
+
+  for (int i = 0; i < 10; ++i) TouchTile(tiles, 3 + i, 5);
+  for (int i = 0; i < 5; ++i) TouchTile(tiles, 3 + i, 6);
+  EXPECT_THAT(tiles.Take(), ElementsAre(TileRect{3 * kTile, 5 * kTile, 10 * kTile, 2 * kTile}));
+}
+
+TEST(DirtyTiles, BecomeTheirBoundsAboveTheHighestCount) {
+  DirtyTiles tiles;
+  tiles.Resize(32 * kTile, 32 * kTile);
+  // Every second tile of a row: 16 rectangles in each of 16 rows are the most that is kept.
+  const auto touchRows = [&](int rows) {
+    for (int row = 0; row < rows; ++row) {
+      for (int column = 0; column < 32; column += 2) TouchTile(tiles, column, row);
+    }
+  };
+  touchRows(16);
+  EXPECT_EQ(tiles.Take().size(), DirtyTiles::kMaxRects);
+  touchRows(17);
+  EXPECT_THAT(tiles.Take(), ElementsAre(TileRect{0, 0, 31 * kTile, 17 * kTile}));
+}
+
+TEST(DirtyTiles, HoldEveryTouchedPixelOnceAndNoIdleTile) {
+  std::mt19937 random(7);
+  DirtyTiles tiles;
+  constexpr int width = 700;
+  constexpr int height = 500;
+  tiles.Resize(width, height);
+  for (int round = 0; round < 50; ++round) {
+    std::vector<std::pair<int, int>> touched;
+    for (int i = 0; i < 20; ++i) {
+      touched.emplace_back(random() % width, random() % height);
+      tiles.Touch(touched.back().first, touched.back().second);
+    }
+    const std::vector<TileRect>& rects = tiles.Take();
+    for (const auto& [x, y] : touched) ASSERT_EQ(Holders(rects, x, y), 1);
+    if (rects.size() == 1) continue;
+    for (int y = 0; y < height; y += kTile) {
+      for (int x = 0; x < width; x += kTile) {
+        const bool busy = std::any_of(touched.begin(), touched.end(), [&](const auto& place) {
+          return place.first / kTile == x / kTile && place.second / kTile == y / kTile;
+        });
+        ASSERT_EQ(Holders(rects, x, y), busy ? 1 : 0) << "tile at " << x << ", " << y;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,119 @@
+#include "desktop/qt_pump.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <chrono>
+#include <ctime>
+#include <thread>
+
+#include "desktop/toolkit.h"
+
+namespace starfolds {
+namespace {
+
+using AlarmMaker = std::unique_ptr<Alarm> (*)();
+
+double ProcessorMilliseconds() {
+  return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+class QtPumpWith : public testing::TestWithParam<AlarmMaker> {
+ protected:
+  Long Since(Long begin) { return Events.TickCount() - begin; }
+
+  QtPump Events{GetParam()()};
+};
+
+TEST_P(QtPumpWith, SleepsUntilTheTimeHasPassed) {
+  const double processorBegin = ProcessorMilliseconds();
+  const Long begin = Events.TickCount();
+  int rounds = 0;
+  while (Since(begin) < 300) {
+    Events.WaitForEvents(300 - Since(begin));
+    ++rounds;
+  }
+  // A wait that returned at once would go round many thousand times; one that never woke would not
+  // come here.
+  EXPECT_LT(rounds, 50);
+  EXPECT_LT(ProcessorMilliseconds() - processorBegin, 150);
+}
+
+TEST_P(QtPumpWith, WakesForAnEventAndRunsIt) {
+  QObject receiver;
+  bool ran = false;
+  std::thread sender([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    QMetaObject::invokeMethod(
+        &receiver, [&] { ran = true; }, Qt::QueuedConnection);
+  });
+  const Long begin = Events.TickCount();
+  while (!ran && Since(begin) < 20'000) Events.WaitForEvents(20'000);
+  sender.join();
+  EXPECT_TRUE(ran);
+  EXPECT_LT(Since(begin), 10'000);
+}
+
+TEST_P(QtPumpWith, TakesNoTimeWhereThereIsNoneToWait) {
+  const Long begin = Events.TickCount();
+  for (int i = 0; i < 100; ++i) {
+    Events.WaitForEvents(0);
+    Events.WaitForEvents(-5);
+    Events.PumpEvents();
+  }
+  EXPECT_LT(Since(begin), 2'000);
+}
+
+TEST_P(QtPumpWith, IsNotWokenByAFormerDeadline) {
+  QTimer soon;
+  soon.setSingleShot(true);
+  soon.start(0);
+  while (soon.isActive()) Events.WaitForEvents(40);
+  // The alarm of the wait above has been called off. Left alone it would cut this wait short.
+  Events.PumpEvents();
+  const Long begin = Events.TickCount();
+  Events.WaitForEvents(150);
+  EXPECT_GE(Since(begin), 140);
+}
+
+TEST_P(QtPumpWith, KeepsTheScreensPace) {
+  constexpr int frames = 30;
+  Events.WaitForRefresh();
+  const double processorBegin = ProcessorMilliseconds();
+  const Long begin = Events.TickCount();
+  for (int i = 0; i < frames; ++i) Events.WaitForRefresh();
+  // The screen of these tests has 60 refreshes a second.
+  EXPECT_GE(Since(begin), frames * 1000 / 60 - 20);
+  EXPECT_LT(ProcessorMilliseconds() - processorBegin, 250);
+}
+
+INSTANTIATE_TEST_SUITE_P(Alarms, QtPumpWith, testing::Values(&MakeAlarm, &MakeToolkitAlarm),
+                         [](const auto& alarm) {
+                           return alarm.param == &MakeAlarm ? "Best" : "Toolkit";
+                         });
+
+TEST(QtPump, DeletesWhatIsToBeDeletedLater) {
+  QtPump events;
+  const QPointer<QObject> object = new QObject;
+  object->deleteLater();
+  events.PumpEvents();
+  EXPECT_TRUE(object.isNull());
+}
+
+TEST(QtPump, RunsAllThatIsPending) {
+  QtPump events;
+  QObject receiver;
+  int ran = 0;
+  for (int i = 0; i < 10; ++i) {
+    QMetaObject::invokeMethod(
+        &receiver, [&] { ++ran; }, Qt::QueuedConnection);
+  }
+  events.PumpEvents();
+  EXPECT_EQ(ran, 10);
+}
+
+}  // namespace
+}  // namespace starfolds

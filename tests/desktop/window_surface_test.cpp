@@ -1,0 +1,265 @@
+// What a window shows, read back from the screen. The same tests run without a screen, and on X
+// servers of several depths and scale factors.
+#include "desktop/window_surface.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QScreen>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "desktop/qt_pump.h"
+#include "desktop/toolkit.h"
+
+namespace starfolds {
+namespace {
+
+using testing::ElementsAre;
+
+class NotedEvents : public WindowEvents {
+ public:
+  std::vector<std::string> Notes;
+
+  void KeyDown(int key) override { Notes.push_back("key " + std::to_string(key)); }
+  void MouseDown() override { Notes.push_back("press"); }
+  void DoubleClick() override { Notes.push_back("double click"); }
+  void MouseMove(int x, int y) override {
+    Notes.push_back("move " + std::to_string(x) + " " + std::to_string(y));
+  }
+  void CloseRequested() override { Notes.push_back("close"); }
+  void Exposed() override { ++Exposures; }
+  void Destroyed() override { Notes.push_back("destroyed"); }
+
+  int Exposures = 0;
+};
+
+class WindowSurfaceTest : public testing::Test {
+ protected:
+  WindowSurfaceTest() { Target.Window().setFlags(Qt::Window | Qt::FramelessWindowHint); }
+
+  /// Runs events until `done`, for at most five seconds.
+  bool PumpUntil(const std::function<bool()>& done) {
+    for (int i = 0; i < 500 && !done(); ++i) Events.WaitForEvents(10);
+    return done();
+  }
+
+  void Settle() {
+    for (int i = 0; i < 5; ++i) Events.WaitForEvents(10);
+  }
+
+  void ShowAt(int width, int height) {
+    Target.Window().setGeometry(20, 10, width, height);
+    Target.Window().show();
+    ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
+    Settle();
+  }
+
+  void ResizeWindow(int width, int height) {
+    Target.Window().resize(width, height);
+    Settle();
+  }
+
+  void Scatter(int count) {
+    for (int i = 0; i < count; ++i) {
+      Target.SetPixelV(static_cast<Long>(Random() % Target.Width()),
+                       static_cast<Long>(Random() % Target.Height()), Random() & 0xFFFFFFU);
+    }
+  }
+
+  /// Whether a screen of this depth shows such a word so: with fewer colours low bits are lost.
+  static bool LooksLike(QRgb shown, std::uint32_t expected, int depth) {
+    const int lost = depth == 16 ? 8 : 0;
+    return std::abs(qRed(shown) - qRed(expected)) <= lost &&
+           std::abs(qGreen(shown) - qGreen(expected)) <= lost &&
+           std::abs(qBlue(shown) - qBlue(expected)) <= lost;
+  }
+
+  /// Every physical pixel of the window shows the surface pixel under its centre, or black.
+  void ExpectShown() {
+    Settle();
+    QWindow& window = Target.Window();
+    QScreen* const screen = QGuiApplication::primaryScreen();
+    const QImage shown =
+        screen->grabWindow(window.winId(), 0, 0, window.width(), window.height()).toImage();
+    const double factor = window.devicePixelRatio();
+    const int width = static_cast<int>(window.width() * factor);
+    const int height = static_cast<int>(window.height() * factor);
+    ASSERT_GE(shown.width(), width);
+    ASSERT_GE(shown.height(), height);
+    for (int y = 0; y < height; ++y) {
+      for (int x = 0; x < width; ++x) {
+        const auto column = static_cast<Long>((x + 0.5) / factor);
+        const auto row = static_cast<Long>((y + 0.5) / factor);
+        const std::uint32_t expected = ScreenWord(Target.Pixel(column, row));
+        ASSERT_PRED3(LooksLike, shown.pixel(x, y), expected, screen->depth()) << x << ", " << y;
+      }
+    }
+  }
+
+  std::mt19937 Random{11};
+  NotedEvents Heard;
+  QtPump Events;
+  WindowSurface Target{Heard};
+};
+
+TEST_F(WindowSurfaceTest, ShowsTheCanvasFrameByFrame) {
+  ShowAt(400, 300);
+  Target.TakeWindowSize();
+  ASSERT_EQ(Target.Width(), 400);
+  ASSERT_EQ(Target.Height(), 300);
+  for (const int count : {500, 1, 3, 40, 0, 2000}) {
+    Scatter(count);
+    Target.Present();
+    ExpectShown();
+  }
+  Target.Clear();
+  Scatter(5);
+  Target.Present();
+  ExpectShown();
+}
+
+TEST_F(WindowSurfaceTest, ShowsAFrameOfMoreChangesThanTheJournalHolds) {
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Target.Present();
+  Scatter(200'000);
+  Target.Present();
+  ExpectShown();
+}
+
+TEST_F(WindowSurfaceTest, KeepsItsSizeWhenTheWindowIsResized) {
+  ShowAt(300, 200);
+  Target.TakeWindowSize();
+  Scatter(1000);
+  Target.Present();
+  ExpectShown();
+  for (const auto& [width, height] : {std::pair(360, 260), {180, 130}, {330, 90}}) {
+    ResizeWindow(width, height);
+    Scatter(20);
+    Target.Present();
+    ExpectShown();
+    Scatter(20);
+    Target.Present();
+    ExpectShown();
+  }
+  EXPECT_EQ(Target.Width(), 300);
+  Target.TakeWindowSize();
+  EXPECT_EQ(Target.Width(), 330);
+  EXPECT_EQ(Target.Height(), 90);
+  Scatter(50);
+  Target.Present();
+  ExpectShown();
+}
+
+TEST_F(WindowSurfaceTest, ComesBackWholeAfterItWasHidden) {
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Scatter(100);
+  Target.Present();
+  Target.Window().hide();
+  ASSERT_TRUE(PumpUntil([&] { return !Target.IsExposed(); }));
+  for (int frame = 0; frame < 10; ++frame) {
+    Scatter(50);
+    Target.Present();
+  }
+  Target.Window().show();
+  ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
+  Scatter(5);
+  Target.Present();
+  ExpectShown();
+  EXPECT_GE(Heard.Exposures, 2);
+}
+
+TEST_F(WindowSurfaceTest, ShowsSinglePixelsAtTheBordersOfItsTiles) {
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Target.Present();
+  for (const Long x : {0, 63, 64, 127, 128, 199}) {
+    for (const Long y : {64, 127}) {
+      Target.SetPixelV(x, y, 0xFFFFFF);
+      Target.Present();
+      ExpectShown();
+      Target.SetPixelV(x, y, 0);
+      Target.Present();
+    }
+  }
+}
+
+TEST_F(WindowSurfaceTest, RepaintsWhatAnotherWindowHasCovered) {
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Scatter(3000);
+  Target.Present();
+  {
+    WindowSurface above(Heard);
+    above.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
+    above.Window().setGeometry(60, 40, 80, 70);
+    above.Window().show();
+    above.Window().raise();
+    ASSERT_TRUE(PumpUntil([&] { return above.IsExposed(); }));
+    above.Present();
+    Settle();
+  }
+  ExpectShown();
+}
+
+TEST_F(WindowSurfaceTest, CoversTheScreen) {
+  Target.ShowFullScreen(Stacking::OnTop);
+  ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
+  Target.TakeWindowSize();
+  EXPECT_EQ(Target.Window().geometry(), QGuiApplication::primaryScreen()->geometry());
+  Scatter(300);
+  Target.Present();
+  ExpectShown();
+}
+
+class WindowInputTest : public WindowSurfaceTest {
+ protected:
+  void Send(QEvent&& event) { QCoreApplication::sendEvent(&Target.Window(), &event); }
+
+  static QMouseEvent Mouse(QEvent::Type type, QPointF place) {
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    return {type, place, place, button, button, Qt::NoModifier};
+  }
+};
+
+TEST_F(WindowInputTest, IsPassedOn) {
+  Send(QKeyEvent(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier));
+  Send(QKeyEvent(QEvent::KeyRelease, Qt::Key_F5, Qt::NoModifier));
+  Send(Mouse(QEvent::MouseMove, {12, 34}));
+  Send(Mouse(QEvent::MouseButtonPress, {12, 34}));
+  Send(Mouse(QEvent::MouseButtonDblClick, {12, 34}));
+  EXPECT_THAT(Heard.Notes, ElementsAre("key " + std::to_string(Qt::Key_F5), "move 12 34", "press",
+                                       "double click"));
+}
+
+TEST_F(WindowInputTest, CannotCloseTheWindowByItself) {
+  ShowAt(200, 150);
+  Heard.Notes.clear();
+  Target.Window().close();
+  Settle();
+  EXPECT_THAT(Heard.Notes, ElementsAre("close"));
+  EXPECT_TRUE(Target.Window().isVisible());
+}
+
+TEST_F(WindowInputTest, TellsOfTheWindowsEndAndSurvivesIt) {
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Heard.Notes.clear();
+  Target.Window().destroy();
+  EXPECT_THAT(Heard.Notes, ElementsAre("destroyed"));
+  Scatter(10);
+  Target.Present();
+  EXPECT_FALSE(Target.IsExposed());
+}
+
+}  // namespace
+}  // namespace starfolds

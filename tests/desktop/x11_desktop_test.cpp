@@ -1,0 +1,71 @@
+// Needs an X server; runs without and with a window manager.
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QWindow>
+#include <functional>
+#include <limits>
+#include <memory>
+
+#include "desktop/desktop_services_qt.h"
+#include "desktop/qt_pump.h"
+#include "desktop/toolkit.h"
+
+namespace starfolds {
+namespace {
+
+class X11DesktopTest : public testing::Test {
+ protected:
+  bool PumpUntil(const std::function<bool()>& done) {
+    for (int i = 0; i < 300 && !done(); ++i) Events.WaitForEvents(10);
+    return done();
+  }
+
+  void Show(QWindow& window, const char* caption) {
+    window.setTitle(QString::fromUtf8(caption));
+    window.setGeometry(50, 50, 200, 100);
+    window.show();
+    ASSERT_TRUE(PumpUntil([&] { return window.isExposed(); }));
+  }
+
+  QtPump Events;
+  std::unique_ptr<DesktopServices> Desktop = MakeDesktopServices();
+};
+
+TEST_F(X11DesktopTest, FindsWindowsByTheirWholeCaption) {
+  QWindow window;
+  Show(window, "TSLN:Sterne \xC3\xBC");
+  EXPECT_TRUE(PumpUntil([&] { return Desktop->WindowExists("TSLN:Sterne \xC3\xBC"); }));
+  EXPECT_FALSE(Desktop->WindowExists("TSLN:Sterne"));
+  EXPECT_FALSE(Desktop->WindowExists("tsln:sterne \xC3\xBC"));
+  EXPECT_FALSE(Desktop->WindowExists(""));
+  window.destroy();
+  EXPECT_TRUE(PumpUntil([&] { return !Desktop->WindowExists("TSLN:Sterne \xC3\xBC"); }));
+}
+
+TEST_F(X11DesktopTest, BringsTheNamedWindowForward) {
+  QWindow below;
+  QWindow above;
+  Show(below, "below");
+  Show(above, "above");
+  above.requestActivate();
+  ASSERT_TRUE(PumpUntil([&] { return QGuiApplication::focusWindow() == &above; }));
+  Desktop->BringToFront("nobody");
+  Desktop->BringToFront("below");
+  EXPECT_TRUE(PumpUntil([&] { return QGuiApplication::focusWindow() == &below; }));
+}
+
+TEST_F(X11DesktopTest, KnowsLivingWindowsFromAllOtherNumbers) {
+  QWindow window;
+  Show(window, "alive");
+  const auto handle = static_cast<Long>(window.winId());
+  EXPECT_TRUE(Desktop->IsWindow(handle));
+  window.destroy();
+  EXPECT_FALSE(Desktop->IsWindow(handle));
+  for (const Long number : {0, 1, -1, 12345, 0x7FFFFFFF, std::numeric_limits<Long>::min()}) {
+    EXPECT_FALSE(Desktop->IsWindow(number)) << number;
+  }
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,79 @@
+// A host window without a screen: time is counted, and the test says what happens in which frame.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWindow>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "colour/saver.h"
+#include "desktop/toolkit.h"
+
+namespace starfolds {
+
+/// Counts the pumps of the run, and does in each what is planned for it. A run that nobody ends is
+/// ended after a while, so that a fault fails instead of hanging.
+class PlannedPump : public CountedPump {
+ public:
+  static constexpr int kLongestRun = 2000;
+
+  explicit PlannedPump(Saver& saver) : saver_(saver) {}
+
+  std::map<int, std::function<void()>> Plan;
+  int Pumps = 0;
+
+  void PumpEvents() override {
+    QCoreApplication::processEvents();
+    ++Pumps;
+    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
+    if (Pumps >= kLongestRun) saver_.StopRun = saver_.QuitApp = true;
+  }
+
+ private:
+  Saver& saver_;
+};
+
+class HostTest : public testing::Test {
+ protected:
+  HostTest() {
+    State->Events = &Events;
+    State->Desktop = &Desktop;
+    UniverseSettings& universe = State->Stored.Universe;
+    universe.Universe_Stars = 50;
+    universe.Universe_Starfold = 1;
+    universe.Universe_AmStar = 0;
+    universe.Universe_ESteps = 20;
+    universe.Universe_GSteps = 20;
+    universe.Universe_GPCtrl = 1;
+    universe.Universe_GCCtrl = 0;
+  }
+
+  static void Send(QWindow& window, QEvent&& event) {
+    QCoreApplication::sendEvent(&window, &event);
+  }
+  static void Press(QWindow& window, int key) {
+    Send(window, QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+  }
+  static void Click(QWindow& window, QEvent::Type type = QEvent::MouseButtonPress) {
+    Send(window, QMouseEvent(type, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
+                             Qt::NoModifier));
+  }
+  static void Move(QWindow& window, int x) {
+    Send(window, QMouseEvent(QEvent::MouseMove, QPointF(x, 5), QPointF(x, 5), Qt::NoButton,
+                             Qt::NoButton, Qt::NoModifier));
+  }
+
+  std::unique_ptr<Saver> State = std::make_unique<Saver>();
+  PlannedPump Events{*State};
+  MemoryDesktop Desktop;
+  int Seeds = 0;  // how often a host has set up a run
+  std::function<std::uint64_t()> NextSeed = [this] { return static_cast<std::uint64_t>(++Seeds); };
+};
+
+}  // namespace starfolds

@@ -1,0 +1,176 @@
+#include "hosting/main.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace starfolds {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Notes what a start does, with the mode that it does it in.
+class NotedActions : public StartActions {
+ public:
+  explicit NotedActions(const Saver& saver) : saver_(saver) {}
+
+  std::vector<std::string> Files;
+  std::vector<std::string> Notes;
+
+  bool FileExists(const std::string& path) override {
+    return std::find(Files.begin(), Files.end(), path) != Files.end();
+  }
+  void ShowFrmSaver() override { Note("saver"); }
+  void ShowFrmAppExe() override { Note("application"); }
+  void ShowFrmProps() override { Note("properties"); }
+  void LoadFrmPreview() override { Note("preview in " + std::to_string(saver_.PreviewParent)); }
+  void LoadTemplate(const std::string& path) override { Notes.push_back("template " + path); }
+
+ private:
+  void Note(const std::string& what) {
+    const char* const modes[] = {"as application", "as saver", "as preview"};
+    Notes.push_back(what + " " + modes[static_cast<int>(saver_.Mode)] +
+                    (saver_.StopRun ? ", stopped" : ""));
+  }
+
+  const Saver& saver_;
+};
+
+class MainTest : public testing::Test {
+ protected:
+  MainTest() { State->Desktop = &Desktop; }
+
+  std::vector<std::string> NotesOf(const std::string& commandLine) {
+    Actions.Notes.clear();
+    Main(*State, {"/opt/stars", "Starfolds", commandLine}, Actions);
+    return Actions.Notes;
+  }
+
+  std::unique_ptr<Saver> State = std::make_unique<Saver>();
+  MemoryDesktop Desktop;
+  NotedActions Actions{*State};
+};
+
+struct Dispatch {
+  std::string CommandLine;
+  std::vector<std::string> Notes;
+};
+
+const std::vector<std::string> kProperties{"properties as saver"};
+const std::vector<std::string> kSaver{"saver as saver"};
+
+const std::vector<Dispatch> kDispatches{
+    Dispatch{"", kProperties},
+    Dispatch{"   \t ", kProperties},
+    Dispatch{"/c", kProperties},
+    Dispatch{"/C", kProperties},
+    Dispatch{"/c:1234", kProperties},
+    Dispatch{"/C 1234", kProperties},
+    Dispatch{"/Custom.sfd", kProperties},
+    Dispatch{"-c", kSaver},
+    Dispatch{" /c", kSaver},
+    Dispatch{"/s", kSaver},
+    Dispatch{"/S", kSaver},
+    Dispatch{"/S:123", kSaver},
+    Dispatch{"/Sxyz", kSaver},
+    Dispatch{" /S", kSaver},
+    Dispatch{"/", kSaver},
+    Dispatch{"anything at all", kSaver},
+    Dispatch{"/p 12345", {"preview in 12345 as preview"}},
+    Dispatch{"/P12345", {"preview in 12345 as preview"}},
+    Dispatch{"/P  12 34", {"preview in 1234 as preview"}},
+    Dispatch{"/P 12345 and more", {"preview in 12345 as preview"}},
+    Dispatch{"/P 2.5", {"preview in 2 as preview"}},
+    Dispatch{"/P 3.5", {"preview in 4 as preview"}},
+    Dispatch{"/P 1e3", {"preview in 1000 as preview"}},
+    Dispatch{"/P -7", {"preview in -7 as preview"}},
+    Dispatch{"/P:12345", {"preview in 0 as preview"}},
+    Dispatch{"/P", {"preview in 0 as preview"}},
+    Dispatch{"/P 0x800EE5", {"preview in 0 as preview"}},
+    Dispatch{"/P 2147483647", {"preview in 2147483647 as preview"}},
+    Dispatch{"/P 2147483648", {"preview in 0 as preview"}},
+    Dispatch{"/P 1e400", {"preview in 0 as preview"}},
+    Dispatch{"/P rings.sfd", {"preview in 0 as preview"}},
+    Dispatch{"C:\\My Templates\\Rings.sfd",
+             {"template C:\\My Templates\\Rings.sfd", "saver as saver"}},
+    Dispatch{"rings.SfD", {"template rings.SfD", "saver as saver"}},
+    Dispatch{".sfd", {"template .sfd", "saver as saver"}},
+    Dispatch{"\"rings.sfd\"", kSaver},
+    Dispatch{"rings.sfd ", kSaver},
+    Dispatch{"sfd", kSaver}};
+
+TEST_F(MainTest, GoesByTheCommandLine) {
+  for (const Dispatch& dispatch : kDispatches) {
+    EXPECT_EQ(NotesOf(dispatch.CommandLine), dispatch.Notes) << dispatch.CommandLine;
+  }
+  EXPECT_THAT(Desktop.PasswordCalls, IsEmpty());
+}
+
+TEST_F(MainTest, StartsNoSecondSaver) {
+  Desktop.Captions = {"TSLN:Starfolds 4.1a"};
+  EXPECT_THAT(NotesOf("/S"), IsEmpty());
+  EXPECT_THAT(Desktop.BroughtForward, IsEmpty());
+  // Only the switch itself asks for running savers.
+  EXPECT_EQ(NotesOf(" /S"), kSaver);
+  EXPECT_EQ(NotesOf("other"), kSaver);
+}
+
+TEST_F(MainTest, BringsTheOpenPropertiesForward) {
+  Desktop.Captions = {"Starfold Properties"};
+  EXPECT_THAT(NotesOf(""), IsEmpty());
+  EXPECT_THAT(NotesOf("/C 55"), IsEmpty());
+  EXPECT_THAT(Desktop.BroughtForward, ElementsAre("Starfold Properties", "Starfold Properties"));
+}
+
+TEST_F(MainTest, ChangesThePasswordAndEnds) {
+  EXPECT_THAT(NotesOf("/a 77"), IsEmpty());
+  EXPECT_THAT(NotesOf("/A:77"), IsEmpty());
+  EXPECT_THAT(Desktop.PasswordCalls, ElementsAre(77, 0));
+}
+
+TEST_F(MainTest, IsAPlainApplicationUnderTheNameExe) {
+  Actions.Files = {"/opt/stars/Starfolds.exe"};
+  for (const char* const line : {"", "/S", "/P 5", "rings.sfd"}) {
+    EXPECT_THAT(NotesOf(line), ElementsAre("application as application")) << line;
+  }
+}
+
+TEST_F(MainTest, IsASaverWithAScrBeside) {
+  Actions.Files = {"/opt/stars/Starfolds.exe", "/opt/stars/Starfolds.scr"};
+  EXPECT_EQ(NotesOf("/S"), kSaver);
+  Actions.Files = {"/opt/stars/Starfolds.scr"};
+  EXPECT_EQ(NotesOf("/S"), kSaver);
+}
+
+TEST_F(MainTest, JoinsFolderAndNameWithOneSeparator) {
+  Actions.Files = {"/Starfolds.exe", "C:\\Starfolds.exe"};
+  for (const char* const folder : {"/", "C:\\"}) {
+    Actions.Notes.clear();
+    Main(*State, {folder, "Starfolds", "/S"}, Actions);
+    EXPECT_THAT(Actions.Notes, ElementsAre("application as application")) << folder;
+  }
+}
+
+TEST_F(MainTest, BeginsWithAllFlagsDown) {
+  State->StopRun = true;
+  State->NewRun = true;
+  State->QuitApp = true;
+  NotesOf("/C");
+  EXPECT_FALSE(State->StopRun);
+  EXPECT_FALSE(State->NewRun);
+  EXPECT_FALSE(State->QuitApp);
+}
+
+TEST_F(MainTest, LetsAStoppedEffectBeginAgain) {
+  State->Mode = RunMode::Application;
+  State->StopRun = true;
+  ShowEffectWindow(*State, Actions);
+  EXPECT_THAT(Actions.Notes, ElementsAre("application as application"));
+}
+
+}  // namespace
+}  // namespace starfolds
