@@ -75,8 +75,8 @@ TEST_F(FrmAppExeTest, TakesTheWindowsSizeWithTheNextRunOnly) {
   EXPECT_EQ(Seeds, 2);
 }
 
-/// Without a delay every frame is one pump. A universe is 20 frames of creation, 20 of its one visit
-/// and 20 of pull-out then.
+/// Without a delay every frame is one pump. A universe is 20 frames of creation, 20 of its one
+/// visit and 20 of pull-out then.
 class FrmAppExeAnew : public FrmAppExeTest, public testing::WithParamInterface<int> {
  protected:
   FrmAppExeAnew() { State->Stored.Advanced.Adv_TimeDelay = 0; }
