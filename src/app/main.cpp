@@ -44,7 +44,7 @@ int Print(const std::string& text) {
 
 /// The toolkit ends the process with a core dump where it finds no desktop.
 bool HasDesktop() {
-#ifdef __linux__
+#if defined(__unix__) && !defined(__APPLE__)
   const auto given = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
   return given("DISPLAY") || given("WAYLAND_DISPLAY") || given("QT_QPA_PLATFORM");
 #else
@@ -74,12 +74,17 @@ StartUp DescribeStart(const StartOptions& options) {
           options.CommandLine};
 }
 
+void ShowApplication(Saver& saver, StartActions& windows) {
+  saver.Mode = RunMode::Application;
+  ShowEffectWindow(saver, windows);
+}
+
 /// Opens the window that was asked for, and returns when it is gone.
 void Run(Saver& saver, const StartOptions& options, StartActions& windows) {
   switch (options.AskedFor) {
     case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
     case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
-    case Role::Window: saver.Mode = RunMode::Application; return ShowEffectWindow(saver, windows);
+    case Role::Window: return ShowApplication(saver, windows);
     default: return Main(saver, DescribeStart(options), windows);
   }
 }

@@ -53,7 +53,7 @@ struct Saver {
   RunMode Mode = RunMode::Application;
   bool StopRun = false;  // the effect must stop for good
   bool NewRun = false;   // this run must be abandoned for one with fresh settings
-  bool QuitApp = false;  // the properties dialog asked the application to end
+  bool QuitApp = false;  // the application must end, and no further run begin in it
   Long PreviewParent = 0;
 
   // The machine. All three are set before a run begins and outlive it.

@@ -36,35 +36,31 @@ bool IsWhole(double factor) { return factor == std::floor(factor); }
 
 class WindowSurface::EffectWindow : public QWindow {
  public:
-  EffectWindow(WindowSurface& surface, WindowEvents& events) : surface_(surface), events_(&events) {
+  EffectWindow(WindowSurface& surface, WindowEvents& events) : surface_(surface), events_(events) {
     setSurfaceType(QSurface::RasterSurface);
   }
 
-  /// From here on nobody hears of the window's end.
-  void Mute() { events_ = &nobody_; }
-
  protected:
-  void keyPressEvent(QKeyEvent* event) override { events_->KeyDown(event->key()); }
-  void mousePressEvent(QMouseEvent*) override { events_->MouseDown(); }
-  void mouseDoubleClickEvent(QMouseEvent*) override { events_->DoubleClick(); }
+  void keyPressEvent(QKeyEvent* event) override { events_.KeyDown(event->key()); }
+  void mousePressEvent(QMouseEvent*) override { events_.MouseDown(); }
+  void mouseDoubleClickEvent(QMouseEvent*) override { events_.DoubleClick(); }
   void mouseMoveEvent(QMouseEvent* event) override {
     const QPoint place = event->position().toPoint();
-    events_->MouseMove(place.x(), place.y());
+    events_.MouseMove(place.x(), place.y());
   }
   void closeEvent(QCloseEvent* event) override {
     event->ignore();
-    events_->CloseRequested();
+    events_.CloseRequested();
   }
   void exposeEvent(QExposeEvent*) override {
-    surface_.repaintAll_ = true;
-    if (isExposed()) events_->Exposed();
+    if (isExposed()) events_.Exposed();
   }
   void paintEvent(QPaintEvent*) override { surface_.Repaint(); }
   bool event(QEvent* event) override {
     if (event->type() == QEvent::PlatformSurface) {
       const auto* change = static_cast<QPlatformSurfaceEvent*>(event);
       if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
-        events_->Destroyed();
+        events_.Destroyed();
       }
     }
     return QWindow::event(event);
@@ -72,8 +68,7 @@ class WindowSurface::EffectWindow : public QWindow {
 
  private:
   WindowSurface& surface_;
-  WindowEvents* events_;
-  WindowEvents nobody_;
+  WindowEvents& events_;
 };
 
 WindowSurface::WindowSurface(WindowEvents& events)
@@ -81,7 +76,7 @@ WindowSurface::WindowSurface(WindowEvents& events)
       window_(std::make_unique<EffectWindow>(*this, events)),
       store_(std::make_unique<QBackingStore>(window_.get())) {}
 
-WindowSurface::~WindowSurface() { window_->Mute(); }
+WindowSurface::~WindowSurface() = default;
 
 void WindowSurface::SetName(const std::string& objectName) {
   window_->setObjectName(QString::fromStdString(objectName));

@@ -1,7 +1,7 @@
 #include "hosting/run_loop.h"
 
+#include <QTime>
 #include <chrono>
-#include <ctime>
 
 #include "universe/host_surface.h"
 #include "universe/universe_run.h"
@@ -23,14 +23,7 @@ std::uint64_t ClockSeed() {
   return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
-double SecondsSinceMidnight() {
-  using namespace std::chrono;
-  const system_clock::time_point now = system_clock::now();
-  const std::time_t whole = system_clock::to_time_t(now);
-  const std::tm local = *std::localtime(&whole);
-  const duration<double> fraction = now - floor<seconds>(now);
-  return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + fraction.count();
-}
+double SecondsSinceMidnight() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
 
 void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
   const Long begin = saver.Events->TickCount();

@@ -12,7 +12,8 @@ namespace {
 class StopSignalsTest : public testing::TestWithParam<int> {
  protected:
   void PumpUntilStopped() {
-    for (int i = 0; i < 200 && Stops == 0; ++i) Events.WaitForEvents(10);
+    const Long begin = Events.TickCount();
+    while (Stops == 0 && Events.TickCount() - begin < 5000) Events.WaitForEvents(10);
   }
 
   static void* HandlerOf(int number) {

@@ -47,12 +47,15 @@ class WindowSurfaceTest : public testing::Test {
 
   /// Runs events until `done`, for at most five seconds.
   bool PumpUntil(const std::function<bool()>& done) {
-    for (int i = 0; i < 500 && !done(); ++i) Events.WaitForEvents(10);
+    const Long begin = Events.TickCount();
+    while (!done() && Events.TickCount() - begin < 5000) Events.WaitForEvents(10);
     return done();
   }
 
+  /// Lets window system and window manager come to rest.
   void Settle() {
-    for (int i = 0; i < 5; ++i) Events.WaitForEvents(10);
+    const Long begin = Events.TickCount();
+    while (Events.TickCount() - begin < 50) Events.WaitForEvents(10);
   }
 
   void ShowAt(int width, int height) {
@@ -82,26 +85,41 @@ class WindowSurfaceTest : public testing::Test {
            std::abs(qBlue(shown) - qBlue(expected)) <= lost;
   }
 
-  /// Every physical pixel of the window shows the surface pixel under its centre, or black.
-  void ExpectShown() {
-    Settle();
-    QWindow& window = Target.Window();
-    QScreen* const screen = QGuiApplication::primaryScreen();
-    const QImage shown =
-        screen->grabWindow(window.winId(), 0, 0, window.width(), window.height()).toImage();
-    const double factor = window.devicePixelRatio();
-    const int width = static_cast<int>(window.width() * factor);
-    const int height = static_cast<int>(window.height() * factor);
-    ASSERT_GE(shown.width(), width);
-    ASSERT_GE(shown.height(), height);
+  QImage Grab() {
+    const QWindow& window = Target.Window();
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(window.winId(), 0, 0, window.width(), window.height())
+        .toImage();
+  }
+
+  /// The first physical pixel that does not show the surface pixel under its centre, or black
+  /// beyond the surface. "" where all do.
+  std::string Difference() {
+    const QImage shown = Grab();
+    const int depth = QGuiApplication::primaryScreen()->depth();
+    const double factor = Target.Window().devicePixelRatio();
+    const int width = static_cast<int>(Target.Window().width() * factor);
+    const int height = static_cast<int>(Target.Window().height() * factor);
+    if (shown.width() < width || shown.height() < height) return "the picture is too small";
     for (int y = 0; y < height; ++y) {
       for (int x = 0; x < width; ++x) {
         const auto column = static_cast<Long>((x + 0.5) / factor);
         const auto row = static_cast<Long>((y + 0.5) / factor);
         const std::uint32_t expected = ScreenWord(Target.Pixel(column, row));
-        ASSERT_PRED3(LooksLike, shown.pixel(x, y), expected, screen->depth()) << x << ", " << y;
+        if (!LooksLike(shown.pixel(x, y), expected, depth)) {
+          return "at " + std::to_string(x) + ", " + std::to_string(y) + ": " +
+                 QString::number(shown.pixel(x, y), 16).toStdString() + " instead of " +
+                 QString::number(expected, 16).toStdString();
+        }
       }
     }
+    return "";
+  }
+
+  /// The window system may take a moment.
+  void ExpectShown() {
+    PumpUntil([&] { return Difference().empty(); });
+    EXPECT_EQ(Difference(), "");
   }
 
   std::mt19937 Random{11};

@@ -17,7 +17,8 @@ namespace {
 class X11DesktopTest : public testing::Test {
  protected:
   bool PumpUntil(const std::function<bool()>& done) {
-    for (int i = 0; i < 300 && !done(); ++i) Events.WaitForEvents(10);
+    const Long begin = Events.TickCount();
+    while (!done() && Events.TickCount() - begin < 5000) Events.WaitForEvents(10);
     return done();
   }
 
