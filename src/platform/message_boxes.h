@@ -1,0 +1,51 @@
+// Questions and warnings that wait for the user's answer.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "numbers/words.h"
+
+namespace starfolds {
+
+/// The buttons and the icon of a message box.
+enum class BoxStyle : Integer {
+  Plain = 0,  // "OK"
+  YesNoCancelQuestion = 35,
+  Exclamation = 48,  // "OK"
+};
+
+enum class BoxAnswer : Integer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+
+  /// Shows a box and waits for its answer. Closing the box means "Cancel", or "OK" where that is
+  /// its only button.
+  virtual BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) = 0;
+};
+
+/// A box that answers by itself: what a test has put there, then "OK". It notes what it was asked.
+class ScriptedMessageBoxes : public MessageBoxes {
+ public:
+  struct Asked {
+    std::string Text;
+    BoxStyle Style;
+    std::string Caption;
+  };
+
+  std::deque<BoxAnswer> Answers;
+  std::vector<Asked> Log;
+
+  BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) override {
+    Log.push_back({text, style, caption});
+    if (Answers.empty()) return BoxAnswer::Ok;
+    const BoxAnswer answer = Answers.front();
+    Answers.pop_front();
+    return answer;
+  }
+};
+
+}  // namespace starfolds
