@@ -102,8 +102,7 @@ void ReadFields(TemplateFile& file, std::string_view section, std::span<const Fi
     if (!field.Odd.InTemplate) continue;
     const auto text = file.TemplateFind(section, TemplateKey(field));
     if (field.Odd.ZeroInTemplate) {
-      const Long number = RoundedToLimits<Long>(NumberWithZeroBefore(text));
-      SetFieldText(record, field, NumberText(number));
+      SetFieldNumber(record, field, NumberWithZeroBefore(text));
     } else if (text) {
       SetFieldText(record, field, *text);
     }
