@@ -1,17 +1,21 @@
 #include "app/windows.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_saver.h"
+#include "platform/console.h"
+#include "settings/templates.h"
+#include "storage/disk_files.h"
+#include "universe/host_surface.h"
 
 namespace starfolds {
 namespace {
 
 constexpr int kExitCannotDo = 1;
+constexpr int kExitWrongUse = 2;
 
 }  // namespace
 
@@ -31,19 +35,29 @@ void AppWindows::ShowFrmSaver() {
 void AppWindows::ShowFrmAppExe() { FrmAppExe(saver_, seed_).Activate(); }
 
 void AppWindows::ShowFrmProps() {
-  CannotDo(
-      "The settings dialog is not part of this version yet; --saver and --window show the effect.");
+  Fail("the settings dialog is not part of this version yet; --saver and --window show the effect",
+       kExitCannotDo);
 }
 
-void AppWindows::LoadFrmPreview() { CannotDo("The preview is not part of this version yet."); }
-
-void AppWindows::LoadTemplate(const std::string&) {
-  CannotDo("Template files cannot be loaded by this version yet.");
+void AppWindows::LoadFrmPreview() {
+  Fail("the preview is not part of this version yet", kExitCannotDo);
 }
 
-void AppWindows::CannotDo(const char* message) {
-  std::fprintf(stderr, "starfolds: %s\n", message);
-  exitCode_ = kExitCannotDo;
+/// A template brings a universe and no bodies, so there have to be some. A file that cannot be read
+/// is most likely a typing error: nobody shall lose settings by that.
+void AppWindows::LoadTemplate(const std::string& path) {
+  DiskFiles disk;
+  TemplateFile file(disk);
+  if (const auto fault = file.Load(path)) {
+    return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+  }
+  EnsureBodies(saver_);
+  ImportTemplate(file, path, *saver_.Tree, saver_.Profiles);
+}
+
+void AppWindows::Fail(const std::string& message, int exitCode) {
+  Complain("starfolds", message);
+  exitCode_ = exitCode;
 }
 
 }  // namespace starfolds
