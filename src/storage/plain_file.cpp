@@ -104,9 +104,10 @@ bool MakeFolders(const std::string& folder, unsigned rights) {
 }
 
 bool CanMakeFilesBeside(const std::string& path) {
-  std::error_code error;
-  const fs::path folder = fs::weakly_canonical(path, error).parent_path();
-  return !error && faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+  std::error_code missing;
+  const fs::path target = fs::canonical(path, missing);
+  const fs::path folder = (missing ? fs::path(path) : target).parent_path();
+  return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 std::optional<std::string> SetAside(const std::string& path, const FileIdentity& identity,

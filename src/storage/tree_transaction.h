@@ -71,6 +71,7 @@ class TreeTransaction {
   TreeOutcome StartTransaction();
   TreeOutcome FindTable();
   TreeOutcome Check();
+  TreeOutcome CheckCopy();
   TreeOutcome MakeTable();
   TreeOutcome MayChange() const;
   bool IsRunning() const;

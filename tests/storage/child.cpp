@@ -8,9 +8,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <thread>
 
 namespace starfolds {
 namespace {
@@ -44,6 +46,12 @@ bool Child::Succeeded() {
   if (process_ <= 0 || waitpid(process_, &status, 0) != process_) return false;
   process_ = -1;
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+void WaitForFile(const std::string& path) {
+  for (int i = 0; i < 50'000 && access(path.c_str(), F_OK) != 0; ++i) {
+    std::this_thread::sleep_for(std::chrono::microseconds(100));
+  }
 }
 
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part) {
