@@ -48,10 +48,12 @@ bool Child::Succeeded() {
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-void WaitForFile(const std::string& path) {
-  for (int i = 0; i < 50'000 && access(path.c_str(), F_OK) != 0; ++i) {
-    std::this_thread::sleep_for(std::chrono::microseconds(100));
+bool WaitForFile(const std::string& path) {
+  for (int i = 0; i < 5000; ++i) {
+    if (access(path.c_str(), F_OK) == 0) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
+  return false;
 }
 
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part) {

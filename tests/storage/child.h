@@ -26,8 +26,8 @@ class Child {
   pid_t process_;
 };
 
-/// Waits until there is such a file, for a while that no working child exceeds.
-void WaitForFile(const std::string& path);
+/// Waits until there is such a file, for a while that no working child exceeds. Whether it came.
+bool WaitForFile(const std::string& path);
 
 /// Runs a part of a test in a child as a user whose rights count; root has all of them.
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part);

@@ -48,7 +48,7 @@ TEST_F(TreeFaults, AKilledSaveLeavesTheOldTreeOrTheNewOne) {
         StoredTree own(File);
         for (int i = 0;; ++i) own.Save(tag + std::to_string(i), kValues);
       });
-      WaitForFile(File + "-journal");
+      ASSERT_TRUE(WaitForFile(File + "-journal"));
       std::this_thread::sleep_for(longest * (random() % 100) / 50);
     }
     torn += fs::exists(File + "-journal") ? 1 : 0;
@@ -60,6 +60,15 @@ TEST_F(TreeFaults, AKilledSaveLeavesTheOldTreeOrTheNewOne) {
   EXPECT_GT(torn, 0) << "no save was hit in its middle";
   EXPECT_GT(whole, 0) << "no save came to its end";
   EXPECT_TRUE(stored.Complaints.empty());
+}
+
+/// Locks as a reader of SQLite does, until the process ends.
+void LockForReading(const std::string& file) {
+  struct flock lock {};
+  lock.l_type = F_RDLCK;
+  lock.l_start = 0x40000002;
+  lock.l_len = 510;
+  EXPECT_EQ(fcntl(open(file.c_str(), O_RDONLY), F_SETLK, &lock), 0);
 }
 
 /// Saves where there is less and less room, and again where there is enough. `shrink` leaves so
@@ -200,31 +209,39 @@ TEST_F(TreeFaults, ManyProcessesFindTheFileDamagedAtOnce) {
   }
 }
 
+/// One process waits for the damaged file while another one sets it aside and begins a new one.
+TEST_F(TreeFaults, AFreshFileIsNotSetAside) {
+  fs::create_directories(Folder.Path("config"));
+  std::ofstream(File) << "damaged";
+  const FileIdentity damaged = LookAtFile(File).Identity;
+  const Child quicker([&] {
+    LockForReading(File);
+    std::ofstream(Folder.Path("locked"));
+    std::this_thread::sleep_for(milliseconds(100));
+    fs::rename(File, File + ".damaged-1");
+    std::ofstream(File) << "fresh";
+  });
+  ASSERT_TRUE(WaitForFile(Folder.Path("locked")));
+  EXPECT_EQ(SetAside(File, damaged, milliseconds(5000)), std::nullopt);
+  EXPECT_EQ(SetAside(File, damaged, milliseconds(5000)), std::nullopt);
+  EXPECT_EQ(FileText(File), "fresh");
+}
+
 TEST_F(TreeFaults, ADamagedFileInUseIsLeft) {
   fs::create_directories(Folder.Path("config"));
   std::ofstream(File) << std::string(1000, '?');
-  int ready[2];
-  ASSERT_EQ(pipe(ready), 0);
   Child holder([&] {
-    const int file = open(File.c_str(), O_RDONLY);
-    struct flock lock {};
-    lock.l_type = F_RDLCK;
-    lock.l_start = 0x40000002;  // where SQLite's readers lock
-    lock.l_len = 510;
-    EXPECT_EQ(fcntl(file, F_SETLK, &lock), 0);
-    EXPECT_EQ(write(ready[1], "", 1), 1);
+    LockForReading(File);
+    std::ofstream(Folder.Path("locked"));
     pause();
   });
-  char byte = 0;
-  ASSERT_EQ(read(ready[0], &byte, 1), 1);
+  ASSERT_TRUE(WaitForFile(Folder.Path("locked")));
   StoredTree stored(File, {}, kImpatient);
   EXPECT_FALSE(stored.Write("x", "1"));
   EXPECT_EQ(FileText(File), std::string(1000, '?'));
   holder.Kill();
   EXPECT_FALSE(holder.Succeeded());
   EXPECT_TRUE(stored.Write("x", "1"));
-  close(ready[0]);
-  close(ready[1]);
 }
 
 TEST_F(TreeFaults, ALockedFileIsGivenUpAfterAWhile) {
