@@ -46,8 +46,7 @@ constexpr int kStepsAtOnce = 1000;  // of SQLite's machine; a value read or writ
 constexpr std::clock_t kMostTime = CLOCKS_PER_SEC;  // of the processor, for one statement
 
 constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-constexpr int kMostPages =
-    10'000;  // that are copied into memory: 40 MB, a hundred times a full tree
+constexpr int kMostPages = 10'000;  // that are copied; a full tree has some hundred
 
 constexpr int kLongestPause = 10;  // ms between two tries for a lock
 
@@ -231,8 +230,11 @@ TreeOutcome TreeTransaction::Get(std::string_view path, std::string_view name, s
   TreeOutcome outcome = OutcomeOf(code);
   if (code == SQLITE_ROW) {
     const auto found = Column(get_.get());
-    if (found) text = *found;
-    if (!found) outcome = Nothing;
+    if (found) {
+      text = *found;
+    } else {
+      outcome = Nothing;
+    }
   } else if (code == SQLITE_DONE || (code & 0xFF) == SQLITE_TOOBIG) {
     outcome = Nothing;  // so long a text was never stored by us
   }

@@ -23,8 +23,9 @@ enum class TreeOutcome {
   Damaged,  // the file holds no tree
 };
 
+/// Where a hive is kept.
 struct TreePlace {
-  std::string File;           // absolute
+  std::string File;           // absolute; without a place otherwise
   unsigned FolderRights = 0;  // of the folders that are made for it
 };
 
