@@ -4,6 +4,7 @@
 #include <sched.h>
 #include <signal.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -27,6 +28,7 @@ Child::Child(const std::function<void()>& part) {
   std::fflush(nullptr);
   process_ = fork();
   if (process_ != 0) return;
+  prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that is given up leaves nobody behind
   part();
   std::fflush(nullptr);
   _exit(testing::Test::HasFailure() ? 1 : 0);
