@@ -36,9 +36,12 @@ NumberBox::NumberBox(QWidget* parent) : QAbstractSpinBox(parent) {
 }
 
 void NumberBox::SetNames(const QString& array, int index) {
-  const QString number = "_" + QString::number(index);
-  lineEdit()->setObjectName("txt" + array + number);
-  setObjectName("spn" + array + number);
+  SetNames(array + "_" + QString::number(index));
+}
+
+void NumberBox::SetNames(const QString& name) {
+  lineEdit()->setObjectName("txt" + name);
+  setObjectName("spn" + name);
 }
 
 void NumberBox::SetRange(const NumberRange& range) {
@@ -49,7 +52,6 @@ void NumberBox::SetRange(const NumberRange& range) {
   setMinimumWidth(font.horizontalAdvance(QString(7, '0')) + 40);  // and the buttons
   setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
                                                   TextOf(range.High, range.Kind)));
-  if (!Text().empty()) ClampTextField();
 }
 
 std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }

@@ -32,8 +32,11 @@ class NumberBox : public QAbstractSpinBox {
   /// spin buttons "spnUni_0".
   void SetNames(const QString& array, int index);
 
-  /// Sets the range and with it the step of the buttons and the longest text, and holds the present
-  /// text to the range if it is not empty.
+  /// Names the parts of a box that stands alone: "txtUniFoldPct" and "spnUniFoldPct".
+  void SetNames(const QString& name);
+
+  /// Sets the range and with it the step of the buttons and the longest text. The present text
+  /// stays until the box is left: who tries another style of body and goes back loses nothing.
   void SetRange(const NumberRange& range);
   const NumberRange& Range() const { return range_; }
 
