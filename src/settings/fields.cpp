@@ -17,6 +17,9 @@ using A = AdvancedSettings;
 
 constexpr bool kWhole = true;
 
+/// Of `LockMessage`, in characters.
+constexpr std::size_t kMaxMessageCharacters = 100;
+
 const Field<U> kUniverseFields[] = {
     {"Universe_Stars", &U::Universe_Stars, Fixed, 10, 30000,
      "Stars in all the Starfolds (10 - 30000):"},
@@ -336,7 +339,8 @@ void ClampComposite(CompositeProfile& composite) {
 void ClampAdvanced(AdvancedSettings& advanced) {
   ClampFields(advanced, AdvancedFields());
   if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
-  advanced.LockMessage = std::string(Trimmed(advanced.LockMessage)).substr(0, 100);
+  advanced.LockMessage =
+      std::string(FirstCharacters(Trimmed(advanced.LockMessage), kMaxMessageCharacters));
   if (advanced.Adv_EffectFPC > 0) {
     advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
   }
