@@ -88,13 +88,4 @@ std::string NumberText(Single value) {
 
 std::string NumberText(Long value) { return std::to_string(value); }
 
-std::string_view FirstCharacters(std::string_view text, std::size_t count) {
-  const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
-  std::size_t characters = 0;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    if (!continues(text[at]) && ++characters > count) return text.substr(0, at);
-  }
-  return text;
-}
-
 }  // namespace starfolds

@@ -26,7 +26,4 @@ std::string NumberText(Long value);
 /// The text without blanks (spaces and tabs) at both ends.
 std::string_view Trimmed(std::string_view text);
 
-/// At most the first `count` characters of UTF-8 text; none is cut in its middle.
-std::string_view FirstCharacters(std::string_view text, std::size_t count);
-
 }  // namespace starfolds

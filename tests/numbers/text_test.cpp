@@ -52,13 +52,5 @@ TEST(Text, NumbersAreShortAndPlain) {
   EXPECT_EQ(NumberText(std::nanf("")), "0");
 }
 
-TEST(Text, IsCutBetweenCharacters) {
-  EXPECT_EQ(FirstCharacters("stars", 9), "stars");
-  EXPECT_EQ(FirstCharacters("stars", 2), "st");
-  EXPECT_EQ(FirstCharacters("\u00fc\u661f\U0001F31Fx", 3), "\u00fc\u661f\U0001F31F");
-  EXPECT_EQ(FirstCharacters("\u00fc\u661f", 1), "\u00fc");
-  EXPECT_EQ(FirstCharacters("\xbf\xbf a \xff", 2), "\xbf\xbf a") << "text that is no UTF-8";
-}
-
 }  // namespace
 }  // namespace starfolds
