@@ -104,9 +104,11 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   QtPump pump;
   const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
 
+  SaverPlatform platform;
   const auto saver = std::make_unique<Saver>();
   saver->Events = &pump;
   saver->Desktop = desktop.get();
+  saver->Platform = &platform;
   MemoryTree tree;
   const auto records = std::make_unique<SettingsRecords>();
   LoadFactorySettings(*records, FactorySet::Starfolds4x, 1);

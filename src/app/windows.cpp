@@ -28,11 +28,19 @@ void AppWindows::ShowFrmSaver() {
   if (exitCode_ == 0) FrmSaver(saver_, seed_).Load();
 }
 
-void AppWindows::ShowFrmAppExe() { FrmAppExe(saver_, seed_).Activate(); }
+void AppWindows::ShowFrmAppExe() {
+  FrmAppExe(saver_, seed_, [this] { ShowFrmPropsModally(); }).Activate();
+}
 
 void AppWindows::ShowFrmProps() {
   CannotDo(
       "The settings dialog is not part of this version yet; --saver and --window show the effect.");
+}
+
+void AppWindows::ShowFrmPropsModally() {
+  if (toldOfProps_) return;
+  toldOfProps_ = true;
+  std::fputs("starfolds: The settings dialog is not part of this version yet.\n", stderr);
 }
 
 void AppWindows::LoadFrmPreview() { CannotDo("The preview is not part of this version yet."); }

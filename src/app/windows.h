@@ -24,10 +24,12 @@ class AppWindows : public StartActions {
   int ExitCode() const { return exitCode_; }
 
  private:
+  void ShowFrmPropsModally();
   void CannotDo(const char* message);
 
   Saver& saver_;
   SeedSource seed_;
+  bool toldOfProps_ = false;
   int exitCode_ = 0;
 };
 

@@ -5,6 +5,10 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <cstddef>
+#include <fstream>
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "hosting/host_fixture.h"
@@ -15,7 +19,10 @@ namespace {
 class FrmAppExeTest : public HostTest {
  protected:
   int Run() {
-    Form.emplace(*State, NextSeed);
+    Form.emplace(*State, NextSeed, [this] {
+      ++Dialogs;
+      if (InDialog) InDialog();
+    });
     Form->Activate();
     return Events.Pumps;
   }
@@ -23,6 +30,8 @@ class FrmAppExeTest : public HostTest {
   QWindow& Window() { return Form->Window(); }
 
   std::optional<FrmAppExe> Form;
+  int Dialogs = 0;
+  std::function<void()> InDialog;
 };
 
 TEST_F(FrmAppExeTest, FillsTheScreenWithoutACaption) {
@@ -103,14 +112,68 @@ TEST_F(FrmAppExeTest, LeavesForGoodAlsoRightAfterF5) {
   EXPECT_EQ(Seeds, 1);
 }
 
-TEST_F(FrmAppExeTest, GoesOnWhenAskedForSettingsAndSaysOnceThatThereAreNone) {
-  testing::internal::CaptureStderr();
-  Events.Plan[2] = [&] { Press(Window(), Qt::Key_Space); };
-  Events.Plan[3] = [&] { Click(Window()); };
-  Events.Plan[30] = [&] { Press(Window(), Qt::Key_Escape); };
-  EXPECT_EQ(Run(), 30);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "The settings dialog is not part of this version yet.\n");
+TEST_F(FrmAppExeTest, ShowsThePropertiesAndBeginsAnewWithThem) {
+  InDialog = [&] {
+    Store("Universe", "Universe_Stars", 70);
+    Store("Advanced", "Adv_WinResize", Dialogs == 1 ? 1 : 0);
+    State->NewRun = true;
+  };
+  Events.Plan[20] = [&] { Press(Window(), Qt::Key_Space); };
+  Events.Plan[21] = [&] {
+    EXPECT_EQ(Seeds, 2);
+    EXPECT_EQ(State->Universe.Universe_Stars, 70);
+    EXPECT_FALSE(State->NewRun) << "the fresh run would end at once";
+    EXPECT_EQ(Window().title(), "TSLN:Starfolds 4.1a");
+    EXPECT_EQ(State->Screen.SurfaceWidth, Window().width());
+    Click(Window());
+  };
+  Events.Plan[22] = [&] {
+    EXPECT_EQ(Window().title(), "");
+    EXPECT_EQ(State->Screen.SurfaceWidth, QGuiApplication::primaryScreen()->size().width());
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), 22);
+  EXPECT_EQ(Dialogs, 2);
+}
+
+TEST_F(FrmAppExeTest, EndsIfTheDialogSaysSo) {
+  InDialog = [&] { State->QuitApp = true; };
+  Events.Plan[20] = [&] { Click(Window()); };
+  EXPECT_EQ(Run(), 20);
+  EXPECT_EQ(Seeds, 1);
+}
+
+/// What the process holds, in bytes; nothing where that is not told.
+std::size_t ResidentBytes() {
+  std::ifstream file("/proc/self/statm");
+  std::size_t pages = 0;
+  file >> pages >> pages;
+  return pages * 4096;
+}
+
+/// Runs within runs would keep more than half a megabyte each, and their part of the stack.
+TEST_F(FrmAppExeTest, HoldsNoMoreAfterAThousandFreshRuns) {
+  constexpr int runs = 1000;
+  constexpr int settled = 600;  // a sanitizer keeps what was freed last
+  Store("Universe", "Universe_Stars", 5000);
+  const void* depth = nullptr;
+  std::size_t before = 0;
+  for (int i = 1; i <= runs; ++i) {
+    Events.Plan[i] = [&, i] {
+      if (i == settled) {
+        depth = __builtin_frame_address(0);
+        before = ResidentBytes();
+      }
+      Press(Window(), Qt::Key_F5);
+    };
+  }
+  Events.Plan[runs + 1] = [&] {
+    EXPECT_EQ(__builtin_frame_address(0), depth);
+    EXPECT_LT(ResidentBytes(), before + 64 * 1024 * 1024);
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), runs + 1);
+  EXPECT_EQ(Seeds, runs + 1);
 }
 
 }  // namespace

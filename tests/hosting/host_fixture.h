@@ -45,6 +45,7 @@ class HostTest : public testing::Test {
   HostTest() {
     State->Events = &Events;
     State->Desktop = &Desktop;
+    State->Platform = &Platform;
     State->Tree = &Tree;
     UniverseSettings universe;
     universe.Universe_Stars = 50;
@@ -80,6 +81,7 @@ class HostTest : public testing::Test {
   std::unique_ptr<Saver> State = std::make_unique<Saver>();
   PlannedPump Events{*State};
   MemoryDesktop Desktop;
+  ScriptedPlatform Platform;
   MemoryTree Tree;
   int Seeds = 0;  // how often a host has set up a run
   std::function<std::uint64_t()> NextSeed = [this] { return static_cast<std::uint64_t>(++Seeds); };

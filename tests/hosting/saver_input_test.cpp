@@ -40,7 +40,7 @@ TEST(SaverInput, BeginsAnewWithTheMoveAfterAPause) {
 
 TEST(SaverInput, IsNeverEndedByOccasionalMoves) {
   SaverInput input = InputWithPlaceKnown(false, false);
-  for (int i = 0; i < 50; ++i) EXPECT_FALSE(input.MouseMove(1000.0 + i * 3.5)) << i;
+  for (int i = 0; i < 50; ++i) EXPECT_FALSE(input.MouseMove(1000.0 + i * 4)) << i;
 }
 
 TEST(SaverInput, MeasuresTheTenSecondsFromTheRoundedFirstMove) {
