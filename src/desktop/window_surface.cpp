@@ -116,14 +116,12 @@ void WindowSurface::CoverScreen(ScreenPlace place) {
   window_->show();
 }
 
-void WindowSurface::ShowResizable() {
-  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect place(QPoint(), room.size() * kWindowShare);
-  place.moveCenter(room.center());
+void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   screens_.reset();
   TakeFlags(Qt::Window);
   window_->setWindowState(Qt::WindowNoState);
-  window_->setGeometry(place);
+  window_->resize(QGuiApplication::primaryScreen()->availableSize() * kWindowShare);
+  place(*window_);
   window_->show();
   window_->requestActivate();
 }

@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QRegion>
 #include <QWindow>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,8 +48,9 @@ class WindowSurface : public Surface {
   /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
   /// such screen any more, that is the primary one.
   void ShowFullScreen(Stacking stacking, ScreenPlace place = {});
-  /// An ordinary window in the middle of the primary screen, with a frame, free to be resized.
-  void ShowResizable();
+  /// An ordinary window with a frame, free to be resized, of a size that suits the screen. `place`
+  /// may give it another size and puts it somewhere, before it is shown.
+  void ShowResizable(const std::function<void(QWindow&)>& place);
 
   /// Whether the window system has the window drawn.
   bool IsExposed() const;

@@ -5,6 +5,8 @@
 
 #include "hosting/captions.h"
 #include "hosting/lock_message.h"
+#include "hosting/placed_qt_window.h"
+#include "settings/registry.h"
 #include "settings/storage.h"
 #include "universe/host_surface.h"
 
@@ -26,6 +28,11 @@ void FrmAppExe::Activate() {
     started_ = true;
     AppRun();
   }
+  SavePlacement();
+}
+
+void FrmAppExe::SavePlacement() {
+  SaveWindowPlacement(PlacedQtWindow(surface_.Window()), *saver_.Tree, sections::kGeneral);
 }
 
 /// A window that is as the settings want it stays where it is.
@@ -36,7 +43,10 @@ void FrmAppExe::Show() {
   if (resizable) {
     surface_.SetCaption(kSaverCaption);
     surface_.ShowPointer();
-    surface_.ShowResizable();
+    surface_.ShowResizable([this](QWindow& window) {
+      PlacedQtWindow placed(window);
+      RestoreWindowPlacement(placed, *saver_.Tree, sections::kGeneral);
+    });
   } else {
     surface_.SetCaption("");
     surface_.HidePointer();
@@ -70,6 +80,7 @@ void FrmAppExe::BeginAnew() {
 }
 
 void FrmAppExe::ShowProperties() {
+  SavePlacement();
   frmProps_();
   if (saver_.QuitApp) return AppQuit();
   BeginAnew();
@@ -78,7 +89,7 @@ void FrmAppExe::ShowProperties() {
 void FrmAppExe::KeyDown(int key) {
   switch (key) {
     case Qt::Key_Escape: return AppQuit();
-    case Qt::Key_F5: return BeginAnew();
+    case Qt::Key_F5: SavePlacement(); return BeginAnew();
     default: return ShowProperties();
   }
 }

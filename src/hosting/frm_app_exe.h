@@ -32,6 +32,7 @@ class FrmAppExe : private WindowEvents {
   void CloseRequested() override;
   void Destroyed() override;
 
+  void SavePlacement();
   void Show();
   void AppRun();
   void AppQuit();

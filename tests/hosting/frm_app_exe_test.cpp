@@ -5,6 +5,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QString>
+#include <algorithm>
 #include <cstddef>
 #include <fstream>
 #include <functional>
@@ -134,6 +136,59 @@ TEST_F(FrmAppExeTest, ShowsThePropertiesAndBeginsAnewWithThem) {
   };
   EXPECT_EQ(Run(), 22);
   EXPECT_EQ(Dialogs, 2);
+}
+
+/// A placement as it is stored, in twips of 15 to the pixel.
+std::string PlacementText(const QWindow& window) {
+  const QPoint place = window.framePosition() * 15;
+  const QSize size = window.size() * 15;
+  return QString::asprintf("%05d%05d%05d%05d", std::max(place.x(), 0), std::max(place.y(), 0),
+                           size.width(), size.height())
+      .toStdString();
+}
+
+TEST_F(FrmAppExeTest, ComesBackWhereItWas) {
+  const auto stored = [&] { return RegistryReadText(Tree, "General", "WindowSize"); };
+  Store("Advanced", "Adv_WinResize", 1);
+  Store("General", "WindowState", 0);
+  RegistryWrite(Tree, "General", "WindowSize", "00300004500900006000");
+  Events.Plan[2] = [&] {
+    EXPECT_EQ(PlacementText(Window()), "00300004500900006000");
+    Window().resize(500, 400);
+    InDialog = [&] { EXPECT_EQ(stored(), PlacementText(Window())); };
+    Press(Window(), Qt::Key_Space);
+    EXPECT_EQ(Dialogs, 1);
+  };
+  QPoint before;
+  Events.Plan[3] = [&] {
+    Window().setGeometry(-100, 50, 500, 300);
+    before = Window().position();
+    Press(Window(), Qt::Key_F5);
+    EXPECT_EQ(stored(), PlacementText(Window()));
+    EXPECT_EQ(stored().substr(0, 5), "00000");
+  };
+  Events.Plan[4] = [&] {
+    EXPECT_EQ(Window().position(), before) << "a fresh run moves no window";
+    Window().setGeometry(40, 50, 510, 310);
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), 4);
+  EXPECT_EQ(stored(), PlacementText(Window()));
+  EXPECT_EQ(stored().substr(10), "0765004650");
+}
+
+TEST_F(FrmAppExeTest, ComesBackWhereItCanBeReached) {
+  Store("Advanced", "Adv_WinResize", 1);
+  Store("General", "WindowState", 0);
+  RegistryWrite(Tree, "General", "WindowSize", "99999999990000099999");
+  Events.Plan[2] = [&] {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    EXPECT_TRUE(screen.adjusted(0, 0, -50, -50).contains(Window().position()));
+    EXPECT_GE(Window().width(), 50);
+    EXPECT_LE(Window().height(), screen.height());
+    Press(Window(), Qt::Key_Escape);
+  };
+  Run();
 }
 
 TEST_F(FrmAppExeTest, EndsIfTheDialogSaysSo) {

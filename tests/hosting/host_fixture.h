@@ -56,6 +56,7 @@ class HostTest : public testing::Test {
     universe.Universe_GPCtrl = 1;
     universe.Universe_GCCtrl = 0;
     SaveUniverseToRegistry(Tree, universe);
+    RegistryWrite(Tree, "General", "AnimationType", Long{0});  // a complete set
   }
 
   /// Changes what is stored.
