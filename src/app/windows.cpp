@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/saver_screens.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_saver.h"
 
@@ -15,7 +16,10 @@ constexpr int kExitCannotDo = 1;
 
 }  // namespace
 
-AppWindows::AppWindows(Saver& saver, SeedSource seed) : saver_(saver), seed_(std::move(seed)) {}
+AppWindows::AppWindows(Saver& saver, const StartOptions& options)
+    : saver_(saver),
+      options_(options),
+      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -25,7 +29,12 @@ bool AppWindows::FileExists(const std::string& path) {
 /// After a template that could not be loaded the effect would show something else than was asked
 /// for.
 void AppWindows::ShowFrmSaver() {
-  if (exitCode_ == 0) FrmSaver(saver_, seed_).Load();
+  if (exitCode_ != 0) return;
+  const auto place = PlaceOfSaver(options_);
+  if (!place)
+    return CannotDo("There is no screen " + std::to_string(options_.Screen.value_or(1)) + ".");
+  const OtherScreens others(options_, [this] { saver_.QuitApp = saver_.StopRun = true; });
+  FrmSaver(saver_, seed_, *place).Load();
 }
 
 void AppWindows::ShowFrmAppExe() {
@@ -49,8 +58,8 @@ void AppWindows::LoadTemplate(const std::string&) {
   CannotDo("Template files cannot be loaded by this version yet.");
 }
 
-void AppWindows::CannotDo(const char* message) {
-  std::fprintf(stderr, "starfolds: %s\n", message);
+void AppWindows::CannotDo(const std::string& message) {
+  std::fprintf(stderr, "starfolds: %s\n", message.c_str());
   exitCode_ = kExitCannotDo;
 }
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "app/options.h"
 #include "hosting/main.h"
 #include "hosting/run_loop.h"
 
@@ -12,7 +13,7 @@ namespace starfolds {
 /// to end with `ExitCode`.
 class AppWindows : public StartActions {
  public:
-  AppWindows(Saver& saver, SeedSource seed);
+  AppWindows(Saver& saver, const StartOptions& options);
 
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
@@ -25,9 +26,10 @@ class AppWindows : public StartActions {
 
  private:
   void ShowFrmPropsModally();
-  void CannotDo(const char* message);
+  void CannotDo(const std::string& message);
 
   Saver& saver_;
+  StartOptions options_;
   SeedSource seed_;
   bool toldOfProps_ = false;
   int exitCode_ = 0;
