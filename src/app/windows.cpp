@@ -1,6 +1,5 @@
 #include "app/windows.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -8,11 +7,16 @@
 #include "app/saver_screens.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_saver.h"
+#include "platform/console.h"
+#include "settings/templates.h"
+#include "storage/disk_files.h"
+#include "universe/host_surface.h"
 
 namespace starfolds {
 namespace {
 
 constexpr int kExitCannotDo = 1;
+constexpr int kExitWrongUse = 2;
 
 }  // namespace
 
@@ -31,8 +35,10 @@ bool AppWindows::FileExists(const std::string& path) {
 void AppWindows::ShowFrmSaver() {
   if (exitCode_ != 0) return;
   const auto place = PlaceOfSaver(options_);
-  if (!place)
-    return CannotDo("There is no screen " + std::to_string(options_.Screen.value_or(1)) + ".");
+  if (!place) {
+    const std::string number = std::to_string(options_.Screen.value_or(1));
+    return Fail("there is no screen " + number, kExitCannotDo);
+  }
   const OtherScreens others(options_, [this] { saver_.QuitApp = saver_.StopRun = true; });
   FrmSaver(saver_, seed_, *place).Load();
 }
@@ -42,25 +48,35 @@ void AppWindows::ShowFrmAppExe() {
 }
 
 void AppWindows::ShowFrmProps() {
-  CannotDo(
-      "The settings dialog is not part of this version yet; --saver and --window show the effect.");
+  Fail("the settings dialog is not part of this version yet; --saver and --window show the effect",
+       kExitCannotDo);
 }
 
 void AppWindows::ShowFrmPropsModally() {
   if (toldOfProps_) return;
   toldOfProps_ = true;
-  std::fputs("starfolds: The settings dialog is not part of this version yet.\n", stderr);
+  Complain("starfolds", "the settings dialog is not part of this version yet");
 }
 
-void AppWindows::LoadFrmPreview() { CannotDo("The preview is not part of this version yet."); }
-
-void AppWindows::LoadTemplate(const std::string&) {
-  CannotDo("Template files cannot be loaded by this version yet.");
+void AppWindows::LoadFrmPreview() {
+  Fail("the preview is not part of this version yet", kExitCannotDo);
 }
 
-void AppWindows::CannotDo(const std::string& message) {
-  std::fprintf(stderr, "starfolds: %s\n", message.c_str());
-  exitCode_ = kExitCannotDo;
+/// A template brings a universe and no bodies, so there have to be some. A file that cannot be read
+/// is most likely a typing error: nobody shall lose settings by that.
+void AppWindows::LoadTemplate(const std::string& path) {
+  DiskFiles disk;
+  TemplateFile file(disk);
+  if (const auto fault = file.Load(path)) {
+    return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+  }
+  EnsureBodies(saver_);
+  ImportTemplate(file, path, *saver_.Tree, saver_.Profiles);
+}
+
+void AppWindows::Fail(const std::string& message, int exitCode) {
+  Complain("starfolds", message);
+  exitCode_ = exitCode;
 }
 
 }  // namespace starfolds

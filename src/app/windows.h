@@ -26,7 +26,7 @@ class AppWindows : public StartActions {
 
  private:
   void ShowFrmPropsModally();
-  void CannotDo(const std::string& message);
+  void Fail(const std::string& message, int exitCode);
 
   Saver& saver_;
   StartOptions options_;
