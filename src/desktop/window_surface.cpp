@@ -61,7 +61,7 @@ class WindowSurface::EffectWindow : public QWindow {
     if (event->type() == QEvent::PlatformSurface) {
       const auto* change = static_cast<QPlatformSurfaceEvent*>(event);
       if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
-        surface_.WatchCover();
+        surface_.WatchSight();
       } else {
         events_.Destroyed();
       }
@@ -131,16 +131,16 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
 void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
   window_->hide();
   window_->setFlags(flags);
-  if (window_->handle() != nullptr) WatchCover();
+  if (window_->handle() != nullptr) WatchSight();
 }
 
-void WindowSurface::WatchCover() { cover_ = MakeCoverWatch(*window_); }
+void WindowSurface::WatchSight() { sight_ = MakeSightWatch(*window_); }
 
 QWindow& WindowSurface::Window() { return *window_; }
 
 bool WindowSurface::IsExposed() const { return window_->isExposed(); }
 
-bool WindowSurface::IsSeen() const { return IsExposed() && !(cover_ && cover_->IsCovered()); }
+bool WindowSurface::IsSeen() const { return IsExposed() && !(sight_ && sight_->IsHidden()); }
 
 void WindowSurface::TakeWindowSize() {
   Resize(static_cast<Integer>(window_->width()), static_cast<Integer>(window_->height()));

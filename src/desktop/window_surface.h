@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "desktop/cover_watch.h"
 #include "desktop/dirty_tiles.h"
 #include "desktop/pixel_scale.h"
 #include "desktop/screen_image.h"
 #include "desktop/screen_watch.h"
+#include "desktop/sight_watch.h"
 #include "desktop/window_events.h"
 #include "platform/surface.h"
 
@@ -54,7 +54,7 @@ class WindowSurface : public Surface {
 
   /// Whether the window system has the window drawn.
   bool IsExposed() const;
-  /// Whether anybody could see it drawn: it is not covered as a whole by other windows.
+  /// Whether anybody could see it drawn: other windows do not cover it, and the screen is awake.
   bool IsSeen() const;
 
   /// Makes the surface as large as the window; it is black afterwards.
@@ -71,7 +71,7 @@ class WindowSurface : public Surface {
   class EffectWindow;
 
   void TakeFlags(Qt::WindowFlags flags);
-  void WatchCover();
+  void WatchSight();
   void CoverScreen(ScreenPlace place);
   void Repaint();
   void FitBackingStore();
@@ -83,7 +83,7 @@ class WindowSurface : public Surface {
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
-  std::unique_ptr<CoverWatch> cover_;  // none where the window system does not tell
+  std::unique_ptr<SightWatch> sight_;  // none where the window system does not tell
   std::optional<ScreenWatch> screens_;
   bool repaintAll_ = true;
   double factor_ = 1;  // physical pixels per logical one
