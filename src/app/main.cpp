@@ -9,6 +9,7 @@
 
 #include "app/options.h"
 #include "app/windows.h"
+#include "desktop/companions.h"
 #include "desktop/desktop_services_qt.h"
 #include "desktop/qt_pump.h"
 #include "desktop/signals.h"
@@ -67,17 +68,24 @@ StartUp DescribeStart(const StartOptions& options) {
           options.CommandLine};
 }
 
-void ShowApplication(Saver& saver, StartActions& windows) {
-  saver.Mode = RunMode::Application;
+void ShowEffect(Saver& saver, RunMode mode, StartActions& windows) {
+  saver.Mode = mode;
   ShowEffectWindow(saver, windows);
+}
+
+/// Lives and dies with the saver that started it, and looks for no other one.
+void RunCompanion(Saver& saver, StartActions& windows) {
+  const OwnerWatch owner([&] { saver.QuitApp = saver.StopRun = true; });
+  ShowEffect(saver, RunMode::ScreenSaver, windows);
 }
 
 /// Opens the window that was asked for, and returns when it is gone.
 void Run(Saver& saver, const StartOptions& options, StartActions& windows) {
+  if (options.Companion) return RunCompanion(saver, windows);
   switch (options.AskedFor) {
     case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
     case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
-    case Role::Window: return ShowApplication(saver, windows);
+    case Role::Window: return ShowEffect(saver, RunMode::Application, windows);
     default: return Main(saver, DescribeStart(options), windows);
   }
 }
@@ -96,9 +104,11 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   QtPump pump;
   const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
 
+  SaverPlatform platform;
   const auto saver = std::make_unique<Saver>();
   saver->Events = &pump;
   saver->Desktop = desktop.get();
+  saver->Platform = &platform;
   SqliteTree tree(OwnTreeFiles(), Say);
   MigrateMachineSettings(tree);
   saver->Tree = &tree;
@@ -107,8 +117,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
     saver->StopRun = true;
   });
 
-  const SeedSource seed = [&] { return options.Seed ? *options.Seed : ClockSeed(); };
-  AppWindows windows(*saver, seed);
+  AppWindows windows(*saver, options);
   Run(*saver, options, windows);
   return windows.ExitCode();
 }

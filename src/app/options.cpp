@@ -15,6 +15,12 @@ constexpr std::array<std::pair<std::string_view, Role>, 5> kRoles{{
     {"--settings", Role::Settings},
 }};
 
+/// More than any desktop has.
+constexpr int kMostScreens = 1000;
+
+/// By which a saver on several screens starts its own kind; nothing for people.
+constexpr std::string_view kCompanionOption = "--companion";
+
 std::optional<Role> FindRole(std::string_view argument) {
   for (const auto& [name, role] : kRoles) {
     if (name == argument) return role;
@@ -39,6 +45,18 @@ std::string Joined(std::span<const std::string_view> arguments) {
   return line;
 }
 
+/// "all" is no screen of its own. Returns what is wrong with the text.
+std::optional<std::string> TakeScreen(StartOptions& options, std::string_view text) {
+  options.Screen = std::nullopt;
+  if (text == "all") return std::nullopt;
+  const auto number = text == "primary" ? 1 : WholeNumber(text).value_or(0);
+  if (number < 1 || number > kMostScreens) {
+    return "--screens needs 'all', 'primary' or a number from 1, not '" + std::string(text) + "'";
+  }
+  options.Screen = static_cast<int>(number);
+  return std::nullopt;
+}
+
 /// A seed alone would be dropped by the system's own switches, and quietly.
 bool SeedIsOfUse(const StartOptions& options) {
   return !options.Seed || options.AskedFor == Role::Saver || options.AskedFor == Role::Window;
@@ -54,10 +72,16 @@ std::optional<std::string> ReadOptions(std::span<const std::string_view> argumen
       options.Seed = WholeNumber(arguments[i]);
       if (!options.Seed)
         return "--seed needs a whole number, not '" + std::string(arguments[i]) + "'";
+    } else if (arguments[i] == "--screens") {
+      if (++i == arguments.size()) return "--screens needs a value";
+      if (const auto wrong = TakeScreen(options, arguments[i])) return wrong;
+    } else if (arguments[i] == kCompanionOption) {
+      options.Companion = true;
     } else {
       return "unknown option '" + std::string(arguments[i]) + "'";
     }
   }
+  if (options.Screen && options.AskedFor != Role::Saver) return "--screens goes with --saver";
   if (!SeedIsOfUse(options)) return "--seed goes with --saver or --window";
   return std::nullopt;
 }
@@ -67,6 +91,7 @@ std::optional<std::string> ReadOptions(std::span<const std::string_view> argumen
 std::optional<std::string> ParseStartOptions(std::span<const std::string_view> arguments,
                                              StartOptions& options) {
   if (!arguments.empty() && arguments.front().starts_with("--")) {
+    options.Given.assign(arguments.begin(), arguments.end());
     return ReadOptions(arguments, options);
   }
   options.CommandLine = Joined(arguments);
@@ -81,6 +106,8 @@ A screen saver that simulates a universe of starfolds.
   --saver         run the screen saver; a key, a button or moving the pointer ends it
   --window        run the effect as an application: Esc ends it, F5 begins anew
   --settings      open the settings dialog
+  --screens WHICH with --saver: all screens, each with a universe of its own (as without this
+                  option), the primary one, or one by its number from 1
   --seed N        with --saver or --window: show the universes of seed N
   --help          print this text
   --version       print the version

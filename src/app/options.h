@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace starfolds {
 
@@ -22,7 +23,10 @@ enum class Role {
 struct StartOptions {
   Role AskedFor = Role::FromCommandLine;
   std::optional<std::uint64_t> Seed;
-  std::string CommandLine;  // for `Main`: every argument, joined by blanks
+  std::optional<int> Screen;       // that the saver covers, from 1; without one it covers all
+  bool Companion = false;          // of a saver on several screens, and not the first of them
+  std::vector<std::string> Given;  // the options as they stood there; none where there were none
+  std::string CommandLine;         // for `Main`: every argument, joined by blanks
 };
 
 /// Reads the arguments behind the program's name. They are options only if the first one begins

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "hosting/captions.h"
+#include "hosting/saver_password.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 
@@ -53,6 +54,7 @@ void OpenProperties(Saver& saver, StartActions& actions) {
 void ShowEffectWindow(Saver& saver, StartActions& actions) {
   saver.StopRun = false;
   if (saver.Mode == RunMode::ScreenSaver) {
+    SetSaverRunning(saver, true);
     actions.ShowFrmSaver();
   } else {
     actions.ShowFrmAppExe();

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "app/saver_screens.h"
+
 namespace starfolds {
 namespace {
 
@@ -42,6 +44,29 @@ TEST(StartOptions, TakeASeed) {
   EXPECT_EQ(Parsed({"--saver"}).Seed, std::nullopt);
   EXPECT_EQ(Parsed({"--saver", "--seed", "0"}).Seed, 0U);
   EXPECT_EQ(Parsed({"--seed", "18446744073709551615", "--window"}).Seed, ~std::uint64_t{0});
+}
+
+TEST(StartOptions, TakeScreens) {
+  EXPECT_EQ(Parsed({"--saver"}).Screen, std::nullopt);
+  EXPECT_EQ(Parsed({"--saver", "--screens", "primary"}).Screen, 1);
+  EXPECT_EQ(Parsed({"--saver", "--screens", "12"}).Screen, 12);
+  EXPECT_EQ(Parsed({"--screens", "2", "--saver", "--screens", "all"}).Screen, std::nullopt);
+  for (const char* const screens : {"", "0", "-1", "two", "1.5", "99999999999"}) {
+    EXPECT_NE(Refused({"--saver", "--screens", screens}), "") << screens;
+  }
+  EXPECT_NE(Refused({"--saver", "--screens"}), "");
+  EXPECT_NE(Refused({"--window", "--screens", "1"}), "");
+}
+
+TEST(StartOptions, AreHandedOnToCompanions) {
+  const auto line = [](const Arguments& arguments) {
+    std::string joined;
+    for (const std::string& more : CompanionArguments(Parsed(arguments), 1)) joined += more + " ";
+    return joined;
+  };
+  EXPECT_EQ(line({"/S"}), "--saver --companion --screens 2 ");
+  const std::string seeded = line({"--saver", "--seed", "5"});
+  EXPECT_EQ(seeded, "--saver --seed 5 --saver --companion --screens 2 --seed 6 ");
 }
 
 TEST(StartOptions, AreRefusedWhereTheyMakeNoSense) {
