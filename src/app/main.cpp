@@ -11,6 +11,7 @@
 #include "app/options.h"
 #include "app/windows.h"
 #include "desktop/desktop_services_qt.h"
+#include "desktop/foreign_window.h"
 #include "desktop/qt_pump.h"
 #include "desktop/signals.h"
 #include "hosting/main.h"
@@ -79,12 +80,43 @@ void ShowApplication(Saver& saver, StartActions& windows) {
   ShowEffectWindow(saver, windows);
 }
 
+/// A host names its window on the command line, or else in the environment. Returns what is wrong.
+std::optional<std::string> FindHostWindow(StartOptions& options) {
+  constexpr char variable[] = "XSCREENSAVER_WINDOW";
+  if (options.HostWindow) return std::nullopt;
+  const std::string named = qgetenv(variable).toStdString();
+  if (named.empty()) {
+    return std::string("--root is for programs that host a screen saver, and ") + variable +
+           " names no window of one; --saver runs the screen saver without a host";
+  }
+  options.HostWindow = WindowNumber(named);
+  if (options.HostWindow) return std::nullopt;
+  return std::string(variable) + " is '" + named +
+         "', which is no window of an X server; on Wayland no host can show a screen saver inside "
+         "its own window";
+}
+
+/// Finds the window of a host and the window system that it is on. Returns what is wrong.
+std::optional<std::string> PrepareForHost(StartOptions& options) {
+  if (options.AskedFor == Role::Guest) {
+    if (auto wrong = FindHostWindow(options)) return wrong;
+    if (ChooseForeignWindowSystem()) return std::nullopt;
+    return "there is no X server to reach the window of the host (DISPLAY names none that answers)";
+  }
+  // Whether it comes to a preview is decided later, and so is what happens without an X server.
+  if (options.AskedFor == Role::FromCommandLine && AsksForPreview(options.CommandLine)) {
+    ChooseForeignWindowSystem();
+  }
+  return std::nullopt;
+}
+
 /// Opens the window that was asked for, and returns when it is gone.
-void Run(Saver& saver, const StartOptions& options, StartActions& windows) {
+void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
   switch (options.AskedFor) {
     case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
     case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
     case Role::Window: return ShowApplication(saver, windows);
+    case Role::Guest: return windows.ShowInHost(*options.HostWindow);
     default: return Main(saver, DescribeStart(options), windows);
   }
 }
@@ -129,6 +161,8 @@ int main(int argc, char** argv) {
   switch (options.AskedFor) {
     case Role::Help: return Print(UsageText());
     case Role::Version: return Print("starfolds " STARFOLDS_VERSION "\n");
-    default: return RunOnDesktop(argv[0], options);
+    default: break;
   }
+  if (const auto wrong = PrepareForHost(options)) return Complain(*wrong, kExitCannotDo);
+  return RunOnDesktop(argv[0], options);
 }

@@ -5,7 +5,9 @@
 #include <system_error>
 #include <utility>
 
+#include "desktop/foreign_window.h"
 #include "hosting/frm_app_exe.h"
+#include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
 
 namespace starfolds {
@@ -35,7 +37,18 @@ void AppWindows::ShowFrmProps() {
       "The settings dialog is not part of this version yet; --saver and --window show the effect.");
 }
 
-void AppWindows::LoadFrmPreview() { CannotDo("The preview is not part of this version yet."); }
+void AppWindows::LoadFrmPreview() {
+  if (!CanOpenForeignWindows()) {
+    CannotDo("a preview inside another program's window needs an X server");
+    return;
+  }
+  FrmPreview(saver_, seed_).Load();
+}
+
+void AppWindows::ShowInHost(Long hostWindow) {
+  saver_.Mode = RunMode::ScreenSaver;
+  GuestWindow(saver_, seed_, hostWindow).Run(false);
+}
 
 void AppWindows::LoadTemplate(const std::string&) {
   CannotDo("Template files cannot be loaded by this version yet.");

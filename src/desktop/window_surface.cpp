@@ -105,12 +105,23 @@ void WindowSurface::ShowResizable() {
   window_->requestActivate();
 }
 
+bool WindowSurface::ShowInside(ForeignWindow& host) {
+  // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
+  window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                    Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+  if (!host.TakeIn(*window_)) return false;
+  window_->show();
+  return true;
+}
+
 QWindow& WindowSurface::Window() { return *window_; }
 
 bool WindowSurface::IsExposed() const { return window_->isExposed(); }
 
-void WindowSurface::TakeWindowSize() {
-  Resize(static_cast<Integer>(window_->width()), static_cast<Integer>(window_->height()));
+void WindowSurface::TakeWindowSize() { TakeSize(window_->size()); }
+
+void WindowSurface::TakeSize(QSize size) {
+  Resize(static_cast<Integer>(size.width()), static_cast<Integer>(size.height()));
 }
 
 void WindowSurface::Present() {

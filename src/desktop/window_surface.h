@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "desktop/dirty_tiles.h"
+#include "desktop/foreign_window.h"
 #include "desktop/pixel_scale.h"
 #include "desktop/screen_image.h"
 #include "desktop/window_events.h"
@@ -37,12 +38,16 @@ class WindowSurface : public Surface {
   void ShowFullScreen(Stacking stacking);
   /// An ordinary window in the middle of the primary screen, with a frame, free to be resized.
   void ShowResizable();
+  /// Covers `host` from inside, without taking any input from it. False: the host is gone.
+  bool ShowInside(ForeignWindow& host);
 
   /// Whether any of the window can be seen.
   bool IsExposed() const;
 
   /// Makes the surface as large as the window; it is black afterwards.
   void TakeWindowSize();
+  /// The same with a size that the window has been given, but may not have yet.
+  void TakeSize(QSize size);
 
   /// Shows the changes. While the window cannot be seen they cost nothing: it is painted whole from
   /// the canvas when it comes back.

@@ -34,9 +34,9 @@ void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
   }
 }
 
-void RunEffect(Saver& saver, Surface& surface) {
+void RunEffect(Saver& saver, Surface& surface, bool smallPreview) {
   while (!saver.StopRun) {
-    ReadUniverseSettings(saver, false);
+    ReadUniverseSettings(saver, smallPreview);
     ResetSurface(surface);
     UniverseRun(saver);
   }
