@@ -16,6 +16,7 @@
 #include "desktop/signals.h"
 #include "hosting/main.h"
 #include "settings/factory.h"
+#include "settings/storage.h"
 
 namespace {
 
@@ -138,7 +139,11 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   const auto saver = std::make_unique<Saver>();
   saver->Events = &pump;
   saver->Desktop = desktop.get();
-  LoadFactorySettings(saver->Stored, FactorySet::Starfolds4x, 1);
+  MemoryTree tree;
+  const auto records = std::make_unique<SettingsRecords>();
+  LoadFactorySettings(*records, FactorySet::Starfolds4x, 1);
+  SaveSettings(tree, *records);
+  saver->Tree = &tree;
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;

@@ -5,6 +5,7 @@
 
 #include "colour/saver.h"
 #include "numbers/conversions.h"
+#include "settings/storage.h"
 
 namespace starfolds {
 namespace {
@@ -26,8 +27,7 @@ struct RandomFactors {
   Single Speed = 1;
 };
 
-RandomFactors DrawFactors(Saver& saver) {
-  const AdvancedSettings& advanced = saver.Stored.Advanced;
+RandomFactors DrawFactors(Saver& saver, const AdvancedSettings& advanced) {
   if (!advanced.Adv_Randomize) return {};
   const int magnitude = ClampTo<int>(advanced.Adv_RandomMag, 1, 100);
   const int exponent = ClampTo<int>(advanced.Adv_RandomExp, 1, 100);
@@ -208,10 +208,11 @@ Motion MotionOf(FoldStyle style) {
 }
 
 void PrepareProfiles(Saver& saver) {
+  const AdvancedSettings advanced = LoadAdvancedFromRegistry(*saver.Tree);
   for (int p = 0; p < kProfileCount; ++p) {
     StarfoldProfile& profile = saver.Profiles[p];
     PreparedProfile& run = saver.Prepared[p];
-    const RandomFactors factors = DrawFactors(saver);
+    const RandomFactors factors = DrawFactors(saver, advanced);
     PrepareBody(run, profile, factors);
     PrepareRates(run, profile, factors);
     PrepareMotion(run, profile);

@@ -7,6 +7,7 @@
 #include "colour/tables.h"
 #include "numbers/rnd.h"
 #include "platform/desktop_services.h"
+#include "platform/key_value_tree.h"
 #include "platform/pump.h"
 #include "platform/surface.h"
 #include "settings/fields.h"
@@ -35,10 +36,12 @@ struct Display {
 };
 
 struct Saver {
-  /// What the user has stored. The truth between runs; each run reads it anew.
-  SettingsRecords Stored;
+  /// What the user has stored: the truth between runs. Set before the first one, outlives all.
+  KeyValueTree* Tree = nullptr;
 
-  // The records of the run: read by `ReadUniverseSettings`, clamped and scaled in place.
+  // The records of the run, copied from the tree when its host is set up and clamped ...
+  AdvancedSettings Advanced;
+  // ... and anew for each run by `ReadUniverseSettings`; the run clamps and scales them in place.
   UniverseSettings Universe;
   ProfileArray Profiles;
   CompositeArray Composites;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "hosting/captions.h"
+#include "settings/storage.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
@@ -25,7 +26,7 @@ void FrmAppExe::Activate() {
 }
 
 void FrmAppExe::Show() {
-  if (saver_.Stored.Advanced.Adv_WinResize) {
+  if (LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize) {
     surface_.SetCaption(kSaverCaption);
     surface_.ShowResizable();
   } else {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "hosting/captions.h"
+#include "settings/storage.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
@@ -10,8 +11,8 @@ namespace starfolds {
 FrmSaver::FrmSaver(Saver& saver, SeedSource seed)
     : saver_(saver),
       seed_(std::move(seed)),
-      backG_(saver.Stored.Advanced.Adv_DispBackG),
-      input_(saver.Stored.Advanced.Adv_MouseMove, backG_),
+      backG_(LoadAdvancedFromRegistry(*saver.Tree).Adv_DispBackG),
+      input_(LoadAdvancedFromRegistry(*saver.Tree).Adv_MouseMove, backG_),
       surface_(*this) {
   surface_.SetName("frmSaver");
   surface_.SetCaption(kSaverCaption);

@@ -5,6 +5,7 @@
 #include "render/progress.h"
 #include "render/recording_surface.h"
 #include "render/standard_streams.h"
+#include "settings/storage.h"
 #include "universe/host_surface.h"
 #include "universe/single_body_run.h"
 #include "universe/universe_run.h"
@@ -39,12 +40,14 @@ Fault FinishAll(const FrameSinks& sinks) {
 
 }  // namespace
 
-Fault Render(const RenderOptions& options) {
+Fault Render(RenderOptions& options) {
   const FrameSinks sinks = MakeSinks(options);
   CountedPump pump;
   MemoryDesktop desktop;
   const auto saver = std::make_unique<Saver>();
-  saver->Stored = options.Settings;
+  MemoryTree tree;
+  SaveSettings(tree, options.Settings);
+  saver->Tree = &tree;
   saver->Events = &pump;
   saver->Desktop = &desktop;
 

@@ -6,6 +6,6 @@
 
 namespace starfolds {
 
-Fault Render(const RenderOptions& options);
+Fault Render(RenderOptions& options);
 
 }  // namespace starfolds

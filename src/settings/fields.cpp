@@ -5,6 +5,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "numbers/utf8.h"
 
 namespace starfolds {
 namespace {
@@ -15,11 +16,20 @@ using P = StarfoldProfile;
 using C = CompositeProfile;
 using A = AdvancedSettings;
 
-constexpr bool kWhole = true;
+using Reader = Oddities::Reader;
+constexpr Oddities kWhole{.WholeNumber = true};
+constexpr Oddities kWholeWiderInDialog{.WholeNumber = true, .DialogHigh = 99999};
+constexpr Oddities kReadAsLong{.ReadAs = Reader::AsLong};
+constexpr Oddities kExactlyOne{.ReadAs = Reader::ExactlyOne};
+constexpr Oddities kExactlyOneNoTemplate{.ReadAs = Reader::ExactlyOne, .InTemplate = false};
+constexpr Oddities kNotInTemplate{.InTemplate = false};
+constexpr Oddities kZeroInTemplate{.ZeroInTemplate = true};
+constexpr Oddities kMemberCount{.ZeroInTemplate = true, .TemplateName = "_CompFoldCount"};
+constexpr Oddities kOnePointNought{.DefaultText = "1.0"};
 
 const Field<U> kUniverseFields[] = {
     {"Universe_Stars", &U::Universe_Stars, Fixed, 10, 30000,
-     "Stars in all the Starfolds (10 - 30000):"},
+     "Stars in all the Starfolds (10 - 30000):", kReadAsLong},
     {"Universe_Starfold", &U::Universe_Starfold, Fixed, 1, 999,
      "Starfolds in the Universe (1- 999):"},
     {"Universe_STrail", &U::Universe_STrail, Fixed, 1, 99, "Star Trail Length in Pixels (1 - 99):"},
@@ -32,11 +42,11 @@ const Field<U> kUniverseFields[] = {
     {"Universe_HW_End", &U::Universe_HW_End, Fixed, 0, 999, "Hue Start, End (0 - 999):"},
     {"Universe_Recycle", &U::Universe_Recycle, Fixed, 1, 999,
      "Recycle Universe after visiting Starfolds (1 - 999):"},
-    {"Universe_Profile", &U::Universe_Profile, Fixed, 0, 51, "Universe Profile:"},
+    {"Universe_Profile", &U::Universe_Profile, Fixed, 0, 51, "Universe Profile:", kZeroInTemplate},
     {"Universe_NewFreq", &U::Universe_NewFreq, Fixed, 0, 9999, "New Stars Frequency (0 - 9999):"},
     {"Universe_NewPctStEx", &U::Universe_NewPctStEx, Fixed, 0, 100,
      "Exclusive to Current Starfold % (0 - 100):", kWhole},
-    {"Universe_Tour", &U::Universe_Tour, None, 0, 0, "Tour the Universe"},
+    {"Universe_Tour", &U::Universe_Tour, None, 0, 0, "Tour the Universe", kZeroInTemplate},
     {"Universe_GSteps", &U::Universe_GSteps, Fixed, 1, 9999, "Steps per Control Point (1 - 9999):"},
     {"Universe_GPCtrl", &U::Universe_GPCtrl, Fixed, 1, 999,
      "Control Points per Starfold Visit (1 - 999):"},
@@ -47,14 +57,16 @@ const Field<U> kUniverseFields[] = {
     {"Universe_C_Ramp", &U::Universe_C_Ramp, Fixed, 0, 999, "Camera Rotation Ramping (0 - 999):"},
     {"Universe_GS_Idx", &U::Universe_GS_Idx, None, 0, 0,
      "Tour per space-separated Starfold indices (1-66)"},
-    {"Universe_GVisit", &U::Universe_GVisit, None, 0, 0, "Visit Starfold Types Sequentially:"},
-    {"Universe_RotCam", &U::Universe_RotCam, None, 0, 0, "Rotate Camera on approach to Starfolds:"},
+    {"Universe_GVisit", &U::Universe_GVisit, None, 0, 0,
+     "Visit Starfold Types Sequentially:", kZeroInTemplate},
+    {"Universe_RotCam", &U::Universe_RotCam, None, 0, 0,
+     "Rotate Camera on approach to Starfolds:", kZeroInTemplate},
     {"Universe_AmStar", &U::Universe_AmStar, Fixed, 0, 3000, "Stars (0 - 3000):"},
     {"Universe_AmPers", &U::Universe_AmPers, Fixed, 0.25, 1, "Persistence (0.25 - 1.0):"},
     {"Universe_AmCAge", &U::Universe_AmCAge, Fixed, 0, 10, "Age Increment (0.0 - 10.0):"},
     {"Universe_AmFrames", &U::Universe_AmFrames, Fixed, 0, 999, "Cycle Down Frames (0 - 999):"},
     {"Universe_AmMaxExt", &U::Universe_AmMaxExt, Fixed, 1, 9999,
-     "Max. Size Extension (1 - 99999):", kWhole, 99999},
+     "Max. Size Extension (1 - 99999):", kWholeWiderInDialog},
     {"Universe_GravForce", &U::Universe_GravForce, Fixed, 0, 999999,
      "Gravitational Magnitude (0 - 999999):"},
     {"Universe_GravFrame", &U::Universe_GravFrame, Fixed, 1, 999,
@@ -62,7 +74,8 @@ const Field<U> kUniverseFields[] = {
 };
 
 const Field<P> kProfileFields[] = {
-    {"_UniFoldPct", &P::UniFoldPct, Fixed, 0, 9999, "Relative Percent in Universe"},
+    {"_UniFoldPct", &P::UniFoldPct, Fixed, 0, 9999, "Relative Percent in Universe",
+     kZeroInTemplate},
     {"_UniFoldName", &P::UniFoldName, None, 0, 0, "Name"},
     {"Starfold_StdLevels", &P::Starfold_StdLevels, Fixed, 1, 10, "Levels"},
     {"Starfold_StdLevDRad", &P::Starfold_StdLevDRad, None, 0, 0, "Level Radius Step"},
@@ -134,32 +147,36 @@ const Field<P> kProfileFields[] = {
     {"Starfold_CP_B_Spd", &P::Starfold_CP_B_Spd, Fixed, 0, 999, "Nebula Bias Travel Speed"},
     {"Starfold_QG_Force", &P::Starfold_QG_Force, Fixed, 0, 99.9,
      "Quasar Emit Speed, Graviton Force"},
-    {"Starfold_IFS_Points", &P::Starfold_IFS_Points, Fixed, 0, kMaxIfsPoints, "Attractor Points"},
-    {"Starfold_Atoms", &P::Starfold_Atoms, Fixed, 0, kMaxAtoms, "Atoms"},
+    {"Starfold_IFS_Points", &P::Starfold_IFS_Points, Fixed, 0, kMaxIfsPoints, "Attractor Points",
+     kZeroInTemplate},
+    {"Starfold_Atoms", &P::Starfold_Atoms, Fixed, 0, kMaxAtoms, "Atoms", kZeroInTemplate},
 };
 
 const Field<C> kCompositeFields[] = {
     {"_CompFoldName", &C::CompFoldName, None, 0, 0, "Name"},
     {"_CompFoldPct", &C::CompFoldPct, Fixed, 0, 9999, "Relative Percent in Universe"},
-    {"CompFold_Count", &C::CompFold_Count, Fixed, 0, 49, "Members"},
+    {"CompFold_Count", &C::CompFold_Count, Fixed, 0, 49, "Members", kMemberCount},
 };
 
 const Field<A> kAdvancedFields[] = {
     {"Adv_TimeDelay", &A::Adv_TimeDelay, Fixed, 0, 999, "Frame delay in milliseconds (0 - 999):"},
-    {"FocalLength", &A::FocalLength, Fixed, 0.01, 10, "Focal length distance (0.01 - 10.0):"},
+    {"FocalLength", &A::FocalLength, Fixed, 0.01, 10,
+     "Focal length distance (0.01 - 10.0):", kOnePointNought},
     {"LockMessage", &A::LockMessage, None, 0, 0, "Text:"},
     {"Adv_FontName", &A::Adv_FontName, None, 0, 0, "Font:"},
     {"Adv_FontSize", &A::Adv_FontSize, Fixed, 10, 80, "Size:"},
     {"Adv_FontHueV", &A::Adv_FontHueV, Fixed, 0, 359, "Text Hue (0 - 359):"},
-    {"Adv_WinResize", &A::Adv_WinResize, None, 0, 0, "Window can be resized (EXE version only)"},
-    {"Adv_MouseMove", &A::Adv_MouseMove, None, 0, 0, "Ignore mouse moves in screen saver mode"},
-    {"Adv_DispBackG", &A::Adv_DispBackG, None, 0, 0,
-     "Display in background (double-click to stop)"},
+    {"Adv_WinResize", &A::Adv_WinResize, None, 0, 0, "Window can be resized (EXE version only)",
+     kExactlyOne},
+    {"Adv_MouseMove", &A::Adv_MouseMove, None, 0, 0, "Ignore mouse moves in screen saver mode",
+     kExactlyOne},
+    {"Adv_DispBackG", &A::Adv_DispBackG, None, 0, 0, "Display in background (double-click to stop)",
+     kExactlyOneNoTemplate},
     {"Adv_Randomize", &A::Adv_Randomize, None, 0, 0, "Randomize Properties"},
     {"Adv_RandomMag", &A::Adv_RandomMag, Fixed, 1, 100, "Randomization Magnitude (1 - 100):"},
     {"Adv_RandomExp", &A::Adv_RandomExp, Fixed, 1, 100, "Bias Exponent to Normal (1 - 100):"},
-    {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier"},
-    {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle"},
+    {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier", kNotInTemplate},
+    {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle", kNotInTemplate},
 };
 
 const Field<IfsRecord> kIfsCenterFields[] = {
@@ -194,6 +211,9 @@ const Field<AtomPoint> kAtomPointFields[] = {
     {"Atom_Radius", &AtomPoint::Atom_Radius, Fixed, 0, 9999, "Symmetry Radius"},
 };
 
+/// Characters of the on-screen message.
+constexpr std::size_t kLongestMessage = 100;
+
 /// The style table: one row a style, in the order of the four style rules.
 struct StyleRow {
   Limits Segs, Fill, Bands, BFill;
@@ -226,7 +246,7 @@ void ClampField(Record& record, const Field<Record>& field, Limits limits) {
       [&](auto member) {
         using Value = std::remove_reference_t<decltype(record.*member)>;
         if constexpr (!std::is_same_v<Value, bool> && !std::is_same_v<Value, std::string>) {
-          ClampNumber(record.*member, limits, field.WholeNumber);
+          ClampNumber(record.*member, limits, field.Odd.WholeNumber);
         }
       },
       field.Where);
@@ -336,7 +356,8 @@ void ClampComposite(CompositeProfile& composite) {
 void ClampAdvanced(AdvancedSettings& advanced) {
   ClampFields(advanced, AdvancedFields());
   if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
-  advanced.LockMessage = std::string(Trimmed(advanced.LockMessage)).substr(0, 100);
+  advanced.LockMessage =
+      std::string(FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage));
   if (advanced.Adv_EffectFPC > 0) {
     advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
   }
@@ -374,7 +395,8 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
           if (!IsNumeric(text)) return false;
           const double number = LenientNumber(text);
           if constexpr (std::is_same_v<Value, bool>) {
-            value = number != 0;
+            const bool exactlyOne = field.Odd.ReadAs == Reader::ExactlyOne;
+            value = exactlyOne ? Trimmed(text) == "1" : number != 0;
           } else if constexpr (std::is_same_v<Value, Single>) {
             constexpr double largest = std::numeric_limits<Single>::max();
             value = static_cast<Single>(ClampTo(number, -largest, largest));

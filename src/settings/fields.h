@@ -16,6 +16,22 @@ namespace starfolds {
 /// depends on the profile's style and stands in `StyleLimits`.
 enum class RangeRule { None, Fixed, RadSegs, RadFill, RadBands, RadBFill };
 
+/// Where a setting is not as its kind and its range say.
+struct Oddities {
+  enum class Reader {
+    ByKind,
+    AsLong,      // read as a Long into a shorter word, so that too large a number becomes a limit
+    ExactlyOne,  // a Boolean that only the text "1" turns on; others: any number but 0
+  };
+  bool WholeNumber = false;            // a Single that its clamp rounds to a whole number
+  double DialogHigh = 0;               // the dialog's high limit where it differs from the run's
+  Reader ReadAs = Reader::ByKind;      // from the stored tree
+  bool InTemplate = true;              // template files hold it
+  bool ZeroInTemplate = false;         // a template that lacks it means 0, not the default
+  std::string_view TemplateName = {};  // where templates call it otherwise
+  std::string_view DefaultText = {};   // where the default is written otherwise than its number
+};
+
 /// One setting of a record.
 template <class Record>
 struct Field {
@@ -29,8 +45,7 @@ struct Field {
   double Low = 0;
   double High = 0;
   std::string_view Label;
-  bool WholeNumber = false;  // a Single that its clamp rounds to a whole number
-  double DialogHigh = 0;     // the dialog's high limit where it differs from the run's; else 0
+  Oddities Odd = {};
 };
 
 /// In the order of the records.
@@ -71,13 +86,25 @@ void ClampProfile(StarfoldProfile& profile);
 void ClampComposite(CompositeProfile& composite);
 void ClampAdvanced(AdvancedSettings& advanced);
 
+/// The name under which a template holds the setting.
+template <class Record>
+std::string_view TemplateKey(const Field<Record>& field) {
+  return field.Odd.TemplateName.empty() ? field.Name : field.Odd.TemplateName;
+}
+
 /// The setting's value as the text it is stored as.
 template <class Record>
 std::string FieldText(const Record& record, const Field<Record>& field);
 
+/// The text of the setting's default, as it is written where there is nothing yet.
+template <class Record>
+std::string DefaultText(const Field<Record>& field) {
+  if (!field.Odd.DefaultText.empty()) return std::string(field.Odd.DefaultText);
+  return FieldText(Record(), field);
+}
+
 /// Reads the setting from text. Text that is no number leaves a number as it was and gives false;
-/// a number beyond the type's range becomes the type's limit. Booleans are true for any number
-/// but 0.
+/// a number beyond the type's range becomes the type's limit.
 template <class Record>
 bool SetFieldText(Record& record, const Field<Record>& field, std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "universe/host_surface.h"
 
 #include "numbers/conversions.h"
+#include "settings/storage.h"
 
 namespace starfolds {
 namespace {
@@ -19,10 +20,9 @@ void MeasureSurface(Saver& saver, Surface& target, double zoom) {
 }  // namespace
 
 void SetupDisplay(Saver& saver, Surface& target, std::uint64_t seed) {
-  AdvancedSettings advanced = saver.Stored.Advanced;
-  ClampAdvanced(advanced);
-  saver.Screen.FocalLength = advanced.FocalLength;
-  saver.Screen.FrameDelayMs = advanced.Adv_TimeDelay;
+  saver.Advanced = LoadAdvancedFromRegistry(*saver.Tree);
+  saver.Screen.FocalLength = saver.Advanced.FocalLength;
+  saver.Screen.FrameDelayMs = saver.Advanced.Adv_TimeDelay;
   MeasureSurface(saver, target, 1);
   saver.Random.Seed(seed);
 }
@@ -41,9 +41,13 @@ void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single z
 void ResetSurface(Surface& target) { target.Clear(); }
 
 void ReadUniverseSettings(Saver& saver, bool smallPreview) {
-  saver.Universe = saver.Stored.Universe;
-  saver.Profiles = saver.Stored.Profiles;
-  saver.Composites = saver.Stored.Composites;
+  TakeUniverseSettings(saver, LoadSettings(*saver.Tree), smallPreview);
+}
+
+void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool smallPreview) {
+  saver.Universe = records.Universe;
+  saver.Profiles = records.Profiles;
+  saver.Composites = records.Composites;
   saver.Visits = ParseVisitList(saver.Universe.Universe_GS_Idx);
   if (smallPreview) {
     AssignRounded(saver.Universe.Universe_Stars, saver.Universe.Universe_Stars * 0.65);

@@ -17,8 +17,11 @@ void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single z
 /// Black, before each run.
 void ResetSurface(Surface& target);
 
-/// Reads every record of the run from what is stored, and prepares the colours. A small preview
+/// Reads every record of the run from the stored tree, and prepares the colours. A small preview
 /// takes 0.65 of the stars and half of the ambient stars.
 void ReadUniverseSettings(Saver& saver, bool smallPreview);
+
+/// The same with records that are at hand.
+void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool smallPreview);
 
 }  // namespace starfolds

@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "colour/saver.h"
+#include "settings/storage.h"
 
 namespace starfolds {
 namespace {
@@ -14,15 +15,19 @@ constexpr double kDegree = std::numbers::pi / 180;
 
 class Prepared : public ::testing::Test {
  protected:
+  Prepared() { Process->Tree = &Tree; }
+
+  MemoryTree Tree;
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   StarfoldProfile& First() { return Process->Profiles[0]; }
   PreparedProfile& Run() { return Process->Prepared[0]; }
 
   void Randomize(Integer magnitude, Integer exponent) {
-    AdvancedSettings& advanced = Process->Stored.Advanced;
+    AdvancedSettings advanced;
     advanced.Adv_Randomize = true;
     advanced.Adv_RandomMag = magnitude;
     advanced.Adv_RandomExp = exponent;
+    SaveAdvancedToRegistry(Tree, advanced);
   }
 };
 

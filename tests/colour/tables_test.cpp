@@ -109,6 +109,9 @@ TEST(FlareTableTest, HuesBeyondTheCircleComeRound) {
 
 class FlareTables : public ::testing::Test {
  protected:
+  FlareTables() { Process->Tree = &Tree; }
+
+  MemoryTree Tree;
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   StarfoldProfile& First() { return Process->Profiles[0]; }
   ProfileColours& Colours() { return Process->Colours.Profile[0]; }

@@ -39,7 +39,7 @@ TEST_F(FrmAppExeTest, FillsTheScreenWithoutACaption) {
 }
 
 TEST_F(FrmAppExeTest, IsAnOrdinaryWindowIfToldSo) {
-  State->Stored.Advanced.Adv_WinResize = true;
+  Store("Advanced", "Adv_WinResize", 1);
   Events.Plan[2] = [&] {
     EXPECT_EQ(Window().title(), "TSLN:Starfolds 4.1a");
     EXPECT_LT(Window().width(), QGuiApplication::primaryScreen()->size().width());
@@ -52,7 +52,7 @@ TEST_F(FrmAppExeTest, IsAnOrdinaryWindowIfToldSo) {
 }
 
 TEST_F(FrmAppExeTest, TakesTheWindowsSizeWithTheNextRunOnly) {
-  State->Stored.Advanced.Adv_WinResize = true;
+  Store("Advanced", "Adv_WinResize", 1);
   int before = 0;
   Events.Plan[2] = [&] {
     before = Window().width();
@@ -79,7 +79,7 @@ TEST_F(FrmAppExeTest, TakesTheWindowsSizeWithTheNextRunOnly) {
 /// visit and 20 of pull-out then.
 class FrmAppExeAnew : public FrmAppExeTest, public testing::WithParamInterface<int> {
  protected:
-  FrmAppExeAnew() { State->Stored.Advanced.Adv_TimeDelay = 0; }
+  FrmAppExeAnew() { Store("Advanced", "Adv_TimeDelay", 0); }
 };
 
 TEST_P(FrmAppExeAnew, BeginsAtOnceInEveryStage) {

@@ -38,7 +38,7 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
     EXPECT_EQ(Window().cursor().shape(), Qt::BlankCursor);
     EXPECT_EQ(State->Screen.SurfaceWidth, screen.width());
     EXPECT_EQ(State->Screen.SurfaceHeight, screen.height());
-    EXPECT_EQ(State->Screen.FrameDelayMs, State->Stored.Advanced.Adv_TimeDelay);
+    EXPECT_EQ(State->Screen.FrameDelayMs, AdvancedSettings().Adv_TimeDelay);
     Press(Window(), Qt::Key_A);
   };
   Run();
@@ -61,7 +61,7 @@ TEST_F(FrmSaverTest, EndsOnTheFourthMoveFromThePlaceOfTheStart) {
 }
 
 TEST_F(FrmSaverTest, LeavesThePointerAloneIfToldSo) {
-  State->Stored.Advanced.Adv_MouseMove = true;
+  Store("Advanced", "Adv_MouseMove", 1);
   for (int pump = 1; pump <= 30; ++pump) {
     Events.Plan[pump] = [this, pump] { Move(Window(), pump); };
   }
@@ -70,7 +70,7 @@ TEST_F(FrmSaverTest, LeavesThePointerAloneIfToldSo) {
 }
 
 TEST_F(FrmSaverTest, IsABackgroundThatADoubleClickEnds) {
-  State->Stored.Advanced.Adv_DispBackG = true;
+  Store("Advanced", "Adv_DispBackG", 1);
   Events.Plan[2] = [&] {
     EXPECT_TRUE(Window().flags().testFlag(Qt::WindowStaysOnBottomHint));
     EXPECT_EQ(Window().cursor().shape(), Qt::BlankCursor);
@@ -92,7 +92,7 @@ TEST_F(FrmSaverTest, EndsWhenItsWindowIsClosedOrGone) {
 TEST_F(FrmSaverTest, ReadsTheSettingsForEveryRun) {
   Events.Plan[3] = [&] {
     EXPECT_EQ(State->Universe.Universe_Stars, 50);
-    State->Stored.Universe.Universe_Stars = 70;
+    Store("Universe", "Universe_Stars", 70);
     State->NewRun = true;
   };
   Events.Plan[6] = [&] {

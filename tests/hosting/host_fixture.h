@@ -14,6 +14,7 @@
 
 #include "colour/saver.h"
 #include "desktop/toolkit.h"
+#include "settings/storage.h"
 
 namespace starfolds {
 
@@ -44,7 +45,8 @@ class HostTest : public testing::Test {
   HostTest() {
     State->Events = &Events;
     State->Desktop = &Desktop;
-    UniverseSettings& universe = State->Stored.Universe;
+    State->Tree = &Tree;
+    UniverseSettings universe;
     universe.Universe_Stars = 50;
     universe.Universe_Starfold = 1;
     universe.Universe_AmStar = 0;
@@ -52,6 +54,12 @@ class HostTest : public testing::Test {
     universe.Universe_GSteps = 20;
     universe.Universe_GPCtrl = 1;
     universe.Universe_GCCtrl = 0;
+    SaveUniverseToRegistry(Tree, universe);
+  }
+
+  /// Changes what is stored.
+  void Store(std::string_view section, std::string_view key, Long value) {
+    RegistryWrite(Tree, section, key, value);
   }
 
   static void Send(QWindow& window, QEvent&& event) {
@@ -72,6 +80,7 @@ class HostTest : public testing::Test {
   std::unique_ptr<Saver> State = std::make_unique<Saver>();
   PlannedPump Events{*State};
   MemoryDesktop Desktop;
+  MemoryTree Tree;
   int Seeds = 0;  // how often a host has set up a run
   std::function<std::uint64_t()> NextSeed = [this] { return static_cast<std::uint64_t>(++Seeds); };
 };

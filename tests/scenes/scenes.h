@@ -9,6 +9,7 @@
 #include "bodies/seed_star.h"
 #include "bodies/star_step.h"
 #include "colour/saver.h"
+#include "settings/storage.h"
 #include "universe/host_surface.h"
 
 namespace starfolds::scenes {
@@ -25,20 +26,25 @@ class WatchedSurface : public MemorySurface {
   }
 };
 
-/// A saver process in memory. `Settings()` may be changed until `Read()`.
+/// A saver process in memory. `Settings()` may be changed until `Read()`; of its advanced values
+/// only what a run itself looks up counts.
 class Stage {
  public:
   explicit Stage(Integer width = 640, Integer height = 360, std::uint64_t seed = 1)
       : Canvas(width, height) {
     Process->Events = &Clock;
     Process->Desktop = &Desktop;
+    Process->Tree = &Tree;
     SetupDisplay(*Process, Canvas, seed);
   }
 
-  SettingsRecords& Settings() { return Process->Stored; }
+  SettingsRecords& Settings() { return *Records; }
 
   /// Reads the settings for a run.
-  void Read(bool smallPreview = false) { ReadUniverseSettings(*Process, smallPreview); }
+  void Read(bool smallPreview = false) {
+    SaveAdvancedToRegistry(Tree, Records->Advanced);
+    TakeUniverseSettings(*Process, *Records, smallPreview);
+  }
 
   /// Makes the run stop after so many frames.
   void StopAfter(int frames) {
@@ -49,9 +55,11 @@ class Stage {
 
   // Large; kept off the stack.
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<SettingsRecords> Records = std::make_unique<SettingsRecords>();
   WatchedSurface Canvas;
   CountedPump Clock;
   MemoryDesktop Desktop;
+  MemoryTree Tree;
   int FramesShown = 0;
 };
 

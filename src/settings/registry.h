@@ -1,0 +1,79 @@
+// The thin layer through which everybody reaches the stored tree: one text per setting, and typed
+// readers that never fail. What cannot be read is the caller's default.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "numbers/words.h"
+#include "platform/key_value_tree.h"
+#include "platform/message_boxes.h"
+
+namespace starfolds {
+
+/// `RootSelector`: which hive. Settings live under 1; 0 holds what earlier versions wrote for the
+/// whole machine.
+enum class RootSelector : Integer {
+  LocalMachine = 0,
+  CurrentUser = 1,
+  ClassesRoot = 2,
+  Users = 3,  // and any other number
+};
+
+inline constexpr std::string_view kAppName = "TSLN_Starfold";
+
+/// Bytes of the longest value that can be read back.
+inline constexpr std::size_t kLongestValue = 127;
+
+// The sections of the tree.
+namespace sections {
+inline constexpr std::string_view kGeneral = "General";
+inline constexpr std::string_view kMain = "General\\Main";
+inline constexpr std::string_view kTemplate = "Template";
+inline constexpr std::string_view kAdvanced = "Advanced";
+inline constexpr std::string_view kUniverse = "Universe";
+}  // namespace sections
+
+/// The text of a value, up to its first NUL. A missing value, and one of more than 127 bytes, is
+/// `fallback`.
+std::string RegistryReadText(KeyValueTree& tree, std::string_view section, std::string_view key,
+                             std::string_view fallback = {},
+                             RootSelector root = RootSelector::CurrentUser,
+                             std::string_view app = kAppName);
+
+/// The value as a number, rounded to the nearest whole one with halves to even where it is an
+/// integer. Text that is no number is `fallback`; a number beyond the type's range is 0.
+Integer RegistryReadInteger(KeyValueTree& tree, std::string_view section, std::string_view key,
+                            Integer fallback, RootSelector root = RootSelector::CurrentUser,
+                            std::string_view app = kAppName);
+Long RegistryReadLong(KeyValueTree& tree, std::string_view section, std::string_view key,
+                      Long fallback, RootSelector root = RootSelector::CurrentUser,
+                      std::string_view app = kAppName);
+Single RegistryReadSingle(KeyValueTree& tree, std::string_view section, std::string_view key,
+                          Single fallback, RootSelector root = RootSelector::CurrentUser,
+                          std::string_view app = kAppName);
+
+/// Stores the text without blanks at its ends; numbers as their shortest text. True if it was
+/// stored.
+bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_view key,
+                   std::string_view value, RootSelector root = RootSelector::CurrentUser,
+                   std::string_view app = kAppName);
+bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_view key, Long value,
+                   RootSelector root = RootSelector::CurrentUser, std::string_view app = kAppName);
+
+/// What is left of a text when it is held to the longest value, in whole characters.
+std::string_view StorableText(std::string_view text);
+
+/// Removes `subkey` below `section`. Callers do not care whether it was there.
+void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_view section,
+                       std::string_view subkey, RootSelector root);
+
+/// Whether the user's tree can be written. If not, the user is told so.
+bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes);
+
+/// Copies a value as text from the machine's tree to the user's; a missing one arrives as
+/// `fallback`.
+void CopyMachineValueToUser(KeyValueTree& tree, std::string_view section, std::string_view key,
+                            std::string_view fallback);
+
+}  // namespace starfolds
