@@ -47,7 +47,10 @@ void AppWindows::LoadFrmPreview() {
 
 void AppWindows::ShowInHost(Long hostWindow) {
   saver_.Mode = RunMode::ScreenSaver;
-  GuestWindow(saver_, seed_, hostWindow).Run(false);
+  if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
+  // A host that goes while its saver starts is nothing out of the ordinary.
+  std::fprintf(stderr, "starfolds: there is no window %ld to show anything in\n",
+               static_cast<long>(hostWindow));
 }
 
 void AppWindows::LoadTemplate(const std::string&) {

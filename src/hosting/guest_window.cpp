@@ -14,13 +14,14 @@ GuestWindow::GuestWindow(Saver& saver, SeedSource seed, Long host)
 
 GuestWindow::~GuestWindow() { saver_.Screen.hDCDraw = nullptr; }
 
-void GuestWindow::Run(bool smallPreview) {
-  saver_.StopRun = false;
-  if (!host_ || !surface_.ShowInside(*host_)) return HostGone();
+bool GuestWindow::Run(bool smallPreview) {
+  if (!host_ || !surface_.ShowInside(*host_)) return false;
+  saver_.StopRun = hostGone_ || saver_.QuitApp;
   WaitUntilShown(saver_, surface_);
   do {
     RunAtHostsSize(smallPreview);
   } while (beginAnew_ && !hostGone_ && !saver_.QuitApp);
+  return true;
 }
 
 void GuestWindow::RunAtHostsSize(bool smallPreview) {

@@ -12,12 +12,13 @@ namespace starfolds {
 /// none and never ends on any. It ends with the host's window.
 class GuestWindow : private WindowEvents, private ForeignWindowEvents {
  public:
-  /// Shows nothing yet. What is no living window ends the run before it has begun.
+  /// Shows nothing yet.
   GuestWindow(Saver& saver, SeedSource seed, Long host);
   ~GuestWindow() override;
 
   /// Shows the window and runs the effect. Returns when the host is gone or the process is to end.
-  void Run(bool smallPreview);
+  /// False: there is no such window, or not any more, and nothing was run.
+  bool Run(bool smallPreview);
 
   WindowSurface& Drawing() { return surface_; }
 
