@@ -38,6 +38,8 @@ struct Display {
 struct Saver {
   /// What the user has stored: the truth between runs. Set before the first one, outlives all.
   KeyValueTree* Tree = nullptr;
+  /// Takes the place of an empty tree that cannot be written.
+  MemoryTree StandIn;
 
   // The records of the run, copied from the tree when its host is set up and clamped ...
   AdvancedSettings Advanced;

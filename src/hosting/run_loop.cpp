@@ -35,6 +35,7 @@ void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
 }
 
 void RunEffect(Saver& saver, Surface& surface, bool smallPreview) {
+  if (!smallPreview) EnsureBodies(saver);
   while (!saver.StopRun) {
     ReadUniverseSettings(saver, smallPreview);
     ResetSurface(surface);

@@ -22,8 +22,8 @@ double SecondsSinceMidnight();
 /// stars are seen. Where nothing is ever shown (a screen that sleeps) it does not wait for long.
 void WaitUntilShown(Saver& saver, const WindowSurface& surface);
 
-/// Universes, run after run with freshly read settings, until `StopRun`. A small preview shows
-/// fewer stars.
+/// Bodies to show, where there are none yet; then universes, run after run with freshly read
+/// settings, until `StopRun`. A small preview shows fewer stars, and stores nothing.
 void RunEffect(Saver& saver, Surface& surface, bool smallPreview = false);
 
 }  // namespace starfolds

@@ -1,6 +1,8 @@
 #include "universe/host_surface.h"
 
 #include "numbers/conversions.h"
+#include "settings/factory.h"
+#include "settings/first_run.h"
 #include "settings/storage.h"
 
 namespace starfolds {
@@ -39,6 +41,14 @@ void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single z
 }
 
 void ResetSurface(Surface& target) { target.Clear(); }
+
+void EnsureBodies(Saver& saver) {
+  if (EnsureFactoryProfiles(*saver.Tree)) return;
+  SettingsRecords records = LoadSettings(*saver.Tree);
+  LoadFactorySet(records, FactorySet::Starfolds4x);
+  SaveSettings(saver.StandIn, records);
+  saver.Tree = &saver.StandIn;
+}
 
 void ReadUniverseSettings(Saver& saver, bool smallPreview) {
   TakeUniverseSettings(saver, LoadSettings(*saver.Tree), smallPreview);

@@ -17,6 +17,9 @@ void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single z
 /// Black, before each run.
 void ResetSurface(Surface& target);
 
+/// Sees to it that there are bodies to show: the factory's where nobody has stored any.
+void EnsureBodies(Saver& saver);
+
 /// Reads every record of the run from the stored tree, and prepares the colours. A small preview
 /// takes 0.65 of the stars and half of the ambient stars.
 void ReadUniverseSettings(Saver& saver, bool smallPreview);

@@ -1,0 +1,74 @@
+#include "settings/first_run.h"
+
+#include <memory>
+
+#include "settings/factory.h"
+#include "settings/fields.h"
+#include "settings/registry.h"
+#include "settings/storage.h"
+
+namespace starfolds {
+namespace {
+
+bool HasMarkIn(KeyValueTree& tree, std::string_view mark, RootSelector root) {
+  constexpr Integer missing = -1;
+  return RegistryReadInteger(tree, sections::kGeneral, mark, missing, root) != missing;
+}
+
+/// The values of section "Advanced" that earlier versions knew.
+constexpr std::string_view kEarlierAdvanced[] = {"FocalLength",   "Adv_TimeDelay", "Adv_FontName",
+                                                 "Adv_FontSize",  "Adv_FontHueV",  "LockMessage",
+                                                 "Adv_MouseMove", "Adv_DispBackG", "Adv_WinResize"};
+
+void CopyPlainValues(KeyValueTree& tree) {
+  CopyMachineValueToUser(tree, sections::kMain, "WindowState", "0");
+  CopyMachineValueToUser(tree, sections::kMain, "WindowSize", {});
+  for (const std::string_view name : kEarlierAdvanced) {
+    CopyMachineValueToUser(tree, sections::kAdvanced, name,
+                           DefaultText(*FindField(AdvancedFields(), name)));
+  }
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    CopyMachineValueToUser(tree, sections::kUniverse, field.Name, DefaultText(field));
+  }
+}
+
+void CopyRecords(KeyValueTree& tree) {
+  const auto records = std::make_unique<SettingsRecords>();
+  LoadAllProfiles(tree, records->Profiles, RootSelector::LocalMachine);
+  LoadAllComposites(tree, records->Composites, RootSelector::LocalMachine);
+  SaveAllProfiles(tree, records->Profiles);
+  SaveAllComposites(tree, records->Composites);
+}
+
+}  // namespace
+
+bool HasMark(KeyValueTree& tree, std::string_view mark) {
+  return HasMarkIn(tree, mark, RootSelector::CurrentUser);
+}
+
+void MigrateMachineSettings(KeyValueTree& tree) {
+  if (!HasMarkIn(tree, kAnimationType, RootSelector::LocalMachine)) return;
+  TreeBulk change = TreeBulk::Change(tree);
+  if (!change.Begun() || HasMark(tree, kAnimationType)) return;
+  CopyPlainValues(tree);
+  CopyRecords(tree);
+  RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
+  change.Commit();
+}
+
+bool EnsureFactoryProfiles(KeyValueTree& tree) {
+  if (HasMark(tree, kAnimationType)) return true;
+  // Looked at once more within the change: a tree that could not be read just now must not be
+  // taken for an empty one.
+  TreeBulk change = TreeBulk::Change(tree);
+  if (!change.Begun()) return false;
+  if (!HasMark(tree, kAnimationType)) {
+    const auto records = std::make_unique<SettingsRecords>();
+    LoadFactorySet(*records, FactorySet::Starfolds4x);
+    SaveAllProfiles(tree, records->Profiles);
+    SaveAllComposites(tree, records->Composites);
+  }
+  return change.Commit();
+}
+
+}  // namespace starfolds
