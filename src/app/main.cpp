@@ -16,6 +16,7 @@
 #include "desktop/signals.h"
 #include "hosting/main.h"
 #include "settings/factory.h"
+#include "settings/overrides.h"
 #include "settings/storage.h"
 
 namespace {
@@ -143,7 +144,12 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   const auto records = std::make_unique<SettingsRecords>();
   LoadFactorySettings(*records, FactorySet::Starfolds4x, 1);
   SaveSettings(tree, *records);
+  OverriddenTree overridden(tree);
   saver->Tree = &tree;
+  if (!options.Changes.empty()) {
+    overridden.Override(options.Changes);
+    saver->Tree = &overridden;
+  }
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;
