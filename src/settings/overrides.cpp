@@ -1,6 +1,7 @@
 #include "settings/overrides.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "numbers/text.h"
 #include "settings/fields.h"
@@ -44,10 +45,13 @@ void OverriddenTree::Override(std::span<const std::pair<std::string, std::string
   const auto records = std::make_unique<SettingsRecords>();
   // Only members that count are saved.
   for (CompositeProfile& composite : records->Composites) composite.CompFold_Count = kMaxMembers;
-  for (const auto& [name, value] : changes) SetByName(*records, name, value);
+  std::vector<std::string_view> names;
+  for (const auto& [name, value] : changes) {
+    if (!SetByName(*records, name, value)) names.push_back(name);
+  }
   MemoryTree saved;
   SaveSettings(saved, *records);
-  for (const auto& [name, value] : changes) CopyNamed(saved, overrides_, name);
+  for (const std::string_view name : names) CopyNamed(saved, overrides_, name);
 }
 
 std::optional<std::string> OverriddenTree::Read(Hive hive, std::string_view path,

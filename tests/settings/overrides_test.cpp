@@ -38,6 +38,7 @@ TEST_F(OverridesTest, HoldWhateverIsStored) {
             {"Starfold07/Starfold_Radius", "321"},
             {"CompFold3/CompFold_Type1", "9"},
             {"Universe_Star", "1"},
+            {"Universe_Starfold", "many"},
             {"Starfold50/Starfold_Radius", "1"},
             {"", "1"}});
   RegistryWrite(Stored, "Advanced", "Adv_TimeDelay", Long{99});
