@@ -22,7 +22,7 @@ constexpr Oddities kWholeWiderInDialog{.WholeNumber = true, .DialogHigh = 99999}
 constexpr Oddities kReadAsLong{.ReadAs = Reader::AsLong};
 constexpr Oddities kExactlyOne{.ReadAs = Reader::ExactlyOne};
 constexpr Oddities kExactlyOneNoTemplate{.ReadAs = Reader::ExactlyOne, .InTemplate = false};
-constexpr Oddities kNotInTemplate{.InTemplate = false};
+constexpr Oddities kReadOnly{.InDialog = false, .InTemplate = false};
 constexpr Oddities kZeroInTemplate{.ZeroInTemplate = true};
 constexpr Oddities kMemberCount{.ZeroInTemplate = true, .TemplateName = "_CompFoldCount"};
 constexpr Oddities kOnePointNought{.DefaultText = "1.0"};
@@ -175,8 +175,8 @@ const Field<A> kAdvancedFields[] = {
     {"Adv_Randomize", &A::Adv_Randomize, None, 0, 0, "Randomize Properties"},
     {"Adv_RandomMag", &A::Adv_RandomMag, Fixed, 1, 100, "Randomization Magnitude (1 - 100):"},
     {"Adv_RandomExp", &A::Adv_RandomExp, Fixed, 1, 100, "Bias Exponent to Normal (1 - 100):"},
-    {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier", kNotInTemplate},
-    {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle", kNotInTemplate},
+    {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier", kReadOnly},
+    {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle", kReadOnly},
 };
 
 const Field<IfsRecord> kIfsCenterFields[] = {
@@ -393,15 +393,9 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
           return true;
         } else {
           if (!IsNumeric(text)) return false;
-          const double number = LenientNumber(text);
+          SetFieldNumber(record, field, LenientNumber(text));
           if constexpr (std::is_same_v<Value, bool>) {
-            const bool exactlyOne = field.Odd.ReadAs == Reader::ExactlyOne;
-            value = exactlyOne ? Trimmed(text) == "1" : number != 0;
-          } else if constexpr (std::is_same_v<Value, Single>) {
-            constexpr double largest = std::numeric_limits<Single>::max();
-            value = static_cast<Single>(ClampTo(number, -largest, largest));
-          } else {
-            value = RoundedToLimits<Value>(number);
+            if (field.Odd.ReadAs == Reader::ExactlyOne) value = Trimmed(text) == "1";
           }
           return true;
         }
@@ -409,9 +403,28 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
       field.Where);
 }
 
-#define STARFOLDS_FIELD_TEXT(Record)                                   \
-  template std::string FieldText(const Record&, const Field<Record>&); \
-  template bool SetFieldText(Record&, const Field<Record>&, std::string_view);
+template <class Record>
+void SetFieldNumber(Record& record, const Field<Record>& field, double number) {
+  std::visit(
+      [&](auto member) {
+        auto& value = record.*member;
+        using Value = std::remove_cvref_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, bool>) {
+          value = number != 0;
+        } else if constexpr (std::is_same_v<Value, Single>) {
+          constexpr double largest = std::numeric_limits<Single>::max();
+          value = static_cast<Single>(ClampTo(number, -largest, largest));
+        } else if constexpr (!std::is_same_v<Value, std::string>) {
+          value = RoundedToLimits<Value>(number);
+        }
+      },
+      field.Where);
+}
+
+#define STARFOLDS_FIELD_TEXT(Record)                                           \
+  template std::string FieldText(const Record&, const Field<Record>&);         \
+  template bool SetFieldText(Record&, const Field<Record>&, std::string_view); \
+  template void SetFieldNumber(Record&, const Field<Record>&, double);
 STARFOLDS_FIELD_TEXT(UniverseSettings)
 STARFOLDS_FIELD_TEXT(StarfoldProfile)
 STARFOLDS_FIELD_TEXT(CompositeProfile)

@@ -26,6 +26,7 @@ struct Oddities {
   bool WholeNumber = false;            // a Single that its clamp rounds to a whole number
   double DialogHigh = 0;               // the dialog's high limit where it differs from the run's
   Reader ReadAs = Reader::ByKind;      // from the stored tree
+  bool InDialog = true;                // some dialog writes it
   bool InTemplate = true;              // template files hold it
   bool ZeroInTemplate = false;         // a template that lacks it means 0, not the default
   std::string_view TemplateName = {};  // where templates call it otherwise
@@ -95,6 +96,11 @@ std::string_view TemplateKey(const Field<Record>& field) {
 /// The setting's value as the text it is stored as.
 template <class Record>
 std::string FieldText(const Record& record, const Field<Record>& field);
+
+/// Sets a number, rounded where the setting is a whole one and held at the limits of its type.
+/// Texts stay as they are.
+template <class Record>
+void SetFieldNumber(Record& record, const Field<Record>& field, double number);
 
 /// The text of the setting's default, as it is written where there is nothing yet.
 template <class Record>

@@ -1,42 +1,31 @@
-// A point or an atom as one value: "*" and the fields of its table in columns of five characters.
+// The points and atoms of a profile in the stored tree and in templates: one value each, "*" and
+// the numbers in columns of five characters.
 #pragma once
 
-#include <span>
+#include <functional>
 #include <string>
-#include <string_view>
 
-#include "numbers/conversions.h"
-#include "numbers/text.h"
-#include "settings/fields.h"
+#include "settings/records.h"
 
 namespace starfolds {
 
-inline constexpr std::size_t kPackedColumn = 5;
+// The sub-sections that hold them, below the profile's own.
+inline constexpr char kIfsSection[] = "\\IFS";
+inline constexpr char kAtomSection[] = "\\ATOMIC";
 
-/// Numbers right-aligned in their columns. The record must have been clamped: a negative number
-/// could need six characters and would shift the rest.
-template <class Record>
-std::string PackRecord(const Record& record, std::span<const Field<Record>> fields) {
-  std::string packed = "*";
-  for (const Field<Record>& field : fields) {
-    const std::string number = FieldText(record, field);
-    packed.append(kPackedColumn - std::min(number.size(), kPackedColumn), ' ').append(number);
-  }
-  return packed;
-}
+/// Gives the text under a key; empty where there is none.
+using ReadPacked = std::function<std::string(const std::string& key)>;
+using WritePacked = std::function<void(const std::string& key, const std::string& packed)>;
 
-/// Blanks in a column vanish, and a missing or empty column is 0.
-template <class Record>
-Record UnpackRecord(std::string_view packed, std::span<const Field<Record>> fields) {
-  Record record;
-  std::size_t column = 1;
-  for (const Field<Record>& field : fields) {
-    const std::string_view piece = packed.substr(std::min(column, packed.size()), kPackedColumn);
-    const double number = LenientNumber("0" + std::string(piece));
-    record.*std::get<Integer Record::*>(field.Where) = RoundedToLimits<Integer>(number);
-    column += kPackedColumn;
-  }
-  return record;
-}
+/// Fill as many points or atoms as the profile's count says and the record has room for. Blanks in
+/// a column vanish; a missing or empty column is 0. The points of an atom follow from its
+/// structure.
+void UnpackIfsPoints(StarfoldProfile& profile, const ReadPacked& read);
+void UnpackAtoms(StarfoldProfile& profile, const ReadPacked& read);
+
+/// Write the points or atoms in use. The profile must have been clamped: a negative number could
+/// need six characters and would shift the rest.
+void PackIfsPoints(const StarfoldProfile& profile, const WritePacked& write);
+void PackAtoms(const StarfoldProfile& profile, const WritePacked& write);
 
 }  // namespace starfolds

@@ -11,7 +11,7 @@ namespace {
 /// One section of the tree.
 struct Section {
   KeyValueTree& Tree;
-  std::string_view Name;
+  std::string Name;
   RootSelector Root = RootSelector::CurrentUser;
 };
 
@@ -54,66 +54,47 @@ void WriteFields(const Section& to, std::span<const Field<Record>> fields, const
   }
 }
 
-/// "IFS_P0" and "Atom_P00".
-std::string PointKey(int i) { return "IFS_P" + std::to_string(i); }
-std::string AtomKey(int i) {
-  return std::string(i < 10 ? "Atom_P0" : "Atom_P") + std::to_string(i);
-}
-
-std::string Below(std::string_view section, std::string_view subkey) {
-  return std::string(section) + "\\" + std::string(subkey);
-}
-
-constexpr std::string_view kIfsKey = "IFS";
-constexpr std::string_view kAtomKey = "ATOMIC";
-
 std::string MemberKey(int i) { return "CompFold_Type" + std::to_string(i); }
+
+std::string Below(std::string_view section, const char* sub) { return std::string(section) + sub; }
+
+ReadPacked PackedReader(const Section& from) {
+  return [&from](const std::string& key) {
+    return RegistryReadText(from.Tree, from.Name, key, {}, from.Root);
+  };
+}
+
+WritePacked PackedWriter(const Section& to) {
+  return [&to](const std::string& key, const std::string& packed) {
+    RegistryWrite(to.Tree, to.Name, key, packed);
+  };
+}
 
 void ReadIfs(const Section& from, StarfoldProfile& profile) {
   ReadFields(from, IfsCenterFields(), profile.IFS);
-  const int count = std::min<int>(profile.Starfold_IFS_Points, kMaxIfsPoints);
-  for (int i = 0; i < count; ++i) {
-    profile.IFS.Points[i] = UnpackRecord(
-        RegistryReadText(from.Tree, from.Name, PointKey(i), {}, from.Root), IfsPointFields());
-  }
+  UnpackIfsPoints(profile, PackedReader(from));
 }
 
 void ReadAtoms(const Section& from, StarfoldProfile& profile) {
   ReadFields(from, AtomCenterFields(), profile.Atom);
-  const int count = std::min<int>(profile.Starfold_Atoms, kMaxAtoms);
-  for (int i = 0; i < count; ++i) {
-    AtomPoint& atom = profile.Atom.Atoms[i];
-    atom = UnpackRecord(RegistryReadText(from.Tree, from.Name, AtomKey(i), {}, from.Root),
-                        AtomPointFields());
-    atom.Atom_Count = AtomPoints(atom.Atom_Structure);
-  }
+  UnpackAtoms(profile, PackedReader(from));
 }
 
-/// The sub-key is deleted in the machine's hive, not in the one that is written: points of a longer
-/// list before stay behind the new ones, where no reader looks.
-void DropSubkey(const Section& profile, std::string_view subkey) {
-  RegistryDeleteKey(profile.Tree, kAppName, profile.Name, subkey, RootSelector::LocalMachine);
+void WriteIfs(const Section& to, const StarfoldProfile& profile) {
+  WriteFields(to, IfsCenterFields(), profile.IFS);
+  PackIfsPoints(profile, PackedWriter(to));
 }
 
-void WriteIfs(const Section& profile, const StarfoldProfile& record) {
-  DropSubkey(profile, kIfsKey);
-  if (record.Starfold_IFS_Points <= 0) return;
-  const std::string name = Below(profile.Name, kIfsKey);
-  WriteFields({profile.Tree, name}, IfsCenterFields(), record.IFS);
-  for (int i = 0; i < record.Starfold_IFS_Points; ++i) {
-    RegistryWrite(profile.Tree, name, PointKey(i),
-                  PackRecord(record.IFS.Points[i], IfsPointFields()));
-  }
+void WriteAtoms(const Section& to, const StarfoldProfile& profile) {
+  WriteFields(to, AtomCenterFields(), profile.Atom);
+  PackAtoms(profile, PackedWriter(to));
 }
 
-void WriteAtoms(const Section& profile, const StarfoldProfile& record) {
-  DropSubkey(profile, kAtomKey);
-  if (record.Starfold_Atoms <= 0) return;
-  const std::string name = Below(profile.Name, kAtomKey);
-  WriteFields({profile.Tree, name}, AtomCenterFields(), record.Atom);
-  for (int i = 0; i < record.Starfold_Atoms; ++i) {
-    RegistryWrite(profile.Tree, name, AtomKey(i),
-                  PackRecord(record.Atom.Atoms[i], AtomPointFields()));
+/// The sub-keys are deleted in the machine's hive, not in the one that is written: points of a
+/// longer list before stay behind the new ones, where no reader looks.
+void DropSubkeys(KeyValueTree& tree, std::string_view section) {
+  for (const std::string_view sub : {kIfsSection, kAtomSection}) {
+    RegistryDeleteKey(tree, kAppName, section, sub.substr(1), RootSelector::LocalMachine);
   }
 }
 
@@ -125,14 +106,14 @@ std::string CompositeSection(int index) { return "Universe\\CompFold" + std::to_
 
 UniverseSettings LoadUniverseFromRegistry(KeyValueTree& tree, RootSelector root) {
   UniverseSettings universe;
-  ReadFields({tree, sections::kUniverse, root}, UniverseFields(), universe);
+  ReadFields({tree, std::string(sections::kUniverse), root}, UniverseFields(), universe);
   return universe;
 }
 
 AdvancedSettings LoadAdvancedFromRegistry(KeyValueTree& tree) {
   TreeBulk look = TreeBulk::Look(tree);
   AdvancedSettings advanced;
-  ReadFields({tree, sections::kAdvanced}, AdvancedFields(), advanced);
+  ReadFields({tree, std::string(sections::kAdvanced)}, AdvancedFields(), advanced);
   look.Commit();
   ClampAdvanced(advanced);
   return advanced;
@@ -142,9 +123,9 @@ StarfoldProfile LoadProfileFromRegistry(KeyValueTree& tree, int index, std::stri
                                         RootSelector root) {
   StarfoldProfile profile;
   profile.UniFoldName = FormatProfileName(index);
-  ReadFields({tree, section, root}, ProfileFields(), profile);
-  if (profile.Starfold_IFS_Points != 0) ReadIfs({tree, Below(section, kIfsKey), root}, profile);
-  if (profile.Starfold_Atoms != 0) ReadAtoms({tree, Below(section, kAtomKey), root}, profile);
+  ReadFields({tree, std::string(section), root}, ProfileFields(), profile);
+  if (profile.Starfold_IFS_Points != 0) ReadIfs({tree, Below(section, kIfsSection), root}, profile);
+  if (profile.Starfold_Atoms != 0) ReadAtoms({tree, Below(section, kAtomSection), root}, profile);
   return profile;
 }
 
@@ -152,7 +133,7 @@ CompositeProfile LoadCompositeFromRegistry(KeyValueTree& tree, int index, std::s
                                            RootSelector root) {
   CompositeProfile composite;
   composite.CompFoldName = FormatCompositeName(index);
-  ReadFields({tree, section, root}, CompositeFields(), composite);
+  ReadFields({tree, std::string(section), root}, CompositeFields(), composite);
   for (int i = 0; i < composite.MemberCount(); ++i) {
     composite.CompFold_Type[i] = RegistryReadInteger(tree, section, MemberKey(i), 0, root);
   }
@@ -174,24 +155,24 @@ void LoadAllComposites(KeyValueTree& tree, CompositeArray& composites, RootSelec
 }
 
 void SaveUniverseToRegistry(KeyValueTree& tree, const UniverseSettings& universe) {
-  WriteFields({tree, sections::kUniverse}, UniverseFields(), universe);
+  WriteFields({tree, std::string(sections::kUniverse)}, UniverseFields(), universe);
 }
 
 void SaveAdvancedToRegistry(KeyValueTree& tree, const AdvancedSettings& advanced) {
-  WriteFields({tree, sections::kAdvanced}, AdvancedFields(), advanced);
+  WriteFields({tree, std::string(sections::kAdvanced)}, AdvancedFields(), advanced);
 }
 
 void SaveProfileToRegistry(KeyValueTree& tree, const StarfoldProfile& profile,
                            std::string_view section) {
-  const Section to{tree, section};
-  WriteFields(to, ProfileFields(), profile);
-  WriteIfs(to, profile);
-  WriteAtoms(to, profile);
+  WriteFields({tree, std::string(section)}, ProfileFields(), profile);
+  DropSubkeys(tree, section);
+  if (profile.Starfold_IFS_Points > 0) WriteIfs({tree, Below(section, kIfsSection)}, profile);
+  if (profile.Starfold_Atoms > 0) WriteAtoms({tree, Below(section, kAtomSection)}, profile);
 }
 
 void SaveCompositeToRegistry(KeyValueTree& tree, const CompositeProfile& composite,
                              std::string_view section) {
-  WriteFields({tree, section}, CompositeFields(), composite);
+  WriteFields({tree, std::string(section)}, CompositeFields(), composite);
   for (int i = 0; i < composite.MemberCount(); ++i) {
     RegistryWrite(tree, section, MemberKey(i), Long{composite.CompFold_Type[i]});
   }

@@ -34,17 +34,18 @@ expect() {
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 expect 0 'Usage: starfolds' '' --help
 expect 0 '^starfolds [0-9]' '' --version
-expect 2 '' "unknown option '--root'" --root
-expect 2 '' '--seed needs' --saver --seed many
+expect 2 '' "unknown option '--roots'" --roots
+expect 2 '' '--seed: takes a whole number' --saver --seed many
 expect 1 '' 'no desktop' --saver
 expect 1 '' 'no desktop' /S
 DISPLAY='' WAYLAND_DISPLAY='' expect 1 '' 'no desktop' --window
+expect 1 '' 'no X server' --window-id 77
 
 export QT_QPA_PLATFORM=offscreen
 expect 1 '' 'settings dialog is not part.*--saver and --window'
 expect 1 '' 'settings dialog is not part' --settings
 expect 1 '' 'settings dialog is not part' /c:77
-expect 1 '' 'preview is not part' /P 12345
+expect 1 '' 'preview inside.*needs an X server' /P 12345
 expect 1 '' 'Template files cannot be loaded' rings.sfd
 expect 0 '' '' /A 12345
 

@@ -1,0 +1,245 @@
+#include "settings/property_flows.h"
+
+#include "numbers/text.h"
+#include "settings/first_run.h"
+#include "settings/product.h"
+#include "settings/registry.h"
+#include "settings/storage.h"
+#include "settings/templates.h"
+
+namespace starfolds {
+namespace {
+
+constexpr unsigned kProgressColour = 0xFFFF00;
+constexpr std::string_view kSafetyCopy = "propsave.sfd";
+
+/// What stands in the dialog's controls. Numbers are scanned leniently, so whatever is typed there
+/// is one.
+UniverseSettings UniverseOnDialog(const PropertiesDialog& dialog) {
+  UniverseSettings universe;
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    const std::string text = dialog.UniverseText(field);
+    if (std::holds_alternative<std::string UniverseSettings::*>(field.Where)) {
+      SetFieldText(universe, field, Trimmed(text));
+    } else {
+      SetFieldNumber(universe, field, LenientNumber(text));
+    }
+  }
+  return universe;
+}
+
+void ShowUniverse(PropertiesDialog& dialog, const UniverseSettings& universe) {
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    dialog.SetUniverseText(field, FieldText(universe, field));
+  }
+}
+
+TemplateProgress ProgressOn(ProgressPicture* picture) {
+  return [picture](int step) { DrawProgress(picture, step, kTemplateSteps); };
+}
+
+void WriteAdvancedDefaults(KeyValueTree& tree) {
+  TreeBulk change = TreeBulk::Change(tree);
+  for (const Field<AdvancedSettings>& field : AdvancedFields()) {
+    if (!field.Odd.InDialog) continue;
+    RegistryWrite(tree, sections::kAdvanced, field.Name, DefaultText(field));
+  }
+  change.Commit();
+}
+
+std::string InFolder(const std::string& folder, std::string_view name) {
+  std::string path = folder;
+  if (!path.ends_with('/') && !path.ends_with('\\')) path += '/';
+  return path.append(name);
+}
+
+void Warn(PropertySettings& settings, const std::string& text) {
+  settings.Boxes.Show(text, BoxStyle::Exclamation, std::string(kProductName));
+}
+
+/// Which set and which name go with an entry of the reset menu.
+struct ResetEntry {
+  FactorySet Set;
+  std::string_view Name;
+};
+
+ResetEntry EntryOf(int menuIndex) {
+  constexpr int entry20 = 0;
+  if (menuIndex == entry20) return {FactorySet::Starfolds20, "Starfolds 2.0"};
+  return {FactorySet::Starfolds4x, "Starfolds 4.x"};
+}
+
+std::string ResetQuestion(PropertySettings& settings, std::string_view setName) {
+  std::string text = "Do you really want to reset the Properties to the ";
+  text.append(setName);
+  text +=
+      " factory settings?\n\n"
+      "Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.\n"
+      "No       - Reset Properties without saving current settings.\n"
+      "Cancel - Don't Reset or Save Properties.";
+  if (!settings.Disk.CanWriteFolder(settings.ProgramFolder)) {
+    text += "\n\n'propsave.sfd' will be saved in:  " + settings.UserFolder;
+  }
+  return text;
+}
+
+constexpr std::string_view kUpgradeText =
+    "It appears that you already have an earlier version of the product.  "
+    "In order to experience the new effects in this version, you should "
+    "Reset the Properties to the Factory Settings.  \n\n"
+    "Your current settings will be saved to the template file:  propsave.sfd\n\n"
+    "Restore your settings from the menu:  File-> Open Template.";
+
+constexpr std::string_view kNewUserText =
+    "You can use this product to simulate a Universe populated by several user-defined Starfolds.  "
+    "Watch as the camera tours the Universe, visiting the Starfolds based on a trajectory that you "
+    "provide.  \n\n"
+    "The Factory settings have been optimized for a 400 MHz CPU.\n"
+    "Disable mouse-move sensitivity from menu:  Edit-> Advanced Settings.\n"
+    "This product is provided 'as is' without warranty of any kind.\n\n"
+    "Works on Windows 2000 (and 95, 98, NT4).\n"
+    "Settings are stored per the Current User, not the Local Machine.\n"
+    "Effects can be displayed on the desktop background.\n"
+    "Define Pulsars as a new type of star.\n"
+    "Set Starfold randomization values.";
+
+std::string ProductAndVersion() {
+  return std::string(kProductName) + " " + std::string(kProductVersion);
+}
+
+/// Whether what the tree lacks is really missing there.
+bool CanBeRead(KeyValueTree& tree) {
+  TreeBulk look = TreeBulk::Look(tree);
+  HasMark(tree, kAnimationType);
+  return look.Commit();
+}
+
+/// A tree that is locked or cannot be read is not an empty one: taken for that, it would be
+/// overwritten with the factory's settings.
+void OpenWithoutSettings(PropertySettings& settings, PropertiesDialog& dialog) {
+  Warn(settings,
+       "The stored settings cannot be read.\n\n"
+       "The Properties show the defaults.  Accepting them replaces the stored settings.");
+  ShowUniverse(dialog, UniverseSettings());
+  dialog.RebuildCompositeLists();
+}
+
+}  // namespace
+
+void DrawProgress(ProgressPicture* picture, int step, int total) {
+  if (picture) picture->FillFromLeft(picture->ScaleWidth() * step / total, kProgressColour);
+}
+
+WelcomePage MakeWelcomePage(KeyValueTree& tree) {
+  const std::string caption = "Welcome to " + ProductAndVersion() + ".";
+  if (HasMark(tree, kAnimationType)) return {caption, std::string(kUpgradeText), true, "Close"};
+  return {caption,
+          "Thank you for installing " + ProductAndVersion() + ".   " + std::string(kNewUserText),
+          false, "OK"};
+}
+
+void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog) {
+  if (!CanBeRead(settings.Tree)) return OpenWithoutSettings(settings, dialog);
+  if (!HasMark(settings.Tree, kResetSettings)) return ShowWelcome(settings, dialog);
+  if (!HasMark(settings.Tree, kAnimationType)) {
+    FactoryReset(settings, dialog, FactorySet::Starfolds4x);
+    SaveDialogToRegistry(settings, dialog);
+  }
+  LoadDialogFromRegistry(settings, dialog);
+}
+
+void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog) {
+  RegistryWrite(settings.Tree, sections::kGeneral, kResetSettings, Long{1});
+  const bool resetRequested = dialog.ShowWelcomeDialog();
+  if (!resetRequested && HasMark(settings.Tree, kAnimationType)) {
+    LoadDialogFromRegistry(settings, dialog);
+  } else {
+    FactoryReset(settings, dialog, FactorySet::Starfolds4x);
+  }
+}
+
+void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set) {
+  WriteAdvancedDefaults(settings.Tree);
+  LoadFactoryComposites(settings.Composites, set);
+  dialog.ClearProfileList();
+  for (int row = 0; row < kProfileCount; ++row) {
+    dialog.AddProfileEntry(FactoryProfileName(row, set), FactoryProfilePct(row, set));
+    LoadFactoryProfile(settings.Profiles[row], set, row);
+  }
+  dialog.SelectProfileEntry(0);
+  // The change of position is what applies the theme, so it has to change.
+  dialog.SelectUniverseTheme(0);
+  dialog.SelectUniverseTheme(1);
+  dialog.SelectUniverseExtras(0);
+}
+
+void LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
+  TreeBulk look = TreeBulk::Look(settings.Tree);
+  ShowUniverse(dialog, LoadUniverseFromRegistry(settings.Tree));
+  LoadAllComposites(settings.Tree, settings.Composites, RootSelector::CurrentUser);
+  look.Commit();
+  dialog.RebuildCompositeLists();
+}
+
+bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
+  if (!RegistryWriteTest(settings.Tree, settings.Boxes)) return false;
+  TreeBulk change = TreeBulk::Change(settings.Tree);
+  RegistryWrite(settings.Tree, sections::kGeneral, kAnimationType, Long{0});
+  SaveUniverseToRegistry(settings.Tree, UniverseOnDialog(dialog));
+  SaveAllProfiles(settings.Tree, settings.Profiles);
+  SaveAllComposites(settings.Tree, settings.Composites);
+  if (change.Commit()) return true;
+  Warn(settings,
+       "The Property settings cannot be saved.\n\n"
+       "The settings that were stored before are kept.");
+  return false;
+}
+
+void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int menuIndex) {
+  const std::string former = settings.Template.TemplateFileName;
+  const ResetEntry entry = EntryOf(menuIndex);
+  dialog.MarkResetMenu(menuIndex, true);
+  const BoxAnswer answer =
+      settings.Boxes.Show(ResetQuestion(settings, entry.Name), BoxStyle::YesNoCancelQuestion,
+                          std::string(kProductName));
+  if (answer == BoxAnswer::Yes) SaveSafetyCopy(settings, dialog, dialog.Preview());
+  if (answer != BoxAnswer::Cancel) FactoryReset(settings, dialog, entry.Set);
+  if (answer == BoxAnswer::Yes && dialog.Preview()) dialog.Preview()->Clear();
+  settings.Template.TemplateFileName = former;
+  dialog.MarkResetMenu(menuIndex, false);
+}
+
+std::string SafetyCopyPath(PropertySettings& settings) {
+  const bool beside = settings.Disk.CanWriteFolder(settings.ProgramFolder);
+  return InFolder(beside ? settings.ProgramFolder : settings.UserFolder, kSafetyCopy);
+}
+
+void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog,
+                    ProgressPicture* picture) {
+  settings.Template.TemplateFileName = SafetyCopyPath(settings);
+  if (const auto fault = SaveTemplate(settings, dialog, picture)) {
+    Warn(settings, "The current settings could not be saved to:\n" +
+                       settings.Template.TemplateFileName + "\n\n" + *fault);
+  }
+}
+
+std::optional<std::string> SaveTemplate(PropertySettings& settings, PropertiesDialog& dialog,
+                                        ProgressPicture* picture) {
+  return WriteTemplate(settings.Template, settings.Tree, UniverseOnDialog(dialog),
+                       settings.Profiles, settings.Composites, ProgressOn(picture));
+}
+
+std::optional<std::string> LoadTemplate(PropertySettings& settings, PropertiesDialog& dialog,
+                                        ProgressPicture* picture) {
+  TemplateFile& file = settings.Template;
+  if (auto fault = file.Load()) return fault;
+  CopyAdvancedFromTemplate(file, settings.Tree);
+  ShowUniverse(dialog, LoadUniverseFromTemplate(file));
+  LoadBodiesFromTemplate(file, settings.Profiles, settings.Composites, ProgressOn(picture));
+  dialog.RebuildProfileList();
+  dialog.RebuildCompositeLists();
+  file.ClearBuffer();
+  return std::nullopt;
+}
+
+}  // namespace starfolds

@@ -1,0 +1,294 @@
+#include "settings/templates.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "numbers/conversions.h"
+#include "numbers/text.h"
+#include "settings/fields.h"
+#include "settings/first_run.h"
+#include "settings/packing.h"
+#include "settings/product.h"
+#include "settings/registry.h"
+
+namespace starfolds {
+namespace {
+
+template <class Record>
+using FieldOrder = std::vector<const Field<Record>*>;
+
+/// A field that does not stand where the record has it, but behind another one.
+struct Moved {
+  std::string_view Name;
+  std::string_view Behind;
+};
+
+/// The fields of a template, in its order: the record's, with some of them moved, one after the
+/// other.
+template <class Record>
+FieldOrder<Record> TemplateOrder(std::span<const Field<Record>> fields,
+                                 std::span<const Moved> moves) {
+  FieldOrder<Record> order;
+  for (const Field<Record>& field : fields) {
+    if (field.Odd.InTemplate) order.push_back(&field);
+  }
+  const auto place = [&](std::string_view name) {
+    return std::find_if(order.begin(), order.end(),
+                        [&](const Field<Record>* field) { return field->Name == name; });
+  };
+  for (const Moved& move : moves) {
+    const auto from = place(move.Name);
+    const Field<Record>* field = *from;
+    order.erase(from);
+    order.insert(std::next(place(move.Behind)), field);
+  }
+  return order;
+}
+
+const FieldOrder<UniverseSettings>& UniverseOrder() {
+  static constexpr Moved moves[] = {{"Universe_Profile", "Universe_GravFrame"},
+                                    {"Universe_Tour", "Universe_GS_Idx"}};
+  static const FieldOrder<UniverseSettings> order =
+      TemplateOrder(UniverseFields(), std::span<const Moved>(moves));
+  return order;
+}
+
+const FieldOrder<StarfoldProfile>& ProfileOrder() {
+  static constexpr Moved moves[] = {{"_UniFoldPct", "_UniFoldName"},
+                                    {"Starfold_ColorMult", "Starfold_RadBFill"},
+                                    {"Starfold_StdLevels", "Starfold_QG_Force"},
+                                    {"Starfold_StdLevDRad", "Starfold_StdLevels"},
+                                    {"Starfold_StdLevHSca", "Starfold_StdLevDRad"},
+                                    {"Starfold_StdLevB_HS", "Starfold_StdLevHSca"},
+                                    {"Starfold_StdLevB_A0", "Starfold_StdLevB_HS"},
+                                    {"Starfold_StdLevB_A1", "Starfold_StdLevB_A0"},
+                                    {"Starfold_PulsarShape", "Starfold_PulsarMaxExt"},
+                                    {"Starfold_CP_Close", "Starfold_CP_B_Spd"},
+                                    {"Starfold_CP_AdvHW", "Starfold_CP_Close"}};
+  static const FieldOrder<StarfoldProfile> order =
+      TemplateOrder(ProfileFields(), std::span<const Moved>(moves));
+  return order;
+}
+
+template <class Record>
+void WriteField(TemplateFile& file, std::string_view section, const Field<Record>& field,
+                const Record& record) {
+  file.TemplateWrite(section, TemplateKey(field), FieldText(record, field));
+}
+
+template <class Record>
+void WriteOrder(TemplateFile& file, std::string_view section, const FieldOrder<Record>& order,
+                const Record& record) {
+  for (const Field<Record>* field : order) WriteField(file, section, *field, record);
+}
+
+template <class Record>
+void WriteFields(TemplateFile& file, std::string_view section,
+                 std::span<const Field<Record>> fields, const Record& record) {
+  for (const Field<Record>& field : fields) WriteField(file, section, field, record);
+}
+
+/// A number that counts as 0 when it is missing: a "0" goes before whatever is there, so nothing
+/// is negative either.
+double NumberWithZeroBefore(const std::optional<std::string>& text) {
+  return LenientNumber("0" + text.value_or(std::string()));
+}
+
+template <class Record>
+void ReadFields(TemplateFile& file, std::string_view section, std::span<const Field<Record>> fields,
+                Record& record) {
+  for (const Field<Record>& field : fields) {
+    if (!field.Odd.InTemplate) continue;
+    const auto text = file.TemplateFind(section, TemplateKey(field));
+    if (field.Odd.ZeroInTemplate) {
+      SetFieldNumber(record, field, NumberWithZeroBefore(text));
+    } else if (text) {
+      SetFieldText(record, field, *text);
+    }
+  }
+}
+
+std::string MemberKey(int i) { return "StarfoldIndex_" + std::to_string(i); }
+
+ReadPacked PackedReader(TemplateFile& file, const std::string& section) {
+  return [&](const std::string& key) { return file.TemplateRead(section, key, {}); };
+}
+
+WritePacked PackedWriter(TemplateFile& file, const std::string& section) {
+  return [&](const std::string& key, const std::string& packed) {
+    file.TemplateWrite(section, key, packed);
+  };
+}
+
+void ReadIfs(TemplateFile& file, const std::string& section, StarfoldProfile& profile) {
+  ReadFields(file, section, IfsCenterFields(), profile.IFS);
+  UnpackIfsPoints(profile, PackedReader(file, section));
+}
+
+void ReadAtoms(TemplateFile& file, const std::string& section, StarfoldProfile& profile) {
+  ReadFields(file, section, AtomCenterFields(), profile.Atom);
+  UnpackAtoms(profile, PackedReader(file, section));
+}
+
+void WriteIfs(TemplateFile& file, const std::string& section, const StarfoldProfile& profile) {
+  WriteFields(file, section, IfsCenterFields(), profile.IFS);
+  PackIfsPoints(profile, PackedWriter(file, section));
+}
+
+void WriteAtoms(TemplateFile& file, const std::string& section, const StarfoldProfile& profile) {
+  WriteFields(file, section, AtomCenterFields(), profile.Atom);
+  PackAtoms(profile, PackedWriter(file, section));
+}
+
+void WriteAdmin(TemplateFile& file) {
+  file.TemplateWrite("Admin", "Product", kProductName);
+  file.TemplateWrite("Admin", "Version", kProductVersion);
+  file.TemplateWrite("Admin", "Copyright", kCopyright);
+  file.TemplateWrite(sections::kGeneral, kAnimationType, "0");
+}
+
+}  // namespace
+
+std::string ProfileTemplateSection(int index) { return "UniFold" + std::to_string(index); }
+
+std::string CompositeTemplateSection(int index) { return "CompFold" + std::to_string(index); }
+
+void CopyRegistryToTemplate(KeyValueTree& tree, TemplateFile& file, std::string_view section,
+                            std::string_view key, std::string_view fallback) {
+  file.TemplateWrite(section, key, RegistryReadText(tree, section, key, fallback));
+}
+
+void CopyTemplateToRegistry(TemplateFile& file, KeyValueTree& tree, std::string_view section,
+                            std::string_view key, std::string_view fallback) {
+  RegistryWrite(tree, section, key, StorableText(file.TemplateRead(section, key, fallback)));
+}
+
+void CopyAdvancedToTemplate(KeyValueTree& tree, TemplateFile& file) {
+  TreeBulk look = TreeBulk::Look(tree);
+  for (const Field<AdvancedSettings>& field : AdvancedFields()) {
+    if (!field.Odd.InTemplate) continue;
+    CopyRegistryToTemplate(tree, file, sections::kAdvanced, field.Name, DefaultText(field));
+  }
+  look.Commit();
+}
+
+void CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree) {
+  TreeBulk change = TreeBulk::Change(tree);
+  for (const Field<AdvancedSettings>& field : AdvancedFields()) {
+    if (!field.Odd.InTemplate) continue;
+    CopyTemplateToRegistry(file, tree, sections::kAdvanced, field.Name, DefaultText(field));
+  }
+  change.Commit();
+}
+
+StarfoldProfile LoadProfileFromTemplate(TemplateFile& file, int index, std::string_view section) {
+  StarfoldProfile profile;
+  profile.UniFoldName = FormatProfileName(index);
+  ReadFields(file, section, ProfileFields(), profile);
+  const std::string name(section);
+  if (profile.Starfold_IFS_Points != 0) ReadIfs(file, name + kIfsSection, profile);
+  if (profile.Starfold_Atoms != 0) ReadAtoms(file, name + kAtomSection, profile);
+  return profile;
+}
+
+CompositeProfile LoadCompositeFromTemplate(TemplateFile& file, int index,
+                                           std::string_view section) {
+  CompositeProfile composite;
+  composite.CompFoldName = FormatCompositeName(index);
+  ReadFields(file, section, CompositeFields(), composite);
+  for (int i = 0; i < composite.MemberCount(); ++i) {
+    const auto member = file.TemplateFind(section, MemberKey(i));
+    composite.CompFold_Type[i] = RoundedToLimits<Integer>(NumberWithZeroBefore(member));
+  }
+  return composite;
+}
+
+UniverseSettings LoadUniverseFromTemplate(TemplateFile& file) {
+  UniverseSettings universe;
+  ReadFields(file, sections::kUniverse, UniverseFields(), universe);
+  return universe;
+}
+
+void SaveProfileToTemplate(TemplateFile& file, const StarfoldProfile& profile,
+                           std::string_view section) {
+  WriteOrder(file, section, ProfileOrder(), profile);
+  const std::string name(section);
+  if (profile.Starfold_IFS_Points > 0) WriteIfs(file, name + kIfsSection, profile);
+  if (profile.Starfold_Atoms > 0) WriteAtoms(file, name + kAtomSection, profile);
+}
+
+void SaveCompositeToTemplate(TemplateFile& file, const CompositeProfile& composite,
+                             std::string_view section) {
+  WriteFields(file, section, CompositeFields(), composite);
+  for (int i = 0; i < composite.MemberCount(); ++i) {
+    file.TemplateWrite(section, MemberKey(i), NumberText(Long{composite.CompFold_Type[i]}));
+  }
+}
+
+void LoadBodiesFromTemplate(TemplateFile& file, ProfileArray& profiles, CompositeArray& composites,
+                            const TemplateProgress& progress) {
+  for (int i = 0; i < kProfileCount; ++i) {
+    profiles[i] = LoadProfileFromTemplate(file, i, ProfileTemplateSection(i));
+    ClampProfile(profiles[i]);
+    if (progress) progress(i + 1);
+  }
+  for (int i = 0; i < kCompositeCount; ++i) {
+    composites[i] = LoadCompositeFromTemplate(file, i, CompositeTemplateSection(i));
+    ClampComposite(composites[i]);
+    if (progress) progress(kFirstComposite + i + 1);
+  }
+}
+
+std::optional<std::string> WriteTemplate(TemplateFile& file, KeyValueTree& tree,
+                                         const UniverseSettings& universe, ProfileArray& profiles,
+                                         CompositeArray& composites,
+                                         const TemplateProgress& progress) {
+  WriteAdmin(file);
+  CopyAdvancedToTemplate(tree, file);
+  WriteOrder(file, sections::kUniverse, UniverseOrder(), universe);
+  for (int i = 0; i < kProfileCount; ++i) {
+    ClampProfile(profiles[i]);
+    SaveProfileToTemplate(file, profiles[i], ProfileTemplateSection(i));
+    if (progress) progress(i + 1);
+  }
+  for (int i = 0; i < kCompositeCount; ++i) {
+    ClampComposite(composites[i]);
+    SaveCompositeToTemplate(file, composites[i], CompositeTemplateSection(i));
+    if (progress) progress(kFirstComposite + i + 1);
+  }
+  return file.CloseTemplate();
+}
+
+std::optional<std::string> ReadTemplate(TemplateFile& file, const std::string& path,
+                                        SettingsRecords& records) {
+  if (auto fault = file.Load(path)) return fault;
+  records.Universe = LoadUniverseFromTemplate(file);
+  records.Advanced = AdvancedSettings();
+  ReadFields(file, sections::kAdvanced, AdvancedFields(), records.Advanced);
+  ClampAdvanced(records.Advanced);
+  LoadBodiesFromTemplate(file, records.Profiles, records.Composites, {});
+  file.ClearBuffer();
+  return std::nullopt;
+}
+
+std::optional<std::string> ImportTemplate(TemplateFile& file, const std::string& path,
+                                          KeyValueTree& tree, ProfileArray& profiles) {
+  file.TemplateFileName = path;
+  if (auto fault = file.Load()) return fault;
+  TreeBulk change = TreeBulk::Change(tree);
+  CopyTemplateToRegistry(file, tree, sections::kGeneral, kAnimationType, "0");
+  CopyAdvancedFromTemplate(file, tree);
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    CopyTemplateToRegistry(file, tree, sections::kUniverse, field.Name, DefaultText(field));
+  }
+  change.Commit();
+  for (int i = 0; i < kProfileCount; ++i) {
+    profiles[i] = LoadProfileFromTemplate(file, i, ProfileTemplateSection(i));
+    ClampProfile(profiles[i]);
+  }
+  file.ClearBuffer();
+  return std::nullopt;
+}
+
+}  // namespace starfolds
