@@ -73,4 +73,42 @@ if [ $? != 1 ] || ! grep -q 'not part' "$errors"; then
 fi
 rm -r "$folder"
 
+# Of several savers at once on one display, one stays. When it is killed the next one may run.
+XDG_RUNTIME_DIR=$(mktemp -d)
+export XDG_RUNTIME_DIR
+# expect_one PROCESS...: waits until all the others have gone, and sets `one`.
+expect_one() {
+  local tries process
+  for tries in $(seq 1 200); do
+    one=
+    for process in "$@"; do
+      case $(ps -o stat= -p "$process") in
+        '' | Z*) ;;
+        *) one="$one$process " ;;
+      esac
+    done
+    [ "$(wc -w <<<"$one")" -gt 1 ] || break
+    sleep 0.05
+  done
+  if [ "$(wc -w <<<"$one")" != 1 ]; then
+    echo "savers that stay: '$one'" >&2
+    faults=$((faults + 1))
+  fi
+}
+savers=
+for i in 1 2 3 4 5 6; do
+  "$program" --saver &
+  savers="$savers $!"
+done
+expect_one $savers
+kill -9 $one
+wait $one 2>/dev/null
+"$program" --saver &
+saver=$!
+sleep 0.5
+expect_one $saver
+kill -TERM $saver
+wait $saver || { echo "the saver after a killed one: exit code $?" >&2; faults=$((faults + 1)); }
+rm -r "$XDG_RUNTIME_DIR"
+
 [ "$faults" = 0 ] || exit 1
