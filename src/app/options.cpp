@@ -5,6 +5,7 @@
 #include <limits>
 #include <memory>
 
+#include "settings/factory.h"
 #include "settings/fields.h"
 
 namespace starfolds {
@@ -102,15 +103,31 @@ Fault TakeSetting(StartOptions& options, std::string_view text) {
   return TakeChange(options, text.substr(0, equals), text.substr(equals + 1));
 }
 
+/// A theme is a set of changes; those of options behind it go over them.
+Fault TakeTheme(StartOptions& options, std::string_view text) {
+  const auto theme = WholeNumber(text);
+  if (!theme || *theme < 1 || *theme > kThemeCount) {
+    return "takes a whole number from 1 to " + std::to_string(kThemeCount) + ", not " +
+           Quoted(text);
+  }
+  UniverseSettings universe;
+  LoadFactoryTheme(universe, static_cast<int>(*theme), false);
+  for (const auto& field : UniverseFields()) {
+    options.Changes.emplace_back(field.Name, FieldText(universe, field));
+  }
+  return std::nullopt;
+}
+
 /// An option with a value behind it.
 struct ValueOption {
   std::string_view Name;
   Fault (*Take)(StartOptions&, std::string_view);
 };
-constexpr std::array<ValueOption, 3> kValueOptions{{
+constexpr std::array<ValueOption, 4> kValueOptions{{
     {"--seed", TakeSeed},
     {"--window-id", TakeHostWindow},
     {"--set", TakeSetting},
+    {"--theme", TakeTheme},
 }};
 
 const ValueOption* FindValueOption(std::string_view argument) {
@@ -201,6 +218,7 @@ For programs that host a screen saver, on X11. Input and the end are their busin
 With --saver, --window, --root or --window-id:
 
   --seed N        show the universes of seed N
+  --theme N       universe theme 1 to 8; options behind it go over it
   --stars N       stars in all the starfolds, 10 to 30000
   --starfolds N   starfolds in a universe, 1 to 999
   --visits N      starfolds to visit before the next universe, 1 to 999

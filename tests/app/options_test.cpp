@@ -63,6 +63,8 @@ TEST(StartOptions, ChangeSettings) {
                   .Changes,
               ElementsAre(Pair("Starfold7/Starfold_Radius", "5"), Pair("Universe_Stars", "99999"),
                           Pair("Universe_Tour", "0"), Pair("LockMessage", "a=b")));
+  EXPECT_EQ(Parsed({"--root", "--theme", "8", "--stars", "7"}).Changes.back().second, "7");
+  EXPECT_NE(Refused({"--root", "--theme", "9"}), "");
   EXPECT_EQ(Refused({"--root", "--stars", "many"}),
             "--stars: \"Universe_Stars\" takes a number, not \"many\"");
   EXPECT_EQ(Refused({"--root", "--set", "Stars=1"}), "--set: there is no setting \"Stars\"");
