@@ -18,6 +18,10 @@ if(NOT MSVC)
     target_link_options(starfolds_options INTERFACE
       -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero)
   endif()
+  if(STARFOLDS_FUZZ) # counts which edges an input takes
+    target_compile_options(starfolds_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(starfolds_options INTERFACE -fsanitize=fuzzer-no-link)
+  endif()
 else()
   target_compile_options(starfolds_options INTERFACE /W4 /WX /fp:precise)
 endif()

@@ -142,15 +142,6 @@ void DecodeAtoms(StarfoldProfile& record, std::string_view row) {
   }
 }
 
-void DecodeComposite(CompositeProfile& composite, std::string_view row) {
-  composite.CompFoldName = GetField(row, 0);
-  composite.CompFoldPct = FieldInteger(row, 1);
-  composite.CompFold_Count = FieldInteger(row, 2);
-  for (int i = 0; i < composite.MemberCount(); ++i) {
-    composite.CompFold_Type[i] = FieldInteger(row, 3 + i);
-  }
-}
-
 std::span<const FactoryProfile> ProfilesOf(FactorySet set) {
   return set == FactorySet::Starfolds4x ? FactoryProfiles4x() : FactoryProfiles20();
 }
@@ -213,9 +204,12 @@ std::string_view FactoryThemeName(int entry) {
 void LoadFactoryProfile(StarfoldProfile& record, FactorySet set, int index) {
   const FactoryProfile* profile = FindProfile(set, index);
   if (!profile) return;
-  const std::string_view row = profile->Row;
   record.UniFoldName = profile->Name;
   record.UniFoldPct = profile->Pct;
+  DecodeProfileRow(record, profile->Row);
+}
+
+void DecodeProfileRow(StarfoldProfile& record, std::string_view row) {
   Decode(record, ProfileFields(), row, 0, kProfileLayout);
   if (record.Starfold_StdLevels > 1) Decode(record, ProfileFields(), row, kLevelsAt, kLevelLayout);
   record.Starfold_IFS_Points = 0;
@@ -225,9 +219,18 @@ void LoadFactoryProfile(StarfoldProfile& record, FactorySet set, int index) {
   if (record.Style() == FoldStyle::Molecule) DecodeAtoms(record, row);
 }
 
+void DecodeCompositeRow(CompositeProfile& composite, std::string_view row) {
+  composite.CompFoldName = GetField(row, 0);
+  composite.CompFoldPct = FieldInteger(row, 1);
+  composite.CompFold_Count = FieldInteger(row, 2);
+  for (int i = 0; i < composite.MemberCount(); ++i) {
+    composite.CompFold_Type[i] = FieldInteger(row, 3 + i);
+  }
+}
+
 void LoadFactoryComposites(CompositeArray& composites, FactorySet set) {
   for (int i = 0; i < kCompositeCount; ++i) {
-    DecodeComposite(composites[i], FactoryCompositeRow(set, i + 1));
+    DecodeCompositeRow(composites[i], FactoryCompositeRow(set, i + 1));
   }
 }
 
@@ -238,7 +241,11 @@ void LoadFactorySet(SettingsRecords& records, FactorySet set) {
 
 void LoadFactoryTheme(UniverseSettings& universe, int theme, bool is20) {
   const std::string_view row = FactoryThemeRow(theme, is20);
-  if (!row.empty()) Decode(universe, UniverseFields(), row, 0, kThemeLayout);
+  if (!row.empty()) DecodeThemeRow(universe, row);
+}
+
+void DecodeThemeRow(UniverseSettings& universe, std::string_view row) {
+  Decode(universe, UniverseFields(), row, 0, kThemeLayout);
 }
 
 void LoadFactorySettings(SettingsRecords& records, FactorySet set, int theme) {

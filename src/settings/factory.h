@@ -25,14 +25,20 @@ std::string_view FactoryCompositeRow(FactorySet set, int rowNumber);
 /// Theme 1 has a variant for the 2.0 set.
 std::string_view FactoryThemeRow(int theme, bool is20);
 
+/// Read a row into a record. A field that is no number leaves its setting as it was; nothing is
+/// clamped but the counts to their room. A profile of one level keeps the level settings that the
+/// record had.
+void DecodeProfileRow(StarfoldProfile& record, std::string_view row);
+void DecodeCompositeRow(CompositeProfile& composite, std::string_view row);
+void DecodeThemeRow(UniverseSettings& universe, std::string_view row);
+
 /// Name and weight of profile `row` (0 to 49); empty and 0 beyond.
 std::string_view FactoryProfileName(int row, FactorySet set);
 Integer FactoryProfilePct(int row, FactorySet set);
 /// The entries of the theme list: 0 is "no theme", 1 to 8 the themes.
 std::string_view FactoryThemeName(int entry);
 
-/// Loads profile `index` (0 to 49) of a set. A profile of one level keeps the level settings that
-/// the record had. Beyond the table the record stays as it is.
+/// Loads profile `index` (0 to 49) of a set. Beyond the table the record stays as it is.
 void LoadFactoryProfile(StarfoldProfile& record, FactorySet set, int index);
 void LoadFactoryComposites(CompositeArray& composites, FactorySet set);
 /// All profiles and composites. The rows are in range; nothing is clamped.

@@ -25,8 +25,9 @@ const std::map<std::string, Floors> kMayInclude = [] {
     below.insert(floor);
     may[floor] = below;
   }
+  may["storage"] = {"numbers", "platform", "storage"};
   may["render"] = below;
-  may["render"].insert("render");
+  may["render"].insert({"storage", "render"});
   may["desktop"] = {"numbers", "platform", "desktop", "Qt"};
   may["hosting"] = below;
   may["hosting"].insert({"desktop", "hosting", "Qt"});
@@ -35,7 +36,7 @@ const std::map<std::string, Floors> kMayInclude = [] {
   may["info"] = may["hosting"];
   may["info"].insert("info");
   may["app"] = may["editors"];
-  may["app"].insert({"info", "app"});
+  may["app"].insert({"storage", "info", "app"});
   return may;
 }();
 

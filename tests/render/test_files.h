@@ -1,52 +1,16 @@
-// Files that a test makes and looks into.
+// Pictures that a test makes and looks into.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <png.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "platform/surface.h"
+#include "test_folder.h"
 
 namespace starfolds {
-
-/// A folder of its own for each test, gone with it. Tests of one program run side by side.
-class TestFolder {
- public:
-  TestFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "starfolds-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~TestFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-
-  std::string Path(const std::string& name) const { return (path_ / name).string(); }
-
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_)) {
-      names.push_back(entry.path().lexically_relative(path_).string());
-    }
-    return names;
-  }
-
- private:
-  std::filesystem::path path_;
-};
-
-inline std::string FileText(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file) << path;
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 struct ReadPicture {
   int Width = 0;

@@ -1,0 +1,140 @@
+#include "storage/sqlite_tree.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace starfolds {
+namespace {
+
+using enum TreeOutcome;
+using Kind = TreeTransaction::Kind;
+
+constexpr unsigned kUserFolderRights = 0700;
+constexpr unsigned kMachineFolderRights = 0755;
+
+/// A damaged file is set aside, and a new one begun; and once more, if another process has done the
+/// same in between.
+constexpr int kAttempts = 3;
+
+bool IsFault(TreeOutcome outcome) { return outcome == Refused || outcome == Damaged; }
+
+}  // namespace
+
+SqliteTree::SqliteTree(const TreeFiles& files, Complaint complain, TreePatience patience)
+    : user_{files.User, kUserFolderRights},
+      machine_{files.Machine, kMachineFolderRights},
+      complain_(std::move(complain)),
+      patience_(patience) {}
+
+std::optional<std::string> SqliteTree::Read(Hive hive, std::string_view path,
+                                            std::string_view name) {
+  const TreePlace* const place = PlaceOf(hive);
+  if (!place) return std::nullopt;
+  std::string text;
+  const Deed get = [&](TreeTransaction& from) { return from.Get(path, name, text); };
+  TreeOutcome outcome = Nothing;
+  if (!bulk_) {
+    outcome = Once(*place, Kind::Look, get);
+  } else if (hive == Hive::CurrentUser) {
+    outcome = InBulk(get);
+  } else {
+    outcome = get(MachineOfBulk());
+  }
+  if (outcome != Done) return std::nullopt;
+  return text;
+}
+
+bool SqliteTree::Write(Hive hive, std::string_view path, std::string_view name,
+                       std::string_view text) {
+  const Deed put = [&](TreeTransaction& to) { return to.Put(path, name, text); };
+  if (bulk_ && hive == Hive::CurrentUser) return InBulk(put) == Done;
+  const TreePlace* const place = PlaceOf(hive);
+  const TreeOutcome outcome = place ? Once(*place, Kind::Make, put) : Refused;
+  if (bulk_) bulk_->Worst = std::max(bulk_->Worst, outcome == Done ? Done : Refused);
+  return outcome == Done;
+}
+
+bool SqliteTree::DeleteKey(Hive hive, std::string_view path) {
+  const Deed remove = [&](TreeTransaction& from) { return from.Remove(path); };
+  if (bulk_ && hive == Hive::CurrentUser) return InBulk(remove) == Done;
+  const TreePlace* const place = PlaceOf(hive);
+  return place && Once(*place, Kind::Change, remove) == Done;
+}
+
+bool SqliteTree::Begin(Access access) {
+  bulk_ = std::make_unique<Bulk>();
+  const Kind kind = access == Access::Change ? Kind::Make : Kind::Look;
+  for (int i = 0; i < kAttempts; ++i) {
+    bulk_->Worst = bulk_->User.Begin(user_, kind, PatienceFor(kind));
+    if (!MadeWayForNewFile(user_, bulk_->Worst, bulk_->User)) break;
+  }
+  return !IsFault(bulk_->Worst);
+}
+
+bool SqliteTree::End(bool keep) {
+  const std::unique_ptr<Bulk> bulk = std::move(bulk_);
+  TreeOutcome outcome = bulk->Worst;
+  if (keep && !IsFault(outcome)) outcome = bulk->User.Commit();
+  MadeWayForNewFile(user_, outcome, bulk->User);
+  return keep && !IsFault(outcome);
+}
+
+const TreePlace* SqliteTree::PlaceOf(Hive hive) const {
+  switch (hive) {
+    case Hive::CurrentUser: return &user_;
+    case Hive::LocalMachine: return &machine_;
+    case Hive::ClassesRoot:
+    case Hive::Users: break;
+  }
+  return nullptr;
+}
+
+TreeTransaction& SqliteTree::MachineOfBulk() {
+  if (!bulk_->Machine) {
+    bulk_->Machine.emplace().Begin(machine_, Kind::Look, patience_.Look);
+  }
+  return *bulk_->Machine;
+}
+
+/// A transaction for a single value.
+TreeOutcome SqliteTree::Once(const TreePlace& place, Kind kind, const Deed& deed) {
+  if (bulk_) bulk_->Machine.reset();  // it would be in the way of a change
+  TreeOutcome outcome = Refused;
+  for (int i = 0; i < kAttempts; ++i) {
+    TreeTransaction transaction;
+    outcome = transaction.Begin(place, kind, PatienceFor(kind));
+    if (outcome == Done) outcome = deed(transaction);
+    if (outcome == Done && kind != Kind::Look) outcome = transaction.Commit();
+    if (!MadeWayForNewFile(place, outcome, transaction)) break;
+  }
+  return outcome;
+}
+
+TreeOutcome SqliteTree::InBulk(const Deed& deed) {
+  const TreeOutcome outcome = deed(bulk_->User);
+  bulk_->Worst = std::max(bulk_->Worst, outcome);
+  return outcome;
+}
+
+/// Ends a transaction that has found its file damaged on the way to store something, and sets the
+/// file aside. False: another try would meet the same.
+bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
+                                   TreeTransaction& transaction) {
+  if (outcome != Damaged || transaction.Is() != Kind::Make) return false;
+  const std::optional<FileIdentity> damaged = transaction.Identity();
+  transaction.Close();
+  if (damaged) {
+    const auto name = SetAside(place.File, *damaged, patience_.Look);
+    if (name && complain_) {
+      complain_("\"" + place.File + "\" holds no settings that can be read; it is kept as \"" +
+                *name + "\"");
+    }
+  }
+  return LookAtFile(place.File).Identity != damaged;
+}
+
+std::chrono::milliseconds SqliteTree::PatienceFor(Kind kind) const {
+  return kind == Kind::Look ? patience_.Look : patience_.Change;
+}
+
+}  // namespace starfolds

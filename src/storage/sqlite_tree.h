@@ -1,0 +1,70 @@
+// The stored tree in SQLite files, one of the user's and one of the machine's.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/key_value_tree.h"
+#include "storage/storage_places.h"
+#include "storage/tree_transaction.h"
+
+namespace starfolds {
+
+/// How long to wait for another process that holds a file.
+struct TreePatience {
+  std::chrono::milliseconds Look{1000};
+  std::chrono::milliseconds Change{3000};
+};
+
+/// A file is open only while a value, or a bulk, is read or written. The first write makes it, and
+/// its folder. A file of the user's that turns out to be damaged when something is to be stored is
+/// set aside under another name, and the complaint says so in one line; then a new one is begun.
+///
+/// Bulks hold the user's hive. In a bulk, too, what is written to the machine's hive is stored at
+/// once, and what cannot be read there counts as missing: nobody shall be kept from his own
+/// settings by a file that only an administrator can mend. The other hives are empty and refuse
+/// writes.
+///
+/// Texts may be up to a megabyte less the names; paths and names must not hold NUL bytes.
+class SqliteTree : public KeyValueTree {
+ public:
+  using Complaint = std::function<void(const std::string& line)>;
+
+  SqliteTree(const TreeFiles& files, Complaint complain, TreePatience patience = {});
+
+  std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
+  bool Write(Hive hive, std::string_view path, std::string_view name,
+             std::string_view text) override;
+  bool DeleteKey(Hive hive, std::string_view path) override;
+
+ protected:
+  bool Begin(Access access) override;
+  bool End(bool keep) override;
+
+ private:
+  struct Bulk {
+    TreeTransaction User;
+    std::optional<TreeTransaction> Machine;  // only looked at, once something is read there
+    TreeOutcome Worst = TreeOutcome::Done;
+  };
+  using Deed = std::function<TreeOutcome(TreeTransaction&)>;
+
+  const TreePlace* PlaceOf(Hive hive) const;
+  TreeTransaction& MachineOfBulk();
+  TreeOutcome Once(const TreePlace& place, TreeTransaction::Kind kind, const Deed& deed);
+  TreeOutcome InBulk(const Deed& deed);
+  bool MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome, TreeTransaction& transaction);
+
+  std::chrono::milliseconds PatienceFor(TreeTransaction::Kind kind) const;
+
+  TreePlace user_, machine_;
+  Complaint complain_;
+  TreePatience patience_;
+  std::unique_ptr<Bulk> bulk_;
+};
+
+}  // namespace starfolds

@@ -1,0 +1,246 @@
+#include "settings/property_flows.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+
+#include "random_records.h"
+#include "settings/first_run.h"
+#include "settings/templates.h"
+
+namespace starfolds {
+namespace {
+
+class StubPicture : public ProgressPicture {
+ public:
+  std::vector<int> Widths;
+  bool Cleared = false;
+
+  int ScaleWidth() const override { return 132; }
+  void FillFromLeft(int width, unsigned colour) override {
+    Widths.push_back(width);
+    EXPECT_EQ(colour, 0xFFFF00U);
+  }
+  void Clear() override { Cleared = true; }
+};
+
+/// A properties dialog without widgets: a text for each universe setting, and a log of the rest.
+class StubDialog : public PropertiesDialog {
+ public:
+  std::map<std::string_view, std::string> Texts;
+  std::string Log;
+  int Entries = 0;
+  StubPicture Picture;
+  std::function<bool()> OnWelcome = [] { return false; };
+  int Welcomes = 0;
+
+  std::string UniverseText(const Field<UniverseSettings>& field) const override {
+    const auto found = Texts.find(field.Name);
+    return found == Texts.end() ? "" : found->second;
+  }
+  void SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) override {
+    Texts[field.Name] = text;
+  }
+  void ClearProfileList() override { Entries = 0; }
+  void AddProfileEntry(std::string_view, Integer) override { ++Entries; }
+  void SelectProfileEntry(int position) override { Log += "P" + std::to_string(position); }
+  void RebuildProfileList() override { Log += "p"; }
+  void RebuildCompositeLists() override { Log += "c"; }
+  void SelectUniverseTheme(int position) override {
+    Log += "T" + std::to_string(position);
+    UniverseSettings universe;
+    LoadFactoryTheme(universe, position, Log.find("M0+") != std::string::npos);
+    for (const auto& field : UniverseFields()) Texts[field.Name] = FieldText(universe, field);
+  }
+  void SelectUniverseExtras(int position) override { Log += "E" + std::to_string(position); }
+  void MarkResetMenu(int menuIndex, bool marked) override {
+    Log += "M" + std::to_string(menuIndex) + (marked ? "+" : "-");
+  }
+  ProgressPicture* Preview() override { return &Picture; }
+  bool ShowWelcomeDialog() override {
+    ++Welcomes;
+    return OnWelcome();
+  }
+};
+
+class PropertyFlows : public testing::Test {
+ protected:
+  void StoreComplete(SettingsRecords& records) {
+    SaveSettings(Tree, records);
+    RegistryWrite(Tree, "General", kAnimationType, Long{0});
+  }
+
+  MemoryTree Tree;
+  MemoryFiles Disk;
+  TemplateFile Template{Disk};
+  ScriptedMessageBoxes Boxes;
+  SettingsRecords Edited;
+  PropertySettings Settings{Tree, Edited.Profiles, Edited.Composites, Template,
+                            Disk, Boxes,           "/prog",           "/home/u"};
+  StubDialog Dialog;
+};
+
+constexpr char kResetLog[] = "P0T0T1E0";
+
+TEST_F(PropertyFlows, ANewUserIsWelcomedAndGetsTheFactorySettings) {
+  OpenProperties(Settings, Dialog);
+  EXPECT_EQ(Dialog.Welcomes, 1);
+  EXPECT_EQ(Dialog.Log, kResetLog);
+  EXPECT_EQ(Dialog.Entries, 50);
+  EXPECT_EQ(Edited.Profiles[0].UniFoldName, FactoryProfileName(0, FactorySet::Starfolds4x));
+  EXPECT_TRUE(HasMark(Tree, kResetSettings));
+  EXPECT_FALSE(HasMark(Tree, kAnimationType)) << "nothing is accepted yet";
+  EXPECT_EQ(RegistryReadText(Tree, "Advanced", "FocalLength"), "1.0");
+  const WelcomePage page = MakeWelcomePage(Tree);
+  EXPECT_EQ(page.Caption, "Welcome to Starfolds 4.1a.");
+  EXPECT_TRUE(page.Text.starts_with("Thank you for installing Starfolds 4.1a.   You can use this"));
+  EXPECT_FALSE(page.OffersReset);
+  EXPECT_EQ(page.Dismiss, "OK");
+
+  // Cancelled, and opened again: the reset is stored at once.
+  Dialog.Log.clear();
+  OpenProperties(Settings, Dialog);
+  EXPECT_EQ(Dialog.Welcomes, 1);
+  EXPECT_EQ(Dialog.Log, std::string(kResetLog) + "c");
+  EXPECT_TRUE(HasMark(Tree, kAnimationType));
+  EXPECT_EQ(LoadSettings(Tree).Profiles[3].UniFoldName, Edited.Profiles[3].UniFoldName);
+}
+
+TEST_F(PropertyFlows, AnUpgradeOffersAResetWithASafetyCopy) {
+  SettingsRecords mine = RandomRecords(21).Make();
+  StoreComplete(mine);
+  EXPECT_TRUE(MakeWelcomePage(Tree).OffersReset);
+  EXPECT_EQ(MakeWelcomePage(Tree).Dismiss, "Close");
+  const MemoryTree before = Tree;
+
+  OpenProperties(Settings, Dialog);  // dismissed
+  EXPECT_EQ(Dialog.Log, "c");
+  EXPECT_EQ(Dialog.Texts["Universe_Stars"], NumberText(Long{mine.Universe.Universe_Stars}));
+  EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
+
+  MemoryTree again = before;
+  PropertySettings settings{again, Edited.Profiles, Edited.Composites, Template,
+                            Disk,  Boxes,           "/prog",           "/home/u"};
+  LoadAllProfiles(again, Edited.Profiles, RootSelector::CurrentUser);
+  StubDialog dialog;
+  StubPicture status;
+  dialog.OnWelcome = [&] {
+    SaveSafetyCopy(settings, dialog, &status);
+    return true;
+  };
+  OpenProperties(settings, dialog);
+  EXPECT_EQ(dialog.Log, kResetLog);
+  EXPECT_EQ(status.Widths.size(), 66U);
+  EXPECT_EQ(status.Widths.front(), 2);
+  EXPECT_EQ(status.Widths.back(), 132);
+  ASSERT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
+  EXPECT_NE(Disk.Contents["/prog/propsave.sfd"].find(mine.Profiles[1].UniFoldName),
+            std::string::npos);
+}
+
+TEST_F(PropertyFlows, AcceptStoresAllAndOpenShowsIt) {
+  SettingsRecords mine = RandomRecords(31).Make();
+  StoreComplete(mine);
+  RegistryWrite(Tree, "General", kResetSettings, Long{1});
+  OpenProperties(Settings, Dialog);
+  LoadAllProfiles(Tree, Edited.Profiles, RootSelector::CurrentUser);
+  Dialog.Texts["Universe_Stars"] = "1 2 3 4 stars";
+  Dialog.Texts["Universe_GS_Idx"] = "  5 6 ";
+  Dialog.Texts["Universe_Expand"] = "none";
+  Edited.Profiles[2].Starfold_Radius = 99999;
+  EXPECT_TRUE(SaveDialogToRegistry(Settings, Dialog));
+  const SettingsRecords stored = LoadSettings(Tree);
+  EXPECT_EQ(stored.Universe.Universe_Stars, 1234);
+  EXPECT_EQ(stored.Universe.Universe_GS_Idx, "5 6");
+  EXPECT_EQ(stored.Universe.Universe_Expand, 0);
+  EXPECT_EQ(stored.Profiles[2].Starfold_Radius, 30000);
+  EXPECT_TRUE(Boxes.Log.empty());
+}
+
+TEST_F(PropertyFlows, AcceptThatFailsKeepsWhatWasStoredAndSaysSo) {
+  SettingsRecords mine = RandomRecords(41).Make();
+  StoreComplete(mine);
+  RegistryWrite(Tree, "General", "TestRegWrite", Long{1});
+  const MemoryTree before = Tree;
+  Tree.WritesUntilFull = 800;
+  EXPECT_FALSE(SaveDialogToRegistry(Settings, Dialog));
+  EXPECT_EQ(Tree, before);
+  Tree.WritesUntilFull = -1;
+  Tree.Writable = false;
+  EXPECT_FALSE(SaveDialogToRegistry(Settings, Dialog));
+  ASSERT_EQ(Boxes.Log.size(), 2U);
+  EXPECT_NE(Boxes.Log[0].Text.find("are kept"), std::string::npos);
+  EXPECT_TRUE(Boxes.Log[1].Text.starts_with("The Registry is read-only."));
+}
+
+TEST_F(PropertyFlows, AnUnreadableTreeIsNotResetAtOpening) {
+  SettingsRecords mine = RandomRecords(51).Make();
+  StoreComplete(mine);
+  const MemoryTree before = Tree;
+  Tree.Readable = false;
+  OpenProperties(Settings, Dialog);
+  EXPECT_EQ(Tree, before);
+  EXPECT_EQ(Dialog.Welcomes, 0);
+  EXPECT_EQ(Boxes.Log.size(), 1U);
+}
+
+TEST_F(PropertyFlows, TheResetMenuAsksAndGoesByTheAnswer) {
+  Template.TemplateFileName = "mine.sfd";
+  Boxes.Answers = {BoxAnswer::Cancel};
+  ResetFromMenu(Settings, Dialog, 2);
+  EXPECT_EQ(Dialog.Log, "M2+M2-");
+  EXPECT_TRUE(Disk.Contents.empty());
+  EXPECT_EQ(Boxes.Log[0].Style, BoxStyle::YesNoCancelQuestion);
+  EXPECT_EQ(Boxes.Log[0].Text,
+            "Do you really want to reset the Properties to the Starfolds 4.x factory settings?\n\n"
+            "Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.\n"
+            "No       - Reset Properties without saving current settings.\n"
+            "Cancel - Don't Reset or Save Properties.");
+
+  Boxes.Answers = {BoxAnswer::No};
+  ResetFromMenu(Settings, Dialog, 2);
+  EXPECT_EQ(Dialog.Log, std::string("M2+M2-M2+") + kResetLog + "M2-");
+  EXPECT_TRUE(Disk.Contents.empty());
+
+  Dialog.Log.clear();
+  Disk.ReadOnlyFolders = {"/prog"};
+  Boxes.Answers = {BoxAnswer::Yes};
+  ResetFromMenu(Settings, Dialog, 0);
+  EXPECT_EQ(Dialog.Log, std::string("M0+") + kResetLog + "M0-");
+  EXPECT_NE(Boxes.Log.back().Text.find("Starfolds 2.0 factory settings?"), std::string::npos);
+  EXPECT_TRUE(Boxes.Log.back().Text.ends_with("/home/u"));
+  EXPECT_TRUE(Disk.Contents.contains("/home/u/propsave.sfd"));
+  EXPECT_EQ(Edited.Profiles[0].UniFoldName, FactoryProfileName(0, FactorySet::Starfolds20));
+  EXPECT_TRUE(Dialog.Picture.Cleared);
+  EXPECT_EQ(Template.TemplateFileName, "mine.sfd");
+}
+
+TEST_F(PropertyFlows, ASafetyCopyInTheRootHasOneSeparator) {
+  Settings.ProgramFolder = "/";
+  EXPECT_EQ(SafetyCopyPath(Settings), "/propsave.sfd");
+}
+
+TEST_F(PropertyFlows, ALoadedTemplateShowsAndItsAdvancedValuesTakeEffectAtOnce) {
+  SettingsRecords theirs = RandomRecords(61).Make();
+  theirs.Advanced.Adv_TimeDelay = 7;
+  MemoryTree elsewhere;
+  SaveAdvancedToRegistry(elsewhere, theirs.Advanced);
+  Template.TemplateFileName = "t.sfd";
+  WriteTemplate(Template, elsewhere, theirs.Universe, theirs.Profiles, theirs.Composites, {});
+  EXPECT_EQ(LoadTemplate(Settings, Dialog, nullptr), std::nullopt);
+  EXPECT_EQ(Dialog.Log, "pc");
+  EXPECT_EQ(Dialog.Texts["Universe_GSteps"], NumberText(Long{theirs.Universe.Universe_GSteps}));
+  EXPECT_EQ(Edited.Profiles[8].Starfold_Radius, theirs.Profiles[8].Starfold_Radius);
+  EXPECT_EQ(Edited.Composites[3].CompFold_Type, theirs.Composites[3].CompFold_Type);
+  EXPECT_EQ(RegistryReadText(Tree, "Advanced", "Adv_TimeDelay"), "7");
+  EXPECT_EQ(RegistryReadText(Tree, "Universe", "Universe_GSteps"), "");
+
+  const auto texts = Dialog.Texts;
+  Template.TemplateFileName = "missing.sfd";
+  EXPECT_NE(LoadTemplate(Settings, Dialog, nullptr), std::nullopt);
+  EXPECT_EQ(Dialog.Texts, texts);
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,133 @@
+#include "settings/registry.h"
+
+#include <gtest/gtest.h>
+
+#include "settings/window_placement.h"
+
+namespace starfolds {
+namespace {
+
+constexpr char kSection[] = "Universe";
+constexpr char kPath[] = "SOFTWARE\\Tessellane\\TSLN_Starfold\\Universe";
+
+TEST(Registry, ValuesOf127BytesAreTheLongestThatComeBack) {
+  MemoryTree tree;
+  for (const std::size_t length : {0U, 1U, 127U, 128U, 5000U}) {
+    const std::string text(length, 'x');
+    ASSERT_TRUE(RegistryWrite(tree, kSection, "Key", text));
+    EXPECT_EQ(RegistryReadText(tree, kSection, "Key", "default"), length < 128 ? text : "default");
+  }
+  EXPECT_EQ(RegistryReadText(tree, kSection, "Missing", "default"), "default");
+  tree.Write(Hive::CurrentUser, kPath, "Key", std::string_view("ab\0cd", 5));
+  EXPECT_EQ(RegistryReadText(tree, kSection, "Key"), "ab");
+}
+
+TEST(Registry, NumbersAreReadByTheirType) {
+  struct Case {
+    const char* Text;
+    Integer AsInteger;
+    Long AsLong;
+    Single AsSingle;
+  };
+  MemoryTree tree;
+  for (const Case& c :
+       {Case{"5", 5, 5, 5}, Case{"1.5", 2, 2, 1.5F}, Case{"2.5", 2, 2, 2.5F},
+        Case{" -3 ", -3, -3, -3}, Case{"1e2", 100, 100, 100}, Case{"70000", 0, 70000, 70000},
+        Case{"3e9", 0, 0, 3e9F}, Case{"1e300", 0, 0, 0}, Case{"abc", 7, 7, 7}, Case{"", 7, 7, 7},
+        Case{"1,5", 7, 7, 7}, Case{"5 stars", 7, 7, 7}}) {
+    tree.Write(Hive::CurrentUser, kPath, "Key", c.Text);
+    EXPECT_EQ(RegistryReadInteger(tree, kSection, "Key", 7), c.AsInteger) << c.Text;
+    EXPECT_EQ(RegistryReadLong(tree, kSection, "Key", 7), c.AsLong) << c.Text;
+    EXPECT_EQ(RegistryReadSingle(tree, kSection, "Key", 7), c.AsSingle) << c.Text;
+  }
+}
+
+TEST(Registry, RootsAreApartAndWritingTrims) {
+  MemoryTree tree;
+  RegistryWrite(tree, kSection, "Key", " 12 ");
+  EXPECT_EQ(tree.Read(Hive::CurrentUser, kPath, "Key"), "12");
+  EXPECT_EQ(RegistryReadInteger(tree, kSection, "Key", -1, RootSelector::LocalMachine), -1);
+  RegistryWrite(tree, kSection, "Key", Long{9}, static_cast<RootSelector>(77));
+  EXPECT_EQ(tree.Read(Hive::Users, kPath, "Key"), "9");
+  CopyMachineValueToUser(tree, kSection, "Key", "default");
+  EXPECT_EQ(RegistryReadText(tree, kSection, "Key"), "default");
+}
+
+TEST(Registry, AReadOnlyTreeIsFoundOutAndTold) {
+  MemoryTree tree;
+  ScriptedMessageBoxes boxes;
+  EXPECT_TRUE(RegistryWriteTest(tree, boxes));
+  EXPECT_TRUE(boxes.Log.empty());
+  tree.Writable = false;  // the value of the test before is still there
+  EXPECT_FALSE(RegistryWriteTest(tree, boxes));
+  ASSERT_EQ(boxes.Log.size(), 1U);
+  EXPECT_EQ(boxes.Log[0].Style, BoxStyle::Exclamation);
+  EXPECT_EQ(boxes.Log[0].Caption, "Starfolds");
+  EXPECT_TRUE(boxes.Log[0].Text.starts_with(
+      "The Registry is read-only.\n\nThe Property settings cannot be saved.\nYou must change"));
+}
+
+class StubWindow : public PlacedWindow {
+ public:
+  WindowState TheState = WindowState::Normal;
+  WindowBounds TheBounds;
+  bool IsSizable = true;
+  bool Centred = false;
+
+  WindowState State() const override { return TheState; }
+  WindowBounds Bounds() const override { return TheBounds; }
+  bool Sizable() const override { return IsSizable; }
+  void ApplyState(WindowState state) override { TheState = state; }
+  void Move(Long left, Long top) override {
+    TheBounds.Left = left;
+    TheBounds.Top = top;
+  }
+  void Move(const WindowBounds& bounds) override { TheBounds = bounds; }
+  void CentreOnScreen() override { Centred = true; }
+};
+
+TEST(WindowPlacement, ComesBackAsItWasSaved) {
+  MemoryTree tree;
+  StubWindow window;
+  RestoreWindowPlacement(window, tree, "General");
+  EXPECT_TRUE(window.Centred);
+
+  window.TheBounds = {-300, 45, 12000, 123456};
+  SaveWindowPlacement(window, tree, "General");
+  EXPECT_EQ(RegistryReadText(tree, "General", "WindowSize"), "00000000451200099999");
+  window.TheState = WindowState::Minimised;
+  window.TheBounds = {};
+  SaveWindowPlacement(window, tree, "General");  // keeps the size of the last time
+  EXPECT_EQ(RegistryReadText(tree, "General", "WindowState"), "0");
+
+  StubWindow later;
+  RestoreWindowPlacement(later, tree, "General");
+  EXPECT_EQ(later.TheBounds, (WindowBounds{0, 45, 12000, 99999}));
+  StubWindow fixed;
+  fixed.IsSizable = false;
+  RestoreWindowPlacement(fixed, tree, "General");
+  EXPECT_EQ(fixed.TheBounds, (WindowBounds{0, 45, 0, 0}));
+
+  window.TheState = WindowState::Maximised;
+  SaveWindowPlacement(window, tree, "General");
+  StubWindow maximised;
+  RestoreWindowPlacement(maximised, tree, "General");
+  EXPECT_EQ(maximised.TheState, WindowState::Maximised);
+  EXPECT_EQ(maximised.TheBounds, WindowBounds()) << "the size is not applied";
+}
+
+TEST(WindowPlacement, RubbishIsAPlaceAtTheEdge) {
+  MemoryTree tree;
+  RegistryWrite(tree, "General", "WindowState", Long{77});
+  StubWindow untouched;
+  untouched.TheBounds = {1, 2, 3, 4};
+  RestoreWindowPlacement(untouched, tree, "General");
+  EXPECT_EQ(untouched.TheBounds, (WindowBounds{1, 2, 3, 4})) << "there is no size";
+  RegistryWrite(tree, "General", "WindowSize", "abc");
+  RestoreWindowPlacement(untouched, tree, "General");
+  EXPECT_EQ(untouched.TheBounds, WindowBounds());
+  EXPECT_EQ(untouched.TheState, WindowState::Normal);
+}
+
+}  // namespace
+}  // namespace starfolds

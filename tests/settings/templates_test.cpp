@@ -1,0 +1,186 @@
+#include "settings/templates.h"
+
+#include <gtest/gtest.h>
+
+#include "random_records.h"
+#include "settings/first_run.h"
+
+namespace starfolds {
+namespace {
+
+TEST(TemplateText, FindsTheFirstPlaceWhereTheTextStands) {
+  struct Case {
+    const char* Why;
+    const char* Text;
+    const char* Section;
+    const char* Key;
+    std::optional<std::string> Value;
+  };
+  for (const Case& c : {
+           Case{"a plain value", "\r\n[A]\r\nk=1\r\n", "A", "k", "1"},
+           Case{"blanks are part of it", "[A]\r\nk= 1 \r\n", "A", "k", " 1 "},
+           Case{"an empty value", "[A]\r\nk=\r\n", "A", "k", ""},
+           Case{"the last line has no end", "[A]\r\nk=1", "A", "k", std::nullopt},
+           Case{"no such section", "[A]\r\nk=1\r\n", "B", "k", std::nullopt},
+           Case{"exact case", "[A]\r\nK=1\r\n", "A", "k", std::nullopt},
+           Case{"not in the next section", "[A]\r\n\r\n[B]\r\nk=1\r\n", "A", "k", std::nullopt},
+           Case{"a bracket ends its section", "[A]\r\nn=a[b\r\nk=1\r\n", "A", "n", std::nullopt},
+           Case{"and hides what follows", "[A]\r\nn=a[b\r\nk=1\r\n", "A", "k", std::nullopt},
+           Case{"the end of a longer key", "[A]\r\nlong_k=7\r\nk=1\r\n", "A", "k", "7"},
+           Case{"inside an earlier value", "[A]\r\nn=say k=7\r\nk=1\r\n", "A", "k", "7"},
+           Case{"longer names are others", "[A10]\r\nk=7\r\n[A1]\r\nk=1\r\n", "A1", "k", "1"},
+           Case{"sub-sections are others", "[A\\B]\r\nk=7\r\n[A]\r\nk=1\r\n", "A", "k", "1"},
+           Case{"the first of two sections", "[A]\r\nk=1\r\n[A]\r\nk=2\r\n", "A", "k", "1"},
+           Case{"a header inside a value", "[B]\r\nn=[A]\r\nk=7\r\n[A]\r\nk=1\r\n", "A", "k", "7"},
+           Case{"brackets that open twice", "[[A]\r\nk=1\r\n", "A", "k", "1"},
+           Case{"line feeds of another system", "[A]\nk=1\n", "A", "k", "1"},
+           Case{"but not beside right line ends", "[A]\r\nk=1\nj=2\r\n", "A", "k", "1\nj=2"},
+           Case{"UTF-8", "[A]\r\nk=\xC3\xA4\r\n", "A", "k", "\xC3\xA4"},
+           Case{"Windows-1252", "[A]\r\nk=\xE4 \x80\r\n", "A", "k", "\xC3\xA4 \xE2\x82\xAC"},
+           Case{"no text at all", "", "A", "k", std::nullopt},
+       }) {
+    EXPECT_EQ(TemplateText(c.Text).Find(c.Section, c.Key), c.Value) << c.Why;
+  }
+}
+
+class Templates : public testing::Test {
+ protected:
+  std::optional<std::string> Write(SettingsRecords records) {
+    SaveAdvancedToRegistry(Tree, records.Advanced);
+    File.TemplateFileName = "out.sfd";
+    return WriteTemplate(File, Tree, records.Universe, records.Profiles, records.Composites, {});
+  }
+
+  /// A template of the given text, read.
+  SettingsRecords Read(const std::string& text) {
+    Disk.Contents["in.sfd"] = text;
+    SettingsRecords records;
+    EXPECT_EQ(ReadTemplate(File, "in.sfd", records), std::nullopt);
+    return records;
+  }
+
+  MemoryFiles Disk;
+  MemoryTree Tree;
+  TemplateFile File{Disk};
+};
+
+TEST_F(Templates, RandomRecordsComeBackWhole) {
+  RandomRecords random(11);
+  for (int round = 0; round < 5; ++round) {
+    SettingsRecords records = random.Make();
+    ASSERT_EQ(Write(records), std::nullopt);
+    records.Advanced.Adv_DispBackG = false;  // no template holds these three
+    records.Advanced.Adv_PerfMult = 1;
+    records.Advanced.Adv_EffectFPC = 0;
+    EXPECT_EQ(Contents(Read(Disk.Contents["out.sfd"])), Contents(records));
+  }
+}
+
+TEST_F(Templates, AreWrittenInTheirForm) {
+  SettingsRecords records;
+  records.Profiles[0].UniFoldName = "A [b]\r\nc";
+  records.Profiles[0].Starfold_IFS_Points = 1;
+  records.Composites[15].CompFold_Count = 1;
+  records.Composites[15].CompFold_Type[0] = 7;
+  ASSERT_EQ(Write(records), std::nullopt);
+  const std::string text = Disk.Contents["out.sfd"];
+  EXPECT_TRUE(text.starts_with("\r\n[Admin]\r\nProduct=Starfolds\r\nVersion=4.1a\r\nCopyright="));
+  std::size_t at = 0;
+  for (const char* piece :
+       {"\r\n\r\n[General]\r\nAnimationType=0\r\n\r\n[Advanced]\r\nAdv_TimeDelay=40\r\n"
+        "FocalLength=1\r\n",
+        "Adv_RandomExp=2\r\n\r\n[Universe]\r\nUniverse_Stars=5000\r\n", "Universe_Recycle=",
+        "Universe_NewFreq=", "Universe_GS_Idx=\r\nUniverse_Tour=1\r\nUniverse_GVisit=",
+        "Universe_GravFrame=1\r\nUniverse_Profile=51\r\n\r\n[UniFold0]\r\n_UniFoldName=A (b)  c\r\n"
+        "_UniFoldPct=0\r\nStarfold_HueRed=100\r\n",
+        "Starfold_RadBFill=100\r\nStarfold_ColorMult=1800\r\n",
+        "Starfold_PulsarMaxExt=1000\r\nStarfold_PulsarShape=0\r\n",
+        "Starfold_CP_Steps=500\r\nStarfold_CP_B_Pts=1\r\nStarfold_CP_B_Exp=100\r\n"
+        "Starfold_CP_B_Spd=0\r\nStarfold_CP_Close=1\r\nStarfold_CP_AdvHW=0\r\nStarfold_QG_Force="
+        "5\r\n"
+        "Starfold_StdLevels=1\r\n",
+        "Starfold_IFS_Points=1\r\nStarfold_Atoms=0\r\n\r\n[UniFold0\\IFS]\r\nIFS_CenterX=0\r\n",
+        "\r\n[UniFold1]\r\n",
+        "\r\n[CompFold15]\r\n_CompFoldName=< Composite Starfold 16 >\r\n_CompFoldPct=0\r\n"
+        "_CompFoldCount=1\r\nStarfoldIndex_0=7\r\n"}) {
+    const std::size_t found = text.find(piece, at);
+    ASSERT_NE(found, std::string::npos) << piece;
+    at = found + std::string_view(piece).size();
+  }
+  EXPECT_EQ(at, text.size());
+  EXPECT_EQ(text.find("Adv_DispBackG"), std::string::npos);
+}
+
+TEST_F(Templates, WhatIsMissingIsADefaultOrZero) {
+  const SettingsRecords records =
+      Read("[Universe]\r\nUniverse_Stars=99999\r\nUniverse_AmCAge=x\r\n");
+  EXPECT_EQ(records.Universe.Universe_Stars, 32767) << "the run clamps";
+  EXPECT_EQ(records.Universe.Universe_AmCAge, 0.1F);
+  EXPECT_EQ(records.Universe.Universe_GSteps, 160);
+  EXPECT_EQ(records.Universe.Universe_Profile, 0);
+  EXPECT_FALSE(records.Universe.Universe_Tour);
+  EXPECT_EQ(records.Profiles[4].UniFoldName, "< Starfold Profile 5 >");
+  EXPECT_EQ(records.Profiles[4].Starfold_Radius, 300);
+  EXPECT_EQ(records.Composites[4].MemberCount(), 0);
+}
+
+TEST_F(Templates, ABracketInANameHidesTheRestOfItsProfile) {
+  const SettingsRecords records = Read(
+      "[UniFold0]\r\n_UniFoldName=My [best]\r\nStarfold_Radius=9\r\n\r\n"
+      "[UniFold1]\r\nStarfold_Radius=9\r\nStarfold_IFS_Points=-1\r\n");
+  EXPECT_EQ(records.Profiles[0].UniFoldName, "< Starfold Profile 1 >");
+  EXPECT_EQ(records.Profiles[0].Starfold_Radius, 300);
+  EXPECT_EQ(records.Profiles[1].Starfold_Radius, 9);
+  EXPECT_EQ(records.Profiles[1].Starfold_IFS_Points, 0);
+}
+
+TEST_F(Templates, ASaveThatFailsLeavesTheFileAndTheNextOneIsWhole) {
+  Disk.Contents["out.sfd"] = "former";
+  Disk.Full = true;
+  EXPECT_NE(Write(SettingsRecords()), std::nullopt);
+  EXPECT_EQ(Disk.Contents["out.sfd"], "former");
+  Disk.Full = false;
+  EXPECT_EQ(Write(SettingsRecords()), std::nullopt);
+  EXPECT_EQ(Disk.Contents["out.sfd"].find("[Admin]"), 2U);
+  EXPECT_EQ(Disk.Contents["out.sfd"].find("[Admin]", 3), std::string::npos);
+}
+
+TEST_F(Templates, WhatIsNoTemplateIsRefusedAndChangesNothing) {
+  SettingsRecords records = RandomRecords(3).Make();
+  const MemoryTree before = Contents(records);
+  Disk.Contents["huge.sfd"] = "[Universe]\r\n" + std::string(2U << 20U, 'x');
+  Disk.Contents["other.sfd"] = "no settings here\r\n";
+  for (const char* path : {"missing.sfd", "huge.sfd", "other.sfd"}) {
+    EXPECT_NE(ReadTemplate(File, path, records), std::nullopt) << path;
+    ProfileArray profiles;
+    EXPECT_NE(ImportTemplate(File, path, Tree, profiles), std::nullopt) << path;
+  }
+  EXPECT_EQ(Contents(records), before);
+  EXPECT_EQ(Tree.Size(), 0U);
+}
+
+TEST_F(Templates, AnImportBringsTheUniverseAndLeavesTheBodiesInTheTree) {
+  SettingsRecords mine = RandomRecords(7).Make();
+  SaveSettings(Tree, mine);
+  const SettingsRecords theirs = RandomRecords(8).Make();
+  MemoryTree elsewhere;
+  SaveAdvancedToRegistry(elsewhere, theirs.Advanced);
+  File.TemplateFileName = "theirs.sfd";
+  SettingsRecords written = theirs;
+  WriteTemplate(File, elsewhere, written.Universe, written.Profiles, written.Composites, {});
+
+  ProfileArray profiles;
+  ASSERT_EQ(ImportTemplate(File, "theirs.sfd", Tree, profiles), std::nullopt);
+  SettingsRecords expected = theirs;
+  expected.Profiles = mine.Profiles;
+  expected.Composites = mine.Composites;
+  expected.Advanced.Adv_DispBackG = mine.Advanced.Adv_DispBackG;
+  expected.Advanced.Adv_PerfMult = mine.Advanced.Adv_PerfMult;
+  expected.Advanced.Adv_EffectFPC = mine.Advanced.Adv_EffectFPC;
+  EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(expected));
+  EXPECT_EQ(profiles[9].UniFoldName, theirs.Profiles[9].UniFoldName) << "in memory only";
+  EXPECT_TRUE(HasMark(Tree, kAnimationType));
+}
+
+}  // namespace
+}  // namespace starfolds

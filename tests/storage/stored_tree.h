@@ -1,0 +1,54 @@
+// A stored tree of a test, and the ways to look at it whole.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "storage/sqlite_tree.h"
+#include "test_folder.h"
+
+namespace starfolds {
+
+constexpr Hive kUser = Hive::CurrentUser;
+
+struct StoredTree {
+  explicit StoredTree(const std::string& file, const std::string& machine = {},
+                      TreePatience patience = {})
+      : Tree(
+            {file, machine}, [this](const std::string& line) { Complaints.push_back(line); },
+            patience) {}
+
+  std::vector<std::string> Complaints;
+  SqliteTree Tree;
+
+  std::optional<std::string> Read(std::string_view name) { return Tree.Read(kUser, "P", name); }
+  bool Write(std::string_view name, std::string_view text) {
+    return Tree.Write(kUser, "P", name, text);
+  }
+
+  /// A bulk in which all of the first `count` values become `text`.
+  bool Save(const std::string& text, int count) {
+    TreeBulk bulk = TreeBulk::Change(Tree);
+    for (int i = 0; i < count; ++i) Write(std::to_string(i), text);
+    return bulk.Commit();
+  }
+
+  /// The text that all of the first `count` values have: "" if they are all missing, "torn" if they
+  /// differ, and "unread" if the tree cannot be looked at.
+  std::string Saved(int count) {
+    TreeBulk bulk = TreeBulk::Look(Tree);
+    const std::string first = Read("0").value_or("");
+    for (int i = 1; i < count; ++i) {
+      if (Read(std::to_string(i)).value_or("") != first) return "torn";
+    }
+    return bulk.Commit() ? first : "unread";
+  }
+};
+
+/// For tests in which somebody holds a lock for ever.
+constexpr TreePatience kImpatient{std::chrono::milliseconds(30), std::chrono::milliseconds(60)};
+
+}  // namespace starfolds

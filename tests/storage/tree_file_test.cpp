@@ -1,0 +1,206 @@
+// When the tree's files are made, kept and left alone.
+#include <sqlite3.h>
+
+#include "storage/stored_tree.h"
+
+namespace starfolds {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+
+/// Runs SQL as a stranger who has nothing to do with the tree.
+void RunSql(const std::string& file, const std::string& sql) {
+  sqlite3* db = nullptr;
+  ASSERT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
+  char* message = nullptr;
+  EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &message), SQLITE_OK)
+      << (message ? message : "");
+  sqlite3_free(message);
+  sqlite3_close(db);
+}
+
+class TreeFile : public testing::Test {
+ protected:
+  TestFolder Folder{QuickFolder()};
+  const std::string File = Folder.Path("config/Tessellane/settings.db");
+  StoredTree Stored{File, Folder.Path("machine.db")};
+
+  void MakeFolder() { fs::create_directories(fs::path(File).parent_path()); }
+};
+
+TEST_F(TreeFile, LookingMakesNothing) {
+  EXPECT_EQ(Stored.Read("x"), std::nullopt);
+  EXPECT_EQ(Stored.Saved(3), "");
+  EXPECT_FALSE(Stored.Tree.DeleteKey(kUser, "P"));
+  EXPECT_TRUE(Folder.Names().empty());
+}
+
+TEST_F(TreeFile, TheFirstWriteMakesPrivateFolders) {
+  ASSERT_TRUE(Stored.Write("x", "1"));
+  for (const char* folder : {"config", "config/Tessellane"}) {
+    EXPECT_EQ(fs::status(Folder.Path(folder)).permissions(), fs::perms::owner_all);
+  }
+  EXPECT_EQ(StoredTree(File).Read("x"), "1");
+}
+
+TEST_F(TreeFile, AnEmptyFileIsAnEmptyTree) {
+  MakeFolder();
+  std::ofstream(File).flush();
+  EXPECT_EQ(Stored.Saved(2), "");
+  EXPECT_TRUE(Stored.Write("x", "1"));
+  EXPECT_EQ(Stored.Read("x"), "1");
+  EXPECT_TRUE(Stored.Complaints.empty());
+}
+
+TEST_F(TreeFile, StrangersInTheFileAreLeftAlone) {
+  MakeFolder();
+  RunSql(File, "CREATE TABLE other(a); INSERT INTO other VALUES (7)");
+  EXPECT_EQ(Stored.Saved(2), "");
+  EXPECT_TRUE(Stored.Save("v", 2));
+  EXPECT_TRUE(Stored.Complaints.empty());
+  RunSql(File, "CREATE TEMP TABLE t(a CHECK (a = 7)); INSERT INTO t SELECT a FROM other");
+}
+
+TEST_F(TreeFile, WithoutAPlaceNothingIsStored) {
+  for (const char* file : {"", ":memory:", "relative.db"}) {
+    StoredTree nowhere(file);
+    EXPECT_FALSE(nowhere.Write("x", "1")) << file;
+    EXPECT_FALSE(nowhere.Save("v", 2));
+    EXPECT_EQ(nowhere.Read("x"), std::nullopt);
+    EXPECT_EQ(nowhere.Saved(2), "");
+  }
+  EXPECT_FALSE(fs::exists("relative.db"));
+}
+
+TEST_F(TreeFile, ALookSeesOneStateWhileOthersWait) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  StoredTree other(File, {}, kImpatient);
+  TreeBulk look = TreeBulk::Look(Stored.Tree);
+  EXPECT_EQ(Stored.Read("0"), "old");
+  EXPECT_FALSE(other.Save("new", 2));
+  EXPECT_EQ(Stored.Read("1"), "old");
+  EXPECT_TRUE(look.Commit());
+  EXPECT_EQ(other.Saved(2), "old");
+  EXPECT_TRUE(other.Save("new", 2));
+  EXPECT_EQ(Stored.Saved(2), "new");
+}
+
+TEST_F(TreeFile, WhatCannotBeStoredSpoilsItsBulk) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  const std::string tooLong(2'000'000, 'x');
+  const auto spoil = [&](auto write) {
+    TreeBulk bulk = TreeBulk::Change(Stored.Tree);
+    EXPECT_TRUE(Stored.Write("0", "new"));
+    EXPECT_FALSE(write());
+    EXPECT_FALSE(bulk.Commit());
+    EXPECT_EQ(Stored.Saved(2), "old");
+  };
+  spoil([&] { return Stored.Write("1", tooLong); });
+  spoil([&] { return Stored.Write(std::string("a\0b", 3), "1"); });
+  spoil([&] { return Stored.Tree.Write(Hive::Users, "P", "1", "1"); });
+  EXPECT_EQ(Stored.Read(std::string("0\0b", 3)), std::nullopt);
+}
+
+TEST_F(TreeFile, NothingIsWrittenInALook) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  TreeBulk bulk = TreeBulk::Look(Stored.Tree);
+  EXPECT_FALSE(Stored.Write("0", "new"));
+  EXPECT_FALSE(bulk.Commit());
+  EXPECT_EQ(Stored.Saved(2), "old");
+}
+
+TEST_F(TreeFile, TheMachinesFileCannotSpoilABulk) {
+  std::ofstream(Folder.Path("machine.db")) << std::string(2000, '?');
+  TreeBulk bulk = TreeBulk::Change(Stored.Tree);
+  EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), std::nullopt);
+  EXPECT_FALSE(Stored.Tree.DeleteKey(Hive::LocalMachine, "P"));
+  EXPECT_TRUE(Stored.Write("x", "1"));
+  EXPECT_TRUE(bulk.Commit());
+  EXPECT_EQ(FileText(Folder.Path("machine.db")), std::string(2000, '?'));
+}
+
+TEST_F(TreeFile, TheMachinesValuesAreReadAndChangedWithinABulk) {
+  ASSERT_TRUE(Stored.Tree.Write(Hive::LocalMachine, "P", "x", "1"));
+  TreeBulk bulk = TreeBulk::Change(Stored.Tree);
+  EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), "1");
+  EXPECT_TRUE(Stored.Tree.DeleteKey(Hive::LocalMachine, "P"));
+  EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), std::nullopt);
+  EXPECT_TRUE(bulk.Commit());
+}
+
+TEST_F(TreeFile, ALinkToTheFileStays) {
+  MakeFolder();
+  fs::create_symlink(Folder.Path("elsewhere.db"), File);
+  ASSERT_TRUE(Stored.Write("x", "1"));
+  std::ofstream(Folder.Path("elsewhere.db")) << std::string(2000, '?');
+  ASSERT_TRUE(Stored.Write("x", "2"));
+  EXPECT_EQ(Stored.Complaints.size(), 1U);
+  EXPECT_TRUE(fs::is_symlink(File));
+  EXPECT_EQ(StoredTree(Folder.Path("elsewhere.db")).Read("x"), "2");
+  EXPECT_EQ(FileText(Folder.Path("elsewhere.db.damaged-1")), std::string(2000, '?'));
+}
+
+/// What an enemy, or another program, may have put in the place of the values.
+TEST_F(TreeFile, OddValuesAreTextOrMissing) {
+  ASSERT_TRUE(Stored.Save("old", 1));
+  RunSql(File,
+         "INSERT INTO tree VALUES ('P', 'int', 42), ('P', 'real', 0.5), ('P', 'blob', x'00ff'), "
+         "('P', 'huge', zeroblob(2000000))");
+  EXPECT_EQ(Stored.Read("int"), "42");
+  EXPECT_EQ(Stored.Read("real"), "0.5");
+  EXPECT_EQ(Stored.Read("blob"), std::string("\0\xFF", 2));
+  EXPECT_EQ(Stored.Read("huge"), std::nullopt);
+  EXPECT_TRUE(Stored.Write("huge", "small again"));
+  EXPECT_EQ(Stored.Read("huge"), "small again");
+  EXPECT_TRUE(Stored.Complaints.empty());
+}
+
+TEST_F(TreeFile, TriggersOfOthersDoNotRun) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  RunSql(File,
+         "CREATE TRIGGER t AFTER UPDATE ON tree BEGIN DELETE FROM tree; END;"
+         "CREATE TRIGGER u BEFORE INSERT ON tree BEGIN SELECT RAISE(ABORT, 'no'); END");
+  EXPECT_TRUE(Stored.Save("new", 2));
+  EXPECT_EQ(Stored.Saved(2), "new");
+}
+
+/// Each of these is a database, but no tree of ours.
+TEST_F(TreeFile, WhatOnlyLooksLikeATreeIsSetAside) {
+  const std::string forms[] = {
+      "CREATE VIEW tree(path, name, text) AS WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i+1 "
+      "FROM r) SELECT 'P', i, 'x' FROM r",
+      "CREATE TABLE tree(path, name, text)",
+      "CREATE TABLE Tree(a)",
+      "CREATE TABLE t(path, name, text); CREATE INDEX tree ON t(path)",
+      "CREATE VIRTUAL TABLE tree USING fts4(path, name, text)",
+  };
+  MakeFolder();
+  int count = 0;
+  for (const std::string& form : forms) {
+    fs::remove(File);
+    RunSql(File, form);
+    const std::string bytes = FileText(File);
+    EXPECT_EQ(Stored.Saved(2), "unread") << form;
+    EXPECT_TRUE(Stored.Save("v", 2)) << form;
+    EXPECT_EQ(Stored.Saved(2), "v");
+    EXPECT_EQ(FileText(File + ".damaged-" + std::to_string(++count)), bytes);
+  }
+  EXPECT_EQ(Stored.Complaints.size(), std::size(forms));
+}
+
+TEST_F(TreeFile, AnEndlessSchemaIsGivenUp) {
+  MakeFolder();
+  RunSql(File,
+         "PRAGMA synchronous=OFF; CREATE TABLE t(a); PRAGMA writable_schema=ON;"
+         "WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM r LIMIT 100000) "
+         "INSERT INTO sqlite_schema SELECT 'table', 't'||i, 't'||i, 2, 'CREATE TABLE t'||i||'(a)' "
+         "FROM r");
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_FALSE(Stored.Save("v", 2));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, milliseconds(6000));
+  EXPECT_TRUE(Stored.Complaints.empty());
+}
+
+}  // namespace
+}  // namespace starfolds
