@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <array>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,9 +14,10 @@
 #include "desktop/qt_pump.h"
 #include "desktop/signals.h"
 #include "hosting/main.h"
-#include "settings/factory.h"
+#include "platform/console.h"
+#include "settings/first_run.h"
 #include "settings/overrides.h"
-#include "settings/storage.h"
+#include "storage/sqlite_tree.h"
 
 namespace {
 
@@ -26,23 +26,15 @@ using namespace starfolds;
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
 
-/// Arguments come back in messages; a terminal shall not obey them.
-std::string Harmless(std::string text) {
-  for (char& c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    if (code < ' ' || code == 0x7F) c = '?';
-  }
-  return text;
-}
+void Say(const std::string& message) { Complain("starfolds", message); }
 
-int Complain(const std::string& message, int exitCode) {
-  std::fprintf(stderr, "starfolds: %s\n", Harmless(message).c_str());
+int Fail(const std::string& message, int exitCode) {
+  Say(message);
   return exitCode;
 }
 
-int Print(const std::string& text) {
-  const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
-  return printed ? 0 : Complain("cannot write to the standard output", kExitCannotDo);
+int PrintAndEnd(const std::string& text) {
+  return Print(text) ? 0 : Fail("cannot write to the standard output", kExitCannotDo);
 }
 
 /// The toolkit ends the process with a core dump where it finds no desktop.
@@ -125,8 +117,8 @@ void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
 
 int RunOnDesktop(char* program, const StartOptions& options) {
   if (!HasDesktop()) {
-    return Complain("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
-                    kExitCannotDo);
+    return Fail("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
+                kExitCannotDo);
   }
   StopSignals stopSignals;
   // The look of the user's desktop more than doubles the memory and the time of the start on some
@@ -140,10 +132,8 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   const auto saver = std::make_unique<Saver>();
   saver->Events = &pump;
   saver->Desktop = desktop.get();
-  MemoryTree tree;
-  const auto records = std::make_unique<SettingsRecords>();
-  LoadFactorySettings(*records, FactorySet::Starfolds4x, 1);
-  SaveSettings(tree, *records);
+  SqliteTree tree(OwnTreeFiles(), Say);
+  MigrateMachineSettings(tree);
   OverriddenTree overridden(tree);
   saver->Tree = &tree;
   if (!options.Changes.empty()) {
@@ -167,13 +157,13 @@ int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   StartOptions options;
   if (const auto wrong = ParseStartOptions(arguments, options)) {
-    return Complain(*wrong + " (--help lists the options)", kExitWrongUse);
+    return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
   }
   switch (options.AskedFor) {
-    case Role::Help: return Print(UsageText());
-    case Role::Version: return Print("starfolds " STARFOLDS_VERSION "\n");
+    case Role::Help: return PrintAndEnd(UsageText());
+    case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
     default: break;
   }
-  if (const auto wrong = PrepareForHost(options)) return Complain(*wrong, kExitCannotDo);
+  if (const auto wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
   return RunOnDesktop(argv[0], options);
 }

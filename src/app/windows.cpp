@@ -1,6 +1,5 @@
 #include "app/windows.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -9,11 +8,16 @@
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
+#include "platform/console.h"
+#include "settings/templates.h"
+#include "storage/disk_files.h"
+#include "universe/host_surface.h"
 
 namespace starfolds {
 namespace {
 
 constexpr int kExitCannotDo = 1;
+constexpr int kExitWrongUse = 2;
 
 }  // namespace
 
@@ -33,13 +37,13 @@ void AppWindows::ShowFrmSaver() {
 void AppWindows::ShowFrmAppExe() { FrmAppExe(saver_, seed_).Activate(); }
 
 void AppWindows::ShowFrmProps() {
-  CannotDo(
-      "The settings dialog is not part of this version yet; --saver and --window show the effect.");
+  Fail("the settings dialog is not part of this version yet; --saver and --window show the effect",
+       kExitCannotDo);
 }
 
 void AppWindows::LoadFrmPreview() {
   if (!CanOpenForeignWindows()) {
-    CannotDo("a preview inside another program's window needs an X server");
+    Fail("a preview inside another program's window needs an X server", kExitCannotDo);
     return;
   }
   FrmPreview(saver_, seed_).Load();
@@ -49,17 +53,25 @@ void AppWindows::ShowInHost(Long hostWindow) {
   saver_.Mode = RunMode::ScreenSaver;
   if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
   // A host that goes while its saver starts is nothing out of the ordinary.
-  std::fprintf(stderr, "starfolds: there is no window %ld to show anything in\n",
-               static_cast<long>(hostWindow));
+  Complain("starfolds",
+           "there is no window " + std::to_string(hostWindow) + " to show anything in");
 }
 
-void AppWindows::LoadTemplate(const std::string&) {
-  CannotDo("Template files cannot be loaded by this version yet.");
+/// A template brings a universe and no bodies, so there have to be some. A file that cannot be read
+/// is most likely a typing error: nobody shall lose settings by that.
+void AppWindows::LoadTemplate(const std::string& path) {
+  DiskFiles disk;
+  TemplateFile file(disk);
+  if (const auto fault = file.Load(path)) {
+    return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+  }
+  EnsureBodies(saver_);
+  ImportTemplate(file, path, *saver_.Tree, saver_.Profiles);
 }
 
-void AppWindows::CannotDo(const char* message) {
-  std::fprintf(stderr, "starfolds: %s\n", message);
-  exitCode_ = kExitCannotDo;
+void AppWindows::Fail(const std::string& message, int exitCode) {
+  Complain("starfolds", message);
+  exitCode_ = exitCode;
 }
 
 }  // namespace starfolds

@@ -27,7 +27,7 @@ class AppWindows : public StartActions {
   int ExitCode() const { return exitCode_; }
 
  private:
-  void CannotDo(const char* message);
+  void Fail(const std::string& message, int exitCode);
 
   Saver& saver_;
   SeedSource seed_;

@@ -1,10 +1,15 @@
 // `starfolds-render`: the saver's engine on a surface in memory.
-#include <cstdio>
 #include <exception>
+#include <memory>
 #include <string_view>
 #include <vector>
 
+#include "platform/console.h"
 #include "render/render_run.h"
+#include "settings/storage.h"
+#include "settings/templates.h"
+#include "storage/disk_files.h"
+#include "storage/sqlite_tree.h"
 
 namespace {
 
@@ -12,38 +17,52 @@ using namespace starfolds;
 
 constexpr int kExitFault = 2;
 
-/// Arguments and file names come back in messages; a terminal shall not obey them.
-std::string Harmless(std::string text) {
-  for (char& c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    if (code < ' ' || code == 0x7F) c = '?';
-  }
-  return text;
-}
-
-int Complain(const std::string& message) {
-  std::fprintf(stderr, "starfolds-render: %s\n", Harmless(message).c_str());
+int Fail(const std::string& message) {
+  Complain("starfolds-render", message);
   return kExitFault;
 }
 
-int Print(const std::string& text) {
-  const bool printed = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
-  return printed ? 0 : Complain("cannot write to the standard output");
+int PrintAndEnd(const std::string& text) {
+  return Print(text) ? 0 : Fail("cannot write to the standard output");
+}
+
+/// The settings as a file.
+Fault Save(const std::string& path, Files& disk, SettingsRecords& records) {
+  MemoryTree tree;
+  SaveSettings(tree, records);
+  TemplateFile file(disk);
+  file.TemplateFileName = path;
+  const Fault fault =
+      WriteTemplate(file, tree, records.Universe, records.Profiles, records.Composites, {});
+  if (!fault) return std::nullopt;
+  return "cannot write \"" + path + "\": " + *fault;
+}
+
+Fault WriteAll(const RenderOptions& options, Files& disk, SettingsRecords& records) {
+  if (!options.SaveFile.empty()) {
+    if (Fault fault = Save(options.SaveFile, disk, records)) return fault;
+  }
+  return options.WritesFrames() ? Render(options, records) : std::nullopt;
 }
 
 int RunWith(const std::vector<std::string_view>& arguments) {
   RenderOptions options;
   if (const Fault fault = ParseOptions(arguments, options)) {
-    return Complain(*fault + " (--help lists the options)");
+    return Fail(*fault + " (--help lists the options)");
   }
   switch (options.Action) {
-    case RenderAction::List: return Print(ListText(options));
-    case RenderAction::Help: return Print(HelpText());
-    case RenderAction::Version: return Print("starfolds-render " STARFOLDS_VERSION "\n");
+    case RenderAction::Help: return PrintAndEnd(HelpText());
+    case RenderAction::Version: return PrintAndEnd("starfolds-render " STARFOLDS_VERSION "\n");
+    case RenderAction::List:
     case RenderAction::Render: break;
   }
-  const Fault fault = Render(options);
-  return fault ? Complain(*fault) : 0;
+  const auto records = std::make_unique<SettingsRecords>();
+  SqliteTree tree(OwnTreeFiles(), [](const std::string& line) { Fail(line); });
+  DiskFiles disk;
+  if (const Fault fault = MakeSettings(options, tree, disk, *records)) return Fail(*fault);
+  if (options.Action == RenderAction::List) return PrintAndEnd(ListText(*records));
+  const Fault fault = WriteAll(options, disk, *records);
+  return fault ? Fail(*fault) : 0;
 }
 
 }  // namespace
@@ -52,6 +71,6 @@ int main(int argc, char** argv) {
   try {
     return RunWith(std::vector<std::string_view>(argv + (argc > 0 ? 1 : 0), argv + argc));
   } catch (const std::exception& error) {
-    return Complain(error.what());
+    return Fail(error.what());
   }
 }

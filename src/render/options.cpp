@@ -4,6 +4,8 @@
 
 #include "render/contact_sheet.h"
 #include "settings/fields.h"
+#include "settings/first_run.h"
+#include "settings/templates.h"
 
 namespace starfolds {
 namespace {
@@ -94,11 +96,32 @@ Fault TakeComposite(RenderOptions& options, std::string_view text) {
 }
 
 Fault TakeFactory(RenderOptions& options, std::string_view text) {
-  return ReadNumber(options.Factory, text, 0, 1);
+  FactorySet set{};
+  const Fault fault = ReadNumber(set, text, 0, 1);
+  if (!fault) options.Factory = set;
+  return fault;
 }
 
 Fault TakeTheme(RenderOptions& options, std::string_view text) {
-  return ReadNumber(options.Theme, text, 1, kThemeCount);
+  int theme = 0;
+  const Fault fault = ReadNumber(theme, text, 1, kThemeCount);
+  if (!fault) options.Theme = theme;
+  return fault;
+}
+
+Fault TakeTemplate(RenderOptions& options, std::string_view text) {
+  options.TemplateFile = text;
+  return std::nullopt;
+}
+
+Fault TakeStored(RenderOptions& options, std::string_view) {
+  options.Stored = true;
+  return std::nullopt;
+}
+
+Fault TakeSave(RenderOptions& options, std::string_view text) {
+  options.SaveFile = text;
+  return std::nullopt;
 }
 
 /// The settings are set when all options are read; here it is found out whether they can be.
@@ -108,13 +131,8 @@ Fault TakeSetting(RenderOptions& options, std::string_view text) {
   const std::string_view name = text.substr(0, equals);
   const std::string_view value = text.substr(equals + 1);
   options.Changes.emplace_back(name, value);
-  return SetByName(options.Settings, name, value);
-}
-
-void MakeSettings(RenderOptions& options) {
-  options.Settings = SettingsRecords();
-  LoadFactorySettings(options.Settings, options.Factory, options.Theme);
-  for (const auto& [name, value] : options.Changes) SetByName(options.Settings, name, value);
+  SettingsRecords records;
+  return SetByName(records, name, value);
 }
 
 Fault TakePng(RenderOptions& options, std::string_view text) {
@@ -170,10 +188,13 @@ constexpr Option kOptions[] = {
      "any setting, as often as needed: Universe_Stars=9000,\n"
      "Starfold_Radius=500 (all profiles), Starfold7/Starfold_Radius=500",
      TakeSetting},
+    {"--template", "FILE", "start from the settings in a template file (.sfd)", TakeTemplate},
+    {"--stored", "", "start from the settings that you have stored", TakeStored},
     {"--factory", "N", "start from the profiles of Starfolds 4.x (0) or 2.0 (1) (0)", TakeFactory},
     {"--theme", "N", "start from universe theme N, 1 to 8 (1)", TakeTheme},
     {"--profile", "N", "one body of profile N, 0 to 49, instead of universes", TakeProfile},
     {"--composite", "N", "one body of composite N, 0 to 15, instead of universes", TakeComposite},
+    {"--save", "FILE", "write the settings as a template file (.sfd)", TakeSave},
     {"--png", "DIR", "write DIR/frame-000001.png and so on", TakePng},
     {"--y4m", "FILE", "write video as YUV4MPEG2 (\"-\": to standard output)", TakeVideo},
     {"--sheet", "FILE", "write one PNG that shows all the written frames, small", TakeSheet},
@@ -233,9 +254,14 @@ class ArgumentReader {
 
 Fault CheckTogether(const RenderOptions& options) {
   const FramePlan& plan = options.Plan;
-  const bool pictures = !options.PngFolder.empty() || !options.VideoFile.empty();
-  if (!pictures && options.SheetFile.empty() && !options.Hash) {
-    return "nothing to write: give --png, --y4m, --sheet or --hash";
+  if (!options.WritesFrames() && options.SaveFile.empty()) {
+    return "nothing to write: give --png, --y4m, --sheet, --save or --hash";
+  }
+  const int bases = (options.Stored ? 1 : 0) + (options.TemplateFile.empty() ? 0 : 1) +
+                    (options.Factory || options.Theme ? 1 : 0);
+  if (bases > 1) {
+    return "the settings can start from one thing only: --template, --stored, or --factory and "
+           "--theme";
   }
   if (std::int64_t{options.Width} * options.Height * options.Scale * options.Scale >
       kMaxPicturePixels) {
@@ -269,7 +295,6 @@ Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& o
   while (!reader.AtEnd() && !endsHere()) {
     if (Fault fault = reader.TakeNext(options)) return fault;
   }
-  MakeSettings(options);
   return options.Action == RenderAction::Render ? CheckTogether(options) : std::nullopt;
 }
 
@@ -293,19 +318,37 @@ std::string HelpText() {
   }
   text +=
       "\nThe number in parentheses is what holds without the option. A setting beyond its range\n"
-      "is held to it. At least one of --png, --y4m, --sheet and --hash must be given.\n";
+      "is held to it. At least one of --png, --y4m, --sheet, --save and --hash must be given.\n";
   return text;
 }
 
-std::string ListText(const RenderOptions& options) {
+Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,
+                   SettingsRecords& records) {
+  if (!options.TemplateFile.empty()) {
+    TemplateFile file(disk);
+    if (const Fault fault = ReadTemplate(file, options.TemplateFile, records)) {
+      return "cannot read " + Quoted(options.TemplateFile) + ": " + *fault;
+    }
+  } else if (options.Stored) {
+    TreeBulk look = TreeBulk::Look(tree);
+    records = SettingsToShow(tree);
+    if (!look.Commit()) return "the stored settings cannot be read";
+  } else {
+    LoadFactorySettings(records, options.Factory.value_or(FactorySet::Starfolds4x),
+                        options.Theme.value_or(1));
+  }
+  for (const auto& [name, value] : options.Changes) SetByName(records, name, value);
+  return std::nullopt;
+}
+
+std::string ListText(const SettingsRecords& records) {
   std::string text;
   const auto add = [&](const char* kind, int number, std::string_view name) {
     text += std::string(kind) + " " + std::to_string(number) + " " + std::string(name) + "\n";
   };
-  for (int i = 0; i < kProfileCount; ++i)
-    add("profile", i, options.Settings.Profiles[i].UniFoldName);
+  for (int i = 0; i < kProfileCount; ++i) add("profile", i, records.Profiles[i].UniFoldName);
   for (int i = 0; i < kCompositeCount; ++i) {
-    add("composite", i, options.Settings.Composites[i].CompFoldName);
+    add("composite", i, records.Composites[i].CompFoldName);
   }
   for (int i = 1; i <= kThemeCount; ++i) add("theme", i, FactoryThemeName(i));
   return text;

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/files.h"
+#include "platform/key_value_tree.h"
 #include "render/fault.h"
 #include "render/frame_plan.h"
 #include "settings/factory.h"
@@ -29,18 +31,23 @@ struct RenderOptions {
   std::optional<Integer> Profile;
   std::optional<Integer> Composite;
 
-  // What the settings start from, and the changes to them in the order given. They are put
-  // together when all options are read, so that the order of the options does not count.
-  FactorySet Factory = FactorySet::Starfolds4x;
-  int Theme = 1;
+  // What the settings start from, one of three, and the changes to them in the order given.
+  std::string TemplateFile;
+  bool Stored = false;
+  std::optional<FactorySet> Factory;
+  std::optional<int> Theme;
   std::vector<std::pair<std::string, std::string>> Changes;
-  SettingsRecords Settings;
 
   // What is written; an empty path is not.
+  std::string SaveFile;
   std::string PngFolder;
   std::string VideoFile;
   std::string SheetFile;
   bool Hash = false;
+
+  bool WritesFrames() const {
+    return !PngFolder.empty() || !VideoFile.empty() || !SheetFile.empty() || Hash;
+  }
 };
 
 /// Reads the arguments (without the program's name) from left to right; of an option that stands
@@ -51,7 +58,11 @@ Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& o
 /// What `--help` prints.
 std::string HelpText();
 
+/// Puts the settings together that the options ask for. `tree` is the user's.
+Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,
+                   SettingsRecords& records);
+
 /// What `--list` prints: the profiles, composites and themes that there are, a line each.
-std::string ListText(const RenderOptions& options);
+std::string ListText(const SettingsRecords& records);
 
 }  // namespace starfolds

@@ -40,13 +40,13 @@ Fault FinishAll(const FrameSinks& sinks) {
 
 }  // namespace
 
-Fault Render(RenderOptions& options) {
+Fault Render(const RenderOptions& options, SettingsRecords& records) {
   const FrameSinks sinks = MakeSinks(options);
   CountedPump pump;
   MemoryDesktop desktop;
   const auto saver = std::make_unique<Saver>();
   MemoryTree tree;
-  SaveSettings(tree, options.Settings);
+  SaveSettings(tree, records);
   saver->Tree = &tree;
   saver->Events = &pump;
   saver->Desktop = &desktop;

@@ -6,6 +6,7 @@
 
 namespace starfolds {
 
-Fault Render(RenderOptions& options);
+/// `records` are what the run is to show; they are clamped.
+Fault Render(const RenderOptions& options, SettingsRecords& records);
 
 }  // namespace starfolds

@@ -56,6 +56,14 @@ void MigrateMachineSettings(KeyValueTree& tree) {
   change.Commit();
 }
 
+SettingsRecords SettingsToShow(KeyValueTree& tree) {
+  TreeBulk look = TreeBulk::Look(tree);
+  SettingsRecords records = LoadSettings(tree);
+  if (!HasMark(tree, kAnimationType)) LoadFactorySet(records, FactorySet::Starfolds4x);
+  look.Commit();
+  return records;
+}
+
 bool EnsureFactoryProfiles(KeyValueTree& tree) {
   if (HasMark(tree, kAnimationType)) return true;
   // Looked at once more within the change: a tree that could not be read just now must not be

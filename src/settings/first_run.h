@@ -20,6 +20,10 @@ bool HasMark(KeyValueTree& tree, std::string_view mark);
 /// machine's tree is complete and the user's is not.
 void MigrateMachineSettings(KeyValueTree& tree);
 
+/// What a run shows without storing anything: the user's settings, with the factory's bodies where
+/// the tree is not complete.
+SettingsRecords SettingsToShow(KeyValueTree& tree);
+
 /// Writes the factory's bodies to a user's tree that is not complete. The mark is left to the
 /// properties dialog, so that its first opening still counts as the first. False where the tree is
 /// not complete and cannot be written: a run from it would show the bare defaults.

@@ -1,7 +1,6 @@
 #include "universe/host_surface.h"
 
 #include "numbers/conversions.h"
-#include "settings/factory.h"
 #include "settings/first_run.h"
 #include "settings/storage.h"
 
@@ -44,8 +43,7 @@ void ResetSurface(Surface& target) { target.Clear(); }
 
 void EnsureBodies(Saver& saver) {
   if (EnsureFactoryProfiles(*saver.Tree)) return;
-  SettingsRecords records = LoadSettings(*saver.Tree);
-  LoadFactorySet(records, FactorySet::Starfolds4x);
+  SettingsRecords records = SettingsToShow(*saver.Tree);
   SaveSettings(saver.StandIn, records);
   saver.Tree = &saver.StandIn;
 }

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -217,7 +216,7 @@ class Host : public testing::Test {
   /// All that a host which strips the environment leaves of it.
   static Texts Stripped(Texts more = {}) {
     Texts environment{"PATH=/usr/bin:/bin",
-                      "HOME=" + std::filesystem::temp_directory_path().string(),
+                      "HOME=" + FromEnvironment("XDG_CONFIG_HOME"),
                       "LANG=C.UTF-8",
                       "DISPLAY=" + FromEnvironment("DISPLAY"),
                       "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere",

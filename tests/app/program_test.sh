@@ -1,11 +1,14 @@
 #!/bin/bash
-# program_test.sh STARFOLDS: what the program says and how it ends where no window comes up.
+# program_test.sh STARFOLDS STARFOLDS-RENDER: what the program says and how it ends where no window comes up.
 set -u
 program=$1
+render=$2
 faults=0
 output=$(mktemp)
 errors=$(mktemp)
-trap 'rm -f "$output" "$errors"' EXIT
+XDG_CONFIG_HOME=$(mktemp -d) # nobody's settings
+export XDG_CONFIG_HOME
+trap 'rm -rf "$output" "$errors" "$XDG_CONFIG_HOME"' EXIT
 
 # expect CODE OUTPUT-PATTERN ERROR-PATTERN ARGUMENT...: an empty pattern wants silence.
 expect() {
@@ -46,8 +49,27 @@ expect 1 '' 'settings dialog is not part.*--saver and --window'
 expect 1 '' 'settings dialog is not part' --settings
 expect 1 '' 'settings dialog is not part' /c:77
 expect 1 '' 'preview inside.*needs an X server' /P 12345
-expect 1 '' 'Template files cannot be loaded' rings.sfd
 expect 0 '' '' /A 12345
+
+# A template that cannot be read is a typing error, and changes nothing.
+head -c 100000000 /dev/zero >"$XDG_CONFIG_HOME/huge.sfd"
+mkfifo "$XDG_CONFIG_HOME/pipe.sfd"
+expect 2 '' 'cannot read "rings.sfd": No such file' rings.sfd
+expect 2 '' 'cannot read ".*huge.sfd": File too large' "$XDG_CONFIG_HOME/huge.sfd"
+expect 2 '' 'cannot read ".*pipe.sfd": Not a plain file' "$XDG_CONFIG_HOME/pipe.sfd"
+if [ -e "$XDG_CONFIG_HOME/Tessellane" ]; then
+  echo "a template that cannot be read has changed the settings" >&2
+  faults=$((faults + 1))
+fi
+# One that can be read is shown, and its universe is stored.
+"$render" --theme 3 --set Universe_Stars=1234 --save "$XDG_CONFIG_HOME/a universe.sfd"
+timeout -s TERM 2 "$program" "$XDG_CONFIG_HOME/a universe.sfd" 2>"$errors"
+[ $? = 124 ] || { echo "the template did not show"; faults=$((faults + 1)); }
+"$render" --stored --save "$XDG_CONFIG_HOME/stored.sfd"
+if ! grep -q '^Universe_Stars=1234' "$XDG_CONFIG_HOME/stored.sfd"; then
+  echo "the template's universe is not stored" >&2
+  faults=$((faults + 1))
+fi
 
 # A complaint is one line, and nothing in it commands the terminal.
 expect 2 '' "unknown option '--.\[31mred'" $'--\e[31mred'

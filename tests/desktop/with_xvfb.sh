@@ -32,6 +32,7 @@ wait_for "$folder/display" "X server"
 DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 export QT_QPA_PLATFORM=xcb
+export XDG_CONFIG_HOME="$folder" # nobody's settings
 unset WAYLAND_DISPLAY
 # Heard by builds with the leak check only.
 LSAN_OPTIONS=suppressions=$(dirname "$0")/outside_leaks.supp:print_suppressions=0

@@ -20,6 +20,15 @@ RenderOptions Parsed(const Arguments& arguments) {
   return options;
 }
 
+/// The settings that the options lead to, for a user with nothing stored.
+SettingsRecords Settings(const RenderOptions& options) {
+  MemoryTree tree;
+  MemoryFiles disk;
+  SettingsRecords records;
+  EXPECT_EQ(MakeSettings(options, tree, disk, records), std::nullopt);
+  return records;
+}
+
 TEST(Options, EachIsRead) {
   const RenderOptions options = Parsed({"--size",    "641x16384",
                                         "--scale",   "2",
@@ -46,26 +55,27 @@ TEST(Options, EachIsRead) {
   EXPECT_EQ(options.VideoFile, "-");
   EXPECT_EQ(options.SheetFile, "sheet.png");
   EXPECT_FALSE(options.Hash);
-  EXPECT_EQ(options.Settings.Universe.Universe_Stars, 777);
-  EXPECT_EQ(options.Settings.Profiles[3].UniFoldName, "a=b");
+  EXPECT_EQ(Settings(options).Universe.Universe_Stars, 777);
+  EXPECT_EQ(Settings(options).Profiles[3].UniFoldName, "a=b");
 }
 
 TEST(Options, SettingsStartFromTheFactoryWhateverTheOrder) {
-  const RenderOptions none = Parsed({"--hash"});
-  EXPECT_EQ(none.Settings.Profiles[1].UniFoldName, "Star Rings");
-  EXPECT_EQ(none.Settings.Universe.Universe_Starfold, 100);
+  const SettingsRecords none = Settings(Parsed({"--hash"}));
+  EXPECT_EQ(none.Profiles[1].UniFoldName, "Star Rings");
+  EXPECT_EQ(none.Universe.Universe_Starfold, 100);
   const RenderOptions options = Parsed({"--set", "Starfold1/Starfold_Radius=7", "--theme", "8",
                                         "--factory", "1", "--composite", "15", "--hash"});
-  EXPECT_EQ(options.Settings.Profiles[1].UniFoldName, "Pancake-Like Disk");
-  EXPECT_EQ(options.Settings.Profiles[1].Starfold_Radius, 7);
-  EXPECT_EQ(options.Settings.Universe.Universe_GravForce, 125000);
+  const SettingsRecords records = Settings(options);
+  EXPECT_EQ(records.Profiles[1].UniFoldName, "Pancake-Like Disk");
+  EXPECT_EQ(records.Profiles[1].Starfold_Radius, 7);
+  EXPECT_EQ(records.Universe.Universe_GravForce, 125000);
   EXPECT_EQ(options.Composite, 15);
-  EXPECT_EQ(Parsed({"--factory", "1", "--hash"}).Settings.Universe.Universe_Stars, 2500)
+  EXPECT_EQ(Settings(Parsed({"--factory", "1", "--hash"})).Universe.Universe_Stars, 2500)
       << "theme 1 has a variant for the 2.0 set";
 }
 
 TEST(Options, TheListNamesWhatThereIs) {
-  const std::string list = ListText(Parsed({"--list", "--factory", "1", "--hash"}));
+  const std::string list = ListText(Settings(Parsed({"--list", "--factory", "1"})));
   EXPECT_THAT(list, HasSubstr("profile 26 Ruby Sphere\n"));
   EXPECT_THAT(list, HasSubstr("composite 1 Spine Disk Shell\n"));
   EXPECT_THAT(list, HasSubstr("theme 7 Rollercoaster Ride Through the Cosmos\n"));
@@ -76,7 +86,7 @@ TEST(Options, AValueMayStandBehindAnEqualsSign) {
       Parsed({"--size=8x9", "--set=Universe_Stars=11", "--png=--odd name", "--hash"});
   EXPECT_EQ(options.Width, 8);
   EXPECT_EQ(options.Height, 9);
-  EXPECT_EQ(options.Settings.Universe.Universe_Stars, 11);
+  EXPECT_EQ(Settings(options).Universe.Universe_Stars, 11);
   EXPECT_EQ(options.PngFolder, "--odd name");
   EXPECT_TRUE(options.Hash);
 }

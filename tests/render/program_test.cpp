@@ -8,6 +8,10 @@
 #include <sstream>
 
 #include "render/test_files.h"
+#include "settings/factory.h"
+#include "settings/first_run.h"
+#include "settings/storage.h"
+#include "storage/sqlite_tree.h"
 
 namespace starfolds {
 namespace {
@@ -74,6 +78,34 @@ TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
   const auto body = Hashes("--frames 3 --composite 1");
   EXPECT_NE(body, Hashes("--frames 3 --profile 2")) << "its first member alone";
   EXPECT_NE(body, Hashes("--frames 3 --composite 1 --set Starfold49/Starfold_Radius=100"));
+}
+
+TEST(Program, ATemplateShowsTheUniverseThatItWasSavedFrom) {
+  const TestFolder folder;
+  const std::string path = folder.Path("theme.sfd");
+  EXPECT_EQ(RunProgram(folder, "--theme 4 --set Universe_Stars=321 --save '" + path + "'").ExitCode,
+            0);
+  EXPECT_EQ(Hashes("--frames 40 --template '" + path + "'"),
+            Hashes("--frames 40 --theme 4 --set Universe_Stars=321"));
+  const Outcome missing = RunProgram(folder, "--hash --template missing.sfd");
+  EXPECT_EQ(missing.ExitCode, 2);
+  EXPECT_THAT(missing.Err, HasSubstr("cannot read \"missing.sfd\": No such file or directory"));
+}
+
+TEST(Program, StoredSettingsAreTheUsersOwnAndStayAsTheyAre) {
+  const TestFolder home;
+  SqliteTree tree({home.Path("Tessellane/settings.db"), ""}, {});
+  SettingsRecords mine;
+  LoadFactorySettings(mine, FactorySet::Starfolds20, 3);
+  ASSERT_TRUE(SaveSettings(tree, mine));
+  RegistryWrite(tree, "General", kAnimationType, Long{0});
+  ASSERT_EQ(setenv("XDG_CONFIG_HOME", home.Path("").c_str(), 1), 0);
+  const std::string before = FileText(home.Path("Tessellane/settings.db"));
+  EXPECT_EQ(Hashes("--frames 40 --stored"), Hashes("--frames 40 --factory 1 --theme 3"));
+  EXPECT_EQ(FileText(home.Path("Tessellane/settings.db")), before);
+  ASSERT_EQ(setenv("XDG_CONFIG_HOME", home.Path("nothing").c_str(), 1), 0);
+  EXPECT_FALSE(Hashes("--frames 9 --stored").empty()) << "a new user sees the factory's bodies";
+  unsetenv("XDG_CONFIG_HOME");
 }
 
 TEST(Program, SettingsBeyondTheirRangeAreHeldToIt) {
