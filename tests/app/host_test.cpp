@@ -6,7 +6,6 @@
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 #include <algorithm>
 #include <chrono>
@@ -19,6 +18,8 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "desktop/scripted_host.h"
 
 namespace starfolds {
 namespace {
@@ -118,90 +119,6 @@ class Program {
   bool stderrClosed_ = false;
 };
 
-/// A window of the scripted host.
-class HostWindow {
- public:
-  HostWindow(xcb_connection_t* connection, int width, int height,
-             xcb_window_class_t kind = XCB_WINDOW_CLASS_INPUT_OUTPUT)
-      : connection_(connection), window_(xcb_generate_id(connection)) {
-    const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
-    const std::uint32_t alone = 1;
-    xcb_create_window(connection, 0, window_, screen.root, 100, 100,
-                      static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), 0,
-                      kind, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &alone);
-    xcb_map_window(connection, window_);
-    Settle();
-  }
-  ~HostWindow() { Destroy(); }
-  HostWindow(const HostWindow&) = delete;
-  HostWindow& operator=(const HostWindow&) = delete;
-
-  void Destroy() {
-    if (window_ == XCB_WINDOW_NONE) return;
-    xcb_destroy_window(connection_, window_);
-    window_ = XCB_WINDOW_NONE;
-    Settle();
-  }
-
-  void Resize(std::uint32_t width, std::uint32_t height) const {
-    const std::uint32_t size[] = {width, height};
-    xcb_configure_window(connection_, window_, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT,
-                         size);
-    Settle();
-  }
-
-  void ListenToInput() const {
-    const std::uint32_t mask =
-        XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_POINTER_MOTION;
-    xcb_change_window_attributes(connection_, window_, XCB_CW_EVENT_MASK, &mask);
-    Settle();
-  }
-
-  /// Events since `ListenToInput`.
-  int InputHeard() {
-    while (xcb_generic_event_t* const event = xcb_poll_for_event(connection_)) {
-      const int kind = event->response_type & 0x7F;
-      heard_ += kind == XCB_KEY_PRESS || kind == XCB_BUTTON_PRESS || kind == XCB_MOTION_NOTIFY;
-      std::free(event);
-    }
-    return heard_;
-  }
-
-  std::string Number() const { return std::to_string(window_); }
-  std::string HexNumber() const {
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%X", window_);
-    return text;
-  }
-
-  /// The window's content as it stands on the screen, what is inside it included.
-  std::vector<std::uint32_t> Picture(int width, int height) const {
-    const auto request = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0,
-                                       static_cast<std::uint16_t>(width),
-                                       static_cast<std::uint16_t>(height), ~std::uint32_t{0});
-    const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> reply(
-        xcb_get_image_reply(connection_, request, nullptr), &std::free);
-    if (!reply) return {};
-    const auto* const words = reinterpret_cast<std::uint32_t*>(xcb_get_image_data(reply.get()));
-    return {words, words + xcb_get_image_data_length(reply.get()) / 4};
-  }
-
-  /// Pixels that are not black.
-  int Lit(int width, int height) const {
-    const auto isLit = [](std::uint32_t word) { return (word & 0xFFFFFFU) != 0; };
-    return static_cast<int>(std::ranges::count_if(Picture(width, height), isLit));
-  }
-
- private:
-  void Settle() const {
-    std::free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
-  }
-
-  xcb_connection_t* connection_;
-  xcb_window_t window_;
-  int heard_ = 0;
-};
-
 std::string FromEnvironment(const char* name) {
   const char* const value = std::getenv(name);
   return value == nullptr ? "" : value;
@@ -209,9 +126,7 @@ std::string FromEnvironment(const char* name) {
 
 class Host : public testing::Test {
  protected:
-  Host() : Connection(xcb_connect(nullptr, nullptr), &xcb_disconnect) {}
-
-  void SetUp() override { ASSERT_EQ(xcb_connection_has_error(Connection.get()), 0); }
+  void SetUp() override { ASSERT_EQ(xcb_connection_has_error(Server.get()), 0); }
 
   /// All that a host which strips the environment leaves of it.
   static Texts Stripped(Texts more = {}) {
@@ -234,7 +149,7 @@ class Host : public testing::Test {
     return std::chrono::microseconds(std::uniform_int_distribution(0, longest * 1000)(Random));
   }
 
-  std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> Connection;
+  ServerConnection Server = ConnectToServer();
   std::mt19937 Random{std::random_device()()};
 };
 
@@ -250,7 +165,7 @@ class GuestRole : public Host, public testing::WithParamInterface<const char*> {
 };
 
 TEST_P(GuestRole, DrawsInTheHostsWindowWhateverItsSize) {
-  HostWindow window(Connection.get(), 200, 150);
+  HostWindow window(Server, 200, 150);
   Program program(Arguments(window), Stripped({Names(window)}));
   EXPECT_TRUE(WaitUntil([&] { return window.Lit(200, 150) > 100; }));
   for (const auto& [width, height] : {std::pair{640, 480}, {1, 1}, {300, 200}}) {
@@ -266,7 +181,7 @@ TEST_P(GuestRole, DrawsInTheHostsWindowWhateverItsSize) {
 }
 
 TEST_P(GuestRole, LeavesTheInputToTheHost) {
-  HostWindow window(Connection.get(), 300, 200);
+  HostWindow window(Server, 300, 200);
   window.ListenToInput();
   Program program(Arguments(window), Stripped({Names(window)}));
   ASSERT_TRUE(WaitUntil([&] { return window.Lit(300, 200) > 100; }));
@@ -291,7 +206,7 @@ TEST_P(GuestRole, EndsWithItsHost) {
   for (int round = 0; round < rounds; ++round) {
     std::vector<Visit> visits(kAtOnce);
     for (Visit& visit : visits) {
-      visit.Window = std::make_unique<HostWindow>(Connection.get(), 200, 150);
+      visit.Window = std::make_unique<HostWindow>(Server, 200, 150);
       visit.Guest =
           std::make_unique<Program>(Arguments(*visit.Window), Stripped({Names(*visit.Window)}));
       visit.Resize = Clock::now() + RandomTime(2 * kLongestLife);
@@ -315,20 +230,33 @@ TEST_P(GuestRole, EndsWithItsHost) {
   }
 }
 
+/// Also where its pixels are not the server's, the last ones cut off by the window's border.
+TEST_F(Host, TheWholeWindowIsCoveredAtEveryScale) {
+  for (const auto& [factor, largest] : {std::pair{"1", 0}, {"1.25", 1}, {"2", 1}}) {
+    HostWindow window(Server, 301, 203);
+    Program program({"--window-id", window.Number()},
+                    Stripped({std::string("QT_SCALE_FACTOR=") + factor}));
+    ASSERT_TRUE(WaitUntil([&] { return window.Lit(301, 203) > 100; })) << factor;
+    const auto [width, height] = window.GuestSize();
+    EXPECT_TRUE(width >= 301 && width <= 301 + largest) << factor << ": " << width;
+    EXPECT_TRUE(height >= 203 && height <= 203 + largest) << factor << ": " << height;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Roles, GuestRole, testing::Values("/P", "--root"), [](const auto& role) {
   return std::string(role.param).find("root") == std::string::npos ? "Preview" : "Saver";
 });
 
 TEST_F(Host, TheNumberOnTheCommandLineWins) {
-  HostWindow named(Connection.get(), 300, 200);
-  HostWindow preview(Connection.get(), 300, 200);
+  HostWindow named(Server, 300, 200);
+  HostWindow preview(Server, 300, 200);
   Program program({"--root", "--window-id", preview.HexNumber()}, Stripped({Names(named)}));
   EXPECT_TRUE(WaitUntil([&] { return preview.Lit(300, 200) > 100; }));
   EXPECT_EQ(named.Lit(300, 200), 0);
 }
 
 TEST_F(Host, SettingsOnTheCommandLineHoldForTheRun) {
-  HostWindow window(Connection.get(), 300, 200);
+  HostWindow window(Server, 300, 200);
   Program program({"--root", "--stars", "10", "--starfolds", "1", "--set", "Universe_AmStar=0"},
                   Stripped({Names(window)}));
   ASSERT_TRUE(WaitUntil([&] { return window.Lit(300, 200) > 0; }));
@@ -339,7 +267,7 @@ TEST_F(Host, SettingsOnTheCommandLineHoldForTheRun) {
 }
 
 TEST_F(Host, SigtermEndsItSoonAtAnyMoment) {
-  HostWindow window(Connection.get(), 640, 480);
+  HostWindow window(Server, 640, 480);
   std::vector<double> times;
   for (int i = 0; i < 40; ++i) {
     Program program({"--root"}, Stripped({Names(window)}));
@@ -358,7 +286,7 @@ TEST_F(Host, SigtermEndsItSoonAtAnyMoment) {
 }
 
 TEST_F(Host, SigstopHoldsItAndSigcontLetsItGoOn) {
-  HostWindow window(Connection.get(), 300, 200);
+  HostWindow window(Server, 300, 200);
   Program program({"--root"}, Stripped({Names(window)}));
   ASSERT_TRUE(WaitUntil([&] { return window.Lit(300, 200) > 100; }));
   program.Signal(SIGSTOP);
@@ -375,14 +303,14 @@ TEST_F(Host, SigstopHoldsItAndSigcontLetsItGoOn) {
 }
 
 TEST_F(Host, NumbersThatNameNoWindowAreRefused) {
-  const HostWindow blind(Connection.get(), 300, 200, XCB_WINDOW_CLASS_INPUT_ONLY);
-  HostWindow stale(Connection.get(), 300, 200);
+  const HostWindow blind(Server, 300, 200, XCB_WINDOW_CLASS_INPUT_ONLY);
+  HostWindow stale(Server, 300, 200);
   const std::string staleNumber = stale.Number();
   stale.Destroy();
-  const xcb_pixmap_t pixmap = xcb_generate_id(Connection.get());
-  const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(Connection.get())).data;
-  xcb_create_pixmap(Connection.get(), screen.root_depth, pixmap, screen.root, 16, 16);
-  xcb_flush(Connection.get());
+  const xcb_pixmap_t pixmap = xcb_generate_id(Server.get());
+  const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(Server.get())).data;
+  xcb_create_pixmap(Server.get(), screen.root_depth, pixmap, screen.root, 16, 16);
+  xcb_flush(Server.get());
 
   struct Case {
     Texts Arguments;
