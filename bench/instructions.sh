@@ -1,24 +1,35 @@
 #!/usr/bin/env bash
-# Counts the instructions of the floor loop and of the star step, per star and frame. Unlike times,
-# the counts are the same on every run.
-# Usage: bench/instructions.sh [PROGRAM]   (the path of star_instructions)
+# Counts the instructions of the floor loop and of the star step, per star and frame, and of loading
+# and saving templates, per value. Unlike times, the counts are the same on every run.
+# Usage: bench/instructions.sh [FOLDER]   (where the counted programs are)
 set -euo pipefail
-program=$(realpath "${1:-build/release/bench/counted/star_instructions}")
+folder=$(realpath "${1:-build/release/bench/counted}")
 frames=100
 
-# count FUNCTION ARGUMENT...: instructions within FUNCTION.
+# count PROGRAM FUNCTION ARGUMENT...: instructions within FUNCTION.
 count() {
-  local function=$1
-  shift
+  local program=$folder/$1 function=$2
+  shift 2
   valgrind --tool=callgrind --callgrind-out-file=/dev/null --toggle-collect="$function" \
     "$program" "$@" 2>&1 | sed -n 's/.*Collected : \([0-9]*\).*/\1/p'
 }
 
 printf '\n%-8s %12s %12s %8s\n' stars floor/star step/star ratio
 for stars in 1000 5000 30000; do
-  floor=$(count CountedFloor floor "$stars")
-  step=$(count CountedStep step "$stars")
+  floor=$(count star_instructions CountedFloor floor "$stars")
+  step=$(count star_instructions CountedStep step "$stars")
   awk -v stars="$stars" -v floor="$floor" -v step="$step" -v frames="$frames" 'BEGIN {
     printf "%-8d %12.1f %12.1f %8.2f\n", stars, floor / stars / frames, step / stars / frames,
       step / floor }'
+done
+
+printf '\n%-16s %8s %14s %12s\n' template values instructions each
+for way in load save; do
+  for kind in plain full; do
+    values=$("$folder/settings_instructions" "$way" "$kind")
+    function=CountedLoad
+    [[ $way == load ]] || function=CountedSave
+    counted=$(count settings_instructions "$function" "$way" "$kind")
+    printf '%-16s %8d %14d %12d\n' "$way, $kind" "$values" "$counted" $((counted / values))
+  done
 done

@@ -1,0 +1,109 @@
+// What it costs to load and save settings as a user does: templates on the disk, and the stored
+// tree. The folder counts: give it with TMPDIR.
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+#include "full_settings.h"
+#include "storage/disk_files.h"
+#include "storage/sqlite_tree.h"
+
+namespace starfolds {
+namespace {
+
+class Folder {
+ public:
+  Folder() {
+    std::string name = (std::filesystem::temp_directory_path() / "starfolds-XXXXXX").string();
+    path_ = mkdtemp(name.data());
+  }
+  ~Folder() { std::filesystem::remove_all(path_); }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  std::string operator/(const char* name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+void LoadTemplateFrom(benchmark::State& state, const std::string& path, bool readable) {
+  DiskFiles disk;
+  const auto records = std::make_unique<SettingsRecords>();
+  for (auto _ : state) {
+    TemplateFile file(disk);
+    const bool read = !ReadTemplate(file, path, *records);
+    if (read != readable) state.SkipWithError("not as expected");
+  }
+}
+
+void LoadFullTemplate(benchmark::State& state) {
+  const Folder folder;
+  DiskFiles disk;
+  SettingsRecords records = FullSettings(1);
+  SaveAs(disk, folder / "full.sfd", records);
+  state.counters["bytes"] = static_cast<double>(std::filesystem::file_size(folder / "full.sfd"));
+  LoadTemplateFrom(state, folder / "full.sfd", true);
+}
+
+void SaveFullTemplate(benchmark::State& state) {
+  const Folder folder;
+  DiskFiles disk;
+  SettingsRecords records = FullSettings(1);
+  for (auto _ : state) {
+    if (SaveAs(disk, folder / "full.sfd", records)) state.SkipWithError("not saved");
+  }
+}
+
+/// The largest file that is read at all, made to be slow: one section full of "=", and brackets.
+void LoadHostileTemplate(benchmark::State& state) {
+  const Folder folder;
+  const char filler = state.range(0) == 0 ? '=' : '[';
+  std::string text = "[Universe]\r\n[UniFold0]\r\n";
+  text.resize(kLargestTemplate, filler);
+  std::ofstream(folder / "hostile.sfd") << text;
+  LoadTemplateFrom(state, folder / "hostile.sfd", true);
+}
+
+void RefuseHugeTemplate(benchmark::State& state) {
+  const Folder folder;
+  std::ofstream(folder / "huge.sfd") << "[Universe]\r\n" << std::string(100'000'000, 'x');
+  LoadTemplateFrom(state, folder / "huge.sfd", false);
+}
+
+/// Another set every time, so that every value changes.
+void Accept(benchmark::State& state, SettingsRecords (*make)(unsigned)) {
+  const Folder folder;
+  SqliteTree tree({folder / "settings.db", {}}, {});
+  SettingsRecords sets[] = {make(1), make(2)};
+  int turn = 0;
+  for (auto _ : state) {
+    if (!SaveSettings(tree, sets[turn ^= 1])) state.SkipWithError("not saved");
+  }
+  MemoryTree counted;
+  SaveSettings(counted, sets[0]);
+  state.counters["values"] = static_cast<double>(counted.Size());
+}
+
+void ReadForARun(benchmark::State& state) {
+  const Folder folder;
+  SqliteTree tree({folder / "settings.db", {}}, {});
+  SettingsRecords records = FullSettings(1);
+  SaveSettings(tree, records);
+  for (auto _ : state) benchmark::DoNotOptimize(LoadSettings(tree));
+}
+
+BENCHMARK(LoadFullTemplate)->Unit(benchmark::kMillisecond);
+BENCHMARK(SaveFullTemplate)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadHostileTemplate)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(RefuseHugeTemplate)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Accept, plain, PlainSettings)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Accept, full, FullSettings)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadForARun)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace starfolds
+
+BENCHMARK_MAIN();

@@ -1,0 +1,36 @@
+// Loads and saves settings for callgrind to count (bench/instructions.sh).
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+#include "full_settings.h"
+
+using namespace starfolds;
+
+/// The functions that callgrind is told to look into; with C names, so that it finds them.
+extern "C" void CountedLoad(TemplateFile& file, SettingsRecords& records) {
+  ReadTemplate(file, "t.sfd", records);
+}
+extern "C" void CountedSave(Files& disk, SettingsRecords& records) {
+  SaveAs(disk, "t.sfd", records);
+}
+
+/// Prints how many values the settings have.
+int main(int argc, char** argv) {
+  if (argc < 3) return 2;
+  SettingsRecords records =
+      std::string_view(argv[2]) == "full" ? FullSettings(1) : PlainSettings(1);
+  MemoryFiles disk;
+  if (std::string_view(argv[1]) == "save") {
+    auto* volatile counted = &CountedSave;  // a call that is not inlined
+    counted(disk, records);
+  } else {
+    SaveAs(disk, "t.sfd", records);
+    TemplateFile file(disk);
+    auto* volatile counted = &CountedLoad;
+    counted(file, records);
+  }
+  MemoryTree tree;
+  SaveSettings(tree, records);
+  std::printf("%zu\n", tree.Size());
+}
