@@ -27,9 +27,12 @@ class GuestTest : public HostTest {
     return Events.Pumps;
   }
 
-  /// A request of the host and its event are two ways through the server.
   void ResizeAndAwait(std::uint32_t width, std::uint32_t height) {
     Host.Resize(width, height);
+    AwaitStop();
+  }
+  /// What the host has done reaches the guest through the server, some time later.
+  void AwaitStop() {
     for (int i = 0; i < 5000 && !State->StopRun; ++i) {
       QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 1);
     }
@@ -74,6 +77,15 @@ TEST_F(GuestTest, WithoutAHostNothingIsRun) {
   EXPECT_EQ(RunPreview(), 0);
   EXPECT_EQ(RunSaver(), 0);
   EXPECT_EQ(Seeds, 0);
+}
+
+TEST_F(GuestTest, ASaverEndsInTheFrameOfItsHostsDeath) {
+  Events.Plan[7] = [&] {
+    Host.Destroy();
+    AwaitStop();
+  };
+  EXPECT_EQ(RunSaver(), 7);
+  EXPECT_EQ(Seeds, 1);
 }
 
 TEST_F(GuestTest, AStopIsStrongerThanANewSize) {
