@@ -1,6 +1,8 @@
 // The guest's own side, frame by frame. Needs an X server.
 #include "hosting/guest_window.h"
 
+#include <QDeadlineTimer>
+
 #include "desktop/scripted_host.h"
 #include "hosting/frm_preview.h"
 #include "hosting/host_fixture.h"
@@ -33,9 +35,8 @@ class GuestTest : public HostTest {
   }
   /// What the host has done reaches the guest through the server, some time later.
   void AwaitStop() {
-    for (int i = 0; i < 5000 && !State->StopRun; ++i) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 1);
-    }
+    const QDeadlineTimer patience(10000);
+    while (!State->StopRun && !patience.hasExpired()) QCoreApplication::processEvents();
     EXPECT_TRUE(State->StopRun);
   }
 
