@@ -39,6 +39,10 @@ class NumberBox : public QAbstractSpinBox {
   /// stays until the box is left: who tries another style of body and goes back loses nothing.
   void SetRange(const NumberRange& range);
   const NumberRange& Range() const { return range_; }
+  /// Takes no text at all until the next range is set.
+  void SetNoRange();
+  /// For a box in which no number is a choice: one that is empty when it is left stays so.
+  void SetBlankAllowed() { blankAllowed_ = true; }
 
   /// As it stands in the box, which may be out of range while somebody types.
   std::string Text() const;
@@ -65,10 +69,12 @@ class NumberBox : public QAbstractSpinBox {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  int LongestText() const;
   bool Takes(QChar c) const;
   double Step() const;
 
   NumberRange range_;
+  bool blankAllowed_ = false;
 };
 
 }  // namespace starfolds
