@@ -90,6 +90,7 @@ CompositeEditor::CompositeEditor(const PropsModel& model, QWidget* parent)
   minors_->setSelectionMode(QAbstractItemView::MultiSelection);
   minors_->setItemDelegate(new TickDelegate(minors_));
   minors_->setUniformItemSizes(true);
+  minors_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   LayOut();
   ConnectControls();
   Rebuild();
@@ -167,6 +168,7 @@ void CompositeEditor::SetBodies(const std::vector<std::string>& names) {
       major_->addItem(name);
       minors_->addItem(name);
     }
+    minors_->item(i)->setToolTip(name);  // it may be cut
   }
   while (major_->count() > count) {
     major_->removeItem(major_->count() - 1);

@@ -11,7 +11,7 @@
 namespace starfolds {
 namespace {
 
-constexpr int kAllRoom = 100;  // as against the empty room beside the other two
+constexpr int kAllRoom = 1000;  // as against the empty room beside the other two
 
 }  // namespace
 
