@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kSingleLength = 8;  // characters of a number with a point
 
-bool IsWhole(NumberKind kind) { return kind != NumberKind::Single; }
+bool IsWhole(NumberKind kind) { return kind != NumberKind::AsSingle; }
 
 std::string TextOf(double number, NumberKind kind) {
   if (IsWhole(kind)) return NumberText(RoundedToLimits<Long>(number));

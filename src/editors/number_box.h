@@ -6,11 +6,11 @@
 
 namespace starfolds {
 
-/// What a box takes: the whole kinds let through digits only, `Single` one point as well.
-enum class NumberKind { Integer = 0, Single = 1, Long = 2 };
+/// What a box takes: the whole kinds let through digits only, `AsSingle` one point as well.
+enum class NumberKind { AsInteger = 0, AsSingle = 1, AsLong = 2 };
 
 struct NumberRange {
-  NumberKind Kind = NumberKind::Integer;
+  NumberKind Kind = NumberKind::AsInteger;
   double Low = 0;
   double High = 0;
 };
