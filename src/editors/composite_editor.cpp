@@ -14,7 +14,7 @@
 namespace starfolds {
 namespace {
 
-constexpr NumberRange kPercents{NumberKind::Integer, 0, 9999};
+constexpr NumberRange kPercents{NumberKind::AsInteger, 0, 9999};
 constexpr Styles kIfsStyles{1, 2, 3, 8};
 constexpr Colour kWarning = 0xFFFF00;
 constexpr int kLabelGap = 3;  // logical pixels between a label and its control

@@ -38,24 +38,24 @@ constexpr CopyRow kRows[] = {
     Number("Starfold_Radius", Styles{7}),
     Number("Starfold_Rotation"),
     Number("Starfold_Distance"),
-    Number("Starfold_RadSegs", kIfs, {Integer, 1, 99}),
-    Number("Starfold_RadFill", kIfs, {Integer, 0, 100}),
-    Number("Starfold_RadBands", Styles{1, 2, 7}, {Integer, 1, 99}),
-    Number("Starfold_RadBFill", Styles{7}, {Integer, 0, 100}),
+    Number("Starfold_RadSegs", kIfs, {AsInteger, 1, 99}),
+    Number("Starfold_RadFill", kIfs, {AsInteger, 0, 100}),
+    Number("Starfold_RadBands", Styles{1, 2, 7}, {AsInteger, 1, 99}),
+    Number("Starfold_RadBFill", Styles{7}, {AsInteger, 0, 100}),
     Choice("Starfold_FoldStyle", StyleNames),
     Choice("Starfold_AxisPlane", PlaneNames),
     Choice("Starfold_Profile", ShapeNames),
     Number("Starfold_GHW_Ratio"),
     Number("Starfold_RadiusExp", Styles{4, 7}),
     Number("Starfold_HeightExp", Styles{4}),
-    Number("Starfold_AngleTilt", kNone, {Integer, 0, 359}),
+    Number("Starfold_AngleTilt", kNone, {AsInteger, 0, 359}),
     Number("Starfold_AngleTInc"),
     Choice("Starfold_ColorComp", ColorRuleNames),
     Number("Starfold_ColorMult"),
     Number("Starfold_HueStart"),
     Number("Starfold_HWheelInc"),
     Number("Starfold_NewFreq"),
-    Number("Starfold_NewFrames", kNone, {Integer, 1, 999}),
+    Number("Starfold_NewFrames", kNone, {AsInteger, 1, 999}),
     Number("Starfold_NewExtMult"),
     Number("Starfold_NovaFreq"),
     Number("Starfold_NovaFrames"),
@@ -76,35 +76,35 @@ constexpr CopyRow kRows[] = {
     Number("Starfold_CometSPersist"),
     Number("Starfold_HWC_Start"),
     Number("Starfold_HWC_End"),
-    Dead("Attractor Iteration Points", {Integer, 1, 99}),
-    Dead("Attractor Iteration Scale %", {Integer, 0, 100}),
-    Dead("Attractor Rotation Angle", {Integer, 0, 360}),
-    Dead("Wireframe Vertices", {Integer, 4, 10}),
-    Dead("Wireframe Scale %", {Integer, 0, 100}),
-    Dead("Wireframe Iteration Levels", {Integer, 1, 99}),
-    Dead("Fractal Iteration Points", {Integer, 4, 10}),
-    Dead("Fractal Iteration Scale %", {Integer, 0, 100}),
+    Dead("Attractor Iteration Points", {AsInteger, 1, 99}),
+    Dead("Attractor Iteration Scale %", {AsInteger, 0, 100}),
+    Dead("Attractor Rotation Angle", {AsInteger, 0, 360}),
+    Dead("Wireframe Vertices", {AsInteger, 4, 10}),
+    Dead("Wireframe Scale %", {AsInteger, 0, 100}),
+    Dead("Wireframe Iteration Levels", {AsInteger, 1, 99}),
+    Dead("Fractal Iteration Points", {AsInteger, 4, 10}),
+    Dead("Fractal Iteration Scale %", {AsInteger, 0, 100}),
     // Changes another setting than it says.
     {.Entry = "Starfold_CP_Points", .Target = "Starfold_CP_Close", .Skipped = kAllButNebula},
-    Dead("Starfold_CP_Steps", {Integer, 1, 9999}),
+    Dead("Starfold_CP_Steps", {AsInteger, 1, 9999}),
     Dead("Starfold_CP_B_Pts"),
     Dead("Starfold_CP_B_Exp"),
     Dead("Starfold_CP_B_Spd"),
-    Dead("Nebula Expansion Speed", {Single, 0, 99.9}),
-    Dead("Nebula Solar Wind Magnitude", {Single, 0, 99.9}),
+    Dead("Nebula Expansion Speed", {AsSingle, 0, 99.9}),
+    Dead("Nebula Solar Wind Magnitude", {AsSingle, 0, 99.9}),
     {.Entry = "Starfold_CP_Close", .Control = CopyControl::Check},
-    Dead("Quasar Emit Speed", {Single, 0, 99.9}),
-    Dead("Graviton Force", {Single, 0, 99.9}),
-    Dead("Starwave Expansion Rate", {Integer, 1, 30000}),
-    Dead("Starwave Interleaved Waves", {Integer, 1, 99}),
-    Dead("Starwave Amplitude Persistence", {Integer, 1, 999}),
-    Dead("Starwave Particle Angle Increment", {Single, 0, 99.9}),
+    Dead("Quasar Emit Speed", {AsSingle, 0, 99.9}),
+    Dead("Graviton Force", {AsSingle, 0, 99.9}),
+    Dead("Starwave Expansion Rate", {AsInteger, 1, 30000}),
+    Dead("Starwave Interleaved Waves", {AsInteger, 1, 99}),
+    Dead("Starwave Amplitude Persistence", {AsInteger, 1, 999}),
+    Dead("Starwave Particle Angle Increment", {AsSingle, 0, 99.9}),
 };
 
 NumberKind KindOf(const Field<StarfoldProfile>& field) {
-  if (std::holds_alternative<starfolds::Single StarfoldProfile::*>(field.Where)) return Single;
-  if (std::holds_alternative<starfolds::Long StarfoldProfile::*>(field.Where)) return Long;
-  return Integer;
+  if (std::holds_alternative<Single StarfoldProfile::*>(field.Where)) return AsSingle;
+  if (std::holds_alternative<Long StarfoldProfile::*>(field.Where)) return AsLong;
+  return AsInteger;
 }
 
 }  // namespace
@@ -124,12 +124,12 @@ NumberRange RangeOf(const CopyRow& row) {
 
 /// The point of "360.0" says that fractions are taken.
 std::string RangeText(const NumberRange& range) {
-  std::string high = NumberText(static_cast<starfolds::Single>(range.High));
-  if (range.Kind == NumberKind::Single && high.find('.') == std::string::npos) high += ".0";
-  return "Range (" + NumberText(static_cast<starfolds::Single>(range.Low)) + " - " + high + "):";
+  std::string high = NumberText(static_cast<Single>(range.High));
+  if (range.Kind == NumberKind::AsSingle && high.find('.') == std::string::npos) high += ".0";
+  return "Range (" + NumberText(static_cast<Single>(range.Low)) + " - " + high + "):";
 }
 
-bool CopyProperty(const CopyRow& row, starfolds::Single value, ProfileArray& profiles) {
+bool CopyProperty(const CopyRow& row, Single value, ProfileArray& profiles) {
   const auto* target = FindField(ProfileFields(), row.Target);
   if (!target) return false;
   for (StarfoldProfile& profile : profiles) {

@@ -12,9 +12,9 @@
 namespace starfolds {
 namespace {
 
-constexpr NumberRange kWhole{NumberKind::Integer, 4, 9999};
-constexpr NumberRange kLong{NumberKind::Long, 10, 30000};
-constexpr NumberRange kReal{NumberKind::Single, 0.25, 99.9};
+constexpr NumberRange kWhole{NumberKind::AsInteger, 4, 9999};
+constexpr NumberRange kLong{NumberKind::AsLong, 10, 30000};
+constexpr NumberRange kReal{NumberKind::AsSingle, 0.25, 99.9};
 
 QLineEdit& Line(NumberBox& box) { return *box.findChild<QLineEdit*>(); }
 
@@ -90,14 +90,14 @@ TEST(NumberBoxTest, StepsFollowTheRangeAndStopAtItsEnds) {
     const char* Up;
     const char* Down;
   } rows[] = {
-      {{NumberKind::Integer, 0, 100}, "50", "51", "49"},
-      {{NumberKind::Integer, 0, 101}, "50", "55", "45"},
-      {{NumberKind::Integer, 0, 998}, "50", "55", "45"},
-      {{NumberKind::Integer, 0, 999}, "50", "60", "40"},
-      {{NumberKind::Long, 0, 29999}, "50", "60", "40"},
-      {{NumberKind::Long, 0, 30000}, "60", "110", "10"},
-      {{NumberKind::Integer, 4, 10}, "10", "10", "9"},
-      {{NumberKind::Integer, 4, 10}, "", "4", "4"},
+      {{NumberKind::AsInteger, 0, 100}, "50", "51", "49"},
+      {{NumberKind::AsInteger, 0, 101}, "50", "55", "45"},
+      {{NumberKind::AsInteger, 0, 998}, "50", "55", "45"},
+      {{NumberKind::AsInteger, 0, 999}, "50", "60", "40"},
+      {{NumberKind::AsLong, 0, 29999}, "50", "60", "40"},
+      {{NumberKind::AsLong, 0, 30000}, "60", "110", "10"},
+      {{NumberKind::AsInteger, 4, 10}, "10", "10", "9"},
+      {{NumberKind::AsInteger, 4, 10}, "", "4", "4"},
       {kReal, "0.5", "1.5", "0.25"},
   };
   for (const auto& row : rows) {
@@ -118,7 +118,7 @@ TEST(NumberBoxTest, TheWheelTurnsOnlyABoxWithTheFocus) {
   QWidget window;
   NumberBox other(&window);
   NumberBox box(&window);
-  box.SetRange({NumberKind::Integer, 0, 100});
+  box.SetRange({NumberKind::AsInteger, 0, 100});
   box.SetText("50");
   Activate(window);
   const auto wheel = [&box] {
@@ -141,10 +141,10 @@ TEST(NumberBoxTest, ANewRangeCutsNothingOffUntilTheBoxIsLeft) {
   NumberBox box;
   box.SetRange(kWhole);
   box.SetText("9876");
-  box.SetRange({NumberKind::Integer, 0, 100});
+  box.SetRange({NumberKind::AsInteger, 0, 100});
   box.SetRange(kWhole);
   EXPECT_EQ(box.Text(), "9876");
-  box.SetRange({NumberKind::Integer, 0, 100});
+  box.SetRange({NumberKind::AsInteger, 0, 100});
   Leave(box);
   EXPECT_EQ(box.Text(), "100");
   Line(box).selectAll();
