@@ -4,7 +4,10 @@
 #include <system_error>
 #include <utility>
 
+#include "app/saver_screens.h"
+#include "desktop/foreign_window.h"
 #include "hosting/frm_app_exe.h"
+#include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
 #include "platform/console.h"
 #include "settings/templates.h"
@@ -19,7 +22,10 @@ constexpr int kExitWrongUse = 2;
 
 }  // namespace
 
-AppWindows::AppWindows(Saver& saver, SeedSource seed) : saver_(saver), seed_(std::move(seed)) {}
+AppWindows::AppWindows(Saver& saver, const StartOptions& options)
+    : saver_(saver),
+      options_(options),
+      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -29,18 +35,45 @@ bool AppWindows::FileExists(const std::string& path) {
 /// After a template that could not be loaded the effect would show something else than was asked
 /// for.
 void AppWindows::ShowFrmSaver() {
-  if (exitCode_ == 0) FrmSaver(saver_, seed_).Load();
+  if (exitCode_ != 0) return;
+  const auto place = PlaceOfSaver(options_);
+  if (!place) {
+    const std::string number = std::to_string(options_.Screen.value_or(1));
+    return Fail("there is no screen " + number, kExitCannotDo);
+  }
+  const OtherScreens others(options_, [this] { saver_.QuitApp = saver_.StopRun = true; });
+  FrmSaver(saver_, seed_, *place).Load();
 }
 
-void AppWindows::ShowFrmAppExe() { FrmAppExe(saver_, seed_).Activate(); }
+void AppWindows::ShowFrmAppExe() {
+  FrmAppExe(saver_, seed_, [this] { ShowFrmPropsModally(); }).Activate();
+}
 
 void AppWindows::ShowFrmProps() {
   Fail("the settings dialog is not part of this version yet; --saver and --window show the effect",
        kExitCannotDo);
 }
 
+void AppWindows::ShowFrmPropsModally() {
+  if (toldOfProps_) return;
+  toldOfProps_ = true;
+  Complain("starfolds", "the settings dialog is not part of this version yet");
+}
+
 void AppWindows::LoadFrmPreview() {
-  Fail("the preview is not part of this version yet", kExitCannotDo);
+  if (!CanOpenForeignWindows()) {
+    Fail("a preview inside another program's window needs an X server", kExitCannotDo);
+    return;
+  }
+  FrmPreview(saver_, seed_).Load();
+}
+
+void AppWindows::ShowInHost(Long hostWindow) {
+  saver_.Mode = RunMode::ScreenSaver;
+  if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
+  // A host that goes while its saver starts is nothing out of the ordinary.
+  Complain("starfolds",
+           "there is no window " + std::to_string(hostWindow) + " to show anything in");
 }
 
 /// A template brings a universe and no bodies, so there have to be some. A file that cannot be read

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "app/options.h"
 #include "hosting/main.h"
 #include "hosting/run_loop.h"
 
@@ -12,7 +13,7 @@ namespace starfolds {
 /// to end with `ExitCode`.
 class AppWindows : public StartActions {
  public:
-  AppWindows(Saver& saver, SeedSource seed);
+  AppWindows(Saver& saver, const StartOptions& options);
 
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
@@ -21,13 +22,19 @@ class AppWindows : public StartActions {
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
+  /// The full effect inside the window of a saver host.
+  void ShowInHost(Long hostWindow);
+
   int ExitCode() const { return exitCode_; }
 
  private:
+  void ShowFrmPropsModally();
   void Fail(const std::string& message, int exitCode);
 
   Saver& saver_;
+  StartOptions options_;
   SeedSource seed_;
+  bool toldOfProps_ = false;
   int exitCode_ = 0;
 };
 

@@ -9,6 +9,7 @@
 #include "platform/desktop_services.h"
 #include "platform/key_value_tree.h"
 #include "platform/pump.h"
+#include "platform/saver_platform.h"
 #include "platform/surface.h"
 #include "settings/fields.h"
 #include "settings/records.h"
@@ -61,9 +62,10 @@ struct Saver {
   bool QuitApp = false;  // the application must end, and no further run begin in it
   Long PreviewParent = 0;
 
-  // The machine. All three are set before a run begins and outlive it.
+  // The machine. All of it is set before a run begins and outlives it.
   Pump* Events = nullptr;
   DesktopServices* Desktop = nullptr;
+  SaverPlatform* Platform = nullptr;
 };
 
 }  // namespace starfolds

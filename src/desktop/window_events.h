@@ -24,6 +24,9 @@ class WindowEvents {
   /// The window came to be seen. It has the size that the desktop gave it.
   virtual void Exposed() {}
 
+  /// The window has another size.
+  virtual void Resized() {}
+
   /// The window is gone, or about to, without having been asked.
   virtual void Destroyed() {}
 };

@@ -56,10 +56,13 @@ class WindowSurface::EffectWindow : public QWindow {
     if (isExposed()) events_.Exposed();
   }
   void paintEvent(QPaintEvent*) override { surface_.Repaint(); }
+  void resizeEvent(QResizeEvent*) override { events_.Resized(); }
   bool event(QEvent* event) override {
     if (event->type() == QEvent::PlatformSurface) {
       const auto* change = static_cast<QPlatformSurfaceEvent*>(event);
-      if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed) {
+      if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
+        surface_.WatchSight();
+      } else {
         events_.Destroyed();
       }
     }
@@ -88,33 +91,76 @@ void WindowSurface::SetCaption(const std::string& caption) {
 
 void WindowSurface::HidePointer() { window_->setCursor(Qt::BlankCursor); }
 
-void WindowSurface::ShowFullScreen(Stacking stacking) {
-  window_->setFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlag(stacking));
-  window_->setGeometry(QGuiApplication::primaryScreen()->geometry());
-  window_->showFullScreen();
+void WindowSurface::ShowPointer() { window_->unsetCursor(); }
+
+/// A window that does not lead gets no focus even when it is clicked: the keys go to the one that
+/// does.
+void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
+  TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlag(stacking) |
+            (place.Leads ? Qt::WindowFlags() : Qt::WindowDoesNotAcceptFocus));
+  CoverScreen(place);
+  if (place.Leads) window_->requestActivate();
+  screens_.emplace([this, place] { CoverScreen(place); });
+}
+
+/// A window that fills a screen already would not be moved to another one.
+void WindowSurface::CoverScreen(ScreenPlace place) {
+  QScreen* const named = FindScreen(place.Number);
+  QScreen* const screen = named != nullptr ? named : QGuiApplication::primaryScreen();
+  if (screen == nullptr) return;
+  if (window_->isVisible() && window_->geometry() == screen->geometry()) return;
+  window_->setWindowState(Qt::WindowNoState);
+  window_->setScreen(screen);
+  window_->setGeometry(screen->geometry());
+  window_->setWindowState(Qt::WindowFullScreen);
+  window_->show();
+}
+
+void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
+  screens_.reset();
+  TakeFlags(Qt::Window);
+  window_->setWindowState(Qt::WindowNoState);
+  window_->resize(QGuiApplication::primaryScreen()->availableSize() * kWindowShare);
+  place(*window_);
+  window_->show();
   window_->requestActivate();
 }
 
-void WindowSurface::ShowResizable() {
-  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect place(QPoint(), room.size() * kWindowShare);
-  place.moveCenter(room.center());
-  window_->setFlags(Qt::Window);
-  window_->setGeometry(place);
+/// A window that is shown changes its frame only when it comes up again. The toolkit selects its
+/// events anew then, and only its own.
+void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
+  window_->hide();
+  window_->setFlags(flags);
+  if (window_->handle() != nullptr) WatchSight();
+}
+
+void WindowSurface::WatchSight() { sight_ = MakeSightWatch(*window_); }
+
+bool WindowSurface::ShowInside(ForeignWindow& host) {
+  // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
+  window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                    Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+  if (!host.TakeIn(*window_)) return false;
   window_->show();
-  window_->requestActivate();
+  return true;
 }
 
 QWindow& WindowSurface::Window() { return *window_; }
 
 bool WindowSurface::IsExposed() const { return window_->isExposed(); }
 
-void WindowSurface::TakeWindowSize() {
-  Resize(static_cast<Integer>(window_->width()), static_cast<Integer>(window_->height()));
+bool WindowSurface::IsSeen() const { return IsExposed() && !(sight_ && sight_->IsHidden()); }
+
+void WindowSurface::TakeWindowSize() { TakeSize(window_->size()); }
+
+void WindowSurface::TakeSize(QSize size) {
+  Resize(static_cast<Integer>(size.width()), static_cast<Integer>(size.height()));
 }
 
+bool WindowSurface::HasWindowSize() const { return window_->size() == QSize(Width(), Height()); }
+
 void WindowSurface::Present() {
-  if (window_->isExposed()) {
+  if (IsSeen()) {
     FitBackingStore();
     const bool whole = repaintAll_ || EverythingChanged();
     const QRegion region = whole ? QRegion(QRect(QPoint(), store_->size())) : TouchedRegion();

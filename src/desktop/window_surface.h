@@ -5,13 +5,18 @@
 #include <QRect>
 #include <QRegion>
 #include <QWindow>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "desktop/dirty_tiles.h"
+#include "desktop/foreign_window.h"
 #include "desktop/pixel_scale.h"
 #include "desktop/screen_image.h"
+#include "desktop/screen_watch.h"
+#include "desktop/sight_watch.h"
 #include "desktop/window_events.h"
 #include "platform/surface.h"
 
@@ -19,6 +24,12 @@ namespace starfolds {
 
 /// Where a full-screen window stands among the others.
 enum class Stacking { AtBottom, Ordinary, OnTop };
+
+/// Which screen a full-screen window covers.
+struct ScreenPlace {
+  int Number = 0;     // from 0, the primary screen first
+  bool Leads = true;  // of a saver's windows on several screens one does, and takes the focus
+};
 
 /// The canvas is the truth; `Present` copies what the journal names into the window's own picture
 /// and shows the touched tiles. The surface has a size of its own: it takes over the window's only
@@ -33,16 +44,27 @@ class WindowSurface : public Surface {
   void SetCaption(const std::string& caption);
   void HidePointer();
 
-  /// Covers the primary screen, without a frame, and takes the focus.
-  void ShowFullScreen(Stacking stacking);
-  /// An ordinary window in the middle of the primary screen, with a frame, free to be resized.
-  void ShowResizable();
+  void ShowPointer();
 
-  /// Whether any of the window can be seen.
+  /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
+  /// such screen any more, that is the primary one.
+  void ShowFullScreen(Stacking stacking, ScreenPlace place = {});
+  /// An ordinary window with a frame, free to be resized, of a size that suits the screen. `place`
+  /// may give it another size and puts it somewhere, before it is shown.
+  void ShowResizable(const std::function<void(QWindow&)>& place);
+  /// Covers `host` from inside, without taking any input from it. False: the host is gone.
+  bool ShowInside(ForeignWindow& host);
+
+  /// Whether the window system has the window drawn.
   bool IsExposed() const;
+  /// Whether anybody could see it drawn: other windows do not cover it, and the screen is awake.
+  bool IsSeen() const;
 
   /// Makes the surface as large as the window; it is black afterwards.
   void TakeWindowSize();
+  /// The same with a size that the window has been given, but may not have yet.
+  void TakeSize(QSize size);
+  bool HasWindowSize() const;
 
   /// Shows the changes. While the window cannot be seen they cost nothing: it is painted whole from
   /// the canvas when it comes back.
@@ -53,6 +75,9 @@ class WindowSurface : public Surface {
  private:
   class EffectWindow;
 
+  void TakeFlags(Qt::WindowFlags flags);
+  void WatchSight();
+  void CoverScreen(ScreenPlace place);
   void Repaint();
   void FitBackingStore();
   QRegion TouchedRegion();
@@ -63,6 +88,8 @@ class WindowSurface : public Surface {
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
+  std::unique_ptr<SightWatch> sight_;  // none where the window system does not tell
+  std::optional<ScreenWatch> screens_;
   bool repaintAll_ = true;
   double factor_ = 1;  // physical pixels per logical one
   DirtyTiles tiles_;

@@ -1,16 +1,23 @@
 // The application's window.
 #pragma once
 
+#include <functional>
+#include <optional>
+
+#include "desktop/message_window.h"
 #include "hosting/run_loop.h"
 
 namespace starfolds {
+
+/// Shows the properties dialog over a window that it blocks, and returns when it is closed.
+using PropertiesDialog = std::function<void()>;
 
 /// Runs the effect for somebody who started the program as an application: full-screen, or in a
 /// window that can be resized. Esc leaves, F5 begins anew, anything else asks for the properties
 /// dialog.
 class FrmAppExe : private WindowEvents {
  public:
-  FrmAppExe(Saver& saver, SeedSource seed);
+  FrmAppExe(Saver& saver, SeedSource seed, PropertiesDialog frmProps);
   ~FrmAppExe() override;
 
   /// Shows the window and runs the effect. Returns when the user has left; the window goes with
@@ -25,6 +32,7 @@ class FrmAppExe : private WindowEvents {
   void CloseRequested() override;
   void Destroyed() override;
 
+  void SavePlacement();
   void Show();
   void AppRun();
   void AppQuit();
@@ -33,9 +41,11 @@ class FrmAppExe : private WindowEvents {
 
   Saver& saver_;
   SeedSource seed_;
-  bool started_ = false;  // Started: false when the effect is to begin (again)
-  bool propertiesAskedFor_ = false;
+  PropertiesDialog frmProps_;
+  bool started_ = false;           // Started: false when the effect is to begin (again)
+  std::optional<bool> resizable_;  // how the window is shown; nothing before it is
   WindowSurface surface_;
+  MessageWindow picMessage_;
 };
 
 }  // namespace starfolds

@@ -3,31 +3,52 @@
 #include <utility>
 
 #include "hosting/captions.h"
+#include "hosting/lock_message.h"
+#include "hosting/saver_password.h"
 #include "settings/storage.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
 
-FrmSaver::FrmSaver(Saver& saver, SeedSource seed)
+FrmSaver::FrmSaver(Saver& saver, SeedSource seed, ScreenPlace place)
     : saver_(saver),
       seed_(std::move(seed)),
+      place_(place),
       backG_(LoadAdvancedFromRegistry(*saver.Tree).Adv_DispBackG),
       input_(LoadAdvancedFromRegistry(*saver.Tree).Adv_MouseMove, backG_),
-      surface_(*this) {
+      surface_(*this),
+      picMessage_(surface_.Window()) {
   surface_.SetName("frmSaver");
-  surface_.SetCaption(kSaverCaption);
+  if (place_.Leads) surface_.SetCaption(kSaverCaption);
 }
 
-FrmSaver::~FrmSaver() { saver_.Screen.hDCDraw = nullptr; }
+FrmSaver::~FrmSaver() {
+  SetSaverRunning(saver_, false);
+  saver_.Screen.hDCDraw = nullptr;
+}
 
+/// The pointer is hidden from a background, too.
 void FrmSaver::Load() {
-  saver_.StopRun = false;
   surface_.HidePointer();
-  surface_.ShowFullScreen(backG_ ? Stacking::AtBottom : Stacking::OnTop);
+  surface_.ShowFullScreen(backG_ ? Stacking::AtBottom : Stacking::OnTop, place_);
+  StackSaver(saver_, backG_);
+  saver_.StopRun = false;
+  do {
+    RunInWindow();
+  } while (outgrown_ && !leaving_ && !saver_.QuitApp);
+}
+
+/// A screen that changes its size ends the run, and gets another one that fits.
+void FrmSaver::RunInWindow() {
+  if (outgrown_) saver_.StopRun = false;
+  outgrown_ = false;
   WaitUntilShown(saver_, surface_);
   surface_.TakeWindowSize();
   SetupDisplay(saver_, surface_, seed_());
+  ShowLockMessage(picMessage_, saver_.Advanced);
+  running_ = true;
   RunEffect(saver_, surface_);
+  running_ = false;
 }
 
 void FrmSaver::KeyDown(int) {
@@ -48,8 +69,25 @@ void FrmSaver::MouseMove(int, int) {
 
 void FrmSaver::CloseRequested() { QueryUnload(); }
 
-void FrmSaver::Destroyed() { saver_.StopRun = true; }
+void FrmSaver::Resized() {
+  if (!running_ || surface_.HasWindowSize()) return;
+  outgrown_ = true;
+  saver_.StopRun = true;
+}
 
-void FrmSaver::QueryUnload() { saver_.StopRun = true; }
+void FrmSaver::Destroyed() {
+  leaving_ = true;
+  saver_.StopRun = true;
+}
+
+/// The question for the password runs window events itself. If the answer is wrong the run goes on
+/// in the frame that it is in, unless the system has asked it to end meanwhile.
+void FrmSaver::QueryUnload() {
+  if (leaving_) return;
+  leaving_ = true;
+  saver_.StopRun = true;
+  leaving_ = VerifySaverPassword(saver_);
+  if (!leaving_) saver_.StopRun = saver_.QuitApp;
+}
 
 }  // namespace starfolds

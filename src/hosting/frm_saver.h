@@ -1,15 +1,18 @@
 // The screen saver's window.
 #pragma once
 
+#include "desktop/message_window.h"
 #include "hosting/run_loop.h"
 #include "hosting/saver_input.h"
 
 namespace starfolds {
 
-/// Covers the screen and runs the effect until the user comes back.
+/// Covers a screen and runs the effect until the user comes back.
 class FrmSaver : private WindowEvents {
  public:
-  FrmSaver(Saver& saver, SeedSource seed);
+  /// Of the windows of a saver on several screens only the one that leads has the caption by which
+  /// other processes know that a saver runs.
+  FrmSaver(Saver& saver, SeedSource seed, ScreenPlace place = {});
   ~FrmSaver() override;
 
   /// Shows the window and runs the effect. Returns when the saver is to go; the window goes with
@@ -24,14 +27,22 @@ class FrmSaver : private WindowEvents {
   void DoubleClick() override;
   void MouseMove(int x, int y) override;
   void CloseRequested() override;
+  void Resized() override;
   void Destroyed() override;
+
+  void RunInWindow();
   void QueryUnload();
 
   Saver& saver_;
   SeedSource seed_;
+  ScreenPlace place_;
   bool backG_;  // BackG: a background of the desktop that input does not disturb
   SaverInput input_;
+  bool running_ = false;
+  bool outgrown_ = false;  // the run ends because the window has another size
+  bool leaving_ = false;   // the user may go, or is being asked for the password
   WindowSurface surface_;
+  MessageWindow picMessage_;
 };
 
 }  // namespace starfolds

@@ -22,15 +22,12 @@ bool SaverInput::MouseMove(double secondsSinceMidnight) {
 /// four: the pointer is ignored then until the ten seconds are over. At midnight the seconds fall
 /// back and the wait only gets longer.
 bool SaverInput::CountMove(double secondsSinceMidnight) {
-  ++moveCount_;
-  const bool close = moveCount_ == kMovesToClose && !backG_;
-  if (firstMoveTime_ == 0) {
+  if (moveCount_ == 0 || secondsSinceMidnight - firstMoveTime_ > kSecondsForMoves) {
     AssignRounded(firstMoveTime_, secondsSinceMidnight);
-  } else if (secondsSinceMidnight - firstMoveTime_ > kSecondsForMoves) {
-    firstMoveTime_ = 0;
     moveCount_ = 0;
   }
-  return close;
+  ++moveCount_;
+  return moveCount_ == kMovesToClose && !backG_;
 }
 
 }  // namespace starfolds

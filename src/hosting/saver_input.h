@@ -17,8 +17,9 @@ class SaverInput {
   bool MouseDown() const { return !backG_; }
   bool DoubleClick() const { return backG_; }
 
-  /// Four moves within ten seconds of the first end the saver. A knocked table does not, nor does
-  /// the place that a new window is told of first: nobody has moved then.
+  /// Four moves within ten seconds of the first end the saver; a move that comes later begins a new
+  /// series and is its first. So a knocked table does not end it, nor does the place that a new
+  /// window is told of first: nobody has moved then.
   bool MouseMove(double secondsSinceMidnight);
 
  private:
@@ -27,8 +28,8 @@ class SaverInput {
   bool mouseMoveOff_;
   bool backG_;
   bool placeKnown_ = false;
-  Long moveCount_ = 0;      // MoveCount
-  Long firstMoveTime_ = 0;  // FirstMoveTime, in seconds since midnight; 0: no move yet
+  Long moveCount_ = 0;      // MoveCount, of the series
+  Long firstMoveTime_ = 0;  // FirstMoveTime, in seconds since midnight
 };
 
 }  // namespace starfolds

@@ -229,6 +229,31 @@ TEST_F(WindowSurfaceTest, RepaintsWhatAnotherWindowHasCovered) {
   ExpectShown();
 }
 
+TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
+  if (QGuiApplication::platformName() != "xcb") GTEST_SKIP() << "nobody tells of covers";
+  ShowAt(200, 150);
+  Target.TakeWindowSize();
+  Scatter(300);
+  Target.Present();
+  EXPECT_TRUE(Target.IsSeen());
+  {
+    WindowSurface above(Heard);
+    above.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
+    above.Window().setGeometry(10, 5, 250, 200);
+    above.Window().show();
+    above.Window().raise();
+    ASSERT_TRUE(PumpUntil([&] { return !Target.IsSeen(); }));
+    Scatter(50);
+    Target.Present();
+    above.Window().setGeometry(10, 5, 100, 200);
+    ASSERT_TRUE(PumpUntil([&] { return Target.IsSeen(); }));
+  }
+  Settle();
+  Scatter(5);
+  Target.Present();
+  ExpectShown();
+}
+
 TEST_F(WindowSurfaceTest, CoversTheScreen) {
   Target.ShowFullScreen(Stacking::OnTop);
   ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));

@@ -5,6 +5,12 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QString>
+#include <algorithm>
+#include <cstddef>
+#include <fstream>
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "hosting/host_fixture.h"
@@ -15,7 +21,10 @@ namespace {
 class FrmAppExeTest : public HostTest {
  protected:
   int Run() {
-    Form.emplace(*State, NextSeed);
+    Form.emplace(*State, NextSeed, [this] {
+      ++Dialogs;
+      if (InDialog) InDialog();
+    });
     Form->Activate();
     return Events.Pumps;
   }
@@ -23,6 +32,8 @@ class FrmAppExeTest : public HostTest {
   QWindow& Window() { return Form->Window(); }
 
   std::optional<FrmAppExe> Form;
+  int Dialogs = 0;
+  std::function<void()> InDialog;
 };
 
 TEST_F(FrmAppExeTest, FillsTheScreenWithoutACaption) {
@@ -103,14 +114,121 @@ TEST_F(FrmAppExeTest, LeavesForGoodAlsoRightAfterF5) {
   EXPECT_EQ(Seeds, 1);
 }
 
-TEST_F(FrmAppExeTest, GoesOnWhenAskedForSettingsAndSaysOnceThatThereAreNone) {
-  testing::internal::CaptureStderr();
-  Events.Plan[2] = [&] { Press(Window(), Qt::Key_Space); };
-  Events.Plan[3] = [&] { Click(Window()); };
-  Events.Plan[30] = [&] { Press(Window(), Qt::Key_Escape); };
-  EXPECT_EQ(Run(), 30);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "The settings dialog is not part of this version yet.\n");
+TEST_F(FrmAppExeTest, ShowsThePropertiesAndBeginsAnewWithThem) {
+  InDialog = [&] {
+    Store("Universe", "Universe_Stars", 70);
+    Store("Advanced", "Adv_WinResize", Dialogs == 1 ? 1 : 0);
+    State->NewRun = true;
+  };
+  Events.Plan[20] = [&] { Press(Window(), Qt::Key_Space); };
+  Events.Plan[21] = [&] {
+    EXPECT_EQ(Seeds, 2);
+    EXPECT_EQ(State->Universe.Universe_Stars, 70);
+    EXPECT_FALSE(State->NewRun) << "the fresh run would end at once";
+    EXPECT_EQ(Window().title(), "TSLN:Starfolds 4.1a");
+    EXPECT_EQ(State->Screen.SurfaceWidth, Window().width());
+    Click(Window());
+  };
+  Events.Plan[22] = [&] {
+    EXPECT_EQ(Window().title(), "");
+    EXPECT_EQ(State->Screen.SurfaceWidth, QGuiApplication::primaryScreen()->size().width());
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), 22);
+  EXPECT_EQ(Dialogs, 2);
+}
+
+/// A placement as it is stored, in twips of 15 to the pixel.
+std::string PlacementText(const QWindow& window) {
+  const QPoint place = window.framePosition() * 15;
+  const QSize size = window.size() * 15;
+  return QString::asprintf("%05d%05d%05d%05d", std::max(place.x(), 0), std::max(place.y(), 0),
+                           size.width(), size.height())
+      .toStdString();
+}
+
+TEST_F(FrmAppExeTest, ComesBackWhereItWas) {
+  const auto stored = [&] { return RegistryReadText(Tree, "General", "WindowSize"); };
+  Store("Advanced", "Adv_WinResize", 1);
+  Store("General", "WindowState", 0);
+  RegistryWrite(Tree, "General", "WindowSize", "00300004500900006000");
+  Events.Plan[2] = [&] {
+    EXPECT_EQ(PlacementText(Window()), "00300004500900006000");
+    Window().resize(500, 400);
+    InDialog = [&] { EXPECT_EQ(stored(), PlacementText(Window())); };
+    Press(Window(), Qt::Key_Space);
+    EXPECT_EQ(Dialogs, 1);
+  };
+  QPoint before;
+  Events.Plan[3] = [&] {
+    Window().setGeometry(-100, 50, 500, 300);
+    before = Window().position();
+    Press(Window(), Qt::Key_F5);
+    EXPECT_EQ(stored(), PlacementText(Window()));
+    EXPECT_EQ(stored().substr(0, 5), "00000");
+  };
+  Events.Plan[4] = [&] {
+    EXPECT_EQ(Window().position(), before) << "a fresh run moves no window";
+    Window().setGeometry(40, 50, 510, 310);
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), 4);
+  EXPECT_EQ(stored(), PlacementText(Window()));
+  EXPECT_EQ(stored().substr(10), "0765004650");
+}
+
+TEST_F(FrmAppExeTest, ComesBackWhereItCanBeReached) {
+  Store("Advanced", "Adv_WinResize", 1);
+  Store("General", "WindowState", 0);
+  RegistryWrite(Tree, "General", "WindowSize", "99999999990000099999");
+  Events.Plan[2] = [&] {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    EXPECT_TRUE(screen.adjusted(0, 0, -50, -50).contains(Window().position()));
+    EXPECT_GE(Window().width(), 50);
+    EXPECT_LE(Window().height(), screen.height());
+    Press(Window(), Qt::Key_Escape);
+  };
+  Run();
+}
+
+TEST_F(FrmAppExeTest, EndsIfTheDialogSaysSo) {
+  InDialog = [&] { State->QuitApp = true; };
+  Events.Plan[20] = [&] { Click(Window()); };
+  EXPECT_EQ(Run(), 20);
+  EXPECT_EQ(Seeds, 1);
+}
+
+/// What the process holds, in bytes; nothing where that is not told.
+std::size_t ResidentBytes() {
+  std::ifstream file("/proc/self/statm");
+  std::size_t pages = 0;
+  file >> pages >> pages;
+  return pages * 4096;
+}
+
+/// Runs within runs would keep more than half a megabyte each, and their part of the stack.
+TEST_F(FrmAppExeTest, HoldsNoMoreAfterAThousandFreshRuns) {
+  constexpr int runs = 1000;
+  constexpr int settled = 600;  // a sanitizer keeps what was freed last
+  Store("Universe", "Universe_Stars", 5000);
+  const void* depth = nullptr;
+  std::size_t before = 0;
+  for (int i = 1; i <= runs; ++i) {
+    Events.Plan[i] = [&, i] {
+      if (i == settled) {
+        depth = __builtin_frame_address(0);
+        before = ResidentBytes();
+      }
+      Press(Window(), Qt::Key_F5);
+    };
+  }
+  Events.Plan[runs + 1] = [&] {
+    EXPECT_EQ(__builtin_frame_address(0), depth);
+    EXPECT_LT(ResidentBytes(), before + 64 * 1024 * 1024);
+    Press(Window(), Qt::Key_Escape);
+  };
+  EXPECT_EQ(Run(), runs + 1);
+  EXPECT_EQ(Seeds, runs + 1);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "hosting/frm_saver.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QCursor>
@@ -10,6 +11,9 @@
 
 namespace starfolds {
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 class FrmSaverTest : public HostTest {
  protected:
@@ -111,6 +115,148 @@ TEST_F(FrmSaverTest, LeavesNoSurfaceBehind) {
   Run();
   Form.reset();
   EXPECT_EQ(State->Screen.hDCDraw, nullptr);
+}
+
+TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRun) {
+  Events.Plan[3] = [&] {
+    Window().setWindowState(Qt::WindowNoState);
+    Window().resize(300, 200);
+  };
+  Events.Plan[5] = [&] {
+    EXPECT_EQ(Seeds, 2);
+    EXPECT_EQ(State->Screen.SurfaceWidth, 300);
+    EXPECT_EQ(State->Screen.hDCDraw->Height(), 200);
+    Window().resize(400, 200);
+    Press(Window(), Qt::Key_A);
+  };
+  EXPECT_EQ(Run(), 5);
+}
+
+TEST_F(FrmSaverTest, OnItsOwnScreenOnlyHasTheCaption) {
+  Form.emplace(*State, NextSeed, ScreenPlace{0, false});
+  Events.Plan[2] = [&] {
+    EXPECT_EQ(Window().title(), "");
+    EXPECT_TRUE(Window().flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+    State->StopRun = true;
+  };
+  Form->Load();
+}
+
+/// On Windows 9x, with a password.
+class FrmSaverPassword : public FrmSaverTest {
+ protected:
+  FrmSaverPassword() {
+    Platform.Id = kWindows9x;
+    Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", "1");
+  }
+
+  /// What the surface shows after `frames` frames of a run that a key disturbs in between.
+  std::vector<Colour> Picture(int frames, int key) {
+    Events.Pumps = 0;
+    Seeds = 0;
+    std::vector<Colour> picture;
+    Events.Plan = {{key, [&] { Press(Window(), Qt::Key_A); }}};
+    Events.Plan[frames] = [&] {
+      picture = State->Screen.hDCDraw->Pixels();
+      State->StopRun = true;
+    };
+    EXPECT_EQ(Run(), frames);
+    return picture;
+  }
+};
+
+TEST_F(FrmSaverPassword, GoesOnInTheSameFrameIfItIsRefused) {
+  const std::vector<Colour> undisturbed = Picture(50, 51);
+  Form.reset();
+  Platform.Verdict = 0;
+  Platform.Log.clear();
+  EXPECT_EQ(Picture(50, 20), undisturbed);
+  Form.reset();
+  EXPECT_THAT(Platform.Log, ElementsAre("behind -1", "verify", "not running"));
+}
+
+TEST_F(FrmSaverPassword, EndsTheSaverIfItIsRightOrCannotBeAskedFor) {
+  Events.Plan[5] = [&] { Click(Window()); };
+  EXPECT_EQ(Run(), 5);
+  Platform.Verdict = std::nullopt;
+  Events.Plan[9] = [&] { Click(Window()); };
+  EXPECT_EQ(Run(), 9);
+}
+
+/// The dialog runs window events while it is shown.
+class SlowDialog : public ScriptedPlatform {
+ public:
+  std::function<void()> Meanwhile;
+
+  std::optional<Long> VerifyScreenSavePwd() override {
+    Meanwhile();
+    return ScriptedPlatform::VerifyScreenSavePwd();
+  }
+};
+
+TEST_F(FrmSaverPassword, IsAskedForOnceAtATime) {
+  SlowDialog dialog;
+  dialog.Id = kWindows9x;
+  dialog.Verdict = 0;
+  dialog.Meanwhile = [&] { Press(Window(), Qt::Key_B); };
+  State->Platform = &dialog;
+  Events.Plan[3] = [&] { Press(Window(), Qt::Key_A); };
+  Events.Plan[4] = [&] {
+    EXPECT_THAT(dialog.Log, ElementsAre("behind -1", "verify"));
+    dialog.Meanwhile = [&] { State->QuitApp = State->StopRun = true; };
+    Press(Window(), Qt::Key_A);
+  };
+  EXPECT_EQ(Run(), 4) << "the system's request to end was lost";
+  Form.reset();
+}
+
+TEST_F(FrmSaverPassword, IsNoMatterOfLaterPlatforms) {
+  Platform.Id = kLaterPlatform;
+  Platform.Verdict = 0;
+  Store("Advanced", "Adv_DispBackG", 1);
+  Events.Plan[5] = [&] { Click(Window(), QEvent::MouseButtonDblClick); };
+  EXPECT_EQ(Run(), 5);
+  Form.reset();
+  EXPECT_THAT(Platform.Log, IsEmpty());
+}
+
+class FrmSaverMessage : public FrmSaverTest {
+ protected:
+  /// The message's window while a saver with this text runs, or null.
+  void WithMessage(const char* text, const std::function<void(QWindow*)>& look) {
+    RegistryWrite(Tree, "Advanced", "LockMessage", text);
+    Events.Pumps = 0;
+    Events.Plan[2] = [&] {
+      look(Window().findChild<QWindow*>("picMessage"));
+      State->StopRun = true;
+    };
+    Run();
+  }
+};
+
+TEST_F(FrmSaverMessage, StandsInTheMiddleOfTheUpperEdge) {
+  for (const char* const text : {"Back at ten", "\u00dcbung \u661f"}) {
+    WithMessage(text, [&](QWindow* line) {
+      ASSERT_NE(line, nullptr);
+      EXPECT_TRUE(line->isVisible());
+      EXPECT_EQ(line->y(), 5);
+      EXPECT_GT(line->width(), 50);
+      EXPECT_LT(line->width(), 500);
+      EXPECT_NEAR(line->x() * 2 + line->width(), Window().width(), 1);
+    });
+  }
+}
+
+TEST_F(FrmSaverMessage, IsCutOffAtBothSidesIfItIsTooLong) {
+  RegistryWrite(Tree, "Advanced", "Adv_FontSize", Long{80});
+  WithMessage(std::string(100, 'W').c_str(), [&](QWindow* line) {
+    EXPECT_LT(line->x(), -1000);
+    EXPECT_NEAR(line->x() * 2 + line->width(), Window().width(), 1);
+  });
+}
+
+TEST_F(FrmSaverMessage, IsNotThereIfItIsEmpty) {
+  WithMessage("   ", [&](QWindow* line) { EXPECT_FALSE(line->isVisible()); });
 }
 
 }  // namespace

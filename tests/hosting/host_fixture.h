@@ -45,6 +45,7 @@ class HostTest : public testing::Test {
   HostTest() {
     State->Events = &Events;
     State->Desktop = &Desktop;
+    State->Platform = &Platform;
     State->Tree = &Tree;
     UniverseSettings universe;
     universe.Universe_Stars = 50;
@@ -55,6 +56,7 @@ class HostTest : public testing::Test {
     universe.Universe_GPCtrl = 1;
     universe.Universe_GCCtrl = 0;
     SaveUniverseToRegistry(Tree, universe);
+    RegistryWrite(Tree, "General", "AnimationType", Long{0});  // a complete set
   }
 
   /// Changes what is stored.
@@ -80,6 +82,7 @@ class HostTest : public testing::Test {
   std::unique_ptr<Saver> State = std::make_unique<Saver>();
   PlannedPump Events{*State};
   MemoryDesktop Desktop;
+  ScriptedPlatform Platform;
   MemoryTree Tree;
   int Seeds = 0;  // how often a host has set up a run
   std::function<std::uint64_t()> NextSeed = [this] { return static_cast<std::uint64_t>(++Seeds); };

@@ -42,7 +42,11 @@ class NotedActions : public StartActions {
 
 class MainTest : public testing::Test {
  protected:
-  MainTest() { State->Desktop = &Desktop; }
+  MainTest() {
+    State->Desktop = &Desktop;
+    State->Platform = &Platform;
+    State->Tree = &Tree;
+  }
 
   std::vector<std::string> NotesOf(const std::string& commandLine) {
     Actions.Notes.clear();
@@ -52,6 +56,8 @@ class MainTest : public testing::Test {
 
   std::unique_ptr<Saver> State = std::make_unique<Saver>();
   MemoryDesktop Desktop;
+  ScriptedPlatform Platform;
+  MemoryTree Tree;
   NotedActions Actions{*State};
 };
 
@@ -170,6 +176,21 @@ TEST_F(MainTest, LetsAStoppedEffectBeginAgain) {
   State->StopRun = true;
   ShowEffectWindow(*State, Actions);
   EXPECT_THAT(Actions.Notes, ElementsAre("application as application"));
+}
+
+TEST_F(MainTest, BlocksTheTaskSwitchKeysOnlyForASaverWithAPasswordOnWindows9x) {
+  NotesOf("/S");
+  Platform.Id = kWindows9x;
+  NotesOf("/S");
+  for (const char* const value : {"", "0", "no"}) {
+    Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", value);
+    NotesOf("/S");
+  }
+  Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", "1");
+  NotesOf("/C");
+  EXPECT_THAT(Platform.Log, IsEmpty());
+  NotesOf("/S");
+  EXPECT_THAT(Platform.Log, ElementsAre("running"));
 }
 
 }  // namespace

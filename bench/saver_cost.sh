@@ -1,0 +1,102 @@
+#!/usr/bin/env bash
+# What the whole saver costs on an X server, beside two savers of the xscreensaver collection that
+# draw points as well: processor time for each second of the picture, of the program and of the
+# server apart. galaxy moves about 2250 stars a galaxy and erases them; discrete plots 4096 points a
+# frame in few colours and erases none. Takes some seven minutes, on a machine that does nothing else.
+# Usage: bench/saver_cost.sh [PROGRAM]   (the path of starfolds)
+set -euo pipefail
+program=$(realpath "${1:-build/release/src/app/starfolds}")
+hacks=/usr/libexec/xscreensaver
+packages=(xvfb xscreensaver-data xscreensaver-data-extra)
+seconds=${SECONDS_A_ROW:-15} # that each row is measured
+warm_up=3                    # and that it runs before
+
+install_missing() {
+  local root=()
+  if command -v Xvfb >/dev/null && [[ -x $hacks/galaxy && -x $hacks/discrete ]]; then return; fi
+  [[ $(id -u) -eq 0 ]] || root=(sudo)
+  "${root[@]}" apt-get -qq update
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0 install \
+    --no-install-recommends "${packages[@]}" >/dev/null
+}
+
+folder=$(mktemp -d)
+server=
+client=
+end_both() {
+  local process
+  for process in $client $server; do
+    kill "$process" 2>/dev/null || true
+    wait "$process" 2>/dev/null || true
+  done
+  client=
+  server=
+}
+trap 'end_both; rm -r "$folder"' EXIT
+trap 'exit 143' HUP INT TERM
+
+# start_server SIZE: an X server of our own with a screen of this size.
+start_server() {
+  : >"$folder/display"
+  Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$folder/display" 2>/dev/null &
+  server=$!
+  until [[ -s $folder/display ]]; do sleep 0.05; done
+  DISPLAY=:$(<"$folder/display")
+  export DISPLAY
+}
+
+# The processor time of a process so far, in milliseconds.
+cpu() {
+  local fields
+  fields=$(sed 's/.*) //' "/proc/$1/stat")
+  awk -v tick="$(getconf CLK_TCK)" '{ print ($12 + $13) * 1000 / tick }' <<<"$fields"
+}
+
+# row SIZE NAME STARS FRAMES COMMAND...: runs the command on a server of its own and prints its row.
+row() {
+  local size=$1 name=$2 stars=$3 frames=$4 before after
+  shift 4
+  start_server "$size"
+  env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 "$@" >/dev/null 2>&1 &
+  client=$!
+  sleep "$warm_up"
+  before=$(cpu "$client") before_server=$(cpu "$server")
+  sleep "$seconds"
+  after=$(cpu "$client") after_server=$(cpu "$server")
+  awk -v size="$size" -v name="$name" -v stars="$stars" -v frames="$frames" -v s="$seconds" \
+    -v client="$after $before" -v server="$after_server $before_server" 'BEGIN {
+      split(client, c); split(server, x)
+      a = (c[1] - c[2]) / s; b = (x[1] - x[2]) / s
+      printf "%-10s %-10s %7s %7s %9.1f %9.1f %9.1f\n", size, name, stars, frames, a, b, a + b }'
+  end_both
+}
+
+# saver SIZE STARS FRAMES DELAY: our own, in the midst of a tour. A delay of 0 is a frame for each
+# refresh of the screen, of which the server has 60 a second.
+saver() {
+  row "$1" starfolds "$2" "$3" "$program" --saver --seed 5 --set Universe_Stars="$2" \
+    --set Universe_ESteps=10 --set Adv_TimeDelay="$4"
+}
+
+# hack SIZE NAME STARS FRAMES OPTION...: one of the others.
+hack() {
+  local size=$1 name=$2 stars=$3 frames=$4
+  shift 4
+  row "$size" "$name" "$stars" "$frames" "$hacks/$name" --root --delay $((1000000 / frames)) "$@"
+}
+
+install_missing
+printf 'milliseconds of processor time for each second\n'
+printf '%-10s %-10s %7s %7s %9s %9s %9s\n' screen saver stars frames/s program server both
+for size in 1920x1080 3840x2160; do
+  saver "$size" 5000 25 40
+  hack "$size" galaxy 4500 25 --count 2
+  hack "$size" discrete 4096 25
+  saver "$size" 5000 60 0
+  hack "$size" galaxy 4500 60 --count 2
+  hack "$size" discrete 4096 60
+  saver "$size" 30000 25 40
+  hack "$size" galaxy 29250 25 --count 13
+  saver "$size" 30000 60 0
+  hack "$size" galaxy 29250 60 --count 13
+done

@@ -1,0 +1,108 @@
+#include "desktop/sight_watch.h"
+
+#include <xcb/dpms.h>
+#include <xcb/xcb.h>
+
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QWindow>
+#include <chrono>
+#include <cstdlib>
+
+namespace starfolds {
+namespace {
+
+/// The server's own events carry no mark of having been sent by a client.
+constexpr std::uint8_t kEventType = 0x7F;
+
+/// The screens' power saving, of which a server tells only if asked.
+class PowerSaving {
+ public:
+  explicit PowerSaving(xcb_connection_t* connection) : connection_(connection) {
+    const xcb_query_extension_reply_t* const extension =
+        xcb_get_extension_data(connection, &xcb_dpms_id);
+    known_ = extension != nullptr && extension->present != 0;
+  }
+
+  /// The answer may be as old as the wait between two questions. A screen that wakes up is to show
+  /// the stars again soon; one that falls asleep has time.
+  bool IsAsleep() {
+    const auto now = Clock::now();
+    if (known_ && now >= nextQuestion_) {
+      asleep_ = Ask();
+      nextQuestion_ = now + std::chrono::milliseconds(asleep_ ? 250 : 2000);
+    }
+    return asleep_;
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  bool Ask() const {
+    xcb_generic_error_t* error = nullptr;
+    xcb_dpms_info_reply_t* const info =
+        xcb_dpms_info_reply(connection_, xcb_dpms_info(connection_), &error);
+    const bool asleep =
+        info != nullptr && info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON;
+    std::free(info);
+    std::free(error);
+    return asleep;
+  }
+
+  xcb_connection_t* connection_;
+  bool known_ = false;
+  bool asleep_ = false;
+  Clock::time_point nextQuestion_;
+};
+
+class X11SightWatch : public SightWatch, private QAbstractNativeEventFilter {
+ public:
+  X11SightWatch(xcb_connection_t* connection, xcb_window_t window)
+      : window_(window), screens_(connection) {
+    SelectVisibility(connection);
+    QCoreApplication::instance()->installNativeEventFilter(this);
+  }
+
+  bool IsHidden() override { return covered_ || screens_.IsAsleep(); }
+
+ private:
+  /// Adds to the events that the toolkit has asked for.
+  void SelectVisibility(xcb_connection_t* connection) const {
+    xcb_generic_error_t* error = nullptr;
+    xcb_get_window_attributes_reply_t* const attributes = xcb_get_window_attributes_reply(
+        connection, xcb_get_window_attributes(connection, window_), &error);
+    if (attributes != nullptr) {
+      const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_VISIBILITY_CHANGE;
+      xcb_change_window_attributes(connection, window_, XCB_CW_EVENT_MASK, &mask);
+    }
+    std::free(attributes);
+    std::free(error);
+  }
+
+  bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
+    const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+    if ((event->response_type & kEventType) == XCB_VISIBILITY_NOTIFY) {
+      const auto* const change = static_cast<const xcb_visibility_notify_event_t*>(message);
+      if (change->window == window_) {
+        covered_ = change->state == XCB_VISIBILITY_FULLY_OBSCURED;
+      }
+    }
+    return false;
+  }
+
+  xcb_window_t window_;
+  bool covered_ = false;
+  PowerSaving screens_;
+};
+
+}  // namespace
+
+std::unique_ptr<SightWatch> MakeSightWatch(QWindow& window) {
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
+  return std::make_unique<X11SightWatch>(x11->connection(),
+                                         static_cast<xcb_window_t>(window.winId()));
+}
+
+}  // namespace starfolds

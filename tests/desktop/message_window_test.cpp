@@ -1,0 +1,115 @@
+// The message above a window whose pixels never rest, read back from the screen.
+#include "desktop/message_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
+#include <QWindow>
+#include <random>
+
+#include "desktop/qt_pump.h"
+#include "desktop/toolkit.h"
+#include "desktop/window_surface.h"
+
+namespace starfolds {
+namespace {
+
+class MessageWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "nothing shows there";
+    Target.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
+    Target.Window().setGeometry(20, 10, 500, 200);
+    Target.Window().show();
+    Settle();
+    Target.TakeWindowSize();
+  }
+
+  void Settle() {
+    const Long begin = Events.TickCount();
+    while (Events.TickCount() - begin < 100) Events.WaitForEvents(10);
+  }
+
+  /// Fills the whole surface with noise.
+  void ShowNoise() {
+    for (Long y = 0; y < Target.Height(); ++y) {
+      for (Long x = 0; x < Target.Width(); ++x) Target.SetPixelV(x, y, Random() | 0x010101U);
+    }
+    Target.Present();
+  }
+
+  QRect Box() { return Target.Window().findChild<QWindow*>("picMessage")->geometry(); }
+
+  QImage Grab(QRect part) {
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(Target.Window().winId(), part.x(), part.y(), part.width(), part.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+  }
+
+  /// Pixels that are neither black nor of the ink's hue, and the inked ones.
+  static std::pair<int, int> StrangeAndInked(const QImage& box) {
+    int strange = 0;
+    int inked = 0;
+    for (int y = 0; y < box.height(); ++y) {
+      for (int x = 0; x < box.width(); ++x) {
+        const QRgb pixel = box.pixel(x, y);
+        if (qRed(pixel) + qBlue(pixel) > 16) ++strange;
+        if (qGreen(pixel) > 200) ++inked;
+      }
+    }
+    return {strange, inked};
+  }
+
+  static constexpr Colour kGreen = 0x00FF00;
+
+  std::mt19937 Random{3};
+  WindowEvents Unheard;
+  QtPump Events;
+  WindowSurface Target{Unheard};
+  MessageWindow Message{Target.Window()};
+};
+
+TEST_F(MessageWindowTest, IsNeverDrawnOver) {
+  Message.Print("Back at ten", {"Arial", 20, kGreen});
+  Settle();
+  for (int i = 0; i < 20; ++i) {
+    ShowNoise();
+    Events.WaitForEvents(5);
+    const auto [strange, inked] = StrangeAndInked(Grab(Box()));
+    ASSERT_EQ(strange, 0);
+    ASSERT_GT(inked, 100);
+  }
+  EXPECT_GT(StrangeAndInked(Grab(Box().translated(0, Box().height()))).first, 1000);
+}
+
+TEST_F(MessageWindowTest, IsCutOffAtBothSides) {
+  Message.Print(std::string(60, 'H'), {"Arial", 20, kGreen});
+  Settle();
+  EXPECT_LT(Box().left(), -100);
+  EXPECT_GT(Box().right(), Target.Window().width() + 100);
+  for (const int x : {0, Target.Window().width() - 40}) {
+    EXPECT_GT(StrangeAndInked(Grab({x, Box().y(), 40, Box().height()})).second, 50);
+  }
+}
+
+TEST_F(MessageWindowTest, GoesAndComesAgain) {
+  Message.Print("Back at ten", {"Arial", 20, kGreen});
+  Settle();
+  const QRect box = Box();
+  Message.Hide();
+  Settle();
+  ShowNoise();
+  Settle();
+  EXPECT_GT(StrangeAndInked(Grab(box)).first, 1000);
+  Message.Print("10", {"Arial", 20, kGreen});
+  Settle();
+  EXPECT_EQ(StrangeAndInked(Grab(Box())).first, 0);
+  EXPECT_LT(Box().width(), box.width());
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,83 @@
+#!/bin/bash
+# endings_test.sh HOST_WINDOW: what ends the saver and the application, and what does not, by real
+# input on an X server.
+set -u
+host=$1
+. "$(dirname "$0")/../desktop/screen_tools.sh"
+
+# Moves the pointer NUMBER times, to another place each time.
+place=400
+moves() {
+  local i
+  for i in $(seq "$1"); do
+    place=$((place + 10))
+    xdotool mousemove "$place" 300
+    sleep 0.03
+  done
+}
+
+double_click() { xdotool click --repeat 2 --delay 60 1; }
+
+# ends INPUT WINDOW [SETTING]...: the input ends this window.
+ends() {
+  local input=$1
+  shift
+  xdotool mousemove 300 300
+  start "$host" "$@"
+  wait_for_stars
+  $input
+  expect_end "$input, $*"
+}
+
+# stays INPUT WINDOW [SETTING]...: the input does not end it.
+stays() {
+  local input=$1
+  shift
+  xdotool mousemove 300 300
+  start "$host" "$@"
+  wait_for_stars
+  $input
+  sleep 0.3
+  expect_running "$input, $*"
+  stop
+}
+
+disturb_all() {
+  xdotool key a key Escape click 1
+  sleep 0.6 # or the next click would be the second of a double click
+  xdotool click 3
+  moves 8
+}
+
+background=Advanced/Adv_DispBackG=1
+keep_still=Advanced/Adv_MouseMove=1
+message=Advanced/LockMessage=Back_at_ten
+
+ends 'xdotool key a' saver $keep_still
+ends 'xdotool key shift' saver
+ends 'xdotool click 1' saver $keep_still
+ends 'xdotool click 3' saver
+ends 'moves 5' saver
+stays 'moves 3' saver
+stays 'moves 20' saver $keep_still
+stays disturb_all saver $background
+ends double_click saver $background
+stays 'moves 20' saver $background
+
+# The message takes no input for itself.
+ends 'xdotool mousemove 400 15 click 1' saver $keep_still $message
+
+ends 'xdotool key Escape' application
+stays 'moves 20' application
+stays 'xdotool key F5 key F5 click 1 key a' application
+
+# A key ends the process within a frame of a slow pace, and some time for the process to go.
+start "$host" saver Advanced/Adv_TimeDelay=2000
+wait_for_stars
+begin=$(date +%s%N)
+xdotool key a
+expect_end "a key in a long frame"
+took=$((($(date +%s%N) - begin) / 1000000))
+[ "$took" -lt 1000 ] || fault "a key waits $took ms for the end of a frame"
+
+[ "$faults" = 0 ] || exit 1
