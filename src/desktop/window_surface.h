@@ -13,6 +13,7 @@
 
 #include "desktop/dirty_tiles.h"
 #include "desktop/pixel_scale.h"
+#include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
 #include "desktop/screen_watch.h"
 #include "desktop/sight_watch.h"
@@ -71,19 +72,21 @@ class WindowSurface : public Surface {
   class EffectWindow;
 
   void TakeFlags(Qt::WindowFlags flags);
-  void WatchSight();
+  void MeetWindow();
   void CoverScreen(ScreenPlace place);
   void Repaint();
   void FitBackingStore();
   QRegion TouchedRegion();
   bool Paint(QPaintDevice& picture, bool whole);
+  bool DrawPoints(const QRegion& region);
   void MeasureScale(QSize pictureSize);
   void PaintDirectly(ScreenImage image, bool whole);
   void PaintWithPainter(QPaintDevice& picture, bool whole);
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
-  std::unique_ptr<SightWatch> sight_;  // none where the window system does not tell
+  std::unique_ptr<SightWatch> sight_;     // none where the window system does not tell
+  std::unique_ptr<PointPainter> points_;  // none where the window system cannot
   std::optional<ScreenWatch> screens_;
   bool repaintAll_ = true;
   double factor_ = 1;  // physical pixels per logical one
