@@ -13,6 +13,7 @@ namespace starfolds {
 enum class BoxStyle : Integer {
   Plain = 0,  // "OK"
   YesNoCancelQuestion = 35,
+  Information = 64,  // "OK"
   Exclamation = 48,  // "OK"
 };
 

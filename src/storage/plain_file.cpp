@@ -48,11 +48,6 @@ class LockedFile {
 
   bool IsLocked() const { return locked_; }
 
-  bool Is(const FileIdentity& identity) const {
-    struct stat status {};
-    return fstat(file_, &status) == 0 && IdentityOf(status) == identity;
-  }
-
  private:
   bool Lock() const {
     struct flock lock {};
@@ -104,9 +99,10 @@ bool MakeFolders(const std::string& folder, unsigned rights) {
 }
 
 bool CanMakeFilesBeside(const std::string& path) {
-  std::error_code error;
-  const fs::path folder = fs::weakly_canonical(path, error).parent_path();
-  return !error && faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+  std::error_code missing;
+  const fs::path target = fs::canonical(path, missing);
+  const fs::path folder = (missing ? fs::path(path) : target).parent_path();
+  return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 std::optional<std::string> SetAside(const std::string& path, const FileIdentity& identity,
@@ -115,7 +111,7 @@ std::optional<std::string> SetAside(const std::string& path, const FileIdentity&
   const std::string target = fs::canonical(path, error).string();  // not a link to it
   if (error) return std::nullopt;
   const LockedFile file(target, patience);
-  if (!file.IsLocked() || !file.Is(identity)) return std::nullopt;
+  if (!file.IsLocked()) return std::nullopt;
   // Whoever has set it aside in the meantime held this lock, so the path is looked at under it.
   if (LookAtFile(target).Identity != identity) return std::nullopt;
   std::optional<std::string> name = FreeName(target);

@@ -19,7 +19,6 @@ constexpr const char* kMakeTable =
     "text TEXT NOT NULL, PRIMARY KEY(path, name)) WITHOUT ROWID";
 constexpr const char* kFindTable =
     "SELECT sql FROM sqlite_schema WHERE name = 'tree' COLLATE NOCASE";
-constexpr const char* kCheck = "PRAGMA integrity_check(1)";
 constexpr const char* kGet = "SELECT text FROM tree WHERE path = ?1 AND name = ?2";
 constexpr const char* kPut =
     "INSERT INTO tree VALUES (?1, ?2, ?3) "
@@ -45,6 +44,9 @@ constexpr std::pair<int, int> kLimits[] = {
 };
 constexpr int kStepsAtOnce = 1000;  // of SQLite's machine; a value read or written takes some 30
 constexpr std::clock_t kMostTime = CLOCKS_PER_SEC;  // of the processor, for one statement
+
+constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+constexpr int kMostPages = 10'000;  // that are copied; a full tree has some hundred
 
 constexpr int kLongestPause = 10;  // ms between two tries for a lock
 
@@ -85,6 +87,16 @@ void Distrust(sqlite3* db) {
                                           {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
                                           {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
   for (const auto& [which, on] : switches) sqlite3_db_config(db, which, on, nullptr);
+}
+
+/// Whether the whole database is sound.
+TreeOutcome Examine(sqlite3* db) {
+  sqlite3_stmt* check = nullptr;
+  int code = sqlite3_prepare_v2(db, "PRAGMA integrity_check(1)", -1, &check, nullptr);
+  if (code == SQLITE_OK) code = sqlite3_step(check);
+  const bool sound = code != SQLITE_ROW || Column(check) == "ok";
+  sqlite3_finalize(check);
+  return sound ? OutcomeOf(code) : Damaged;
 }
 
 }  // namespace
@@ -177,11 +189,29 @@ TreeOutcome TreeTransaction::FindTable() {
 /// written before all of the file has been looked at; it is small.
 TreeOutcome TreeTransaction::Check() {
   if (!hasTable_) return Done;
-  Statement check;
-  if (const TreeOutcome outcome = Prepare(check, kCheck); outcome != Done) return outcome;
-  const int code = Step(check);
-  if (code == SQLITE_ROW && Column(check.get()) != "ok") return Damaged;
-  return OutcomeOf(code);
+  runningSince_.reset();
+  const TreeOutcome outcome = Examine(db_);
+  return outcome == Damaged ? CheckCopy() : outcome;
+}
+
+/// The examination takes a page that the disk does not give for a damaged one. In memory it can
+/// only find what is really wrong with the contents.
+TreeOutcome TreeTransaction::CheckCopy() {
+  Execute("ROLLBACK");  // nothing has been changed, and a copy is not made of what is being changed
+  sqlite3* copy = nullptr;
+  TreeOutcome outcome = OutcomeOf(sqlite3_open_v2(":memory:", &copy, kCopyFlags, nullptr));
+  sqlite3_backup* const backup =
+      outcome == Done ? sqlite3_backup_init(copy, "main", db_, "main") : nullptr;
+  if (!backup || sqlite3_backup_step(backup, kMostPages) != SQLITE_DONE) outcome = Refused;
+  sqlite3_backup_finish(backup);
+  if (outcome == Done) {
+    Distrust(copy);
+    sqlite3_progress_handler(copy, kStepsAtOnce, StopIfEndless, this);
+    runningSince_.reset();
+    outcome = Examine(copy);
+  }
+  sqlite3_close(copy);
+  return outcome == Damaged ? Damaged : Refused;
 }
 
 TreeOutcome TreeTransaction::MakeTable() {
@@ -200,8 +230,11 @@ TreeOutcome TreeTransaction::Get(std::string_view path, std::string_view name, s
   TreeOutcome outcome = OutcomeOf(code);
   if (code == SQLITE_ROW) {
     const auto found = Column(get_.get());
-    if (found) text = *found;
-    if (!found) outcome = Nothing;
+    if (found) {
+      text = *found;
+    } else {
+      outcome = Nothing;
+    }
   } else if (code == SQLITE_DONE || (code & 0xFF) == SQLITE_TOOBIG) {
     outcome = Nothing;  // so long a text was never stored by us
   }

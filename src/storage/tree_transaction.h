@@ -23,8 +23,9 @@ enum class TreeOutcome {
   Damaged,  // the file holds no tree
 };
 
+/// Where a hive is kept.
 struct TreePlace {
-  std::string File;           // absolute
+  std::string File;           // absolute; without a place otherwise
   unsigned FolderRights = 0;  // of the folders that are made for it
 };
 
@@ -71,6 +72,7 @@ class TreeTransaction {
   TreeOutcome StartTransaction();
   TreeOutcome FindTable();
   TreeOutcome Check();
+  TreeOutcome CheckCopy();
   TreeOutcome MakeTable();
   TreeOutcome MayChange() const;
   bool IsRunning() const;

@@ -4,13 +4,16 @@
 #include <sched.h>
 #include <signal.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <thread>
 
 namespace starfolds {
 namespace {
@@ -25,6 +28,7 @@ Child::Child(const std::function<void()>& part) {
   std::fflush(nullptr);
   process_ = fork();
   if (process_ != 0) return;
+  prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that is given up leaves nobody behind
   part();
   std::fflush(nullptr);
   _exit(testing::Test::HasFailure() ? 1 : 0);
@@ -44,6 +48,14 @@ bool Child::Succeeded() {
   if (process_ <= 0 || waitpid(process_, &status, 0) != process_) return false;
   process_ = -1;
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+bool WaitForFile(const std::string& path) {
+  for (int i = 0; i < 5000; ++i) {
+    if (access(path.c_str(), F_OK) == 0) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return false;
 }
 
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part) {

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <sys/types.h>
+
+#include <cstddef>
 #include <functional>
+#include <string>
 
 namespace starfolds {
 
@@ -22,6 +25,9 @@ class Child {
  private:
   pid_t process_;
 };
+
+/// Waits until there is such a file, for a while that no working child exceeds. Whether it came.
+bool WaitForFile(const std::string& path);
 
 /// Runs a part of a test in a child as a user whose rights count; root has all of them.
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part);

@@ -20,7 +20,7 @@ using testing::UnorderedElementsAre;
 
 class DiskFilesTest : public testing::Test {
  protected:
-  TestFolder Folder;
+  TestFolder Folder{QuickFolder()};
   const std::string File = Folder.Path("u.sfd");
   DiskFiles Disk;
 
@@ -139,14 +139,15 @@ TEST_F(DiskFilesTest, AKilledReplacementLeavesTheOldFileOrTheNewOne) {
   std::mt19937 random(3);
   Put("u.sfd", std::string(50'000, 'a'));
   std::size_t most = 0;
-  for (int round = 0; round < 60; ++round) {
+  for (int round = 0; round < 30; ++round) {
     {
       const Child saver([&] {
         for (char c = 'a';; c = c == 'z' ? 'a' : static_cast<char>(c + 1)) {
           Disk.Replace(File, std::string(50'000, c));
         }
       });
-      std::this_thread::sleep_for(std::chrono::microseconds(random() % 8000));
+      ASSERT_TRUE(WaitForFile(File + ".part-1"));
+      std::this_thread::sleep_for(std::chrono::microseconds(random() % 4000));
     }
     const std::string text = FileText(File);
     ASSERT_EQ(text, std::string(50'000, text[0]));
@@ -160,8 +161,8 @@ TEST_F(DiskFilesTest, AKilledReplacementLeavesTheOldFileOrTheNewOne) {
 TEST_F(DiskFilesTest, ManyReplaceAtOnceAndNobodyFails) {
   const auto replace = [&](char tag) {
     return [this, tag] {
-      for (int i = 0; i < 60; ++i) {
-        EXPECT_EQ(Disk.Replace(File, std::string(9000, tag)), std::nullopt);
+      for (int i = 0; i < 30; ++i) {
+        EXPECT_EQ(Disk.Replace(File, std::string(300'000, tag)), std::nullopt);
       }
     };
   };
@@ -172,7 +173,7 @@ TEST_F(DiskFilesTest, ManyReplaceAtOnceAndNobodyFails) {
   EXPECT_TRUE(b.Succeeded());
   EXPECT_TRUE(c.Succeeded());
   const std::string text = FileText(File);
-  EXPECT_EQ(text, std::string(9000, text[0]));
+  EXPECT_EQ(text, std::string(300'000, text[0]));
   EXPECT_THAT(Folder.Names(), ElementsAre("u.sfd"));
 }
 

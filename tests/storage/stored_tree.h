@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -40,11 +41,10 @@ struct StoredTree {
   /// differ, and "unread" if the tree cannot be looked at.
   std::string Saved(int count) {
     TreeBulk bulk = TreeBulk::Look(Tree);
-    const std::string first = Read("0").value_or("");
-    for (int i = 1; i < count; ++i) {
-      if (Read(std::to_string(i)).value_or("") != first) return "torn";
-    }
-    return bulk.Commit() ? first : "unread";
+    std::set<std::string> texts;
+    for (int i = 0; i < count; ++i) texts.insert(Read(std::to_string(i)).value_or(""));
+    if (!bulk.Commit()) return "unread";
+    return texts.size() == 1 ? *texts.begin() : "torn";
   }
 };
 

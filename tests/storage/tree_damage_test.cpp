@@ -100,7 +100,7 @@ TEST_F(TreeDamage, ATruncatedFile) {
 TEST_F(TreeDamage, FlippedBytes) {
   const std::string good = GoodFile();
   int stored = 0;
-  constexpr int kVariants = 400;
+  constexpr int kVariants = 300;
   for (int i = 0; i < kVariants; ++i) {
     Empty();
     std::string bytes = good;

@@ -62,6 +62,15 @@ TEST_F(TreeFile, StrangersInTheFileAreLeftAlone) {
   RunSql(File, "CREATE TEMP TABLE t(a CHECK (a = 7)); INSERT INTO t SELECT a FROM other");
 }
 
+TEST_F(TreeFile, AFileThatAStrangerHasSwitchedToALogWorks) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  RunSql(File, "PRAGMA journal_mode = WAL");
+  EXPECT_EQ(Stored.Saved(2), "old");
+  EXPECT_TRUE(Stored.Save("new", 2));
+  EXPECT_EQ(Stored.Saved(2), "new");
+  EXPECT_FALSE(fs::exists(File + "-wal"));
+}
+
 TEST_F(TreeFile, WithoutAPlaceNothingIsStored) {
   for (const char* file : {"", ":memory:", "relative.db"}) {
     StoredTree nowhere(file);

@@ -1,0 +1,45 @@
+#include "editors/lines.h"
+
+#include <QHBoxLayout>
+
+#include "editors/props_model.h"
+
+namespace starfolds {
+namespace {
+
+constexpr int kLabelColumn = 0;
+constexpr int kBoxColumn = 1;
+constexpr int kColumns = 2;
+constexpr int kSpacing = 6;
+
+}  // namespace
+
+QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
+                const std::vector<QWidget*>& widgets) {
+  const int row = page.rowCount();
+  auto* text = new QLabel(label, page.parentWidget());
+  text->setBuddy(buddy);
+  page.addWidget(text, row, kLabelColumn);
+  auto* boxes = new QHBoxLayout;
+  boxes->setSpacing(kSpacing);
+  for (QWidget* widget : widgets) boxes->addWidget(widget);
+  page.addLayout(boxes, row, kBoxColumn);
+  return text;
+}
+
+void AddWideLine(QGridLayout& page, QWidget* widget) {
+  page.addWidget(widget, page.rowCount(), kLabelColumn, 1, kColumns);
+}
+
+QGridLayout* MakePage(QWidget* page) {
+  auto* grid = new QGridLayout(page);
+  grid->setColumnStretch(kLabelColumn, 1);
+  grid->setVerticalSpacing(kSpacing);
+  return grid;
+}
+
+void EndPage(QGridLayout& page) { page.setRowStretch(page.rowCount(), 1); }
+
+QString Escaped(std::string_view text) { return Shown(text).replace("&", "&&"); }
+
+}  // namespace starfolds

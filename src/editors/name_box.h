@@ -1,0 +1,21 @@
+// A text box for the name of a body.
+#pragma once
+
+#include <QLineEdit>
+
+namespace starfolds {
+
+/// Drops "[", ",", "]" and "=", which would break the formats of templates and rows, with a beep;
+/// from what is pasted as well. Names are as long as a stored value may be.
+class NameBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit NameBox(QWidget* parent = nullptr);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+};
+
+}  // namespace starfolds

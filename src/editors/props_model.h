@@ -1,0 +1,34 @@
+// What the parts of the properties dialog share.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "colour/saver.h"
+#include "platform/message_boxes.h"
+#include "settings/product.h"
+
+namespace starfolds {
+
+/// The records that are edited are the profiles and composites of a process state that belongs to
+/// the dialog: a run beside it has its own.
+struct PropsModel {
+  Saver& Process;
+  MessageBoxes& Boxes;
+
+  ProfileArray& Profiles() const { return Process.Profiles; }
+  CompositeArray& Composites() const { return Process.Composites; }
+
+  /// A box with "OK" that tells what is missing.
+  void Inform(const std::string& text) const {
+    Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
+  }
+};
+
+/// Text of the settings as the toolkit has it.
+inline QString Shown(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace starfolds
