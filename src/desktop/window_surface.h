@@ -32,8 +32,9 @@ struct ScreenPlace {
 };
 
 /// The canvas is the truth; `Present` copies what the journal names into the window's own picture
-/// and shows the touched tiles. The surface has a size of its own: it takes over the window's only
-/// by `TakeWindowSize`, and until then a resized window shows it cut off, or black around it.
+/// and shows the touched tiles of it, or draws the pixels one by one where that is cheaper. The
+/// surface has a size of its own: it takes over the window's only by `TakeWindowSize`, and until
+/// then a resized window shows it cut off, or black around it.
 class WindowSurface : public Surface {
  public:
   /// `events` outlives the surface. Nothing is shown yet.
@@ -43,7 +44,6 @@ class WindowSurface : public Surface {
   void SetName(const std::string& objectName);
   void SetCaption(const std::string& caption);
   void HidePointer();
-
   void ShowPointer();
 
   /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
