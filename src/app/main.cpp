@@ -11,11 +11,13 @@
 #include "app/windows.h"
 #include "desktop/companions.h"
 #include "desktop/desktop_services_qt.h"
+#include "desktop/foreign_window.h"
 #include "desktop/qt_pump.h"
 #include "desktop/signals.h"
 #include "hosting/main.h"
 #include "platform/console.h"
 #include "settings/first_run.h"
+#include "settings/overrides.h"
 #include "storage/sqlite_tree.h"
 
 namespace {
@@ -79,13 +81,44 @@ void RunCompanion(Saver& saver, StartActions& windows) {
   ShowEffect(saver, RunMode::ScreenSaver, windows);
 }
 
+/// A host names its window on the command line, or else in the environment. Returns what is wrong.
+std::optional<std::string> FindHostWindow(StartOptions& options) {
+  constexpr char variable[] = "XSCREENSAVER_WINDOW";
+  if (options.HostWindow) return std::nullopt;
+  const std::string named = qgetenv(variable).toStdString();
+  if (named.empty()) {
+    return std::string("--root is for programs that host a screen saver, and ") + variable +
+           " names no window of one; --saver runs the screen saver without a host";
+  }
+  options.HostWindow = WindowNumber(named);
+  if (options.HostWindow) return std::nullopt;
+  return std::string(variable) + " is '" + named +
+         "', which is no window of an X server; on Wayland no host can show a screen saver inside "
+         "its own window";
+}
+
+/// Finds the window of a host and the window system that it is on. Returns what is wrong.
+std::optional<std::string> PrepareForHost(StartOptions& options) {
+  if (options.AskedFor == Role::Guest) {
+    if (auto wrong = FindHostWindow(options)) return wrong;
+    if (ChooseForeignWindowSystem()) return std::nullopt;
+    return "there is no X server to reach the window of the host (DISPLAY names none that answers)";
+  }
+  // Whether it comes to a preview is decided later, and so is what happens without an X server.
+  if (options.AskedFor == Role::FromCommandLine && AsksForPreview(options.CommandLine)) {
+    ChooseForeignWindowSystem();
+  }
+  return std::nullopt;
+}
+
 /// Opens the window that was asked for, and returns when it is gone.
-void Run(Saver& saver, const StartOptions& options, StartActions& windows) {
+void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
   if (options.Companion) return RunCompanion(saver, windows);
   switch (options.AskedFor) {
     case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
     case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
     case Role::Window: return ShowEffect(saver, RunMode::Application, windows);
+    case Role::Guest: return windows.ShowInHost(*options.HostWindow);
     default: return Main(saver, DescribeStart(options), windows);
   }
 }
@@ -111,7 +144,12 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   saver->Platform = &platform;
   SqliteTree tree(OwnTreeFiles(), Say);
   MigrateMachineSettings(tree);
+  OverriddenTree overridden(tree);
   saver->Tree = &tree;
+  if (!options.Changes.empty()) {
+    overridden.Override(options.Changes);
+    saver->Tree = &overridden;
+  }
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;
@@ -133,6 +171,8 @@ int main(int argc, char** argv) {
   switch (options.AskedFor) {
     case Role::Help: return PrintAndEnd(UsageText());
     case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
-    default: return RunOnDesktop(argv[0], options);
+    default: break;
   }
+  if (const auto wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
+  return RunOnDesktop(argv[0], options);
 }

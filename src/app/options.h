@@ -7,7 +7,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "numbers/words.h"
 
 namespace starfolds {
 
@@ -18,6 +21,7 @@ enum class Role {
   Saver,
   Window,
   Settings,
+  Guest,  // of a saver host, in the host's window
 };
 
 struct StartOptions {
@@ -25,6 +29,9 @@ struct StartOptions {
   std::optional<std::uint64_t> Seed;
   std::optional<int> Screen;       // that the saver covers, from 1; without one it covers all
   bool Companion = false;          // of a saver on several screens, and not the first of them
+  std::optional<Long> HostWindow;  // of a guest; else the host names it in the environment
+  /// Names and values of settings that hold for this process alone, each one good.
+  std::vector<std::pair<std::string, std::string>> Changes;
   std::vector<std::string> Given;  // the options as they stood there; none where there were none
   std::string CommandLine;         // for `Main`: every argument, joined by blanks
 };
@@ -33,6 +40,10 @@ struct StartOptions {
 /// with "--"; of several roles the last one counts. Returns what is wrong with them.
 std::optional<std::string> ParseStartOptions(std::span<const std::string_view> arguments,
                                              StartOptions& options);
+
+/// The number of a window as hosts write it, decimal or "0x" and hexadecimal. Nothing where it is
+/// none.
+std::optional<Long> WindowNumber(std::string_view text);
 
 /// What `--help` prints.
 std::string UsageText();

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "app/saver_screens.h"
+#include "desktop/foreign_window.h"
 #include "hosting/frm_app_exe.h"
+#include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
 #include "platform/console.h"
 #include "settings/templates.h"
@@ -59,7 +61,19 @@ void AppWindows::ShowFrmPropsModally() {
 }
 
 void AppWindows::LoadFrmPreview() {
-  Fail("the preview is not part of this version yet", kExitCannotDo);
+  if (!CanOpenForeignWindows()) {
+    Fail("a preview inside another program's window needs an X server", kExitCannotDo);
+    return;
+  }
+  FrmPreview(saver_, seed_).Load();
+}
+
+void AppWindows::ShowInHost(Long hostWindow) {
+  saver_.Mode = RunMode::ScreenSaver;
+  if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
+  // A host that goes while its saver starts is nothing out of the ordinary.
+  Complain("starfolds",
+           "there is no window " + std::to_string(hostWindow) + " to show anything in");
 }
 
 /// A template brings a universe and no bodies, so there have to be some. A file that cannot be read

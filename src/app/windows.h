@@ -22,6 +22,9 @@ class AppWindows : public StartActions {
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
+  /// The full effect inside the window of a saver host.
+  void ShowInHost(Long hostWindow);
+
   int ExitCode() const { return exitCode_; }
 
  private:

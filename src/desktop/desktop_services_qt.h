@@ -7,8 +7,7 @@
 
 namespace starfolds {
 
-/// The services of the window system that the application object has connected to. Where it lets
-/// no program see the windows of others, no window is ever found.
+/// The services of the window system that the application object has connected to.
 std::unique_ptr<DesktopServices> MakeDesktopServices();
 
 }  // namespace starfolds

@@ -140,14 +140,25 @@ void WindowSurface::MeetWindow() {
   points_ = MakePointPainter(*window_);
 }
 
+bool WindowSurface::ShowInside(ForeignWindow& host) {
+  // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
+  window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                    Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+  if (!host.TakeIn(*window_)) return false;
+  window_->show();
+  return true;
+}
+
 QWindow& WindowSurface::Window() { return *window_; }
 
 bool WindowSurface::IsExposed() const { return window_->isExposed(); }
 
 bool WindowSurface::IsSeen() const { return IsExposed() && !(sight_ && sight_->IsHidden()); }
 
-void WindowSurface::TakeWindowSize() {
-  Resize(static_cast<Integer>(window_->width()), static_cast<Integer>(window_->height()));
+void WindowSurface::TakeWindowSize() { TakeSize(window_->size()); }
+
+void WindowSurface::TakeSize(QSize size) {
+  Resize(static_cast<Integer>(size.width()), static_cast<Integer>(size.height()));
 }
 
 bool WindowSurface::HasWindowSize() const { return window_->size() == QSize(Width(), Height()); }

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "desktop/dirty_tiles.h"
+#include "desktop/foreign_window.h"
 #include "desktop/pixel_scale.h"
 #include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
@@ -52,6 +53,8 @@ class WindowSurface : public Surface {
   /// An ordinary window with a frame, free to be resized, of a size that suits the screen. `place`
   /// may give it another size and puts it somewhere, before it is shown.
   void ShowResizable(const std::function<void(QWindow&)>& place);
+  /// Covers `host` from inside, without taking any input from it. False: the host is gone.
+  bool ShowInside(ForeignWindow& host);
 
   /// Whether the window system has the window drawn.
   bool IsExposed() const;
@@ -60,6 +63,8 @@ class WindowSurface : public Surface {
 
   /// Makes the surface as large as the window; it is black afterwards.
   void TakeWindowSize();
+  /// The same with a size that the window has been given, but may not have yet.
+  void TakeSize(QSize size);
   bool HasWindowSize() const;
 
   /// Shows the changes. While the window cannot be seen they cost nothing: it is painted whole from

@@ -3,22 +3,13 @@
 #include <xcb/xcb.h>
 
 #include <QGuiApplication>
-#include <cstdlib>
 #include <string_view>
 #include <vector>
 
+#include "desktop/x11_reply.h"
+
 namespace starfolds {
 namespace {
-
-/// Whatever the client library hands out comes from malloc.
-struct Freed {
-  void operator()(void* memory) const { std::free(memory); }
-};
-
-/// What the server answered; nothing where it answered with an error, as for a window that has gone
-/// in the meantime.
-template <class Reply>
-using Answer = std::unique_ptr<Reply, Freed>;
 
 /// How deep windows are searched where no window manager keeps a list of them: the root's children
 /// are programs' windows, or the frames around them.
@@ -56,7 +47,9 @@ class X11Desktop : public DesktopServices {
   }
 
   bool IsWindow(Long handle) override {
-    return handle > 0 && Attributes(static_cast<xcb_window_t>(handle)) != nullptr;
+    if (handle <= 0) return false;
+    const auto request = xcb_get_window_attributes(connection_, static_cast<xcb_window_t>(handle));
+    return Ask(connection_, request, xcb_get_window_attributes_reply) != nullptr;
   }
 
   /// X11 has no password of its own for savers: hosts lock the screen themselves.
@@ -64,30 +57,16 @@ class X11Desktop : public DesktopServices {
 
  private:
   xcb_atom_t Atom(std::string_view name) {
-    const auto cookie =
+    const auto request =
         xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const Answer<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection_, cookie, nullptr));
+    const auto reply = Ask(connection_, request, xcb_intern_atom_reply);
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
   }
 
-  /// Every call that names somebody else's window hands in a place for the error: without one it
-  /// would reach the toolkit's event loop as a complaint.
-  Answer<xcb_get_window_attributes_reply_t> Attributes(xcb_window_t window) {
-    xcb_generic_error_t* error = nullptr;
-    Answer<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-        connection_, xcb_get_window_attributes(connection_, window), &error));
-    std::free(error);
-    return reply;
-  }
-
   Answer<xcb_get_property_reply_t> Property(xcb_window_t window, xcb_atom_t name) {
-    xcb_generic_error_t* error = nullptr;
-    const auto cookie =
+    const auto request =
         xcb_get_property(connection_, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kPropertyRoom);
-    Answer<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, &error));
-    std::free(error);
-    return reply;
+    return Ask(connection_, request, xcb_get_property_reply);
   }
 
   std::vector<xcb_window_t> WindowProperty(xcb_window_t window, xcb_atom_t name) {
@@ -117,10 +96,7 @@ class X11Desktop : public DesktopServices {
   }
 
   std::vector<xcb_window_t> Children(xcb_window_t window) {
-    xcb_generic_error_t* error = nullptr;
-    const Answer<xcb_query_tree_reply_t> reply(
-        xcb_query_tree_reply(connection_, xcb_query_tree(connection_, window), &error));
-    std::free(error);
+    const auto reply = Ask(connection_, xcb_query_tree(connection_, window), xcb_query_tree_reply);
     if (!reply) return {};
     const xcb_window_t* const begin = xcb_query_tree_children(reply.get());
     return {begin, begin + xcb_query_tree_children_length(reply.get())};
@@ -163,14 +139,12 @@ class X11Desktop : public DesktopServices {
 
   void RaiseAndFocus(xcb_window_t window) {
     const std::uint32_t above = XCB_STACK_MODE_ABOVE;
-    DropErrors(xcb_map_window_checked(connection_, window));
-    DropErrors(
-        xcb_configure_window_checked(connection_, window, XCB_CONFIG_WINDOW_STACK_MODE, &above));
-    DropErrors(
-        xcb_set_input_focus_checked(connection_, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME));
+    DropErrors(connection_, xcb_map_window_checked(connection_, window));
+    DropErrors(connection_, xcb_configure_window_checked(connection_, window,
+                                                         XCB_CONFIG_WINDOW_STACK_MODE, &above));
+    DropErrors(connection_, xcb_set_input_focus_checked(connection_, XCB_INPUT_FOCUS_PARENT, window,
+                                                        XCB_CURRENT_TIME));
   }
-
-  void DropErrors(xcb_void_cookie_t cookie) { std::free(xcb_request_check(connection_, cookie)); }
 
   xcb_connection_t* connection_;
   xcb_window_t root_;

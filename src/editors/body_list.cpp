@@ -79,6 +79,7 @@ void BodyList::SetEntry(QListWidgetItem& item, const std::string& name, int weig
   item.setText(shownName + QString(blanks, ' ') + shownWeight.rightJustified(kWeightCharacters));
   item.setData(kNameRole, shownName);
   item.setData(kWeightRole, shownWeight);
+  item.setToolTip(shownName);  // which may be cut
   item.setData(Qt::AccessibleTextRole, shownName + ", " + shownWeight);
 }
 

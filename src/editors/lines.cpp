@@ -40,6 +40,18 @@ QGridLayout* MakePage(QWidget* page) {
 
 void EndPage(QGridLayout& page) { page.setRowStretch(page.rowCount(), 1); }
 
+QLabel* MakeSamplePlace(const char* name, const QString& description, QSize size) {
+  auto* place = new QLabel;
+  place->setObjectName(name);
+  place->setAccessibleName(description);
+  place->setFixedSize(size);
+  return place;
+}
+
+void ShowSample(QLabel* place, const QImage& sample) {
+  place->setPixmap(QPixmap::fromImage(sample));
+}
+
 QString Escaped(std::string_view text) { return Shown(text).replace("&", "&&"); }
 
 }  // namespace starfolds

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QGridLayout>
+#include <QImage>
 #include <QLabel>
+#include <QSize>
 #include <string_view>
 #include <vector>
 
@@ -19,6 +21,10 @@ void AddWideLine(QGridLayout& page, QWidget* widget);
 /// A page of lines that stays together at its top.
 QGridLayout* MakePage(QWidget* page);
 void EndPage(QGridLayout& page);
+
+/// A place for a sample, which `ShowSample` fills.
+QLabel* MakeSamplePlace(const char* name, const QString& description, QSize size);
+void ShowSample(QLabel* place, const QImage& sample);
 
 /// Text of ours on a label or button, where "&" stands for itself.
 QString Escaped(std::string_view text);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr int kSingleLength = 8;  // characters of a number with a point
 
-bool IsWhole(NumberKind kind) { return kind != NumberKind::Single; }
+bool IsWhole(NumberKind kind) { return kind != NumberKind::AsSingle; }
 
 std::string TextOf(double number, NumberKind kind) {
   if (IsWhole(kind)) return NumberText(RoundedToLimits<Long>(number));
@@ -46,12 +47,17 @@ void NumberBox::SetNames(const QString& name) {
 
 void NumberBox::SetRange(const NumberRange& range) {
   range_ = range;
-  const int digits = static_cast<int>(TextOf(range.High, range.Kind).size());
-  lineEdit()->setMaxLength(IsWhole(range.Kind) ? digits : kSingleLength);
+  const int present = static_cast<int>(lineEdit()->text().size());
+  lineEdit()->setMaxLength(std::max(LongestText(), present));  // which would be cut off
   const QFontMetrics font(lineEdit()->font());
   setMinimumWidth(font.horizontalAdvance(QString(7, '0')) + 40);  // and the buttons
   setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
                                                   TextOf(range.High, range.Kind)));
+}
+
+void NumberBox::SetNoRange() {
+  range_ = {};
+  lineEdit()->setMaxLength(0);
 }
 
 std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }
@@ -61,8 +67,10 @@ void NumberBox::SetText(const std::string& text) {
 }
 
 void NumberBox::ClampTextField() {
+  if (blankAllowed_ && Trimmed(Text()).empty()) return;
   const std::string clamped = ClampedText(Text(), range_);
   if (clamped != Text()) SetText(clamped);
+  lineEdit()->setMaxLength(LongestText());
 }
 
 void NumberBox::stepBy(int steps) {
@@ -123,6 +131,11 @@ void NumberBox::focusOutEvent(QFocusEvent* event) {
   ClampTextField();
   QAbstractSpinBox::focusOutEvent(event);
   emit Left();
+}
+
+int NumberBox::LongestText() const {
+  if (!IsWhole(range_.Kind)) return kSingleLength;
+  return static_cast<int>(TextOf(range_.High, range_.Kind).size());
 }
 
 bool NumberBox::Takes(QChar c) const {

@@ -85,7 +85,8 @@ void PictureBox::Clear() {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::black);
-  painter.drawImage((width() - picture_.width()) / 2, (height() - picture_.height()) / 2, picture_);
+  const QSize shown = picture_.deviceIndependentSize().toSize();
+  painter.drawImage((width() - shown.width()) / 2, (height() - shown.height()) / 2, picture_);
 }
 
 }  // namespace starfolds

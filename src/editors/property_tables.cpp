@@ -14,30 +14,30 @@ constexpr std::string_view kUniversePages[kUniversePageCount] = {
     "Composite Starfolds", "Gravity between Starfolds"};
 
 constexpr UniverseRow kUniverseRows[] = {
-    {0, "Universe_Stars", Long, UP::Always},
-    {1, "Universe_Starfold", Integer, UP::Always},
-    {2, "Universe_STrail", Integer, UP::Always},
-    {10, "Universe_Expand", Long, UP::Creation},
-    {11, "Universe_ESteps", Integer, UP::Creation},
-    {12, "Universe_Persist", Single, UP::Creation},
-    {14, "Universe_Damping", Single, UP::Creation},
-    {16, "Universe_HW_Start", Integer, UP::Creation},
-    {17, "Universe_HW_End", Integer, UP::Creation},
-    {18, "Universe_Recycle", Integer, UP::Creation},
-    {20, "Universe_NewFreq", Integer, UP::NewAndAmbient},
-    {21, "Universe_NewPctStEx", Integer, UP::NewAndAmbient},
-    {40, "Universe_AmStar", Integer, UP::NewAndAmbient},
-    {41, "Universe_AmPers", Single, UP::NewAndAmbient},
-    {42, "Universe_AmCAge", Single, UP::NewAndAmbient},
-    {43, "Universe_AmFrames", Integer, UP::NewAndAmbient},
-    {44, "Universe_AmMaxExt", Long, UP::NewAndAmbient},
-    {30, "Universe_GSteps", Integer, UP::Tour},
-    {31, "Universe_GPCtrl", Integer, UP::Tour},
-    {32, "Universe_GCCtrl", Integer, UP::Tour},
-    {33, "Universe_DstCen", Long, UP::Tour},
-    {34, "Universe_C_Ramp", Integer, UP::Tour},
-    {50, "Universe_GravForce", Long, UP::Gravity},
-    {51, "Universe_GravFrame", Integer, UP::Gravity},
+    {0, "Universe_Stars", AsLong, UP::Always},
+    {1, "Universe_Starfold", AsInteger, UP::Always},
+    {2, "Universe_STrail", AsInteger, UP::Always},
+    {10, "Universe_Expand", AsLong, UP::Creation},
+    {11, "Universe_ESteps", AsInteger, UP::Creation},
+    {12, "Universe_Persist", AsSingle, UP::Creation},
+    {14, "Universe_Damping", AsSingle, UP::Creation},
+    {16, "Universe_HW_Start", AsInteger, UP::Creation},
+    {17, "Universe_HW_End", AsInteger, UP::Creation},
+    {18, "Universe_Recycle", AsInteger, UP::Creation},
+    {20, "Universe_NewFreq", AsInteger, UP::NewAndAmbient},
+    {21, "Universe_NewPctStEx", AsInteger, UP::NewAndAmbient},
+    {40, "Universe_AmStar", AsInteger, UP::NewAndAmbient},
+    {41, "Universe_AmPers", AsSingle, UP::NewAndAmbient},
+    {42, "Universe_AmCAge", AsSingle, UP::NewAndAmbient},
+    {43, "Universe_AmFrames", AsInteger, UP::NewAndAmbient},
+    {44, "Universe_AmMaxExt", AsLong, UP::NewAndAmbient},
+    {30, "Universe_GSteps", AsInteger, UP::Tour},
+    {31, "Universe_GPCtrl", AsInteger, UP::Tour},
+    {32, "Universe_GCCtrl", AsInteger, UP::Tour},
+    {33, "Universe_DstCen", AsLong, UP::Tour},
+    {34, "Universe_C_Ramp", AsInteger, UP::Tour},
+    {50, "Universe_GravForce", AsLong, UP::Gravity},
+    {51, "Universe_GravFrame", AsInteger, UP::Gravity},
 };
 
 constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
@@ -48,54 +48,54 @@ constexpr Styles kAll{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
 constexpr Styles kBelow8{0, 1, 2, 3, 4, 5, 6, 7};
 
 constexpr StarfoldRow kStarfoldRows[] = {
-    {0, "Starfold_Radius", {}, Long, SP::Shape, 0, kAll},
-    {1, "Starfold_Rotation", {}, Long, SP::Shape, 0, kAll},
-    {2, "Starfold_Distance", {}, Long, SP::Shape, 1, kAll},
-    {3, "Starfold_RadSegs", "Starfold_CP_Points", Integer, SP::Shape, 2, kBelow8},
-    {4, "Starfold_RadFill", "Starfold_CP_Steps", Integer, SP::Shape, 2, kBelow8},
-    {5, "Starfold_RadBands", "Starfold_CP_B_Pts", Integer, SP::Shape, 3,
+    {0, "Starfold_Radius", {}, AsLong, SP::Shape, 0, kAll},
+    {1, "Starfold_Rotation", {}, AsLong, SP::Shape, 0, kAll},
+    {2, "Starfold_Distance", {}, AsLong, SP::Shape, 1, kAll},
+    {3, "Starfold_RadSegs", "Starfold_CP_Points", AsInteger, SP::Shape, 2, kBelow8},
+    {4, "Starfold_RadFill", "Starfold_CP_Steps", AsInteger, SP::Shape, 2, kBelow8},
+    {5, "Starfold_RadBands", "Starfold_CP_B_Pts", AsInteger, SP::Shape, 3,
      Styles{0, 1, 2, 4, 5, 6, 7}},
-    {6, "Starfold_RadBFill", "Starfold_CP_B_Exp", Integer, SP::Shape, 3, Styles{0, 4, 5, 6, 7}},
-    {9, "Starfold_StdLevels", {}, Integer, SP::Shape, 90, Styles{0}},
-    {8, "Starfold_QG_Force", {}, Single, SP::Shape, 90, Styles{5, 6}},
-    {90, "Starfold_GHW_Ratio", {}, Single, SP::Shape, 90, kBelow8},
-    {91, "Starfold_RadiusExp", {}, Single, SP::Shape, 91, Styles{0, 1, 4, 5, 6, 7}},
-    {92, "Starfold_HeightExp", {}, Single, SP::Shape, 92, Styles{0, 1, 4, 5, 6}},
-    {93, "Starfold_AngleTilt", "Starfold_CP_B_Spd", Single, SP::Shape, 93, kAll},
-    {94, "Starfold_AngleTInc", {}, Single, SP::Shape, 94, kAll},
-    {95, "Starfold_HueStart", {}, Integer, SP::Shape, 96, Styles{0, 1, 5, 6}},
-    {96, "Starfold_HWheelInc", {}, Single, SP::Shape, 96, Styles{0, 1, 5, 6}},
-    {7, "Starfold_ColorMult", {}, Long, SP::Shape, 7, kAll},
-    {10, "Starfold_NewFreq", {}, Integer, SP::Flares, 10, kAll},
-    {11, "Starfold_NewFrames", {}, Integer, SP::Flares, 11, kAll},
-    {12, "Starfold_NewExtMult", {}, Integer, SP::Flares, 12, kAll},
-    {20, "Starfold_NovaFreq", {}, Integer, SP::Flares, 20, kAll},
-    {21, "Starfold_NovaFrames", {}, Integer, SP::Flares, 21, kAll},
-    {22, "Starfold_NovaExtMult", {}, Integer, SP::Flares, 22, kAll},
-    {30, "Starfold_PulsarFreq", {}, Integer, SP::Flares, 30, kAll},
-    {31, "Starfold_PulsarDepth", {}, Integer, SP::Flares, 31, kAll},
-    {32, "Starfold_PulsarCycles", {}, Integer, SP::Flares, 32, kAll},
-    {33, "Starfold_PulsarFrames", {}, Integer, SP::Flares, 33, kAll},
-    {34, "Starfold_PulsarMinExt", {}, Integer, SP::Flares, 34, kAll},
-    {35, "Starfold_PulsarMaxExt", {}, Integer, SP::Flares, 35, kAll},
-    {40, "Starfold_CometFreq", {}, Integer, SP::Comets, 40, kAll},
-    {41, "Starfold_CometStars", {}, Integer, SP::Comets, 41, kAll},
-    {42, "Starfold_CometOrbit", {}, Integer, SP::Comets, 42, kAll},
-    {43, "Starfold_CometSpeed", {}, Integer, SP::Comets, 43, kAll},
-    {44, "Starfold_CometSWind", {}, Integer, SP::Comets, 44, kAll},
-    {45, "Starfold_CometCPersist", {}, Single, SP::Comets, 45, kAll},
-    {46, "Starfold_CometSPersist", {}, Single, SP::Comets, 46, kAll},
-    {47, "Starfold_HWC_Start", {}, Integer, SP::Comets, 47, kAll},
-    {48, "Starfold_HWC_End", {}, Integer, SP::Comets, 48, kAll},
-    {49, "Starfold_HWC_Inc", {}, Single, SP::Comets, 49, kAll},
+    {6, "Starfold_RadBFill", "Starfold_CP_B_Exp", AsInteger, SP::Shape, 3, Styles{0, 4, 5, 6, 7}},
+    {9, "Starfold_StdLevels", {}, AsInteger, SP::Shape, 90, Styles{0}},
+    {8, "Starfold_QG_Force", {}, AsSingle, SP::Shape, 90, Styles{5, 6}},
+    {90, "Starfold_GHW_Ratio", {}, AsSingle, SP::Shape, 90, kBelow8},
+    {91, "Starfold_RadiusExp", {}, AsSingle, SP::Shape, 91, Styles{0, 1, 4, 5, 6, 7}},
+    {92, "Starfold_HeightExp", {}, AsSingle, SP::Shape, 92, Styles{0, 1, 4, 5, 6}},
+    {93, "Starfold_AngleTilt", "Starfold_CP_B_Spd", AsSingle, SP::Shape, 93, kAll},
+    {94, "Starfold_AngleTInc", {}, AsSingle, SP::Shape, 94, kAll},
+    {95, "Starfold_HueStart", {}, AsInteger, SP::Shape, 96, Styles{0, 1, 5, 6}},
+    {96, "Starfold_HWheelInc", {}, AsSingle, SP::Shape, 96, Styles{0, 1, 5, 6}},
+    {7, "Starfold_ColorMult", {}, AsLong, SP::Shape, 7, kAll},
+    {10, "Starfold_NewFreq", {}, AsInteger, SP::Flares, 10, kAll},
+    {11, "Starfold_NewFrames", {}, AsInteger, SP::Flares, 11, kAll},
+    {12, "Starfold_NewExtMult", {}, AsInteger, SP::Flares, 12, kAll},
+    {20, "Starfold_NovaFreq", {}, AsInteger, SP::Flares, 20, kAll},
+    {21, "Starfold_NovaFrames", {}, AsInteger, SP::Flares, 21, kAll},
+    {22, "Starfold_NovaExtMult", {}, AsInteger, SP::Flares, 22, kAll},
+    {30, "Starfold_PulsarFreq", {}, AsInteger, SP::Flares, 30, kAll},
+    {31, "Starfold_PulsarDepth", {}, AsInteger, SP::Flares, 31, kAll},
+    {32, "Starfold_PulsarCycles", {}, AsInteger, SP::Flares, 32, kAll},
+    {33, "Starfold_PulsarFrames", {}, AsInteger, SP::Flares, 33, kAll},
+    {34, "Starfold_PulsarMinExt", {}, AsInteger, SP::Flares, 34, kAll},
+    {35, "Starfold_PulsarMaxExt", {}, AsInteger, SP::Flares, 35, kAll},
+    {40, "Starfold_CometFreq", {}, AsInteger, SP::Comets, 40, kAll},
+    {41, "Starfold_CometStars", {}, AsInteger, SP::Comets, 41, kAll},
+    {42, "Starfold_CometOrbit", {}, AsInteger, SP::Comets, 42, kAll},
+    {43, "Starfold_CometSpeed", {}, AsInteger, SP::Comets, 43, kAll},
+    {44, "Starfold_CometSWind", {}, AsInteger, SP::Comets, 44, kAll},
+    {45, "Starfold_CometCPersist", {}, AsSingle, SP::Comets, 45, kAll},
+    {46, "Starfold_CometSPersist", {}, AsSingle, SP::Comets, 46, kAll},
+    {47, "Starfold_HWC_Start", {}, AsInteger, SP::Comets, 47, kAll},
+    {48, "Starfold_HWC_End", {}, AsInteger, SP::Comets, 48, kAll},
+    {49, "Starfold_HWC_Inc", {}, AsSingle, SP::Comets, 49, kAll},
 };
 
 constexpr StarfoldRow kPixHueRows[] = {
-    {0, "Starfold_HueRed", {}, Integer, SP::Comets, 0, kAll},
-    {1, "Starfold_HueGrn", {}, Integer, SP::Comets, 1, kAll},
-    {2, "Starfold_HueBlu", {}, Integer, SP::Comets, 2, kAll},
-    {3, "Starfold_HueBase", {}, Integer, SP::Comets, 3, kAll},
-    {4, "Starfold_HueBlend", {}, Integer, SP::Comets, 4, kAll},
+    {0, "Starfold_HueRed", {}, AsInteger, SP::Comets, 0, kAll},
+    {1, "Starfold_HueGrn", {}, AsInteger, SP::Comets, 1, kAll},
+    {2, "Starfold_HueBlu", {}, AsInteger, SP::Comets, 2, kAll},
+    {3, "Starfold_HueBase", {}, AsInteger, SP::Comets, 3, kAll},
+    {4, "Starfold_HueBlend", {}, AsInteger, SP::Comets, 4, kAll},
 };
 
 /// The captions that all styles share but for those below.
@@ -168,9 +168,7 @@ std::string LabelFromField(int label) {
     if (row.Label != label) continue;
     const Field<StarfoldProfile>& field = FieldOf(row, 0);
     const NumberRange range = RangeOf(row, 0);
-    const auto number = [](double value) {
-      return NumberText(static_cast<starfolds::Single>(value));
-    };
+    const auto number = [](double value) { return NumberText(static_cast<Single>(value)); };
     return std::string(field.Label) + " (" + number(range.Low) + " - " + number(range.High) + "):";
   }
   return {};
@@ -201,7 +199,7 @@ const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style) {
 NumberRange RangeOf(const StarfoldRow& row, int style) {
   const Field<StarfoldProfile>& field = FieldOf(row, style);
   if (field.Rule == RangeRule::Fixed) return {row.Kind, field.Low, field.High};
-  const Limits limits = StyleLimits(field.Rule, static_cast<starfolds::Integer>(style));
+  const Limits limits = StyleLimits(field.Rule, static_cast<Integer>(style));
   return {row.Kind, limits.Low, limits.High};
 }
 

@@ -5,6 +5,8 @@ namespace starfolds {
 
 /// Of the saver's window, and of the application window where it can be resized.
 inline constexpr char kSaverCaption[] = "TSLN:Starfolds 4.1a";
+/// Of the preview inside a host's window.
+inline constexpr char kPreviewCaption[] = "TSLN:Preview Starfolds 4.1a";
 /// Of the properties dialog.
 inline constexpr char kPropertiesCaption[] = "Starfold Properties";
 

@@ -65,6 +65,8 @@ bool AsksForProperties(const std::string& commandLine) {
   return Trimmed(commandLine).empty() || Switch(commandLine) == "/C";
 }
 
+bool AsksForPreview(const std::string& commandLine) { return Switch(commandLine) == "/P"; }
+
 void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActions& actions) {
   saver.Mode = RunMode::ScreenSaver;
   const std::string given = Switch(commandLine);
@@ -72,7 +74,7 @@ void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActi
     OpenProperties(saver, actions);
   } else if (given == "/S") {
     if (!saver.Desktop->WindowExists(kSaverCaption)) ShowEffectWindow(saver, actions);
-  } else if (given == "/P") {
+  } else if (AsksForPreview(commandLine)) {
     saver.Mode = RunMode::Preview;
     saver.PreviewParent = HandleBehindSwitch(commandLine);
     actions.LoadFrmPreview();

@@ -35,6 +35,9 @@ void Main(Saver& saver, const StartUp& start, StartActions& actions);
 /// Whether a command line asks for the properties dialog.
 bool AsksForProperties(const std::string& commandLine);
 
+/// Whether a command line asks for the preview in a host's window.
+bool AsksForPreview(const std::string& commandLine);
+
 /// The part of `Main` that looks at the command line alone.
 void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActions& actions);
 

@@ -34,10 +34,10 @@ void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
   }
 }
 
-void RunEffect(Saver& saver, Surface& surface) {
-  EnsureBodies(saver);
+void RunEffect(Saver& saver, Surface& surface, bool smallPreview) {
+  if (!smallPreview) EnsureBodies(saver);
   while (!saver.StopRun) {
-    ReadUniverseSettings(saver, false);
+    ReadUniverseSettings(saver, smallPreview);
     ResetSurface(surface);
     UniverseRun(saver);
   }

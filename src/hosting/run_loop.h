@@ -23,7 +23,7 @@ double SecondsSinceMidnight();
 void WaitUntilShown(Saver& saver, const WindowSurface& surface);
 
 /// Bodies to show, where there are none yet; then universes, run after run with freshly read
-/// settings, until `StopRun`.
-void RunEffect(Saver& saver, Surface& surface);
+/// settings, until `StopRun`. A small preview shows fewer stars, and stores nothing.
+void RunEffect(Saver& saver, Surface& surface, bool smallPreview = false);
 
 }  // namespace starfolds

@@ -1,5 +1,6 @@
 #include "app/options.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -38,6 +39,40 @@ TEST(StartOptions, NameARole) {
   EXPECT_EQ(Parsed({"--settings"}).AskedFor, Role::Settings);
   EXPECT_EQ(Parsed({"--help"}).AskedFor, Role::Help);
   EXPECT_EQ(Parsed({"--version"}).AskedFor, Role::Version);
+  EXPECT_EQ(Parsed({"--root"}).AskedFor, Role::Guest);
+}
+
+TEST(StartOptions, NameTheWindowOfAHost) {
+  EXPECT_EQ(Parsed({"--root"}).HostWindow, std::nullopt);
+  for (const Arguments& given :
+       {Arguments{"--root", "--window-id", "0x800EE5"}, Arguments{"--window-id", "0X800ee5"},
+        Arguments{"--window-id", "8392421", "--root"}}) {
+    EXPECT_EQ(Parsed(given).AskedFor, Role::Guest);
+    EXPECT_EQ(Parsed(given).HostWindow, 0x800EE5);
+  }
+  EXPECT_EQ(WindowNumber("0x7FFFFFFF"), 0x7FFFFFFF);
+  for (const char* const text : {"", "0", "0x0", "0x", "-1", "+1", " 1", "1 ", "0x-1", "12a", "1.5",
+                                 "0x80000000", "18446744073709551617"}) {
+    EXPECT_EQ(WindowNumber(text), std::nullopt) << text;
+  }
+}
+
+TEST(StartOptions, ChangeSettings) {
+  using testing::ElementsAre;
+  using testing::Pair;
+  EXPECT_THAT(Parsed({"--saver", "--set", "Starfold7/Starfold_Radius=5", "--stars", "99999",
+                      "--no-tour", "--set", "LockMessage=a=b"})
+                  .Changes,
+              ElementsAre(Pair("Starfold7/Starfold_Radius", "5"), Pair("Universe_Stars", "99999"),
+                          Pair("Universe_Tour", "0"), Pair("LockMessage", "a=b")));
+  EXPECT_EQ(Parsed({"--root", "--theme", "8", "--stars", "7"}).Changes.back().second, "7");
+  EXPECT_NE(Refused({"--root", "--theme", "9"}), "");
+  EXPECT_EQ(Refused({"--root", "--stars", "many"}),
+            "--stars: \"Universe_Stars\" takes a number, not \"many\"");
+  EXPECT_EQ(Refused({"--root", "--set", "Stars=1"}), "--set: there is no setting \"Stars\"");
+  EXPECT_EQ(Refused({"--root", "--set", "Stars"}), "--set: takes Name=value, not \"Stars\"");
+  EXPECT_NE(Refused({"--stars", "5"}), "");
+  EXPECT_NE(Refused({"--settings", "--stars", "5"}), "");
 }
 
 TEST(StartOptions, TakeASeed) {
@@ -70,7 +105,8 @@ TEST(StartOptions, AreHandedOnToCompanions) {
 }
 
 TEST(StartOptions, AreRefusedWhereTheyMakeNoSense) {
-  EXPECT_NE(Refused({"--root"}).find("'--root'"), std::string::npos);
+  EXPECT_NE(Refused({"--roots"}).find("'--roots'"), std::string::npos);
+  EXPECT_NE(Refused({"--window-id", "5", "--saver"}), "");
   EXPECT_NE(Refused({"--saver", "rings.sfd"}).find("'rings.sfd'"), std::string::npos);
   EXPECT_NE(Refused({"--saver=1"}), "");
   EXPECT_NE(Refused({"--"}), "");

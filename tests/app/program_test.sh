@@ -37,17 +37,18 @@ expect() {
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 expect 0 'Usage: starfolds' '' --help
 expect 0 '^starfolds [0-9]' '' --version
-expect 2 '' "unknown option '--root'" --root
-expect 2 '' '--seed needs' --saver --seed many
+expect 2 '' "unknown option '--roots'" --roots
+expect 2 '' '--seed: takes a whole number' --saver --seed many
 expect 1 '' 'no desktop' --saver
 expect 1 '' 'no desktop' /S
 DISPLAY='' WAYLAND_DISPLAY='' expect 1 '' 'no desktop' --window
+expect 1 '' 'no X server' --window-id 77
 
 export QT_QPA_PLATFORM=offscreen
 expect 1 '' 'settings dialog is not part.*--saver and --window'
 expect 1 '' 'settings dialog is not part' --settings
 expect 1 '' 'settings dialog is not part' /c:77
-expect 1 '' 'preview is not part' /P 12345
+expect 1 '' 'preview inside.*needs an X server' /P 12345
 expect 0 '' '' /A 12345
 
 # A template that cannot be read is a typing error, and changes nothing.
@@ -93,5 +94,43 @@ if [ $? != 1 ] || ! grep -q 'not part' "$errors"; then
   faults=$((faults + 1))
 fi
 rm -r "$folder"
+
+# Of several savers at once on one display, one stays. When it is killed the next one may run.
+XDG_RUNTIME_DIR=$(mktemp -d)
+export XDG_RUNTIME_DIR
+# expect_one PROCESS...: waits until all the others have gone, and sets `one`.
+expect_one() {
+  local tries process
+  for tries in $(seq 1 200); do
+    one=
+    for process in "$@"; do
+      case $(ps -o stat= -p "$process") in
+        '' | Z*) ;;
+        *) one="$one$process " ;;
+      esac
+    done
+    [ "$(wc -w <<<"$one")" -gt 1 ] || break
+    sleep 0.05
+  done
+  if [ "$(wc -w <<<"$one")" != 1 ]; then
+    echo "savers that stay: '$one'" >&2
+    faults=$((faults + 1))
+  fi
+}
+savers=
+for i in 1 2 3 4 5 6; do
+  "$program" --saver &
+  savers="$savers $!"
+done
+expect_one $savers
+kill -9 $one
+wait $one 2>/dev/null
+"$program" --saver &
+saver=$!
+sleep 0.5
+expect_one $saver
+kill -TERM $saver
+wait $saver || { echo "the saver after a killed one: exit code $?" >&2; faults=$((faults + 1)); }
+rm -r "$XDG_RUNTIME_DIR"
 
 [ "$faults" = 0 ] || exit 1

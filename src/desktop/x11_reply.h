@@ -1,0 +1,36 @@
+// What an X server answers, for the units that talk to one.
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace starfolds {
+
+/// Whatever the client library hands out comes from malloc.
+struct Freed {
+  void operator()(void* memory) const { std::free(memory); }
+};
+
+/// What the server answered; nothing where it answered with an error, as for a window that has gone
+/// in the meantime.
+template <class Reply>
+using Answer = std::unique_ptr<Reply, Freed>;
+
+/// Waits for the answer to `request`. `reply` is the library's routine for it. Errors are swallowed
+/// here: without a place for them they would reach the toolkit's event loop as complaints.
+template <class Reply, class Request>
+Answer<Reply> Ask(xcb_connection_t* connection, Request request,
+                  Reply* (*reply)(xcb_connection_t*, Request, xcb_generic_error_t**)) {
+  xcb_generic_error_t* error = nullptr;
+  Answer<Reply> answer(reply(connection, request, &error));
+  std::free(error);
+  return answer;
+}
+
+inline void DropErrors(xcb_connection_t* connection, xcb_void_cookie_t checkedRequest) {
+  std::free(xcb_request_check(connection, checkedRequest));
+}
+
+}  // namespace starfolds

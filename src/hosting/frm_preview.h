@@ -1,0 +1,22 @@
+// The little preview in the window of a control panel.
+#pragma once
+
+#include "hosting/guest_window.h"
+
+namespace starfolds {
+
+/// Runs the full effect with fewer stars inside `Saver::PreviewParent`.
+class FrmPreview {
+ public:
+  FrmPreview(Saver& saver, SeedSource seed);
+
+  /// Shows the preview. Returns when the host's window is gone; the process is to end then.
+  void Load();
+
+ private:
+  void PreviewRun();
+
+  GuestWindow window_;
+};
+
+}  // namespace starfolds

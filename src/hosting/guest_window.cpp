@@ -1,0 +1,49 @@
+#include "hosting/guest_window.h"
+
+#include <utility>
+
+#include "universe/host_surface.h"
+
+namespace starfolds {
+
+GuestWindow::GuestWindow(Saver& saver, SeedSource seed, Long host)
+    : saver_(saver),
+      seed_(std::move(seed)),
+      host_(OpenForeignWindow(host, *this)),
+      surface_(*this) {}
+
+GuestWindow::~GuestWindow() { saver_.Screen.hDCDraw = nullptr; }
+
+bool GuestWindow::Run(bool smallPreview) {
+  if (!host_ || !surface_.ShowInside(*host_)) return false;
+  saver_.StopRun = hostGone_ || saver_.QuitApp;
+  WaitUntilShown(saver_, surface_);
+  do {
+    RunAtHostsSize(smallPreview);
+  } while (beginAnew_ && !hostGone_ && !saver_.QuitApp);
+  return true;
+}
+
+void GuestWindow::RunAtHostsSize(bool smallPreview) {
+  beginAnew_ = false;
+  saver_.StopRun = hostGone_ || saver_.QuitApp;
+  surface_.TakeSize(host_->Size());
+  SetupDisplay(saver_, surface_, seed_());
+  RunEffect(saver_, surface_, smallPreview);
+}
+
+/// Lets the run end at its next frame, whatever stage it is in, and `Run` start another one. A run
+/// started from here would nest in the pump of the old one.
+void GuestWindow::HostResized() {
+  beginAnew_ = true;
+  saver_.StopRun = true;
+}
+
+void GuestWindow::HostGone() {
+  hostGone_ = true;
+  saver_.StopRun = true;
+}
+
+void GuestWindow::Destroyed() { HostGone(); }
+
+}  // namespace starfolds

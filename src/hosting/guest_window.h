@@ -1,0 +1,40 @@
+// The effect as a guest in the window of another program.
+#pragma once
+
+#include <memory>
+
+#include "desktop/foreign_window.h"
+#include "hosting/run_loop.h"
+
+namespace starfolds {
+
+/// Covers the host's window and follows its size. Input is the host's business: the guest takes
+/// none and never ends on any. It ends with the host's window.
+class GuestWindow : private WindowEvents, private ForeignWindowEvents {
+ public:
+  /// Shows nothing yet.
+  GuestWindow(Saver& saver, SeedSource seed, Long host);
+  ~GuestWindow() override;
+
+  /// Shows the window and runs the effect. Returns when the host is gone or the process is to end.
+  /// False: there is no such window, or not any more, and nothing was run.
+  bool Run(bool smallPreview);
+
+  WindowSurface& Drawing() { return surface_; }
+
+ private:
+  void HostResized() override;
+  void HostGone() override;
+  void Destroyed() override;
+
+  void RunAtHostsSize(bool smallPreview);
+
+  Saver& saver_;
+  SeedSource seed_;
+  std::unique_ptr<ForeignWindow> host_;
+  bool hostGone_ = false;
+  bool beginAnew_ = false;
+  WindowSurface surface_;  // inside `host_`, and so to go before it
+};
+
+}  // namespace starfolds

@@ -1,0 +1,91 @@
+#include "hosting/preview_runs.h"
+
+#include "numbers/conversions.h"
+#include "settings/storage.h"
+#include "universe/host_surface.h"
+#include "universe/single_body_run.h"
+#include "universe/universe_run.h"
+
+namespace starfolds {
+namespace {
+
+constexpr Integer kHighestHue = 999;
+
+/// What both kinds of preview do first. The records may be of a user who is still typing; a run
+/// needs them within their ranges.
+void SetUpPreview(Saver& saver, Surface& surface, Integer hueStart, Integer hueEnd,
+                  std::uint64_t seed) {
+  saver.Screen.FocalLength = LoadAdvancedFromRegistry(*saver.Tree).FocalLength;
+  SetupPreviewSurface(saver, surface, false, 1, seed);
+  for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
+  for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
+  BuildFlareTables(saver, ClampTo<Integer>(hueStart, 0, kHighestHue),
+                   ClampTo<Integer>(hueEnd, 0, kHighestHue));
+  BuildHueWheels(saver);
+}
+
+}  // namespace
+
+struct RecordsKept::Records {
+  ProfileArray Profiles;
+  CompositeArray Composites;
+};
+
+RecordsKept::RecordsKept(Saver& saver)
+    : saver_(saver), records_(new Records{saver.Profiles, saver.Composites}) {}
+
+RecordsKept::~RecordsKept() {
+  saver_.Profiles = records_->Profiles;
+  saver_.Composites = records_->Composites;
+}
+
+void PreviewUniverse(Saver& saver, Surface& surface, const UniverseSettings& universeOnDialog,
+                     std::uint64_t seed) {
+  const RecordsKept kept(saver);
+  SetUpPreview(saver, surface, universeOnDialog.Universe_HW_Start, universeOnDialog.Universe_HW_End,
+               seed);
+  saver.Universe = universeOnDialog;
+  saver.Visits = ParseVisitList(universeOnDialog.Universe_GS_Idx);
+  UniverseRun(saver);
+  saver.Screen.hDCDraw = nullptr;
+}
+
+void PreviewBody(Saver& saver, Surface& surface, const BodyPreview& preview, std::uint64_t seed) {
+  const int bodies = preview.IsComposite ? kCompositeCount : kProfileCount;
+  if (preview.Body < 0 || preview.Body >= bodies) return;
+  const RecordsKept kept(saver);
+  SetUpPreview(saver, surface, preview.HueStart, preview.HueEnd, seed);
+  SingleBodyRun(saver, preview.Body, false, 0, ClampTo<Long>(preview.Stars, 10, 30000),
+                static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999)), preview.IsComposite, 1);
+  saver.Screen.hDCDraw = nullptr;
+}
+
+PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {
+  if (on_ || saver_.QuitApp) return PreviewEnd::Refused;
+  on_ = true;
+  stopped_ = closing_ = false;
+  saver_.StopRun = false;
+  saver_.NewRun = false;
+  run();
+  on_ = false;
+  if (stopped_ && !closing_ && !saver_.QuitApp) saver_.StopRun = false;
+  saver_.NewRun = true;  // a run of another host takes notice of what was edited
+  return closing_ ? PreviewEnd::Close : PreviewEnd::Stopped;
+}
+
+/// A universe that is pulling out, or shows its last frame, looks at `StopRun` alone.
+void PreviewSwitch::Stop() {
+  if (!on_) return;
+  stopped_ = true;
+  saver_.NewRun = true;
+  saver_.StopRun = true;
+}
+
+bool PreviewSwitch::DelaysClose() {
+  if (!on_) return false;
+  closing_ = true;
+  saver_.StopRun = true;
+  return true;
+}
+
+}  // namespace starfolds

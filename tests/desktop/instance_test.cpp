@@ -1,0 +1,155 @@
+// The other processes are this test program itself, started once more with an order in its
+// environment.
+#include "desktop/instance.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QWindow>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "desktop/qt_pump.h"
+#include "desktop/toolkit.h"
+
+namespace starfolds {
+namespace {
+
+constexpr char kCaption[] = "TSLN:Sterne \xC3\xBC";
+constexpr char kOrder[] = "INSTANCE_TEST_ORDER";
+constexpr int kPatienceMs = 20000;
+
+/// What the other process does: says whether the window exists, and stays (if told so) until its
+/// input ends.
+int Obey(const QByteArray& order) {
+  const auto desktop = MakeInstanceDesktop();
+  if (order == "raise") {
+    desktop->BringToFront(kCaption);
+    return 0;
+  }
+  std::puts(desktop->WindowExists(kCaption) ? "exists" : "mine");
+  std::fflush(stdout);
+  if (order == "stay") std::getchar();
+  return 0;
+}
+
+/// Runs before all tests, and in place of them where there is an order.
+class ObeyingEnvironment : public testing::Environment {
+ public:
+  void SetUp() override {
+    if (qEnvironmentVariableIsSet(kOrder)) std::_Exit(Obey(qgetenv(kOrder)));
+  }
+};
+[[maybe_unused]] testing::Environment* const kObeying =
+    testing::AddGlobalTestEnvironment(new ObeyingEnvironment);
+
+class Process : public QProcess {
+ public:
+  explicit Process(const char* order) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(kOrder, order);
+    setProcessEnvironment(environment);
+    start(QCoreApplication::applicationFilePath(), {});
+  }
+  ~Process() override {
+    kill();
+    waitForFinished(kPatienceMs);
+  }
+
+  /// What it says about the window.
+  QByteArray Answer() {
+    QByteArray last;
+    while (canReadLine() || waitForReadyRead(kPatienceMs)) {
+      while (canReadLine()) {
+        last = readLine().trimmed();
+        if (last == "mine" || last == "exists") return last;
+      }
+    }
+    return last;
+  }
+};
+
+class InstanceTest : public testing::Test {
+ protected:
+  InstanceTest() {
+    folder_.isValid();
+    qputenv("XDG_RUNTIME_DIR", folder_.path().toUtf8());
+  }
+
+  bool PumpUntil(const std::function<bool()>& done) {
+    const Long begin = Events.TickCount();
+    while (!done() && Events.TickCount() - begin < kPatienceMs) Events.WaitForEvents(10);
+    return done();
+  }
+
+  QTemporaryDir folder_;
+  QtPump Events;
+  std::unique_ptr<DesktopServices> Desktop = MakeInstanceDesktop();
+};
+
+TEST_F(InstanceTest, OneOwnerOfSeveralAtOnce) {
+  std::vector<std::unique_ptr<Process>> processes;
+  for (int i = 0; i < 6; ++i) processes.push_back(std::make_unique<Process>("stay"));
+  int owners = 0;
+  for (const auto& process : processes) {
+    const QByteArray answer = process->Answer();
+    EXPECT_TRUE(answer == "mine" || answer == "exists") << answer.constData();
+    owners += answer == "mine";
+  }
+  EXPECT_EQ(owners, 1);
+}
+
+TEST_F(InstanceTest, ADeadOwnerIsNone) {
+  for (int i = 0; i < 3; ++i) {
+    Process owner("stay");
+    EXPECT_EQ(owner.Answer(), "mine");
+    EXPECT_TRUE(Desktop->WindowExists(kCaption));
+    owner.kill();  // by SIGKILL, so that it leaves all its files behind
+    owner.waitForFinished(kPatienceMs);
+  }
+  Process polite("ask");
+  EXPECT_EQ(polite.Answer(), "mine");
+  polite.waitForFinished(kPatienceMs);
+  EXPECT_FALSE(Desktop->WindowExists(kCaption));
+}
+
+TEST_F(InstanceTest, AWindowThatIsShownHasItsCaption) {
+  QWindow window;
+  window.setTitle(QString::fromUtf8(kCaption));
+  window.show();
+  EXPECT_TRUE(Desktop->WindowExists(kCaption));
+  EXPECT_FALSE(Desktop->WindowExists("TSLN:Sterne"));
+  Process other("ask");
+  EXPECT_EQ(other.Answer(), "exists");
+}
+
+TEST_F(InstanceTest, ComesForwardWhenAnotherProcessAsks) {
+  QWindow window;
+  window.setTitle(QString::fromUtf8(kCaption));
+  window.show();
+  window.setWindowState(Qt::WindowMinimized);
+  Process other("raise");
+  EXPECT_TRUE(PumpUntil([&] {
+    return !(window.windowStates() & Qt::WindowMinimized) && other.state() == QProcess::NotRunning;
+  }));
+  EXPECT_EQ(other.exitCode(), 0);
+}
+
+TEST_F(InstanceTest, AskingNobodyDoesNotWait) {
+  const Long begin = Events.TickCount();
+  Desktop->BringToFront(kCaption);
+  EXPECT_LT(Events.TickCount() - begin, 500);
+}
+
+TEST_F(InstanceTest, WithoutAFolderEveryoneMayStart) {
+  qputenv("XDG_RUNTIME_DIR", "/dev/null/nothing");
+  EXPECT_FALSE(Desktop->WindowExists(kCaption));
+  Desktop->BringToFront(kCaption);
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,119 @@
+// The guest's own side, frame by frame. Needs an X server.
+#include "hosting/guest_window.h"
+
+#include <QDeadlineTimer>
+
+#include "desktop/scripted_host.h"
+#include "hosting/frm_preview.h"
+#include "hosting/host_fixture.h"
+
+namespace starfolds {
+namespace {
+
+class GuestTest : public HostTest {
+ protected:
+  GuestTest() { Store("Advanced", "Adv_TimeDelay", 0); }
+
+  Long HostId() const { return static_cast<Long>(Host.Id()); }
+
+  /// The pumps that it took.
+  int RunPreview() {
+    State->Mode = RunMode::Preview;
+    State->PreviewParent = HostId();
+    FrmPreview(*State, NextSeed).Load();
+    return Events.Pumps;
+  }
+  int RunSaver() {
+    State->Mode = RunMode::ScreenSaver;
+    GuestWindow(*State, NextSeed, HostId()).Run(false);
+    return Events.Pumps;
+  }
+
+  void ResizeAndAwait(std::uint32_t width, std::uint32_t height) {
+    Host.Resize(width, height);
+    AwaitStop();
+  }
+  /// What the host has done reaches the guest through the server, some time later.
+  void AwaitStop() {
+    const QDeadlineTimer patience(10000);
+    while (!State->StopRun && !patience.hasExpired()) QCoreApplication::processEvents();
+    EXPECT_TRUE(State->StopRun);
+  }
+
+  /// One for all tests: another one's windows would have the numbers of former ones, whose last
+  /// events the toolkit may still have to read.
+  static const ServerConnection& Server() {
+    static const ServerConnection server = ConnectToServer();
+    return server;
+  }
+
+  HostWindow Host{Server(), 320, 200};
+};
+
+TEST_F(GuestTest, APreviewHasFewerStarsThanASaver) {
+  Store("Universe", "Universe_AmStar", 40);
+  Desktop.Windows = {HostId()};
+  const auto end = [&](int stars, int ambient) {
+    EXPECT_EQ(State->Universe.Universe_Stars, stars);
+    EXPECT_EQ(State->Universe.Universe_AmStar, ambient);
+    EXPECT_EQ(State->Screen.SurfaceWidth, 320);
+    EXPECT_EQ(State->Screen.SurfaceHeight, 200);
+    State->StopRun = true;
+  };
+  Events.Plan[5] = [&] { end(32, 20); };
+  EXPECT_EQ(RunPreview(), 5);
+  Events.Plan[10] = [&] { end(50, 40); };
+  EXPECT_EQ(RunSaver(), 10);
+}
+
+TEST_F(GuestTest, APreviewLooksForItsHostEveryFrame) {
+  Desktop.Windows = {HostId()};
+  Events.Plan[7] = [&] { Desktop.Windows.clear(); };
+  EXPECT_EQ(RunPreview(), 7);
+  EXPECT_EQ(Seeds, 1);
+}
+
+TEST_F(GuestTest, WithoutAHostNothingIsRun) {
+  Host.Destroy();
+  EXPECT_EQ(RunPreview(), 0);
+  EXPECT_EQ(RunSaver(), 0);
+  EXPECT_EQ(Seeds, 0);
+}
+
+TEST_F(GuestTest, ASaverEndsInTheFrameOfItsHostsDeath) {
+  Events.Plan[7] = [&] {
+    Host.Destroy();
+    AwaitStop();
+  };
+  EXPECT_EQ(RunSaver(), 7);
+  EXPECT_EQ(Seeds, 1);
+}
+
+TEST_F(GuestTest, AStopIsStrongerThanANewSize) {
+  Events.Plan[5] = [&] {
+    ResizeAndAwait(400, 300);
+    State->QuitApp = true;
+  };
+  EXPECT_EQ(RunSaver(), 5);
+}
+
+/// As with F5 in the application: 20 frames of creation, of the one visit, and of the pull-out.
+class GuestAnew : public GuestTest, public testing::WithParamInterface<int> {};
+
+TEST_P(GuestAnew, BeginsAtOnceAtTheHostsNewSize) {
+  const int pump = GetParam();
+  Events.Plan[pump] = [&] { ResizeAndAwait(400, 300); };
+  Events.Plan[pump + 1] = [&] {
+    EXPECT_EQ(Seeds, 2);
+    EXPECT_EQ(State->Screen.SurfaceWidth, 400);
+    EXPECT_EQ(State->Screen.CenterY, 150);
+    EXPECT_EQ(State->Screen.hDCDraw->Height(), 300);
+    State->StopRun = true;
+  };
+  EXPECT_EQ(RunSaver(), pump + 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Stages, GuestAnew, testing::Values(1, 20, 21, 40, 41, 60));
+
+}  // namespace
+}  // namespace starfolds

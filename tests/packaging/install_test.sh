@@ -1,0 +1,39 @@
+#!/bin/bash
+# install_test.sh CMAKE BUILD: installs the build as a package would, below a folder of its own, and
+# looks at it with the eyes of those who use it there.
+set -u
+cmake=$1
+build=$2
+faults=0
+root=$(mktemp -d)
+trap 'rm -r "$root"' EXIT
+
+fault() {
+  echo "$1" >&2
+  faults=$((faults + 1))
+}
+
+DESTDIR=$root "$cmake" --install "$build" --prefix /usr >/dev/null || exit 1
+share=$root/usr/share
+
+for file in "$share/applications/starfolds.desktop" \
+            "$share/applications/screensavers/starfolds.desktop"; do
+  desktop-file-validate "$file" || fault "$file is not valid"
+  icon=$(sed -n 's/^Icon=//p' "$file")
+  [ -s "$share/icons/hicolor/scalable/apps/$icon.svg" ] || fault "$file: there is no icon '$icon'"
+  # The program, in whatever folder the file looks for it.
+  for program in $(sed -n 's/^\(Try\)\?Exec=\([^ ]*\).*/\2/p' "$file"); do
+    [ "${program#/}" = "$program" ] && program=/usr/bin/$program
+    "$root$program" --version >/dev/null || fault "$file: $program does not run"
+  done
+done
+
+# MATE and Xfce take savers with these two lines alone, and start none but from such a folder.
+saver=$share/applications/screensavers/starfolds.desktop
+for line in 'Categories=Screensaver;' 'OnlyShowIn=MATE;XFCE;' \
+            'Exec=/usr/libexec/xscreensaver/starfolds --root'; do
+  grep -qxF "$line" "$saver" || fault "the saver's desktop file lacks $line"
+done
+[ -s "$share/xscreensaver/config/starfolds.xml" ] || fault "XScreenSaver's settings are missing"
+
+[ "$faults" = 0 ] || exit 1

@@ -1,0 +1,79 @@
+#include "settings/overrides.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "settings/storage.h"
+
+namespace starfolds {
+namespace {
+
+class OverridesTest : public testing::Test {
+ protected:
+  OverridesTest() {
+    SettingsRecords records;
+    records.Universe.Universe_Stars = 77;
+    records.Universe.Universe_Starfold = 7;
+    records.Composites[3].CompFold_Count = 2;
+    SaveSettings(Stored, records);
+    Before = Stored;
+  }
+
+  void Override(const std::vector<std::pair<std::string, std::string>>& changes) {
+    Tree.Override(changes);
+  }
+
+  MemoryTree Stored;
+  MemoryTree Before;
+  OverriddenTree Tree{Stored};
+};
+
+TEST_F(OverridesTest, HoldWhateverIsStored) {
+  Override({{"Universe_Stars", "5000"},
+            {"Universe_Tour", "0"},
+            {"Adv_TimeDelay", "40"},
+            {"Adv_Randomize", "1"},
+            {"Starfold_Radius", "123"},
+            {"Starfold07/Starfold_Radius", "321"},
+            {"CompFold3/CompFold_Type1", "9"},
+            {"Universe_Star", "1"},
+            {"Universe_Starfold", "many"},
+            {"Starfold50/Starfold_Radius", "1"},
+            {"", "1"}});
+  RegistryWrite(Stored, "Advanced", "Adv_TimeDelay", Long{99});
+  Before = Stored;
+  const SettingsRecords seen = LoadSettings(Tree);
+  EXPECT_EQ(seen.Universe.Universe_Stars, 5000);
+  EXPECT_EQ(seen.Universe.Universe_Starfold, 7);
+  EXPECT_FALSE(seen.Universe.Universe_Tour);
+  EXPECT_EQ(seen.Advanced.Adv_TimeDelay, 40);
+  EXPECT_TRUE(seen.Advanced.Adv_Randomize);
+  EXPECT_EQ(seen.Profiles[6].Starfold_Radius, 123);
+  EXPECT_EQ(seen.Profiles[7].Starfold_Radius, 321);
+  EXPECT_EQ(seen.Composites[3].CompFold_Type[1], 9);
+  EXPECT_TRUE(Stored == Before);
+}
+
+TEST_F(OverridesTest, LetWritesThrough) {
+  Override({{"Universe_Stars", "5000"}});
+  SettingsRecords records;
+  records.Universe.Universe_Stars = 88;
+  records.Universe.Universe_Starfold = 8;
+  EXPECT_TRUE(SaveSettings(Tree, records));
+  EXPECT_EQ(LoadSettings(Stored).Universe.Universe_Stars, 88);
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 5000);
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Starfold, 8);
+}
+
+/// A bulk that fails underneath fails, and leaves nothing behind.
+TEST_F(OverridesTest, SaveAllOrNothing) {
+  SettingsRecords records;
+  Stored.WritesUntilFull = 100;
+  EXPECT_FALSE(SaveSettings(Tree, records));
+  Stored.WritesUntilFull = -1;
+  EXPECT_TRUE(Stored == Before);
+}
+
+}  // namespace
+}  // namespace starfolds
