@@ -52,6 +52,9 @@ cpu() {
   awk -v tick="$(getconf CLK_TCK)" '{ print ($12 + $13) * 1000 / tick }' <<<"$fields"
 }
 
+# Away from the settings of whoever runs this.
+export HOME=$folder XDG_DATA_HOME=$folder XDG_CONFIG_HOME=$folder
+
 # row SIZE NAME STARS FRAMES COMMAND...: runs the command on a server of its own and prints its row.
 row() {
   local size=$1 name=$2 stars=$3 frames=$4 before after
