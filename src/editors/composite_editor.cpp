@@ -17,8 +17,9 @@ namespace {
 constexpr NumberRange kPercents{NumberKind::AsInteger, 0, 9999};
 constexpr Styles kIfsStyles{1, 2, 3, 8};
 constexpr Colour kWarning = 0xFFFF00;
-constexpr int kLabelGap = 3;  // logical pixels between a label and its control
-constexpr int kGroupGap = 5;  // and what comes to that between two of them
+constexpr int kLabelGap = 3;         // logical pixels between a label and its control
+constexpr int kGroupGap = 5;         // and what comes to that between two of them
+constexpr int kNameCharacters = 16;  // of a type, at least in sight
 constexpr std::string_view kIfsNote =
     "Two or more of the selected Starfold Types have a Style of IFS.";
 
@@ -87,6 +88,9 @@ CompositeEditor::CompositeEditor(const PropsModel& model, QWidget* parent)
   percent_->SetRange(kPercents);
   resetPercent_->SetRange(kPercents);
   resetPercent_->SetBlankAllowed();
+  // A long name must not make the page wider.
+  major_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  major_->setMinimumContentsLength(kNameCharacters);
   minors_->setSelectionMode(QAbstractItemView::MultiSelection);
   minors_->setItemDelegate(new TickDelegate(minors_));
   minors_->setUniformItemSizes(true);
@@ -168,7 +172,8 @@ void CompositeEditor::SetBodies(const std::vector<std::string>& names) {
       major_->addItem(name);
       minors_->addItem(name);
     }
-    minors_->item(i)->setToolTip(name);  // it may be cut
+    major_->setItemData(i, name, Qt::ToolTipRole);  // it may be cut
+    minors_->item(i)->setToolTip(name);
   }
   while (major_->count() > count) {
     major_->removeItem(major_->count() - 1);

@@ -112,9 +112,9 @@ void PropertyCopy::ShowTextBox(const CopyRow& row) {
   ShowValueControl(*text_, row);
 }
 
+/// The first one that comes into an empty list is selected.
 void PropertyCopy::ShowChoices(const CopyRow& row) {
   for (const std::string_view name : row.Choices()) choice_->addItem(Shown(name));
-  choice_->setCurrentIndex(0);
   ShowValueControl(*choice_, row);
 }
 

@@ -1,6 +1,8 @@
 #include "editors/qt_message_boxes.h"
 
+#include <QLabel>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "editors/props_model.h"
 
@@ -17,20 +19,30 @@ QMessageBox::Icon IconOf(BoxStyle style) {
   return QMessageBox::NoIcon;
 }
 
+bool Asks(BoxStyle style) { return style == BoxStyle::YesNoCancelQuestion; }
+
 void AddButtons(QMessageBox& box, BoxStyle style) {
-  const bool asks = style == BoxStyle::YesNoCancelQuestion;
-  box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
-                              : QMessageBox::StandardButtons(QMessageBox::Ok));
-  box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
-  box.setEscapeButton(asks ? QMessageBox::Cancel : QMessageBox::Ok);
+  box.setStandardButtons(Asks(style) ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
+                                     : QMessageBox::StandardButtons(QMessageBox::Ok));
+  box.setDefaultButton(Asks(style) ? QMessageBox::Yes : QMessageBox::Ok);
+  box.setEscapeButton(Asks(style) ? QMessageBox::Cancel : QMessageBox::Ok);
 }
 
-BoxAnswer AnswerOf(int button) {
+/// Lines of usual length are not broken: some texts stand in columns.
+void WidenToLines(QMessageBox& box) {
+  constexpr int widest = 600;
+  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+    const int width = label->fontMetrics().boundingRect({}, Qt::AlignLeft, box.text()).width();
+    label->setMinimumWidth(std::min(width + 1, widest));
+  }
+}
+
+BoxAnswer AnswerOf(int button, BoxStyle style) {
   switch (button) {
     case QMessageBox::Yes: return BoxAnswer::Yes;
     case QMessageBox::No: return BoxAnswer::No;
-    case QMessageBox::Cancel: return BoxAnswer::Cancel;
-    default: return BoxAnswer::Ok;
+    case QMessageBox::Ok: return BoxAnswer::Ok;
+    default: return Asks(style) ? BoxAnswer::Cancel : BoxAnswer::Ok;
   }
 }
 
@@ -43,7 +55,8 @@ BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
   box.setText(Shown(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   AddButtons(box, style);
-  return AnswerOf(box.exec());
+  WidenToLines(box);
+  return AnswerOf(box.exec(), style);
 }
 
 }  // namespace starfolds

@@ -159,6 +159,10 @@ TEST_F(CompositeEditorTest, TwoIteratedFunctionSystemsAreWarnedOfAndStored) {
     EXPECT_EQ(Members(2)[0], row.Major);
   }
   Choose(1, {2});
+  Major.setCurrentIndex(0);
+  EXPECT_EQ(NameColour(), usual);
+  Major.setCurrentIndex(1);
+  EXPECT_NE(NameColour(), usual);
   Editor.ClearEditor();
   EXPECT_EQ(NameColour(), usual);
 }

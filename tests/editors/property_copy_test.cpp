@@ -173,7 +173,6 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
       value = std::to_string(row.Choices - 1);
     } else {
       EXPECT_EQ(Check.text(), "Control Point Loop is Closed?");
-      EXPECT_FALSE(Check.isChecked());
       Check.setChecked(true);
       value = "1";
     }
@@ -187,6 +186,17 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
     EXPECT_EQ(LastBox(), "");
     Process->Profiles = former;
   }
+}
+
+TEST_F(PropertyCopyTest, EachEntryBeginsWithoutTheFormerValue) {
+  List.setCurrentIndex(61);
+  Check.setChecked(true);
+  List.setCurrentIndex(12);
+  Choice.setCurrentIndex(4);
+  List.setCurrentIndex(20);
+  EXPECT_EQ(Choice.currentIndex(), 0);
+  List.setCurrentIndex(61);
+  EXPECT_FALSE(Check.isChecked());
 }
 
 TEST_F(PropertyCopyTest, WithoutASelectionNothingIsShownOrTaken) {

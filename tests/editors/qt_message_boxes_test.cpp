@@ -1,0 +1,83 @@
+#include "editors/qt_message_boxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+#include "editors/widgets.h"
+
+namespace starfolds {
+namespace {
+
+using Act = std::function<void(QMessageBox&)>;
+
+Act Click(QMessageBox::StandardButton button) {
+  return [button](QMessageBox& box) {
+    ASSERT_NE(box.button(button), nullptr);
+    box.button(button)->click();
+  };
+}
+Act Key(int key) {
+  return [key](QMessageBox& box) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&box, &press);
+  };
+}
+const Act kClose = [](QMessageBox& box) { box.close(); };
+const Act kGiveUp = [](QMessageBox& box) { box.reject(); };
+
+TEST(QtMessageBoxes, AnswerByTheirButtonsKeysAndClosing) {
+  struct Row {
+    BoxStyle Style;
+    Act Do;
+    BoxAnswer Answer;
+  };
+  const Row rows[] = {
+      {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::Yes), BoxAnswer::Yes},
+      {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::No), BoxAnswer::No},
+      {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::Cancel), BoxAnswer::Cancel},
+      {BoxStyle::YesNoCancelQuestion, Key(Qt::Key_Escape), BoxAnswer::Cancel},
+      {BoxStyle::YesNoCancelQuestion, Key(Qt::Key_Return), BoxAnswer::Yes},
+      {BoxStyle::YesNoCancelQuestion, kClose, BoxAnswer::Cancel},
+      {BoxStyle::YesNoCancelQuestion, kGiveUp, BoxAnswer::Cancel},
+      {BoxStyle::Information, Click(QMessageBox::Ok), BoxAnswer::Ok},
+      {BoxStyle::Exclamation, Key(Qt::Key_Escape), BoxAnswer::Ok},
+      {BoxStyle::Plain, kClose, BoxAnswer::Ok},
+  };
+  QtMessageBoxes boxes;
+  for (const Row& row : rows) {
+    WhenShown<QMessageBox>(row.Do);
+    EXPECT_EQ(boxes.Show("text", row.Style, "caption"), row.Answer) << &row - rows;
+  }
+}
+
+TEST(QtMessageBoxes, ShowTheTextAsItIsOverTheirParent) {
+  QWidget parent;
+  QtMessageBoxes boxes;
+  boxes.SetParent(&parent);
+  WhenShown<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.text(), "A <b>name</b>\n\xC3\xA4");
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.windowTitle(), "Starfolds");
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.parentWidget(), &parent);
+    EXPECT_TRUE(box.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    box.close();
+  });
+  boxes.Show("A <b>name</b>\n\xC3\xA4", BoxStyle::Exclamation, "Starfolds");
+}
+
+TEST(QtMessageBoxes, OutliveTheirParent) {
+  QtMessageBoxes boxes;
+  {
+    QWidget parent;
+    boxes.SetParent(&parent);
+  }
+  WhenShown<QMessageBox>(kClose);
+  EXPECT_EQ(boxes.Show("text", BoxStyle::Information, "caption"), BoxAnswer::Ok);
+}
+
+}  // namespace
+}  // namespace starfolds
