@@ -61,7 +61,7 @@ class WindowSurface::EffectWindow : public QWindow {
     if (event->type() == QEvent::PlatformSurface) {
       const auto* change = static_cast<QPlatformSurfaceEvent*>(event);
       if (change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceCreated) {
-        surface_.WatchSight();
+        surface_.MeetWindow();
       } else {
         events_.Destroyed();
       }
@@ -131,10 +131,14 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
 void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
   window_->hide();
   window_->setFlags(flags);
-  if (window_->handle() != nullptr) WatchSight();
+  if (window_->handle() != nullptr) MeetWindow();
 }
 
-void WindowSurface::WatchSight() { sight_ = MakeSightWatch(*window_); }
+/// The window exists, or has been made anew.
+void WindowSurface::MeetWindow() {
+  sight_ = MakeSightWatch(*window_);
+  points_ = MakePointPainter(*window_);
+}
 
 bool WindowSurface::ShowInside(ForeignWindow& host) {
   // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
@@ -168,12 +172,21 @@ void WindowSurface::Present() {
       store_->beginPaint(region);
       repaintAll_ = !Paint(*store_->paintDevice(), whole);
       store_->endPaint();
-      store_->flush(region);
+      if (whole || repaintAll_ || !DrawPoints(region)) store_->flush(region);
     }
   } else {
     repaintAll_ = true;
   }
   ForgetJournal();
+}
+
+/// The window's picture has the changes as well, for when it is shown in parts or as a whole.
+bool WindowSurface::DrawPoints(const QRegion& region) {
+  if (!points_) return false;
+  double area = 0;
+  for (const QRect& rect : region) area += rect.width() * factor_ * rect.height() * factor_;
+  return points_->Draw(*this, {JournalBegin(), JournalEnd()}, scale_,
+                       static_cast<std::int64_t>(area));
 }
 
 void WindowSurface::Repaint() {

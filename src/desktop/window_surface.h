@@ -14,6 +14,7 @@
 #include "desktop/dirty_tiles.h"
 #include "desktop/foreign_window.h"
 #include "desktop/pixel_scale.h"
+#include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
 #include "desktop/screen_watch.h"
 #include "desktop/sight_watch.h"
@@ -32,8 +33,9 @@ struct ScreenPlace {
 };
 
 /// The canvas is the truth; `Present` copies what the journal names into the window's own picture
-/// and shows the touched tiles. The surface has a size of its own: it takes over the window's only
-/// by `TakeWindowSize`, and until then a resized window shows it cut off, or black around it.
+/// and shows the touched tiles of it, or draws the pixels one by one where that is cheaper. The
+/// surface has a size of its own: it takes over the window's only by `TakeWindowSize`, and until
+/// then a resized window shows it cut off, or black around it.
 class WindowSurface : public Surface {
  public:
   /// `events` outlives the surface. Nothing is shown yet.
@@ -43,7 +45,6 @@ class WindowSurface : public Surface {
   void SetName(const std::string& objectName);
   void SetCaption(const std::string& caption);
   void HidePointer();
-
   void ShowPointer();
 
   /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
@@ -76,19 +77,21 @@ class WindowSurface : public Surface {
   class EffectWindow;
 
   void TakeFlags(Qt::WindowFlags flags);
-  void WatchSight();
+  void MeetWindow();
   void CoverScreen(ScreenPlace place);
   void Repaint();
   void FitBackingStore();
   QRegion TouchedRegion();
   bool Paint(QPaintDevice& picture, bool whole);
+  bool DrawPoints(const QRegion& region);
   void MeasureScale(QSize pictureSize);
   void PaintDirectly(ScreenImage image, bool whole);
   void PaintWithPainter(QPaintDevice& picture, bool whole);
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
-  std::unique_ptr<SightWatch> sight_;  // none where the window system does not tell
+  std::unique_ptr<SightWatch> sight_;     // none where the window system does not tell
+  std::unique_ptr<PointPainter> points_;  // none where the window system cannot
   std::optional<ScreenWatch> screens_;
   bool repaintAll_ = true;
   double factor_ = 1;  // physical pixels per logical one

@@ -153,6 +153,22 @@ TEST_F(WindowSurfaceTest, ShowsAFrameOfMoreChangesThanTheJournalHolds) {
   ExpectShown();
 }
 
+/// Many pixels of few colours go to the screen by another road than few pixels of many.
+TEST_F(WindowSurfaceTest, ShowsStarsColourByColour) {
+  ShowAt(400, 300);
+  Target.TakeWindowSize();
+  Target.Present();
+  for (int frame = 0; frame < 6; ++frame) {
+    for (int i = 0; i < 700; ++i) {
+      const Colour colour = i % 2 == 0 ? 0 : 0x102030U * (Random() % 8);
+      Target.SetPixelV(static_cast<Long>(Random() % 400), static_cast<Long>(Random() % 300),
+                       colour);
+    }
+    Target.Present();
+    ExpectShown();
+  }
+}
+
 TEST_F(WindowSurfaceTest, KeepsItsSizeWhenTheWindowIsResized) {
   ShowAt(300, 200);
   Target.TakeWindowSize();

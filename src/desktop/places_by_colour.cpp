@@ -1,0 +1,58 @@
+#include "desktop/places_by_colour.h"
+
+#include "desktop/screen_image.h"
+
+namespace starfolds {
+
+bool PlacesByColour::Sort(const Surface& surface, std::span<const Surface::PixelPlace> places) {
+  const bool few = Count(surface, places);
+  for (const std::size_t slot : usedSlots_) groupOfSlot_[slot] = kFree;
+  if (!few) return false;
+  std::size_t begin = 0;
+  for (Group& group : groups_) {
+    group.Begin = begin;
+    begin += group.Count;
+    group.Count = 0;
+  }
+  sorted_.resize(places.size());
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    Group& group = groups_[groupOfPlace_[i]];
+    sorted_[group.Begin + group.Count++] = places[i];
+  }
+  return true;
+}
+
+bool PlacesByColour::Count(const Surface& surface, std::span<const Surface::PixelPlace> places) {
+  const Colour* const pixels = surface.Pixels().data();
+  const auto width = static_cast<std::size_t>(surface.Width());
+  groups_.clear();
+  usedSlots_.clear();
+  groupOfPlace_.resize(places.size());
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    const auto row = static_cast<std::size_t>(RowOf(places[i]));
+    const Colour ink = pixels[row * width + static_cast<std::size_t>(ColumnOf(places[i]))];
+    const std::size_t slot = SlotOf(ink);
+    std::uint16_t& number = groupOfSlot_[slot];
+    if (number == kFree) {
+      if (groups_.size() == kMostColours) return false;
+      groups_.push_back({ink, 0, 0});
+      usedSlots_.push_back(slot);
+      number = static_cast<std::uint16_t>(groups_.size());
+    }
+    ++groups_[number - 1U].Count;
+    groupOfPlace_[i] = static_cast<std::uint16_t>(number - 1U);
+  }
+  return true;
+}
+
+/// Where the colour is, or would be: colours that meet stand in a row. The multiplier is the golden
+/// section of 32 bits, which spreads the neighbours of a colour table.
+std::size_t PlacesByColour::SlotOf(Colour ink) const {
+  std::size_t slot = (ink * 0x9E3779B9U) >> 20U;
+  while (groupOfSlot_[slot] != kFree && groups_[groupOfSlot_[slot] - 1U].Ink != ink) {
+    slot = (slot + 1) % kSlots;
+  }
+  return slot;
+}
+
+}  // namespace starfolds
