@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # Renders the contact sheets of the factory settings into docs/pictures/sheets/: every profile and
-# composite of both sets as a viewer sees it from its own distance, and the eight universe themes.
+# composite of both sets as a viewer sees it from its own distance, and the eight universe themes;
+# and into docs/pictures/templates/ six frames of each template.
 # Usage: docs/sheets.sh PROGRAM   (the path of starfolds-render)
 set -euo pipefail
 program=$(realpath "$1")
 mkdir -p "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
+mkdir -p "$(dirname "${BASH_SOURCE[0]}")/pictures/templates"
 cd "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -63,8 +65,35 @@ themes() {
   sheet themes.png 4
 }
 
+# template NAME FRAME...: frames of one universe of a template, in which there is something to see.
+template() {
+  local name=$1 frame
+  shift
+  mkdir -p "$scratch/tiles"
+  for frame in "$@"; do
+    tile "$(printf '%s/tiles/%05d.png' "$scratch" "$frame")" "$frame" --seed 4 \
+      --template "../../../templates/$name.sfd"
+  done
+  montage -background '#303030' "$scratch"/tiles/*.png -tile 3x -geometry +3+3 -strip \
+    -colors 255 "PNG8:../templates/$name.png"
+  rm -r "$scratch/tiles"
+}
+
 for set in 0 1; do
   bodies "$set" profile 300
   bodies "$set" composite 300
 done
 themes
+
+template clockwork 201 744 1649 2554 3278 4183
+template deep-field 242 1130 2240 3128 4016 4904
+template ember-veils 384 748 1658 2386 3296 4752
+template falling-together 140 620 980 1580 2300 3140
+template fern-house 220 1020 1820 2820 3620 5420
+template molecule-garden 748 1658 2568 3296 4206 4934
+template night-express 69 363 559 804 951 1343
+template one-lotus 182 506 1154 2126 3098 4394
+template pocket-universe 332 644 1268 2204 2672 3452
+template quiet-night 20 1112 2750 3842 4934 7391
+template slow-tide 420 1020 1820 2620 3620 4620
+template storm-front 248 476 1046 1616 2072 3098

@@ -8,7 +8,7 @@
 #include <QTextDocument>
 #include <string>
 
-#include "editors/widgets_toolkit.h"
+#include "editors/widgets.h"
 #include "settings/first_run.h"
 #include "settings/registry.h"
 

@@ -6,7 +6,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
-#include "editors/widgets_toolkit.h"
+#include "editors/widgets.h"
 
 namespace starfolds {
 namespace {

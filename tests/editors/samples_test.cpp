@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "editors/picture_box.h"
-#include "editors/widgets_toolkit.h"
+#include "editors/widgets.h"
 #include "settings/factory.h"
 
 namespace starfolds {

@@ -1,0 +1,124 @@
+// The templates that the project brings along, as a user's program reads them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "settings/fields.h"
+#include "settings/storage.h"
+#include "settings/templates.h"
+
+namespace starfolds {
+namespace {
+
+std::vector<std::filesystem::path> ShippedTemplates() {
+  std::vector<std::filesystem::path> paths;
+  for (const auto& entry : std::filesystem::directory_iterator(STARFOLDS_TEMPLATES)) {
+    if (entry.path().extension() == ".sfd") paths.push_back(entry.path());
+  }
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
+std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+SettingsRecords Read(const std::string& bytes) {
+  MemoryFiles disk;
+  disk.Contents["in.sfd"] = bytes;
+  TemplateFile file(disk);
+  SettingsRecords records;
+  EXPECT_EQ(ReadTemplate(file, "in.sfd", records), std::nullopt);
+  return records;
+}
+
+/// The bytes of a template with these settings, all of them held to their ranges.
+std::string Written(SettingsRecords records) {
+  MemoryTree tree;
+  SaveAdvancedToRegistry(tree, records.Advanced);
+  ClampUniverse(records.Universe);
+  MemoryFiles disk;
+  TemplateFile file(disk);
+  file.TemplateFileName = "out.sfd";
+  EXPECT_EQ(WriteTemplate(file, tree, records.Universe, records.Profiles, records.Composites, {}),
+            std::nullopt);
+  return disk.Contents["out.sfd"];
+}
+
+/// Whether nobody has designed this body: all but its weight and its name is as in a new record.
+bool IsBare(const StarfoldProfile& profile) {
+  static const StarfoldProfile fresh;
+  return std::all_of(ProfileFields().begin(), ProfileFields().end(), [&](const auto& field) {
+    return field.Name.starts_with("_") || FieldText(profile, field) == FieldText(fresh, field);
+  });
+}
+
+/// The profiles that can be met: those with a weight, members of composites with a weight, and
+/// whatever the tour asks for.
+std::vector<int> ProfilesInUse(const SettingsRecords& records) {
+  std::vector<int> profiles;
+  const auto addComposite = [&](const CompositeProfile& composite) {
+    profiles.insert(profiles.end(), composite.CompFold_Type.begin(),
+                    composite.CompFold_Type.begin() + composite.MemberCount());
+  };
+  for (int i = 0; i < kProfileCount; ++i) {
+    if (records.Profiles[i].UniFoldPct > 0) profiles.push_back(i);
+  }
+  for (const CompositeProfile& composite : records.Composites) {
+    if (composite.CompFoldPct > 0) addComposite(composite);
+  }
+  const VisitList visits = ParseVisitList(records.Universe.Universe_GS_Idx);
+  for (int i = 0; i < visits.Count; ++i) {
+    const int body = visits.Bodies[i];
+    if (body < kFirstComposite) {
+      profiles.push_back(body);
+    } else {
+      addComposite(records.Composites[body - kFirstComposite]);
+    }
+  }
+  return profiles;
+}
+
+TEST(ShippedTemplates, AreAtLeastEight) { EXPECT_GE(ShippedTemplates().size(), 8U); }
+
+/// A value beyond its range would be written anew as the limit, and a file that another version or
+/// another program has written would differ somewhere.
+TEST(ShippedTemplates, ComeBackByteByByte) {
+  for (const auto& path : ShippedTemplates()) {
+    const std::string bytes = BytesOf(path);
+    EXPECT_TRUE(Written(Read(bytes)) == bytes) << path.filename();
+  }
+}
+
+TEST(ShippedTemplates, HaveLinesThatEndWithCrLf) {
+  for (const auto& path : ShippedTemplates()) {
+    const std::string bytes = BytesOf(path);
+    ASSERT_TRUE(bytes.ends_with("\r\n")) << path.filename();
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+      const bool returns = i > 0 && bytes[i - 1] == '\r';
+      ASSERT_EQ(bytes[i] == '\n', returns) << path.filename() << " at byte " << i;
+    }
+  }
+}
+
+TEST(ShippedTemplates, ShowDesignedBodiesAtAWatchablePace) {
+  for (const auto& path : ShippedTemplates()) {
+    const SettingsRecords records = Read(BytesOf(path));
+    const std::vector<int> inUse = ProfilesInUse(records);
+    EXPECT_FALSE(inUse.empty()) << path.filename();
+    for (const int profile : inUse) {
+      EXPECT_FALSE(IsBare(records.Profiles[profile])) << path.filename() << ", body " << profile;
+    }
+    EXPECT_GE(records.Advanced.Adv_TimeDelay, 25) << path.filename();
+    EXPECT_LE(records.Advanced.Adv_TimeDelay, 50) << path.filename();
+    EXPECT_EQ(records.Advanced.LockMessage, "") << path.filename();
+  }
+}
+
+}  // namespace
+}  // namespace starfolds
