@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "hosting/lock_message.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
@@ -10,26 +11,29 @@ GuestWindow::GuestWindow(Saver& saver, SeedSource seed, Long host)
     : saver_(saver),
       seed_(std::move(seed)),
       host_(OpenForeignWindow(host, *this)),
-      surface_(*this) {}
+      surface_(*this),
+      picMessage_(surface_.Window()) {}
 
 GuestWindow::~GuestWindow() { saver_.Screen.hDCDraw = nullptr; }
 
 bool GuestWindow::Run(bool smallPreview) {
   if (!host_ || !surface_.ShowInside(*host_)) return false;
   saver_.StopRun = hostGone_ || saver_.QuitApp;
+  smallPreview_ = smallPreview;
   WaitUntilShown(saver_, surface_);
   do {
-    RunAtHostsSize(smallPreview);
+    RunAtHostsSize();
   } while (beginAnew_ && !hostGone_ && !saver_.QuitApp);
   return true;
 }
 
-void GuestWindow::RunAtHostsSize(bool smallPreview) {
+void GuestWindow::RunAtHostsSize() {
   beginAnew_ = false;
   saver_.StopRun = hostGone_ || saver_.QuitApp;
   surface_.TakeSize(host_->Size());
   SetupDisplay(saver_, surface_, seed_());
-  RunEffect(saver_, surface_, smallPreview);
+  if (!smallPreview_) ShowLockMessage(picMessage_, saver_.Advanced);
+  RunEffect(saver_, surface_, smallPreview_);
 }
 
 /// Lets the run end at its next frame, whatever stage it is in, and `Run` start another one. A run
@@ -42,6 +46,11 @@ void GuestWindow::HostResized() {
 void GuestWindow::HostGone() {
   hostGone_ = true;
   saver_.StopRun = true;
+}
+
+/// The window takes its new size some time after the host's, and the message stands in its middle.
+void GuestWindow::Resized() {
+  if (!smallPreview_) ShowLockMessage(picMessage_, saver_.Advanced);
 }
 
 void GuestWindow::Destroyed() { HostGone(); }

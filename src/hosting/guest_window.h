@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "desktop/foreign_window.h"
+#include "desktop/message_window.h"
 #include "hosting/run_loop.h"
 
 namespace starfolds {
@@ -17,7 +18,8 @@ class GuestWindow : private WindowEvents, private ForeignWindowEvents {
   ~GuestWindow() override;
 
   /// Shows the window and runs the effect. Returns when the host is gone or the process is to end.
-  /// False: there is no such window, or not any more, and nothing was run.
+  /// False: there is no such window, or not any more, and nothing was run. A preview does not show
+  /// the user's message.
   bool Run(bool smallPreview);
 
   WindowSurface& Drawing() { return surface_; }
@@ -25,16 +27,19 @@ class GuestWindow : private WindowEvents, private ForeignWindowEvents {
  private:
   void HostResized() override;
   void HostGone() override;
+  void Resized() override;
   void Destroyed() override;
 
-  void RunAtHostsSize(bool smallPreview);
+  void RunAtHostsSize();
 
   Saver& saver_;
   SeedSource seed_;
   std::unique_ptr<ForeignWindow> host_;
+  bool smallPreview_ = false;
   bool hostGone_ = false;
   bool beginAnew_ = false;
   WindowSurface surface_;  // inside `host_`, and so to go before it
+  MessageWindow picMessage_;
 };
 
 }  // namespace starfolds

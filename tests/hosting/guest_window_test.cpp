@@ -2,6 +2,8 @@
 #include "hosting/guest_window.h"
 
 #include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <cstdlib>
 
 #include "desktop/scripted_host.h"
 #include "hosting/frm_preview.h"
@@ -71,6 +73,37 @@ TEST_F(GuestTest, APreviewLooksForItsHostEveryFrame) {
   Events.Plan[7] = [&] { Desktop.Windows.clear(); };
   EXPECT_EQ(RunPreview(), 7);
   EXPECT_EQ(Seeds, 1);
+}
+
+TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
+  RegistryWrite(Tree, "Advanced", "LockMessage", "Back at noon");
+  Desktop.Windows = {HostId()};
+  const auto message = [] {
+    for (QWindow* const window : QGuiApplication::allWindows()) {
+      if (window->objectName() == "picMessage" && window->isVisible()) return window;
+    }
+    return static_cast<QWindow*>(nullptr);
+  };
+  const auto isCentred = [](const QWindow& window, int width) {
+    return std::abs(2 * window.x() + window.width() - width) <= 1;
+  };
+  Events.Plan[5] = [&] {
+    EXPECT_EQ(message(), nullptr);
+    State->StopRun = true;
+  };
+  RunPreview();
+  Events.Plan[10] = [&] {
+    ASSERT_NE(message(), nullptr);
+    EXPECT_TRUE(isCentred(*message(), 320));
+    ResizeAndAwait(500, 300);
+  };
+  Events.Plan[11] = [&] {
+    const QDeadlineTimer patience(10000);
+    while (!isCentred(*message(), 500) && !patience.hasExpired()) QCoreApplication::processEvents();
+    EXPECT_TRUE(isCentred(*message(), 500));
+    State->StopRun = true;
+  };
+  EXPECT_EQ(RunSaver(), 11);
 }
 
 TEST_F(GuestTest, WithoutAHostNothingIsRun) {
