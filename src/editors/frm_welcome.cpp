@@ -2,11 +2,16 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <iterator>
+#include <memory>
 #include <utility>
 
 #include "editors/props_model.h"
+#include "editors/samples.h"
+#include "settings/factory.h"
 
 namespace starfolds {
 namespace {
@@ -14,6 +19,8 @@ namespace {
 constexpr int kTextWidth = 460;
 constexpr int kEdge = 24;
 constexpr int kStatusHeight = 12;
+constexpr int kBannerHeight = 96;
+constexpr int kBannerBodies[] = {9, 18, 22, 38};
 
 /// With its double blanks.
 QString AsItStands(const QString& text) {
@@ -39,18 +46,46 @@ QString PageAsHtml(const QString& text) {
   return html;
 }
 
+/// Some of the factory's bodies in a row.
+QImage Banner(qreal ratio) {
+  const auto factory = std::make_unique<SettingsRecords>();
+  LoadFactorySet(*factory, FactorySet::Starfolds4x);
+  constexpr int count = static_cast<int>(std::size(kBannerBodies));
+  const QSize tile((kTextWidth + 2 * kEdge) / count, kBannerHeight);
+  QImage banner(QSize(tile.width() * count, tile.height()) * ratio, QImage::Format_RGB32);
+  banner.setDevicePixelRatio(ratio);
+  banner.fill(Qt::black);
+  QPainter painter(&banner);
+  for (int i = 0; i < count; ++i) {
+    const QImage body = ProfileSample(factory->Profiles, kBannerBodies[i], {tile, ratio});
+    painter.drawImage(i * tile.width(), 0, body);
+  }
+  return banner;
+}
+
 }  // namespace
 
 FrmWelcome::FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, QWidget* parent)
     : QDialog(parent), saveCopy_(std::move(saveCopy)) {
   setObjectName("frmWelcome");
   setWindowTitle(Shown(kProductName));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
-  column->setSpacing(kEdge / 2);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->setSizeConstraint(QLayout::SetFixedSize);
+  AddBanner();
+  column_ = new QVBoxLayout;
+  all->addLayout(column_);
+  column_->setContentsMargins(kEdge, kEdge * 2 / 3, kEdge, kEdge);
+  column_->setSpacing(kEdge / 2);
   AddText(page);
   AddButtons(page);
-  column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void FrmWelcome::AddBanner() {
+  auto* banner = new QLabel(this);
+  banner->setObjectName("picBanner");
+  banner->setPixmap(QPixmap::fromImage(Banner(devicePixelRatioF())));
+  layout()->addWidget(banner);
 }
 
 void FrmWelcome::AddText(const WelcomePage& page) {
@@ -61,7 +96,7 @@ void FrmWelcome::AddText(const WelcomePage& page) {
   large.setBold(true);
   title->setFont(large);
   title->setTextFormat(Qt::PlainText);
-  layout()->addWidget(title);
+  column_->addWidget(title);
 
   auto* text = new QLabel(PageAsHtml(Shown(page.Text)), this);
   text->setObjectName("lblPage");
@@ -69,7 +104,7 @@ void FrmWelcome::AddText(const WelcomePage& page) {
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text->setWordWrap(true);
   text->setFixedWidth(kTextWidth);
-  layout()->addWidget(text);
+  column_->addWidget(text);
 }
 
 void FrmWelcome::AddButtons(const WelcomePage& page) {
@@ -81,7 +116,7 @@ void FrmWelcome::AddButtons(const WelcomePage& page) {
   policy.setRetainSizeWhenHidden(page.OffersReset);  // the dialog does not jump
   picStatus_->setSizePolicy(policy);
   picStatus_->hide();
-  layout()->addWidget(picStatus_);
+  column_->addWidget(picStatus_);
 
   cmdReset_ = new QPushButton("&Reset the Properties", this);
   cmdReset_->setObjectName("cmdReset");
@@ -98,7 +133,7 @@ void FrmWelcome::AddButtons(const WelcomePage& page) {
   buttons->addStretch();
   buttons->addWidget(cmdReset_);
   buttons->addWidget(cmdDismiss_);
-  static_cast<QVBoxLayout*>(layout())->addLayout(buttons);
+  column_->addLayout(buttons);
 }
 
 /// Nothing closes the dialog while the copy is written, which may show a message of its own.

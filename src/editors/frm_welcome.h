@@ -8,6 +8,7 @@
 #include "settings/property_flows.h"
 
 class QPushButton;
+class QVBoxLayout;
 
 namespace starfolds {
 
@@ -27,6 +28,7 @@ class FrmWelcome : public QDialog {
   void reject() override;
 
  private:
+  void AddBanner();
   void AddText(const WelcomePage& page);
   void AddButtons(const WelcomePage& page);
   void Reset();
@@ -34,6 +36,7 @@ class FrmWelcome : public QDialog {
   SafetyCopy saveCopy_;
   bool resetRequested_ = false;
   bool saving_ = false;
+  QVBoxLayout* column_ = nullptr;  // below the banner
   QPushButton* cmdReset_ = nullptr;
   QPushButton* cmdDismiss_ = nullptr;
   PictureBox* picStatus_ = nullptr;

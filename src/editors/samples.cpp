@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <numbers>
@@ -132,11 +133,12 @@ class BodyStudio {
   }
 
   QImage Picture(const StarfoldProfile& profile, SampleSize size) {
-    saver_->Profiles[0] = profile;
-    ClampProfile(saver_->Profiles[0]);
-    BuildHueWheel(saver_->Colours.Profile[0].HueTable, profile);
-    BuildFlareTable(saver_->Colours.Profile[0].NovaRamp, profile.Starfold_HWC_Start,
-                    profile.Starfold_HWC_End);
+    StarfoldProfile& shown = saver_->Profiles[0];
+    shown = profile;
+    ClampProfile(shown);
+    ProfileColours& colours = saver_->Colours.Profile[0];
+    BuildHueWheel(colours.HueTable, shown);
+    BuildFlareTable(colours.NovaRamp, shown.Starfold_HWC_Start, shown.Starfold_HWC_End);
     const QSize pixels = DevicePixels(size);
     const double stars = kStarsPerPixel * pixels.width() * pixels.height();
 
@@ -194,7 +196,7 @@ constexpr double kMargin = 4;  // logical pixels
 constexpr int kCurveSteps = 240;
 constexpr int kShapeStars = 700;
 
-/// One quarter of a section, as curve of heights from the core to the rim, at a radius of 1.
+/// One quarter of a section, as a curve of heights from the core to the rim, at a radius of 1.
 std::vector<double> CurveOf(const ShapeSetting& setting) {
   std::vector<double> heights;
   for (int i = 0; i <= kCurveSteps; ++i) {
@@ -255,18 +257,11 @@ QTransform PlaceShape(double heightToWidth, QSize size) {
 
 // --- Hues ---
 
-/// Fills a strip with the colours that `colourAt` gives for 0 (left) to under 1 (right).
-template <class ColourAt>
-void DrawStrip(QImage& picture, ColourAt colourAt) {
-  for (int x = 0; x < picture.width(); ++x) {
-    const QRgb rgb = ToRgb(colourAt((x + 0.5) / picture.width()));
-    for (int y = 0; y < picture.height(); ++y) picture.setPixel(x, y, rgb);
-  }
-}
-
 constexpr double kRingHole = 0.5;  // of the ring's radius
 constexpr double kStripFrom = 2;   // width to height from which a wheel is a strip
-/// Parts a wheel as bright or as dark as the window from it.
+constexpr double kDegreesPerRadian = 180 / std::numbers::pi;
+
+/// Parts a wheel that is as bright or as dark as the window from it.
 void DrawEdge(QImage& picture, const QPainterPath& edge) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -274,13 +269,29 @@ void DrawEdge(QImage& picture, const QPainterPath& edge) {
   painter.drawPath(edge);
 }
 
-constexpr double kDegreesPerRadian = 180 / std::numbers::pi;
+/// Fills a strip with the colours that `colourAt` gives for 0 (left) to under 1 (right).
+template <class ColourAt>
+void DrawStrip(QImage& picture, ColourAt colourAt) {
+  for (int x = 0; x < picture.width(); ++x) {
+    const QRgb rgb = ToRgb(colourAt((x + 0.5) / picture.width()));
+    for (int y = 0; y < picture.height(); ++y) picture.setPixel(x, y, rgb);
+  }
+  QPainterPath edge;
+  edge.addRect(QRectF(QPointF(0.5, 0.5), picture.deviceIndependentSize() - QSizeF(1, 1)));
+  DrawEdge(picture, edge);
+}
 
-/// Draws a ring, with soft edges.
+/// The place on a ring, 0 (top) to under 1, clockwise.
+double PlaceOnRing(double right, double down) {
+  const double turn = std::atan2(right, -down) * kDegreesPerRadian / 360;
+  return turn < 0 ? turn + 1 : turn;
+}
+
+/// Draws a ring with soft edges.
 template <class ColourAt>
 void DrawRing(QImage& picture, ColourAt colourAt) {
-  const double radius =
-      std::min(picture.width(), picture.height()) / 2.0 - picture.devicePixelRatio();
+  const double pen = picture.devicePixelRatio();
+  const double radius = std::min(picture.width(), picture.height()) / 2.0 - pen;
   for (int y = 0; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x) {
       const double right = x + 0.5 - picture.width() / 2.0;
@@ -289,13 +300,17 @@ void DrawRing(QImage& picture, ColourAt colourAt) {
       const double cover =
           std::clamp(std::min(radius - distance, distance - radius * kRingHole) + 0.5, 0.0, 1.0);
       if (cover <= 0) continue;
-      const double clockwise = std::atan2(right, -down) * kDegreesPerRadian / 360;
-      const QRgb rgb = ToRgb(colourAt(clockwise < 0 ? clockwise + 1 : clockwise));
-      const auto channel = [&](int value) { return static_cast<int>(std::lrint(value * cover)); };
-      picture.setPixel(
-          x, y, qRgba(channel(qRed(rgb)), channel(qGreen(rgb)), channel(qBlue(rgb)), channel(255)));
+      QColor color(ToRgb(colourAt(PlaceOnRing(right, down))));
+      color.setAlphaF(static_cast<float>(cover));
+      picture.setPixelColor(x, y, color);
     }
   }
+  const QSizeF size = picture.deviceIndependentSize();
+  const QPointF middle(size.width() / 2, size.height() / 2);
+  QPainterPath edge;
+  edge.addEllipse(middle, radius / pen, radius / pen);
+  edge.addEllipse(middle, radius / pen * kRingHole, radius / pen * kRingHole);
+  DrawEdge(picture, edge);
 }
 
 }  // namespace
@@ -347,31 +362,19 @@ QImage HueWheelSample(int hueStart, int hueEnd, SampleSize size) {
   QImage picture = EmptyPicture(size);
   DrawStrip(picture,
             [&](double place) { return table[static_cast<std::size_t>(place * kFlareSteps)]; });
-  QPainterPath edge;
-  edge.addRect(QRectF(QPointF(0.5, 0.5), size.Size - QSize(1, 1)));
-  DrawEdge(picture, edge);
   return picture;
 }
 
 QImage PixHueSample(const StarfoldProfile& profile, SampleSize size) {
   std::array<Colour, 361> wheel{};
   BuildHueWheel(wheel, profile);
-  const auto colourAt = [&](double place) {
-    return wheel[static_cast<std::size_t>(place * 360) % 360];
-  };
+  const auto colourAt = [&](double place) { return wheel[static_cast<std::size_t>(place * 360)]; };
   QImage picture = EmptyPicture(size);
-  QPainterPath edge;
   if (size.Size.width() >= kStripFrom * size.Size.height()) {
     DrawStrip(picture, colourAt);
-    edge.addRect(QRectF(QPointF(0.5, 0.5), size.Size - QSize(1, 1)));
   } else {
     DrawRing(picture, colourAt);
-    const double radius = std::min(size.Size.width(), size.Size.height()) / 2.0 - 1;
-    const QPointF middle(size.Size.width() / 2.0, size.Size.height() / 2.0);
-    edge.addEllipse(middle, radius, radius);
-    edge.addEllipse(middle, radius * kRingHole, radius * kRingHole);
   }
-  DrawEdge(picture, edge);
   return picture;
 }
 

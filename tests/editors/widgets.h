@@ -8,7 +8,9 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 #include "editors/props_model.h"
@@ -53,6 +55,16 @@ inline void Activate(QWidget& window) {
   window.show();
   window.activateWindow();
   QApplication::processEvents();
+}
+
+/// Does something with the modal dialog that the next call shows.
+template <class Dialog>
+void WhenShown(const std::function<void(Dialog&)>& act) {
+  QTimer::singleShot(0, qApp, [act] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+  });
 }
 
 /// The part of a dialog that has this name. It is a fault if there is none.
