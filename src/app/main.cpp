@@ -1,6 +1,7 @@
 // `starfolds`: the screen saver.
 #include <QApplication>
 #include <QFileInfo>
+#include <QWidget>
 #include <array>
 #include <memory>
 #include <string>
@@ -153,6 +154,8 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;
+    // A question waits in a loop of its own.
+    if (QWidget* question = QApplication::activeModalWidget()) question->close();
   });
 
   AppWindows windows(*saver, options);

@@ -1,17 +1,21 @@
 #include "app/windows.h"
 
+#include <QCoreApplication>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "app/saver_screens.h"
 #include "desktop/foreign_window.h"
+#include "editors/frm_props.h"
+#include "editors/qt_message_boxes.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
 #include "platform/console.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
+#include "storage/storage_places.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
@@ -46,18 +50,17 @@ void AppWindows::ShowFrmSaver() {
 }
 
 void AppWindows::ShowFrmAppExe() {
-  FrmAppExe(saver_, seed_, [this] { ShowFrmPropsModally(); }).Activate();
+  FrmAppExe(saver_, seed_, [this] { ShowFrmProps(); }).Activate();
 }
 
+/// The safety copy of the settings goes beside the program, or beside the user's own settings.
 void AppWindows::ShowFrmProps() {
-  Fail("the settings dialog is not part of this version yet; --saver and --window show the effect",
-       kExitCannotDo);
-}
-
-void AppWindows::ShowFrmPropsModally() {
-  if (toldOfProps_) return;
-  toldOfProps_ = true;
-  Complain("starfolds", "the settings dialog is not part of this version yet");
+  QtMessageBoxes boxes;
+  DiskFiles disk;
+  const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
+  FrmProps({saver_, boxes, disk, QCoreApplication::applicationDirPath().toStdString(), userFolder,
+            seed_})
+      .ShowModal();
 }
 
 void AppWindows::LoadFrmPreview() {

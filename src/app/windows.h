@@ -28,13 +28,11 @@ class AppWindows : public StartActions {
   int ExitCode() const { return exitCode_; }
 
  private:
-  void ShowFrmPropsModally();
   void Fail(const std::string& message, int exitCode);
 
   Saver& saver_;
   StartOptions options_;
   SeedSource seed_;
-  bool toldOfProps_ = false;
   int exitCode_ = 0;
 };
 

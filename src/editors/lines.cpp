@@ -11,6 +11,12 @@ constexpr int kLabelColumn = 0;
 constexpr int kBoxColumn = 1;
 constexpr int kColumns = 2;
 constexpr int kSpacing = 6;
+constexpr int kMostCharacters = 56;  // that a list of choices is wide
+
+bool CanGrow(const QWidget* widget) {
+  const QSizePolicy::Policy policy = widget->sizePolicy().horizontalPolicy();
+  return policy != QSizePolicy::Fixed && policy != QSizePolicy::Minimum;
+}
 
 }  // namespace
 
@@ -22,7 +28,8 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
   page.addWidget(text, row, kLabelColumn);
   auto* boxes = new QHBoxLayout;
   boxes->setSpacing(kSpacing);
-  for (QWidget* widget : widgets) boxes->addWidget(widget);
+  for (QWidget* widget : widgets) boxes->addWidget(widget, CanGrow(widget) ? 1 : 0);
+  boxes->addStretch(0);  // what cannot grow stands close behind its label
   page.addLayout(boxes, row, kBoxColumn);
   return text;
 }
@@ -33,7 +40,7 @@ void AddWideLine(QGridLayout& page, QWidget* widget) {
 
 QGridLayout* MakePage(QWidget* page) {
   auto* grid = new QGridLayout(page);
-  grid->setColumnStretch(kLabelColumn, 1);
+  grid->setColumnStretch(kBoxColumn, 1);
   grid->setVerticalSpacing(kSpacing);
   return grid;
 }
@@ -50,6 +57,13 @@ QLabel* MakeSamplePlace(const char* name, const QString& description, QSize size
 
 void ShowSample(QLabel* place, const QImage& sample) {
   place->setPixmap(QPixmap::fromImage(sample));
+}
+
+void LetShrink(QComboBox* list) {
+  constexpr int characters = 14;
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list->setMinimumContentsLength(characters);
+  list->setMaximumWidth(list->fontMetrics().averageCharWidth() * kMostCharacters);
 }
 
 QString Escaped(std::string_view text) { return Shown(text).replace("&", "&&"); }

@@ -1,6 +1,7 @@
 // Lines of a page: a label, and behind it the boxes that it speaks of.
 #pragma once
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QImage>
 #include <QLabel>
@@ -25,6 +26,9 @@ void EndPage(QGridLayout& page);
 /// A place for a sample, which `ShowSample` fills.
 QLabel* MakeSamplePlace(const char* name, const QString& description, QSize size);
 void ShowSample(QLabel* place, const QImage& sample);
+
+/// Lets a list be narrower than its longest entry, which shows when it is opened.
+void LetShrink(QComboBox* list);
 
 /// Text of ours on a label or button, where "&" stands for itself.
 QString Escaped(std::string_view text);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionSpinBox>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -32,6 +33,7 @@ std::string ClampedText(const std::string& text, const NumberRange& range) {
 
 NumberBox::NumberBox(QWidget* parent) : QAbstractSpinBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setKeyboardTracking(true);
   connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::Changed);
 }
@@ -49,8 +51,6 @@ void NumberBox::SetRange(const NumberRange& range) {
   range_ = range;
   const int present = static_cast<int>(lineEdit()->text().size());
   lineEdit()->setMaxLength(std::max(LongestText(), present));  // which would be cut off
-  const QFontMetrics font(lineEdit()->font());
-  setMinimumWidth(font.horizontalAdvance(QString(7, '0')) + 40);  // and the buttons
   setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
                                                   TextOf(range.High, range.Kind)));
 }
@@ -58,6 +58,15 @@ void NumberBox::SetRange(const NumberRange& range) {
 void NumberBox::SetNoRange() {
   range_ = {};
   lineEdit()->setMaxLength(0);
+}
+
+/// All boxes are as wide as the longest number that any of them takes.
+QSize NumberBox::sizeHint() const {
+  const int digits = fontMetrics().horizontalAdvance(QString(kSingleLength, '0'));
+  QStyleOptionSpinBox option;
+  initStyleOption(&option);
+  const QSize text(digits + kSingleLength, lineEdit()->sizeHint().height());
+  return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
 }
 
 std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }

@@ -53,6 +53,8 @@ class NumberBox : public QAbstractSpinBox {
   void ClampTextField();
 
   void stepBy(int steps) override;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  signals:
   /// The text has changed, by whatever means.

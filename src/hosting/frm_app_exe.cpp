@@ -12,7 +12,7 @@
 
 namespace starfolds {
 
-FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, PropertiesDialog frmProps)
+FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps)
     : saver_(saver),
       seed_(std::move(seed)),
       frmProps_(std::move(frmProps)),

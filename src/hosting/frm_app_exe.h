@@ -10,14 +10,14 @@
 namespace starfolds {
 
 /// Shows the properties dialog over a window that it blocks, and returns when it is closed.
-using PropertiesDialog = std::function<void()>;
+using ShowPropertiesDialog = std::function<void()>;
 
 /// Runs the effect for somebody who started the program as an application: full-screen, or in a
 /// window that can be resized. Esc leaves, F5 begins anew, anything else asks for the properties
 /// dialog.
 class FrmAppExe : private WindowEvents {
  public:
-  FrmAppExe(Saver& saver, SeedSource seed, PropertiesDialog frmProps);
+  FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps);
   ~FrmAppExe() override;
 
   /// Shows the window and runs the effect. Returns when the user has left; the window goes with
@@ -41,7 +41,7 @@ class FrmAppExe : private WindowEvents {
 
   Saver& saver_;
   SeedSource seed_;
-  PropertiesDialog frmProps_;
+  ShowPropertiesDialog frmProps_;
   bool started_ = false;           // Started: false when the effect is to begin (again)
   std::optional<bool> resizable_;  // how the window is shown; nothing before it is
   WindowSurface surface_;

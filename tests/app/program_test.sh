@@ -45,9 +45,21 @@ DISPLAY='' WAYLAND_DISPLAY='' expect 1 '' 'no desktop' --window
 expect 1 '' 'no X server' --window-id 77
 
 export QT_QPA_PLATFORM=offscreen
-expect 1 '' 'settings dialog is not part.*--saver and --window'
-expect 1 '' 'settings dialog is not part' --settings
-expect 1 '' 'settings dialog is not part' /c:77
+# runs ARGUMENT...: stays until it is told to end, and says nothing.
+runs() {
+  timeout -k 5 -s TERM 2 "$program" "$@" 2>"$errors" </dev/null
+  local got=$?
+  sed -i '/^QStandardPaths: /d; /^This plugin does not support/d' "$errors"
+  if [ "$got" != 124 ] || [ -s "$errors" ]; then
+    echo "starfolds $*: exit code $got, and:" >&2
+    cat "$errors" >&2
+    faults=$((faults + 1))
+  fi
+}
+runs # the properties dialog
+runs --settings
+runs /c:77
+rm -r "$XDG_CONFIG_HOME/Tessellane"
 expect 1 '' 'preview inside.*needs an X server' /P 12345
 expect 0 '' '' /A 12345
 
@@ -82,14 +94,14 @@ fi
 # window takes the signal; with one beside it the switch counts again.
 folder=$(mktemp -d)
 cp "$program" "$folder/stars.exe"
-timeout -s TERM 1 "$folder/stars.exe" /C 2>"$errors"
-if [ $? != 124 ] || grep -q 'not part' "$errors"; then
+timeout -s TERM 1 "$folder/stars.exe" /A 12345 2>"$errors"
+if [ $? != 124 ]; then
   echo "stars.exe did not run as the application" >&2
   faults=$((faults + 1))
 fi
 touch "$folder/stars.scr"
-timeout -s TERM 20 "$folder/stars.exe" /C 2>"$errors"
-if [ $? != 1 ] || ! grep -q 'not part' "$errors"; then
+timeout -s TERM 20 "$folder/stars.exe" /A 12345 2>"$errors"
+if [ $? != 0 ]; then
   echo "stars.exe with stars.scr beside it did not look at its switch" >&2
   faults=$((faults + 1))
 fi

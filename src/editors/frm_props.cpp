@@ -1,0 +1,380 @@
+#include "editors/frm_props.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "editors/frm_welcome.h"
+#include "editors/lines.h"
+#include "editors/samples.h"
+#include "hosting/captions.h"
+#include "hosting/placed_qt_window.h"
+#include "settings/registry.h"
+#include "settings/storage.h"
+
+namespace starfolds {
+namespace {
+
+constexpr QSize kLeastPreview{300, 225};
+constexpr double kMostOfScreen = 0.94;  // of a first placement; the rest is for frames and panels
+
+// Entries of `mnuResetProps`; a line stands between them.
+constexpr int kReset20 = 0;
+constexpr int kReset4x = 2;
+
+const char kAcceptSettings[] = "&Accept Settings";
+const char kReturnToUniverse[] = "&Return to Universe Settings";
+const char kStarfoldProperties[] = "Starfold Properties";
+
+QPushButton* MakeButton(const QString& text, const char* name) {
+  auto* button = new QPushButton(text);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+}  // namespace
+
+/// The process's pump. A preview runs inside a click, so it is here that the end of the process is
+/// noticed meanwhile.
+class FrmProps::WatchfulPump : public Pump {
+ public:
+  WatchfulPump(Saver& process, Saver& preview) : process_(process), preview_(preview) {}
+
+  Long TickCount() override { return process_.Events->TickCount(); }
+  void PumpEvents() override {
+    process_.Events->PumpEvents();
+    Watch();
+  }
+  void WaitForEvents(Long milliseconds) override {
+    process_.Events->WaitForEvents(milliseconds);
+    Watch();
+  }
+  void WaitForRefresh() override {
+    process_.Events->WaitForRefresh();
+    Watch();
+  }
+
+ private:
+  void Watch() {
+    if (process_.QuitApp) preview_.StopRun = true;
+  }
+
+  Saver& process_;
+  Saver& preview_;
+};
+
+FrmProps::FrmProps(const PropsSurroundings& surroundings)
+    : around_(surroundings),
+      editing_(std::make_unique<Saver>()),
+      events_(std::make_unique<WatchfulPump>(surroundings.Process, *editing_)),
+      model_{*editing_, surroundings.Boxes},
+      template_(surroundings.Disk),
+      settings_{*surroundings.Process.Tree, editing_->Profiles,
+                editing_->Composites,       template_,
+                surroundings.Disk,          surroundings.Boxes,
+                surroundings.ProgramFolder, surroundings.UserFolder} {
+  const Saver& process = around_.Process;
+  editing_->Tree = process.Tree;
+  editing_->Events = events_.get();
+  editing_->Desktop = process.Desktop;
+  editing_->Mode = RunMode::ScreenSaver;
+  // A preview of a universe keeps the pace of the run beside the dialog, or has none.
+  editing_->Screen.FrameDelayMs = process.Screen.FrameDelayMs;
+
+  setObjectName("frmProps");
+  setWindowTitle(kPropertiesCaption);
+  LoadAllProfiles(*editing_->Tree, editing_->Profiles, RootSelector::CurrentUser);
+  LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
+  MakeCentre();
+  MakeMenus();
+  universe_->RebuildProfileList();
+  universe_->Composites().Rebuild();
+}
+
+FrmProps::~FrmProps() = default;
+
+void FrmProps::ShowModal() {
+  Open();
+  while (open_ && !around_.Process.QuitApp) {
+    constexpr Long aWhile = 1000;
+    around_.Process.Events->WaitForEvents(aWhile);
+  }
+  hide();
+}
+
+void FrmProps::Open() {
+  open_ = true;
+  resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
+  winId();  // a window that can be placed before it is shown
+  PlacedQtWindow placed(*windowHandle());
+  RestoreWindowPlacement(placed, *editing_->Tree, sections::kMain);
+  if (placed.State() == WindowState::Maximised) {
+    showMaximized();
+  } else {
+    show();
+  }
+  OpenProperties(settings_, *this);
+}
+
+/// A preview that is on ends first: its run stands on the stack above the dialog.
+void FrmProps::closeEvent(QCloseEvent* event) {
+  if (preview_.DelaysClose()) return event->ignore();
+  SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
+  around_.Process.NewRun = true;
+  open_ = false;
+  event->accept();
+}
+
+void FrmProps::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
+  if (preview_.IsOn()) return preview_.Stop();
+  if (inStarfoldView_) return OpenStarfoldView(false);
+  close();
+}
+
+std::string FrmProps::UniverseText(const Field<UniverseSettings>& field) const {
+  return universe_->Text(field);
+}
+
+void FrmProps::SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) {
+  universe_->SetText(field, text);
+}
+
+void FrmProps::ClearProfileList() { universe_->Bodies().clear(); }
+
+void FrmProps::AddProfileEntry(std::string_view name, Integer percent) {
+  universe_->AddProfileEntry(name, percent);
+}
+
+/// The last step of a list that is filled anew.
+void FrmProps::SelectProfileEntry(int position) {
+  universe_->Bodies().setCurrentRow(position);
+  universe_->Composites().Rebuild();
+  universe_->BodiesChanged();
+}
+
+void FrmProps::RebuildProfileList() { universe_->RebuildProfileList(); }
+
+void FrmProps::RebuildCompositeLists() {
+  universe_->Composites().Rebuild();
+  universe_->BodiesChanged();
+}
+
+void FrmProps::SelectUniverseTheme(int position) { universe_->SelectTheme(position); }
+
+void FrmProps::SelectUniverseExtras(int position) { universe_->SelectPage(position); }
+
+void FrmProps::MarkResetMenu(int menuIndex, bool marked) {
+  resetMenu_.at(menuIndex)->setChecked(marked);
+}
+
+ProgressPicture* FrmProps::Preview() { return picPreview_; }
+
+bool FrmProps::ShowWelcomeDialog() {
+  return RunWelcome(this, MakeWelcomePage(*editing_->Tree), [this](ProgressPicture* picture) {
+    SaveSafetyCopy(settings_, *this, picture);
+  });
+}
+
+void FrmProps::MakeMenus() {
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  AddComing(*file, tr("&Open Template..."), "mnuOpen")->setShortcut(QKeySequence::Open);
+  AddComing(*file, tr("&Save Template"), "mnuSave")->setShortcut(QKeySequence::Save);
+  AddComing(*file, tr("Save Template &As..."), "mnuSaveAs")->setShortcut(QKeySequence::SaveAs);
+  file->addSeparator();
+  file->addAction(tr("E&xit"), this, &FrmProps::Exit)->setObjectName("mnuExit");
+
+  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  QMenu* reset = edit->addMenu(tr("&Reset Properties"));
+  const auto addReset = [&](int index, const QString& text) {
+    QAction* entry =
+        reset->addAction(text, this, [this, index] { ResetFromMenu(settings_, *this, index); });
+    entry->setObjectName("mnuResetProps_" + QString::number(index));
+    entry->setCheckable(true);
+    resetMenu_[index] = entry;
+  };
+  addReset(kReset20, "Starfolds 2.0");
+  reset->addSeparator();
+  addReset(kReset4x, "Starfolds 4.x");
+  AddComing(*edit, tr("&Advanced Settings..."), "mnuAdvanced");
+
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  AddComing(*help, tr("&Contents..."), "mnuContents")->setShortcut(QKeySequence::HelpContents);
+  AddComing(*help, tr("&Search..."), "mnuSearch");
+  AddComing(*help, tr("&Diagnostics..."), "mnuDiagnostics");
+  help->addSeparator();
+  AddComing(*help, tr("Starfolds &Home Page"), "mnuHomePage");
+  AddComing(*help, tr("A&bout Starfolds..."), "mnuAbout");
+}
+
+/// An entry whose window is not part of this version.
+QAction* FrmProps::AddComing(QMenu& menu, const QString& text, const char* name) {
+  QAction* entry = menu.addAction(text);
+  entry->setObjectName(name);
+  entry->setEnabled(false);
+  entry->setToolTip(tr("Not part of this version yet"));
+  menu.setToolTipsVisible(true);
+  return entry;
+}
+
+void FrmProps::MakeCentre() {
+  auto* centre = new QWidget;
+  auto* rows = new QVBoxLayout(centre);
+  auto* columns = new QHBoxLayout;
+  universe_ = new UniverseView(model_);
+  starfold_ = new StarfoldView(model_);
+  views_ = new QStackedWidget;
+  views_->addWidget(universe_);
+  views_->addWidget(starfold_);
+  columns->addWidget(views_, 3);
+  columns->addWidget(MakePreviewPane(), 2);
+  rows->addLayout(columns, 1);
+
+  auto* buttons = new QHBoxLayout;
+  cmdAccept_ = MakeButton(tr(kAcceptSettings), "cmdAccept");
+  cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
+  buttons->addStretch();
+  buttons->addWidget(cmdAccept_);
+  buttons->addWidget(cmdDismiss_);
+  rows->addLayout(buttons);
+  setCentralWidget(centre);
+
+  connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
+  connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
+  connect(universe_, &UniverseView::ThemeChosen, this, &FrmProps::ApplyTheme);
+  connect(universe_, &UniverseView::PropsAskedFor, this, [this](int index) {
+    currentProfile_ = index;
+    OpenStarfoldView(true);
+  });
+  connect(&universe_->Bodies(), &QListWidget::itemSelectionChanged, this, &FrmProps::ShowStill);
+  connect(universe_, &UniverseView::CompositePreviewAskedFor, this,
+          &FrmProps::PreviewSelectedComposite);
+  const QString coming = tr("Not part of this version yet");
+  for (const char* name : {"cmdFoldLevels", "cmdIFS_Chem"}) {
+    auto* button = starfold_->findChild<QPushButton*>(name);
+    button->setEnabled(false);
+    button->setToolTip(coming);
+  }
+}
+
+QWidget* FrmProps::MakePreviewPane() {
+  fraAni_ = new QGroupBox(tr(kStarfoldProperties));
+  fraAni_->setObjectName("fraAni");
+  auto* column = new QVBoxLayout(fraAni_);
+  picPreview_ = new PictureBox;
+  picPreview_->setObjectName("picPreview");
+  picPreview_->setAccessibleName(tr("Preview"));
+  picPreview_->setMinimumSize(kLeastPreview);
+  column->addWidget(picPreview_, 1);
+  auto* buttons = new QHBoxLayout;
+  cmdPreviewFold_ = MakeButton(tr("Preview Starfold"), "cmdPreviewFold");
+  cmdPreviewUni_ = MakeButton(tr("Preview Universe"), "cmdPreviewUni");
+  buttons->addWidget(cmdPreviewFold_);
+  buttons->addWidget(cmdPreviewUni_);
+  column->addLayout(buttons);
+  connect(cmdPreviewFold_, &QPushButton::clicked, this, &FrmProps::PreviewSelectedBody);
+  connect(cmdPreviewUni_, &QPushButton::clicked, this, &FrmProps::PreviewUniverseOnDialog);
+  return fraAni_;
+}
+
+void FrmProps::OpenStarfoldView(bool open) {
+  if (open && currentProfile_ < 0) return model_.Inform("Please select a Starfold Profile.");
+  inStarfoldView_ = open;
+  cmdDismiss_->setVisible(!open);
+  if (open) {
+    starfold_->LoadProfileToPage(currentProfile_);
+    fraAni_->setTitle("Starfold:  " + Escaped(universe_->Bodies().EntryName(currentProfile_)));
+  } else {
+    starfold_->StorePageToProfile(currentProfile_);
+    fraAni_->setTitle(tr(kStarfoldProperties));
+    universe_->BodiesChanged();
+  }
+  cmdAccept_->setText(open ? tr(kReturnToUniverse) : tr(kAcceptSettings));
+  views_->setCurrentWidget(open ? static_cast<QWidget*>(starfold_) : universe_);
+}
+
+void FrmProps::Accept() {
+  if (inStarfoldView_) return OpenStarfoldView(false);
+  universe_->ClampTextFields();  // the button's key leaves no box
+  SaveDialogToRegistry(settings_, *this);
+  close();
+}
+
+void FrmProps::Exit() {
+  around_.Process.QuitApp = true;
+  close();
+}
+
+void FrmProps::ApplyTheme(int position) {
+  if (position < 1) return;
+  const bool is20 = resetMenu_.at(kReset20)->isChecked();
+  universe_->ApplyThemeRowToPage(FactoryThemeRow(position, is20));
+}
+
+/// The run lives inside the click that has started it; the click that stops it comes through the
+/// run's pump. Everything but the button is disabled meanwhile.
+void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
+  if (preview_.IsOn()) return preview_.Stop();
+  std::vector<QWidget*> disabled;
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    const bool isParent = widget->isAncestorOf(button) || widget->isWindow();
+    if (widget == button || isParent || !widget->isEnabled()) continue;
+    if (widget->focusPolicy() == Qt::NoFocus && !qobject_cast<QMenuBar*>(widget)) continue;
+    disabled.push_back(widget);
+  }
+  for (QWidget* widget : disabled) widget->setEnabled(false);
+  const QString caption = button->text();
+  button->setText(tr("Stop"));
+  button->setFocus();
+  const PreviewEnd end = preview_.Start([&] { run(picPreview_->BeginRun()); });
+  button->setText(caption);
+  for (QWidget* widget : disabled) widget->setEnabled(true);
+  if (end == PreviewEnd::Close) close();
+}
+
+/// A body that is selected shows itself, until a preview does it better.
+void FrmProps::ShowStill() {
+  if (preview_.IsOn()) return;
+  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
+  if (body < 0) return;
+  picPreview_->ShowPicture(
+      ProfileSample(model_.Profiles(), body, {picPreview_->size(), devicePixelRatioF()}));
+}
+
+void FrmProps::PreviewUniverseOnDialog() {
+  TogglePreview(cmdPreviewUni_, [this](Surface& surface) {
+    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+    PreviewUniverse(*editing_, surface, universe_->Settings(), around_.Seed());
+  });
+}
+
+void FrmProps::PreviewSelectedBody() {
+  if (preview_.IsOn()) return preview_.Stop();
+  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
+  if (body < 0) return model_.Inform("Please select a Starfold Type.");
+  PreviewOne(cmdPreviewFold_, body, false);
+}
+
+void FrmProps::PreviewSelectedComposite() {
+  if (preview_.IsOn()) return preview_.Stop();
+  const int body = universe_->Composites().Selected();
+  if (body < 0) return model_.Inform("Please select a Composite Starfold Type.");
+  PreviewOne(universe_->findChild<QPushButton*>("cmdPreviewComp"), body, true);
+}
+
+void FrmProps::PreviewOne(QPushButton* button, int body, bool isComposite) {
+  TogglePreview(button, [&](Surface& surface) {
+    const UniverseSettings universe = universe_->Settings();
+    editing_->Universe = universe;  // some of it counts for a single body, too
+    PreviewBody(*editing_, surface,
+                {static_cast<Integer>(body), isComposite, universe.Universe_Stars,
+                 universe.Universe_STrail, universe.Universe_HW_Start, universe.Universe_HW_End},
+                around_.Seed());
+  });
+}
+
+}  // namespace starfolds

@@ -1,0 +1,114 @@
+// `frmProps`: the properties dialog, the main window of the configuration.
+#pragma once
+
+#include <QGroupBox>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "editors/picture_box.h"
+#include "editors/props_model.h"
+#include "editors/starfold_view.h"
+#include "editors/universe_view.h"
+#include "hosting/preview_runs.h"
+#include "platform/files.h"
+#include "settings/property_flows.h"
+
+namespace starfolds {
+
+/// What the dialog needs of its surroundings. All of it outlives the dialog.
+struct PropsSurroundings {
+  Saver& Process;  // the state of the process: its tree, pump and flags
+  MessageBoxes& Boxes;
+  Files& Disk;
+  std::string ProgramFolder;
+  std::string UserFolder;
+  std::function<std::uint64_t()> Seed;  // of each preview
+};
+
+/// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree
+/// before "Accept Settings". It has a state of its own for the records and previews, so that a run
+/// beside it, which waits in its pump meanwhile, finds everything as it left it.
+class FrmProps : public QMainWindow, private PropertiesDialog {
+  Q_OBJECT
+
+ public:
+  explicit FrmProps(const PropsSurroundings& surroundings);
+  ~FrmProps() override;
+
+  /// Shows the dialog, asks what has to be asked at its opening, and returns when it is closed.
+  void ShowModal();
+
+  /// The two steps of it, for who runs the events otherwise: a test.
+  void Open();
+  bool IsOpen() const { return open_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  // What the flows of the settings ask of the dialog.
+  std::string UniverseText(const Field<UniverseSettings>& field) const override;
+  void SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) override;
+  void ClearProfileList() override;
+  void AddProfileEntry(std::string_view name, Integer percent) override;
+  void SelectProfileEntry(int position) override;
+  void RebuildProfileList() override;
+  void RebuildCompositeLists() override;
+  void SelectUniverseTheme(int position) override;
+  void SelectUniverseExtras(int position) override;
+  void MarkResetMenu(int menuIndex, bool marked) override;
+  ProgressPicture* Preview() override;
+  bool ShowWelcomeDialog() override;
+
+  void MakeMenus();
+  QAction* AddComing(QMenu& menu, const QString& text, const char* name);
+  void MakeCentre();
+  QWidget* MakePreviewPane();
+
+  void OpenStarfoldView(bool open);
+  void Accept();
+  void Exit();
+  void ApplyTheme(int position);
+
+  using PreviewRun = std::function<void(Surface& surface)>;
+  void TogglePreview(QPushButton* button, const PreviewRun& run);
+  void PreviewUniverseOnDialog();
+  void PreviewSelectedBody();
+  void PreviewSelectedComposite();
+  void ShowStill();
+  void PreviewOne(QPushButton* button, int body, bool isComposite);
+
+  class WatchfulPump;
+
+  PropsSurroundings around_;
+  std::unique_ptr<Saver> editing_;  // what the dialog edits and previews
+  std::unique_ptr<WatchfulPump> events_;
+  PropsModel model_;
+  TemplateFile template_;
+  PropertySettings settings_;
+
+  bool open_ = false;
+  PreviewSwitch preview_{*editing_};
+
+  bool inStarfoldView_ = false;  // InStarfoldView
+  int currentProfile_ = -1;      // CurrentProfile
+
+  UniverseView* universe_ = nullptr;
+  StarfoldView* starfold_ = nullptr;
+  QStackedWidget* views_ = nullptr;
+  QGroupBox* fraAni_ = nullptr;
+  PictureBox* picPreview_ = nullptr;
+  QPushButton* cmdPreviewFold_ = nullptr;
+  QPushButton* cmdPreviewUni_ = nullptr;
+  QPushButton* cmdAccept_ = nullptr;
+  QPushButton* cmdDismiss_ = nullptr;
+  std::map<int, QAction*> resetMenu_;  // mnuResetProps
+};
+
+}  // namespace starfolds

@@ -1,0 +1,528 @@
+#include "editors/frm_props.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QMenuBar>
+#include <QTimer>
+#include <map>
+#include <random>
+
+#include "editors/frm_welcome.h"
+#include "numbers/text.h"
+#include "settings/first_run.h"
+#include "settings/random_records.h"
+#include "settings/templates.h"
+#include "widgets.h"
+
+namespace starfolds {
+namespace {
+
+/// Runs the toolkit's events in each pump of a run, and what is planned for it. A run that nobody
+/// ends is ended after a while, so that a fault fails instead of hanging.
+class DialogPump : public CountedPump {
+ public:
+  static constexpr int kLongestRun = 3000;
+  std::map<int, std::function<void()>> Plan;
+  int Pumps = 0;
+  std::function<void()> OnTooLong;
+
+  void PumpEvents() override {
+    QApplication::processEvents();
+    ++Pumps;
+    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
+    if (Pumps >= kLongestRun && OnTooLong) OnTooLong();
+  }
+};
+
+class FrmPropsTest : public testing::Test {
+ protected:
+  FrmPropsTest() {
+    Process->Tree = &Tree;
+    Process->Events = &Events;
+    Process->Desktop = &Desktop;
+    Events.OnTooLong = [this] {
+      ADD_FAILURE() << "the run does not end";
+      Process->QuitApp = true;
+    };
+  }
+
+  /// A user who has settings already.
+  void Store(SettingsRecords records) {
+    SaveSettings(Tree, records);
+    RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
+    RegistryWrite(Tree, sections::kGeneral, kResetSettings, Long{1});
+  }
+
+  void StoreFactory() {
+    SettingsRecords records;
+    LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
+    Store(records);
+  }
+
+  FrmProps& Open() {
+    Dialog = std::make_unique<FrmProps>(
+        PropsSurroundings{*Process, Boxes, Disk, "/prog", "/home/u", [] { return 1U; }});
+    Dialog->Open();
+    Activate(*Dialog);
+    return *Dialog;
+  }
+
+  template <class Widget>
+  Widget& The(const char* name) {
+    return Part<Widget>(*Dialog, name);
+  }
+  void Click(const char* name) { The<QPushButton>(name).click(); }
+  void Choose(const char* menuEntry) { Part<QAction>(*Dialog, menuEntry).trigger(); }
+  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name.c_str()); }
+
+  /// Types over what stands in a box, and leaves it.
+  void Enter(const std::string& box, const std::string& text) {
+    Edit(box).setText(QString::fromStdString(text));
+    Leave(*Edit(box).parentWidget());
+  }
+
+  std::string LastBox() {
+    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
+    Boxes.Log.clear();
+    return text;
+  }
+
+  /// Opens the properties of a type of starfold.
+  void OpenType(int index) {
+    The<BodyList>("lstUniStarfold").setCurrentRow(index);
+    Click("cmdFoldProps");
+  }
+
+  MemoryTree Tree;
+  MemoryFiles Disk;
+  MemoryDesktop Desktop;
+  ScriptedMessageBoxes Boxes;
+  DialogPump Events;
+  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<FrmProps> Dialog;
+};
+
+std::string Shortest(double number) { return NumberText(static_cast<Single>(number)); }
+
+TEST_F(FrmPropsTest, EveryUniverseRowIsHeldStoredAndShownAgain) {
+  StoreFactory();
+  for (const bool high : {true, false}) {
+    Open();
+    for (const UniverseRow& row : UniverseRows()) {
+      Enter("txtUni_" + std::to_string(row.Index), high ? "99999999" : "0");
+      const NumberRange range = RangeOf(row);
+      EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
+                Shortest(high ? range.High : range.Low))
+          << row.Name;
+    }
+    Click("cmdAccept");
+    EXPECT_FALSE(Dialog->IsOpen());
+    Open();
+    for (const UniverseRow& row : UniverseRows()) {
+      const NumberRange range = RangeOf(row);
+      const std::string expected = Shortest(high ? range.High : range.Low);
+      EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, row.Name), expected) << row.Name;
+      EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(), expected);
+    }
+    Click("cmdDismiss");
+  }
+}
+
+TEST_F(FrmPropsTest, ListsAndChecksOfTheUniverseAreStoredToo) {
+  StoreFactory();
+  Open();
+  The<QCheckBox>("chkUniTour").setChecked(true);
+  The<QCheckBox>("chkVisitSeq").setChecked(true);
+  EXPECT_FALSE(Edit("txtUni_34").parentWidget()->isEnabled());
+  The<QCheckBox>("chkRotCamera").setChecked(true);
+  EXPECT_TRUE(Edit("txtUni_34").parentWidget()->isEnabled());
+  auto& tour = The<QComboBox>("cboTourStarfolds");
+  tour.setEditText(" 4 ");
+  emit tour.lineEdit()->textEdited(" 4 ");
+  tour.setCurrentIndex(65);
+  emit tour.activated(65);  // a body chosen from the list adds its number
+  The<QComboBox>("cboUniProfile").setCurrentIndex(50);
+  The<QCheckBox>("chkUniTour").setChecked(false);
+  EXPECT_FALSE(tour.isEnabled());
+  Click("cmdAccept");
+  const UniverseSettings stored = LoadUniverseFromRegistry(Tree);
+  EXPECT_FALSE(stored.Universe_Tour);
+  EXPECT_TRUE(stored.Universe_GVisit);
+  EXPECT_TRUE(stored.Universe_RotCam);
+  EXPECT_EQ(stored.Universe_GS_Idx, "4 66");
+  EXPECT_EQ(stored.Universe_Profile, 50);
+}
+
+/// Which rows each style shows, and what it calls them, apart from the dialog's own table.
+struct StyleRows {
+  int Style;
+  std::vector<int> Boxes;  // of those that not every style shows
+  std::map<int, std::string> Captions;
+};
+const StyleRows kStyleRows[] = {
+    {0, {3, 4, 5, 6, 9, 90, 91, 92, 95, 96}, {{90, "Levels (1-10), H/W Ratio (0.0 - 99.9):"}}},
+    {1,
+     {3, 4, 5, 90, 91, 92, 95, 96},
+     {{2, "Points (1 - 99), Scale % (0 - 100):"}, {3, "Rotation Angle Degrees (0 - 360):"}}},
+    {2,
+     {3, 4, 5, 90},
+     {{2, "Vertices (4 - 10), Scale % (0 - 100):"}, {3, "Linear Iteration Levels (1 - 99):"}}},
+    {3, {3, 4, 90}, {{2, "Points (4 - 10), Scale % (0 - 100):"}}},
+    {4,
+     {3, 4, 5, 6, 90, 91, 92},
+     {{2, "C-Points (1 - 20), Steps (0 - 9999):"},
+      {3, "Bias Points (1 - 99), Span (0 - 100):"},
+      {91, "Expansion from Spline Path (0.0 - 99.9):"},
+      {92, "Solar Wind Magnitude (0.0 - 99.9):"},
+      {93, "Bias Point Travel Speed (0 - 999):"}}},
+    {5, {3, 4, 5, 6, 8, 90, 91, 92, 95, 96}, {{90, "Quasar Speed, H/W Ratio (0.0 - 99.9):"}}},
+    {6, {3, 4, 5, 6, 8, 90, 91, 92, 95, 96}, {{90, "Gravity Force, H/W Ratio (0.0 - 99.9):"}}},
+    {7,
+     {3, 4, 5, 6, 90, 91},
+     {{0, "Expansion, Rotation (1, 0 - 30000):"},
+      {3, "Waves (1 - 99), Persist (0 - 999):"},
+      {91, "Particle Wave Angle Increment (0.0 - 99.9):"}}},
+    {8, {}, {}},
+    {9, {}, {}},
+};
+const std::map<int, std::string> kStandardCaptions = {
+    {0, "Radius, Rotation (1, 0 - 30000):"},
+    {1, "Distance (0 - 30000), Axial Plane:"},
+    {2, "Radials (1 - 99), Fill % (0 - 100):"},
+    {3, "Bands (1 - 99), Fill % (0 - 100):"},
+    {90, "Starfold Height / Width Ratio (0.0 - 99.9):"},
+    {91, "Radius Distribution Exponent (0.0 - 99.9):"},
+    {92, "Height Distribution Exponent (0.0 - 99.9):"},
+    {93, "Initial Tilt Angle in Degrees (0 - 360):"}};
+
+TEST_F(FrmPropsTest, EachStyleShowsItsRowsUnderTheirNames) {
+  StoreFactory();
+  Open();
+  OpenType(0);
+  for (const StyleRows& expected : kStyleRows) {
+    The<QComboBox>("cboFoldStyle").setCurrentIndex(expected.Style);
+    for (const int box : {3, 4, 5, 6, 8, 9, 90, 91, 92, 95, 96}) {
+      const bool shown = std::count(expected.Boxes.begin(), expected.Boxes.end(), box) > 0;
+      EXPECT_EQ(!Edit("txtStarfold_" + std::to_string(box)).parentWidget()->isHidden(), shown)
+          << "style " << expected.Style << ", box " << box;
+    }
+    for (const auto& [label, standard] : kStandardCaptions) {
+      const auto changed = expected.Captions.find(label);
+      const auto& text = The<QLabel>(("lblStarfold_" + std::to_string(label)).c_str());
+      EXPECT_EQ(text.text().toStdString(),
+                changed == expected.Captions.end() ? standard : changed->second);
+    }
+    const int style = expected.Style;
+    const auto isShown = [&](const char* name) { return !The<QWidget>(name).isHidden(); };
+    EXPECT_EQ(isShown("cboFoldProfile"), style <= 1 || style == 5 || style == 6);
+    EXPECT_EQ(isShown("picFoldProfile"), isShown("cboFoldProfile"));
+    EXPECT_EQ(isShown("cboFoldColor"), style != 4 && style != 9);
+    EXPECT_EQ(isShown("chkCP_Closed"), style == 4);
+    EXPECT_EQ(isShown("chkCP_AdvHW"), style == 4);
+    EXPECT_EQ(isShown("cmdIFS_Chem"), style >= 8);
+    EXPECT_EQ(isShown("cmdFoldLevels"), style == 0);
+  }
+  EXPECT_EQ(The<QPushButton>("cmdIFS_Chem").text(), "User Defined Molecular Structure...");
+  EXPECT_EQ(The<QLabel>("lblOtherColorCycles").text(),
+            "Atomic Sphere Color Blending  (0 - 30000):");
+}
+
+TEST_F(FrmPropsTest, EveryStarfoldRowOfEveryStyleReachesItsSetting) {
+  StoreFactory();
+  for (int style = 0; style < kStyleCount; ++style) {
+    Open();
+    OpenType(7);
+    The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
+    for (const bool hue : {false, true}) {
+      for (const StarfoldRow& row : hue ? PixHueRows() : StarfoldRows()) {
+        if (!row.Shown.Has(style)) continue;
+        const std::string box = (hue ? "txtPixHue_" : "txtStarfold_") + std::to_string(row.Index);
+        Enter(box, "99999999");
+        EXPECT_EQ(Edit(box).text().toStdString(), Shortest(RangeOf(row, style).High)) << box;
+      }
+    }
+    Click("cmdAccept");  // to the universe
+    Click("cmdAccept");
+    const StarfoldProfile stored = LoadSettings(Tree).Profiles[7];
+    EXPECT_EQ(stored.Starfold_FoldStyle, style);
+    for (const StarfoldRow& row : StarfoldRows()) {
+      if (!row.Shown.Has(style)) continue;
+      const Field<StarfoldProfile>& field = FieldOf(row, style);
+      EXPECT_EQ(FieldText(stored, field), Shortest(RangeOf(row, style).High)) << field.Name;
+    }
+    EXPECT_EQ(stored.Starfold_HueBlend, 60);
+    EXPECT_EQ(stored.Starfold_ColorComp == 5, style == 4);
+    EXPECT_EQ(stored.Starfold_ColorComp == 6, style == 9);
+  }
+}
+
+TEST_F(FrmPropsTest, LookingAtATypeChangesNothingAndNeitherDoesTryingAStyle) {
+  SettingsRecords records = RandomRecords(71).Make();
+  for (StarfoldProfile& profile : records.Profiles) {
+    const bool ruled =
+        profile.Style() == FoldStyle::Nebula || profile.Style() == FoldStyle::Molecule;
+    const int forced = profile.Style() == FoldStyle::Nebula ? 5 : 6;
+    profile.Starfold_ColorComp =
+        static_cast<Integer>(ruled ? forced : profile.Starfold_ColorComp % 5);
+  }
+  Store(records);
+  Open();
+  for (int type = 0; type < kProfileCount; type += 7) {
+    OpenType(type);
+    auto& style = The<QComboBox>("cboFoldStyle");
+    const int own = style.currentIndex();
+    for (int other = 0; other < kStyleCount; ++other) style.setCurrentIndex(other);
+    style.setCurrentIndex(own);
+    Click("cmdAccept");
+  }
+  Click("cmdAccept");
+  const SettingsRecords after = LoadSettings(Tree);
+  for (int type = 0; type < kProfileCount; ++type) {
+    for (const Field<StarfoldProfile>& field : ProfileFields()) {
+      EXPECT_EQ(FieldText(after.Profiles[type], field), FieldText(records.Profiles[type], field))
+          << field.Name << " of " << type;
+    }
+  }
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    EXPECT_EQ(FieldText(after.Universe, field), FieldText(records.Universe, field)) << field.Name;
+  }
+}
+
+TEST_F(FrmPropsTest, ANewStyleMendsANumberWhenItsBoxIsLeft) {
+  StoreFactory();
+  Open();
+  OpenType(0);
+  Enter("txtStarfold_3", "1");
+  The<QComboBox>("cboFoldStyle").setCurrentIndex(2);
+  EXPECT_EQ(Edit("txtStarfold_3").text(), "1");
+  Leave(*Edit("txtStarfold_3").parentWidget());
+  EXPECT_EQ(Edit("txtStarfold_3").text(), "4");
+}
+
+TEST_F(FrmPropsTest, CancelLeavesTheTreeAsItWas) {
+  Store(RandomRecords(81).Make());
+  Open();
+  const MemoryTree before = Tree;
+  Enter("txtUni_0", "77");
+  The<QComboBox>("cboUniTheme").setCurrentIndex(3);
+  The<BodyList>("lstUniStarfold").setCurrentRow(4);
+  Edit("txtUniFoldName").setText("Mine");
+  Click("cmdFoldCommit");
+  OpenType(5);
+  EXPECT_TRUE(The<QPushButton>("cmdDismiss").isHidden()) << "Cancel is for the universe's view";
+  Click("cmdAccept");
+  Click("cmdDismiss");
+  EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
+  EXPECT_TRUE(Process->NewRun);
+  EXPECT_NE(RegistryReadText(Tree, sections::kMain, "WindowSize"), "");
+}
+
+TEST_F(FrmPropsTest, NamesAndWeightsAreCommitted) {
+  StoreFactory();
+  Open();
+  auto& list = The<BodyList>("lstUniStarfold");
+  list.setCurrentRow(4);
+  Edit("txtUniFoldName").selectAll();
+  Type(Edit("txtUniFoldName"), "[a=b],");
+  EXPECT_EQ(Edit("txtUniFoldName").text(), "ab") << "typed over, without what breaks formats";
+  Enter("txtUniFoldPct", "9999");
+  Click("cmdFoldCommit");
+  EXPECT_EQ(list.EntryName(4), "ab");
+  EXPECT_TRUE(list.item(4)->text().endsWith("   9999"));
+  EXPECT_EQ(The<QComboBox>("cboUniProfile").itemText(4).left(2), "ab");
+  Edit("txtResetFoldPct").clear();
+  Click("cmdResetFoldPct");
+  EXPECT_EQ(LastBox(), "Please enter a value for the Reset percent.");
+  Enter("txtResetFoldPct", "7");
+  Click("cmdResetFoldPct");
+  Click("cmdAccept");
+  const SettingsRecords stored = LoadSettings(Tree);
+  EXPECT_EQ(stored.Profiles[4].UniFoldName, "ab");
+  for (const StarfoldProfile& profile : stored.Profiles) EXPECT_EQ(profile.UniFoldPct, 7);
+}
+
+TEST_F(FrmPropsTest, WhatNeedsASelectionAsksForOne) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstUniStarfold").clearSelection();
+  The<BodyList>("lstCompStarfold").clearSelection();
+  Click("cmdFoldProps");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Profile.");
+  Click("cmdFoldCommit");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Profile.");
+  Click("cmdPreviewFold");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Type.");
+  Click("cmdPreviewComp");
+  EXPECT_EQ(LastBox(), "Please select a Composite Starfold Type.");
+}
+
+TEST_F(FrmPropsTest, ThemesFillThePages) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstCompStarfold").setCurrentRow(1);
+  The<QComboBox>("cboUniTheme").setCurrentIndex(8);
+  UniverseSettings theme;
+  LoadFactoryTheme(theme, 8, false);
+  for (const UniverseRow& row : UniverseRows()) {
+    if (row.Name == "Universe_C_Ramp") continue;  // no theme has it
+    EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
+              FieldText(theme, *FindField(UniverseFields(), row.Name)))
+        << row.Name;
+  }
+  EXPECT_EQ(The<BodyList>("lstCompStarfold").Selected(), -1);
+  OpenType(30);
+  for (int position = 1; position <= kProfileCount; ++position) {
+    The<QComboBox>("cboFoldTheme").setCurrentIndex(position);
+    StarfoldProfile body;
+    LoadFactoryProfile(body, FactorySet::Starfolds4x, position - 1);
+    EXPECT_EQ(The<QComboBox>("cboFoldStyle").currentIndex(), body.Starfold_FoldStyle);
+    EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), NumberText(body.Starfold_Radius));
+  }
+}
+
+TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstUniStarfold").setCurrentRow(2);
+  Events.Plan[5] = [&] {
+    EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Stop");
+    EXPECT_FALSE(Edit("txtUni_0").parentWidget()->isEnabled());
+    EXPECT_FALSE(The<QPushButton>("cmdAccept").isEnabled());
+    EXPECT_FALSE(The<QPushButton>("cmdPreviewUni").isEnabled());
+    Click("cmdPreviewFold");
+  };
+  Click("cmdPreviewFold");
+  EXPECT_EQ(Events.Pumps, 5);
+  EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Preview Starfold");
+  EXPECT_TRUE(Edit("txtUni_0").parentWidget()->isEnabled());
+  EXPECT_TRUE(The<QPushButton>("cmdAccept").isEnabled());
+  EXPECT_FALSE(The<QPushButton>("cmdFoldLevels").isEnabled()) << "it was not enabled before";
+
+  Events.Plan = {{12, [&] { Press(*Dialog, Qt::Key_Escape); }}};
+  Click("cmdPreviewUni");
+  EXPECT_LE(Events.Pumps, 13);
+  EXPECT_TRUE(Dialog->IsOpen());
+  The<BodyList>("lstCompStarfold").setCurrentRow(0);
+  Events.Plan = {{20, [&] { Dialog->close(); }}};
+  Click("cmdPreviewComp");
+  EXPECT_LE(Events.Pumps, 21);
+  EXPECT_FALSE(Dialog->IsOpen()) << "it closes when the run has ended";
+}
+
+TEST_F(FrmPropsTest, APreviewEndsWithTheProcess) {
+  StoreFactory();
+  Open();
+  Events.Plan[9] = [&] { Process->QuitApp = true; };
+  Click("cmdPreviewUni");
+  EXPECT_LE(Events.Pumps, 10);
+}
+
+TEST_F(FrmPropsTest, ResetsFromTheMenuAskFirst) {
+  Store(RandomRecords(91).Make());
+  Open();
+  Boxes.Answers = {BoxAnswer::Cancel, BoxAnswer::Yes};
+  Choose("mnuResetProps_0");
+  EXPECT_TRUE(Disk.Contents.empty());
+  Choose("mnuResetProps_0");
+  EXPECT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
+  EXPECT_EQ(Edit("txtUni_0").text(), "2500") << "theme 1 in its variant for 2.0";
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Pancake-Like Disk");
+  EXPECT_FALSE(Part<QAction>(*Dialog, "mnuResetProps_0").isChecked());
+  Boxes.Answers = {BoxAnswer::No};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").count(), kProfileCount);
+}
+
+TEST_F(FrmPropsTest, AReadOnlyTreeIsToldAndTheDialogCloses) {
+  StoreFactory();
+  Open();
+  Tree.Writable = false;
+  Click("cmdAccept");
+  EXPECT_TRUE(LastBox().starts_with("The Registry is read-only."));
+  EXPECT_FALSE(Dialog->IsOpen());
+}
+
+TEST_F(FrmPropsTest, ExitEndsTheProcess) {
+  StoreFactory();
+  Open();
+  Choose("mnuExit");
+  EXPECT_TRUE(Process->QuitApp);
+  EXPECT_FALSE(Dialog->IsOpen());
+}
+
+/// Presses a button of the welcome that comes up modally.
+void AnswerWelcome(const char* button) {
+  WhenShown<FrmWelcome>(
+      [button](FrmWelcome& welcome) { Part<QPushButton>(welcome, button).click(); });
+}
+
+TEST_F(FrmPropsTest, WelcomesANewUserWithTheFactorysUniverse) {
+  AnswerWelcome("cmdDismiss");
+  Open();
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Click("cmdAccept");
+  EXPECT_TRUE(HasMark(Tree, kAnimationType));
+  Open();  // no second welcome
+  EXPECT_TRUE(Boxes.Log.empty());
+}
+
+TEST_F(FrmPropsTest, WelcomesAnUpgradeWithASafetyCopy) {
+  SettingsRecords mine = RandomRecords(95).Make();
+  SaveSettings(Tree, mine);
+  RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
+  AnswerWelcome("cmdReset");
+  Open();
+  EXPECT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName)
+      << "until the dialog is accepted";
+}
+
+/// Presses, types and chooses anywhere, previews included, and never closes the dialog.
+TEST_F(FrmPropsTest, TenThousandRandomEventsLeaveAValidTree) {
+  StoreFactory();
+  Open();
+  std::mt19937 random(7);
+  const auto draw = [&](int below) { return static_cast<int>(random() % unsigned(below)); };
+  for (int i = 1; i < 400; ++i) Events.Plan[i * 6] = [&] { Press(*Dialog, Qt::Key_Escape); };
+  for (int i = 0; i < 10000; ++i) {
+    const QWidgetList widgets = Dialog->findChildren<QWidget*>();
+    QWidget* widget = widgets[draw(static_cast<int>(widgets.size()))];
+    if (!widget->isEnabled() || !widget->isVisible()) continue;
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      const bool starts = button->objectName().startsWith("cmdPreview");
+      if (button->objectName() == "cmdDismiss" || (starts && draw(20) > 0)) continue;
+      if (button->objectName() == "cmdAccept" &&
+          The<QPushButton>("cmdAccept").text() == "&Accept Settings") {
+        continue;
+      }
+      Events.Pumps = 0;
+      button->click();
+    } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
+      if (list->count() > 0) list->setCurrentIndex(draw(list->count()));
+    } else if (auto* items = qobject_cast<QListWidget*>(widget)) {
+      if (items->count() > 0) items->setCurrentRow(draw(items->count()));
+    } else {
+      const int key = Qt::Key_Space + draw(95);
+      Press(*widget, key, QChar(key));
+    }
+    if (draw(50) == 0) Leave(*widget);
+    if (draw(500) == 0) Choose(draw(2) == 0 ? "mnuResetProps_0" : "mnuResetProps_2");
+  }
+  if (The<QPushButton>("cmdAccept").text() != "&Accept Settings") Click("cmdAccept");
+  Click("cmdAccept");
+  for (const UniverseRow& row : UniverseRows()) {
+    const std::string stored = RegistryReadText(Tree, sections::kUniverse, row.Name);
+    EXPECT_EQ(stored, ClampedText(stored, RangeOf(row))) << row.Name;
+  }
+  SettingsRecords stored = LoadSettings(Tree);
+  MemoryTree again;
+  EXPECT_TRUE(SaveSettings(again, stored));
+  EXPECT_EQ(Contents(LoadSettings(again)), again);
+}
+
+}  // namespace
+}  // namespace starfolds
