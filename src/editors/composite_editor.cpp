@@ -56,6 +56,8 @@ class TickDelegate : public QStyledItemDelegate {
 QBoxLayout* Line(std::initializer_list<QWidget*> widgets) {
   auto* line = new QHBoxLayout;
   for (QWidget* widget : widgets) line->addWidget(widget);
+  const bool alone = widgets.size() == 1;
+  if (alone && qobject_cast<NumberBox*>(*widgets.begin())) line->addStretch();
   return line;
 }
 

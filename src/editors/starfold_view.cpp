@@ -148,6 +148,7 @@ void StarfoldView::FillShapePage(QGridLayout& page) {
   AddLine(page, tr("&Style:"), cboFoldStyle_, {cboFoldStyle_});
   cboFoldPlane_ = MakeList("cboFoldPlane", PlaneNames());
   cboFoldPlane_->setAccessibleName(tr("Axial plane"));
+  cboFoldPlane_->setMaximumWidth(cboFoldPlane_->fontMetrics().averageCharWidth() * 14);
   cmdFoldLevels_ = new QPushButton(tr("&Levels..."));
   cmdFoldLevels_->setObjectName("cmdFoldLevels");
   cmdIFS_Chem_ = new QPushButton;
@@ -230,13 +231,14 @@ NumberBox* StarfoldView::MakeBox(const QString& array, const StarfoldRow& row) {
 void StarfoldView::AddPixHue(QGridLayout& page) {
   std::vector<QWidget*> widgets;
   for (const StarfoldRow& row : PixHueRows()) widgets.push_back(MakeBox("PixHue", row));
-  auto* label = AddLine(page, tr("Hue:  Red, Green, Blue, Base (0 - 100), Blend (1 - 60):"),
-                        widgets.front(), {});
-  label->setWordWrap(true);
+  auto* label = new QLabel(tr("Hue:  Red, Green, Blue, Base (0 - 100), Blend (1 - 60):"));
+  label->setBuddy(widgets.front());
+  AddWideLine(page, label);
   auto* line = new QWidget;
   auto* boxes = new QHBoxLayout(line);
   boxes->setContentsMargins(0, 0, 0, 0);
   for (QWidget* box : widgets) boxes->addWidget(box);
+  boxes->addStretch();
   AddWideLine(page, line);
   picPixHue_ = MakeSamplePlace("picPixHue", tr("Hues of the stars"), kHueSize);
   AddLine(page, tr("Hues of the stars:"), nullptr, {picPixHue_});

@@ -1,0 +1,90 @@
+// Writes pictures of the properties dialog, of every page and style, for the documents:
+// dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR makes them larger.
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QStyleFactory>
+
+#include "editors/frm_props.h"
+#include "settings/first_run.h"
+#include "settings/storage.h"
+
+namespace {
+
+using namespace starfolds;
+
+QPalette DarkPalette() {
+  QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
+  dark.setColor(QPalette::Base, QColor(30, 30, 30));
+  dark.setColor(QPalette::Highlight, QColor(42, 110, 180));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    dark.setColor(role, QColor(230, 230, 230));
+    dark.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
+  }
+  return dark;
+}
+
+void StoreFactory(KeyValueTree& tree) {
+  SettingsRecords records;
+  LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
+  SaveSettings(tree, records);
+  RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
+  RegistryWrite(tree, sections::kGeneral, kResetSettings, Long{1});
+}
+
+template <class Widget>
+Widget& Part(FrmProps& dialog, const char* name) {
+  return *dialog.findChild<Widget*>(name);
+}
+
+void TakePictures(FrmProps& dialog, const QString& prefix) {
+  const auto take = [&](const QString& name) {
+    QApplication::processEvents();
+    dialog.grab().save(prefix + name + ".png");
+  };
+  Part<BodyList>(dialog, "lstUniStarfold").setCurrentRow(6);
+  Part<QCheckBox>(dialog, "chkUniTour").setChecked(true);
+  Part<BodyList>(dialog, "lstCompStarfold").setCurrentRow(0);
+  Part<QComboBox>(dialog, "cboPropCopyList").setCurrentIndex(5);
+  for (int page = 0; page < kUniversePageCount; ++page) {
+    Part<QComboBox>(dialog, "cboUniExtras").setCurrentIndex(page);
+    take("universe-" + QString::number(page));
+  }
+  Part<QPushButton>(dialog, "cmdFoldProps").click();
+  for (int style = 0; style < kStyleCount; ++style) {
+    Part<QComboBox>(dialog, "cboFoldStyle").setCurrentIndex(style);
+    take("style-" + QString::number(style));
+  }
+  for (int page = 1; page < kStarfoldPageCount; ++page) {
+    Part<QComboBox>(dialog, "cboFoldExtras").setCurrentIndex(page);
+    take("starfold-" + QString::number(page));
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) return 2;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  const QString look = argv[2];
+  if (look == "dark") QApplication::setPalette(DarkPalette());
+  MemoryTree tree;
+  StoreFactory(tree);
+  MemoryFiles disk;
+  MemoryDesktop desktop;
+  ScriptedMessageBoxes boxes;
+  CountedPump events;
+  static Saver process;  // large
+  process.Tree = &tree;
+  process.Events = &events;
+  process.Desktop = &desktop;
+  FrmProps dialog({process, boxes, disk, "/", "/", [] { return 1U; }});
+  dialog.Open();
+  dialog.resize(1280, 700);
+  QDir().mkpath(argv[1]);
+  TakePictures(dialog, QString(argv[1]) + "/" + look + "-");
+  return 0;
+}
