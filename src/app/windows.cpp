@@ -58,9 +58,10 @@ void AppWindows::ShowFrmProps() {
   QtMessageBoxes boxes;
   DiskFiles disk;
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
-  FrmProps({saver_, boxes, disk, QCoreApplication::applicationDirPath().toStdString(), userFolder,
-            seed_})
-      .ShowModal();
+  FrmProps frmProps({saver_, boxes, disk, QCoreApplication::applicationDirPath().toStdString(),
+                     userFolder, seed_});
+  boxes.SetParent(&frmProps);
+  frmProps.ShowModal();
 }
 
 void AppWindows::LoadFrmPreview() {

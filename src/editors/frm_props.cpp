@@ -18,6 +18,7 @@ namespace starfolds {
 namespace {
 
 constexpr QSize kLeastPreview{300, 225};
+constexpr int kStillPauseMs = 150;
 constexpr double kMostOfScreen = 0.94;  // of a first placement; the rest is for frames and panels
 
 // Entries of `mnuResetProps`; a line stands between them.
@@ -86,6 +87,7 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
 
   setObjectName("frmProps");
   setWindowTitle(kPropertiesCaption);
+  setWindowModality(Qt::ApplicationModal);  // the application's window waits behind it
   LoadAllProfiles(*editing_->Tree, editing_->Profiles, RootSelector::CurrentUser);
   LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
@@ -128,11 +130,12 @@ void FrmProps::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
+/// Escape leads back one step. It does not cancel: a slip of a finger shall not lose an evening's
+/// universe.
 void FrmProps::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
   if (preview_.IsOn()) return preview_.Stop();
-  if (inStarfoldView_) return OpenStarfoldView(false);
-  close();
+  if (inStarfoldView_) OpenStarfoldView(false);
 }
 
 std::string FrmProps::UniverseText(const Field<UniverseSettings>& field) const {
@@ -249,6 +252,11 @@ void FrmProps::MakeCentre() {
     currentProfile_ = index;
     OpenStarfoldView(true);
   });
+  // A picture of that size is felt in typing; it waits for a pause.
+  stillTimer_.setSingleShot(true);
+  stillTimer_.setInterval(kStillPauseMs);
+  connect(&stillTimer_, &QTimer::timeout, this, &FrmProps::ShowStill);
+  connect(starfold_, &StarfoldView::Changed, &stillTimer_, qOverload<>(&QTimer::start));
   connect(&universe_->Bodies(), &QListWidget::itemSelectionChanged, this, &FrmProps::ShowStill);
   connect(universe_, &UniverseView::CompositePreviewAskedFor, this,
           &FrmProps::PreviewSelectedComposite);
@@ -335,13 +343,16 @@ void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
   if (end == PreviewEnd::Close) close();
 }
 
-/// A body that is selected shows itself, until a preview does it better.
+/// A body that is selected, or open, shows itself as it stands in the dialog, until a preview does
+/// it better.
 void FrmProps::ShowStill() {
   if (preview_.IsOn()) return;
   const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
   if (body < 0) return;
+  const auto profiles = std::make_unique<ProfileArray>(model_.Profiles());
+  if (inStarfoldView_) (*profiles)[body] = starfold_->Page();
   picPreview_->ShowPicture(
-      ProfileSample(model_.Profiles(), body, {picPreview_->size(), devicePixelRatioF()}));
+      ProfileSample(*profiles, body, {picPreview_->size(), devicePixelRatioF()}));
 }
 
 void FrmProps::PreviewUniverseOnDialog() {

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -93,6 +94,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   TemplateFile template_;
   PropertySettings settings_;
 
+  QTimer stillTimer_;
   bool open_ = false;
   PreviewSwitch preview_{*editing_};
 

@@ -60,6 +60,9 @@ StarfoldView::StarfoldView(const PropsModel& model, QWidget* parent)
   layout->addWidget(MakePages(), 1);
   connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
   connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
+  for (QComboBox* list : {cboFoldPlane_, cboFoldColor_}) {
+    connect(list, &QComboBox::currentIndexChanged, this, &StarfoldView::ShowSamples);
+  }
 }
 
 void StarfoldView::LoadProfileToPage(int index) {
@@ -76,6 +79,12 @@ void StarfoldView::StorePageToProfile(int index) {
   page_.UniFoldName = profile.UniFoldName;
   page_.UniFoldPct = profile.UniFoldPct;
   profile = page_;
+}
+
+StarfoldProfile StarfoldView::Page() const {
+  StarfoldProfile shown = page_;
+  StoreBoxes(shown, Numbers::Held);
+  return shown;
 }
 
 void StarfoldView::ApplyStyle(int style) {
@@ -158,7 +167,7 @@ void StarfoldView::FillShapePage(QGridLayout& page) {
   cboFoldProfile_ = MakeList("cboFoldProfile", ShapeNames());
   picFoldProfile_ = MakeSamplePlace("picFoldProfile", tr("Curve of the shape profile"), kShapeSize);
   lblFoldProfile_ =
-      AddLine(page, tr("Shape Pro&file:"), cboFoldProfile_, {cboFoldProfile_, picFoldProfile_});
+      AddLine(page, tr("Sh&ape Profile:"), cboFoldProfile_, {cboFoldProfile_, picFoldProfile_});
   cboFoldColor_ = MakeList("cboFoldColor", ColorRuleNames());
   lblFoldColor_ = AddLine(page, tr("C&olor Computation:"), cboFoldColor_, {cboFoldColor_});
   chkCP_Closed_ = new QCheckBox(tr("Control Point Loop is Closed"));
@@ -299,8 +308,7 @@ void StarfoldView::ChooseTheme(int position) {
 
 void StarfoldView::ShowSamples() {
   if (loading_) return;
-  StarfoldProfile shown = page_;
-  StoreBoxes(shown, Numbers::Held);
+  const StarfoldProfile shown = Page();
   const qreal ratio = devicePixelRatioF();
   const ShapeSetting shape{shown.Starfold_Profile, shown.Starfold_RadiusExp,
                            shown.Starfold_HeightExp, shown.Starfold_GHW_Ratio};
@@ -308,6 +316,7 @@ void StarfoldView::ShowSamples() {
   ShowSample(picCometHue_,
              HueWheelSample(shown.Starfold_HWC_Start, shown.Starfold_HWC_End, {kHueSize, ratio}));
   ShowSample(picPixHue_, PixHueSample(shown, {kHueSize, ratio}));
+  emit Changed();
 }
 
 }  // namespace starfolds

@@ -30,12 +30,17 @@ class StarfoldView : public QWidget {
   /// Puts what the page shows into profile `index`, every number held to its range.
   void StorePageToProfile(int index);
 
+  /// What would be stored.
+  StarfoldProfile Page() const;
+
   /// Shows, hides and names the rows as the style asks for.
   void ApplyStyle(int style);
   /// Applies a row of the factory's to the page: all but name and weight.
   void ApplyFactoryRowToPage(std::string_view row);
 
  signals:
+  /// Something on the page is another.
+  void Changed();
   /// `cmdFoldLevels` and `cmdIFS_Chem`.
   void LevelsAskedFor();
   void BodyEditorAskedFor();

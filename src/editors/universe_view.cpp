@@ -179,8 +179,8 @@ QWidget* UniverseView::MakeStarfoldTypes() {
   txtUniFoldPct_ = new NumberBox;
   txtUniFoldPct_->SetNames("UniFoldPct");
   txtUniFoldPct_->SetRange(kWeightRange);
-  auto* commit = MakeButton(tr("&Commit"), "cmdFoldCommit");
-  AddLine(*page, tr("Relative &Percent in Universe:"), txtUniFoldPct_, {txtUniFoldPct_, commit});
+  auto* commit = MakeButton(tr("Commit"), "cmdFoldCommit");
+  AddLine(*page, tr("&Relative Percent in Universe:"), txtUniFoldPct_, {txtUniFoldPct_, commit});
   txtResetFoldPct_ = new NumberBox;
   txtResetFoldPct_->SetNames("ResetFoldPct");
   txtResetFoldPct_->SetRange(kWeightRange);
@@ -188,13 +188,14 @@ QWidget* UniverseView::MakeStarfoldTypes() {
   auto* reset = MakeButton(tr("Reset All"), "cmdResetFoldPct");
   reset->setToolTip(tr("Gives all 50 types this percent"));
   AddLine(*page, tr("Reset all percents to:"), txtResetFoldPct_, {txtResetFoldPct_, reset});
-  auto* props = MakeButton(tr("&Show Props"), "cmdFoldProps");
+  auto* props = MakeButton(tr("Sho&w Props"), "cmdFoldProps");
   props->setToolTip(tr("Opens the properties of the selected type"));
   AddWideLine(*page, props);
 
   connect(lstUniStarfold_, &QListWidget::itemSelectionChanged, this, &UniverseView::SelectBody);
   connect(lstUniStarfold_, &QListWidget::itemDoubleClicked, props, &QPushButton::click);
   connect(commit, &QPushButton::clicked, this, &UniverseView::CommitBody);
+  connect(txtUniFoldName_, &QLineEdit::returnPressed, this, &UniverseView::CommitBody);
   connect(reset, &QPushButton::clicked, this, &UniverseView::ResetWeights);
   connect(props, &QPushButton::clicked, this,
           [this] { emit PropsAskedFor(lstUniStarfold_->Selected()); });

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QStyleFactory>
 
 #include "editors/frm_props.h"
@@ -40,7 +41,9 @@ Widget& Part(FrmProps& dialog, const char* name) {
 
 void TakePictures(FrmProps& dialog, const QString& prefix) {
   const auto take = [&](const QString& name) {
-    QApplication::processEvents();
+    QElapsedTimer pause;  // after which the still of the body follows
+    pause.start();
+    while (pause.elapsed() < 300) QApplication::processEvents();
     dialog.grab().save(prefix + name + ".png");
   };
   Part<BodyList>(dialog, "lstUniStarfold").setCurrentRow(6);
