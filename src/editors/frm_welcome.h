@@ -24,7 +24,6 @@ class FrmWelcome : public QDialog {
   /// Whether the user wants the factory's settings. The safety copy has been written then.
   bool ResetRequested() const { return resetRequested_; }
 
- public slots:
   void reject() override;
 
  private:

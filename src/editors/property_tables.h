@@ -38,7 +38,7 @@ std::string_view StarfoldPageName(int page);
 /// A set of styles, one bit each.
 class Styles {
  public:
-  constexpr explicit Styles(std::initializer_list<int> styles) {
+  constexpr Styles(std::initializer_list<int> styles) {
     for (const int style : styles) bits_ |= 1U << static_cast<unsigned>(style);
   }
   constexpr bool Has(int style) const { return (bits_ >> static_cast<unsigned>(style) & 1U) != 0; }

@@ -218,6 +218,7 @@ void StarfoldView::AddRows(QGridLayout& page, StarfoldPage which) {
 void StarfoldView::AddRowLine(QGridLayout& page, const std::vector<const StarfoldRow*>& rows,
                               const std::vector<QWidget*>& alsoInLine) {
   std::vector<QWidget*> widgets;
+  widgets.reserve(rows.size() + alsoInLine.size());
   for (const StarfoldRow* row : rows) widgets.push_back(MakeBox("Starfold", *row));
   const int label = rows.front()->Label;
   QWidget* buddy = widgets.front();
@@ -239,6 +240,7 @@ NumberBox* StarfoldView::MakeBox(const QString& array, const StarfoldRow& row) {
 
 void StarfoldView::AddPixHue(QGridLayout& page) {
   std::vector<QWidget*> widgets;
+  widgets.reserve(PixHueRows().size());
   for (const StarfoldRow& row : PixHueRows()) widgets.push_back(MakeBox("PixHue", row));
   auto* label = new QLabel(tr("Hue:  Red, Green, Blue, Base (0 - 100), Blend (1 - 60):"));
   label->setBuddy(widgets.front());

@@ -23,7 +23,7 @@ constexpr mode_t kRights = 0666;  // less the umask
 constexpr mode_t kRightsMask = 0777;
 constexpr int kMostLinks = 40;       // as many as the system follows
 constexpr int kMostTemporaries = 8;  // processes that replace one file at the same time
-constexpr std::size_t kReadAtOnce = 64 * 1024;
+constexpr std::size_t kReadAtOnce = std::size_t{64} * 1024;
 
 std::string Reason(int error) { return std::generic_category().message(error); }
 
