@@ -2,7 +2,6 @@
 // tree. The folder counts: give it with TMPDIR.
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -10,24 +9,10 @@
 #include "full_settings.h"
 #include "storage/disk_files.h"
 #include "storage/sqlite_tree.h"
+#include "temporary_folder.h"
 
 namespace starfolds {
 namespace {
-
-class Folder {
- public:
-  Folder() {
-    std::string name = (std::filesystem::temp_directory_path() / "starfolds-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~Folder() { std::filesystem::remove_all(path_); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  std::string operator/(const char* name) const { return path_ / name; }
-
- private:
-  std::filesystem::path path_;
-};
 
 void LoadTemplateFrom(benchmark::State& state, const std::string& path, bool readable) {
   DiskFiles disk;
@@ -40,7 +25,7 @@ void LoadTemplateFrom(benchmark::State& state, const std::string& path, bool rea
 }
 
 void LoadFullTemplate(benchmark::State& state) {
-  const Folder folder;
+  const TemporaryFolder folder;
   DiskFiles disk;
   SettingsRecords records = FullSettings(1);
   SaveAs(disk, folder / "full.sfd", records);
@@ -49,7 +34,7 @@ void LoadFullTemplate(benchmark::State& state) {
 }
 
 void SaveFullTemplate(benchmark::State& state) {
-  const Folder folder;
+  const TemporaryFolder folder;
   DiskFiles disk;
   SettingsRecords records = FullSettings(1);
   for (auto _ : state) {
@@ -59,7 +44,7 @@ void SaveFullTemplate(benchmark::State& state) {
 
 /// The largest file that is read at all, made to be slow: one section full of "=", and brackets.
 void LoadHostileTemplate(benchmark::State& state) {
-  const Folder folder;
+  const TemporaryFolder folder;
   const char filler = state.range(0) == 0 ? '=' : '[';
   std::string text = "[Universe]\r\n[UniFold0]\r\n";
   text.resize(kLargestTemplate, filler);
@@ -68,14 +53,14 @@ void LoadHostileTemplate(benchmark::State& state) {
 }
 
 void RefuseHugeTemplate(benchmark::State& state) {
-  const Folder folder;
+  const TemporaryFolder folder;
   std::ofstream(folder / "huge.sfd") << "[Universe]\r\n" << std::string(100'000'000, 'x');
   LoadTemplateFrom(state, folder / "huge.sfd", false);
 }
 
 /// Another set every time, so that every value changes.
 void Accept(benchmark::State& state, SettingsRecords (*make)(unsigned)) {
-  const Folder folder;
+  const TemporaryFolder folder;
   SqliteTree tree({folder / "settings.db", {}}, {});
   SettingsRecords sets[] = {make(1), make(2)};
   int turn = 0;
@@ -88,7 +73,7 @@ void Accept(benchmark::State& state, SettingsRecords (*make)(unsigned)) {
 }
 
 void ReadForARun(benchmark::State& state) {
-  const Folder folder;
+  const TemporaryFolder folder;
   SqliteTree tree({folder / "settings.db", {}}, {});
   SettingsRecords records = FullSettings(1);
   SaveSettings(tree, records);

@@ -2,11 +2,11 @@
 // is most of a save, so the folder counts: give it with TMPDIR.
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include "storage/sqlite_tree.h"
+#include "temporary_folder.h"
 
 namespace starfolds {
 namespace {
@@ -17,14 +17,6 @@ constexpr int kMissingPerProfile = 30;  // makes 5,000 looks: the readers ask fo
 
 class Settings {
  public:
-  Settings() {
-    std::string name = (std::filesystem::temp_directory_path() / "starfolds-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-  }
-  ~Settings() { std::filesystem::remove_all(folder_); }
-  Settings(const Settings&) = delete;
-  Settings& operator=(const Settings&) = delete;
-
   /// One bulk; whether it held.
   bool Save(SqliteTree& tree, int value) const {
     TreeBulk bulk = TreeBulk::Change(tree);
@@ -55,7 +47,7 @@ class Settings {
   }
   static std::string Name(int field) { return "Starfold_SomeSetting" + std::to_string(field); }
 
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
 };
 
 void SaveNewTree(benchmark::State& state) {

@@ -21,7 +21,7 @@ constexpr Integer kDefaultColorRule = 3;
 constexpr Integer kNebulaColorRule = 5;
 constexpr Integer kMoleculeColorRule = 6;
 
-constexpr int kShapeLabel = 0;  // the lines that have a control beside their boxes
+// The lines that have a control beside their boxes.
 constexpr int kDistanceLabel = 1;
 constexpr int kLevelsLabel = 90;
 constexpr int kColorLabel = 7;
@@ -223,7 +223,7 @@ void StarfoldView::AddRowLine(QGridLayout& page, const std::vector<const Starfol
   const int label = rows.front()->Label;
   QWidget* buddy = widgets.front();
   widgets.insert(widgets.end(), alsoInLine.begin(), alsoInLine.end());
-  QLabel* text = AddLine(page, Escaped(LabelOf(label, kShapeLabel)), buddy, widgets);
+  QLabel* text = AddLine(page, Escaped(LabelOf(label, Style())), buddy, widgets);
   text->setObjectName("lblStarfold_" + QString::number(label));
   lines_.push_back({label, text, rows});
 }

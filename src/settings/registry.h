@@ -29,7 +29,6 @@ inline constexpr std::size_t kLongestValue = 127;
 namespace sections {
 inline constexpr std::string_view kGeneral = "General";
 inline constexpr std::string_view kMain = "General\\Main";
-inline constexpr std::string_view kTemplate = "Template";
 inline constexpr std::string_view kAdvanced = "Advanced";
 inline constexpr std::string_view kUniverse = "Universe";
 }  // namespace sections
