@@ -1,6 +1,7 @@
 // `starfolds`: the screen saver.
 #include <QApplication>
 #include <QFileInfo>
+#include <QPointer>
 #include <QWidget>
 #include <array>
 #include <memory>
@@ -112,6 +113,16 @@ std::optional<std::string> PrepareForHost(StartOptions& options) {
   return std::nullopt;
 }
 
+/// Each of them waits in a loop of its own, the last one opened inside the others'. What is closed
+/// may take others with it.
+void CloseDialogs() {
+  QList<QPointer<QWidget>> windows;
+  for (QWidget* window : QApplication::topLevelWidgets()) windows.prepend(window);
+  for (const QPointer<QWidget>& window : windows) {
+    if (window && window->isVisible() && window->isModal()) window->close();
+  }
+}
+
 /// Opens the window that was asked for, and returns when it is gone.
 void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
   if (options.Companion) return RunCompanion(saver, windows);
@@ -154,8 +165,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;
-    // A question waits in a loop of its own.
-    if (QWidget* question = QApplication::activeModalWidget()) question->close();
+    CloseDialogs();
   });
 
   AppWindows windows(*saver, options);

@@ -50,16 +50,18 @@ void AppWindows::ShowFrmSaver() {
 }
 
 void AppWindows::ShowFrmAppExe() {
-  FrmAppExe(saver_, seed_, [this] { ShowFrmProps(); }).Activate();
+  FrmAppExe(saver_, seed_, [this](QWindow& owner) { RunFrmProps(&owner); }).Activate();
 }
 
 /// The safety copy of the settings goes beside the program, or beside the user's own settings.
-void AppWindows::ShowFrmProps() {
+void AppWindows::RunFrmProps(QWindow* owner) {
   QtMessageBoxes boxes;
   DiskFiles disk;
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
-  FrmProps frmProps({saver_, boxes, disk, QCoreApplication::applicationDirPath().toStdString(),
-                     userFolder, seed_});
+  MemoryHelp help;
+  FrmProps frmProps({saver_, boxes, disk, help,
+                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_,
+                     owner});
   boxes.SetParent(&frmProps);
   frmProps.ShowModal();
 }

@@ -1,6 +1,7 @@
 // The windows that a start may open.
 #pragma once
 
+#include <QWindow>
 #include <string>
 
 #include "app/options.h"
@@ -18,7 +19,7 @@ class AppWindows : public StartActions {
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
   void ShowFrmAppExe() override;
-  void ShowFrmProps() override;
+  void ShowFrmProps() override { RunFrmProps(nullptr); }
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
@@ -28,6 +29,8 @@ class AppWindows : public StartActions {
   int ExitCode() const { return exitCode_; }
 
  private:
+  /// The properties dialog over `owner`, or alone.
+  void RunFrmProps(QWindow* owner);
   void Fail(const std::string& message, int exitCode);
 
   Saver& saver_;

@@ -12,6 +12,8 @@
 #include <map>
 #include <utility>
 
+#include "desktop/other_programs.h"
+
 namespace starfolds {
 namespace {
 
@@ -125,7 +127,7 @@ void AskForward(const std::string& caption) {
   owner.waitForDisconnected(kPatienceMs);
 }
 
-class InstanceDesktop : public DesktopServices, private QObject {
+class InstanceDesktop : public StartsOtherPrograms, private QObject {
  public:
   InstanceDesktop() { qGuiApp->installEventFilter(this); }
 
@@ -142,7 +144,6 @@ class InstanceDesktop : public DesktopServices, private QObject {
   }
 
   bool IsWindow(Long) override { return false; }
-  void ChangePassword(Long) override {}
 
  private:
   bool Take(const std::string& caption) {

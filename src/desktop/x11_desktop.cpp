@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "desktop/other_programs.h"
 #include "desktop/x11_reply.h"
 
 namespace starfolds {
@@ -21,7 +22,7 @@ constexpr std::uint32_t kPropertyRoom = 64 * 1024;
 /// Tells the window manager that a person asked for it, not a program by itself.
 constexpr std::uint32_t kSourcePager = 2;
 
-class X11Desktop : public DesktopServices {
+class X11Desktop : public StartsOtherPrograms {
  public:
   X11Desktop(xcb_connection_t* connection, xcb_window_t root)
       : connection_(connection),
@@ -51,9 +52,6 @@ class X11Desktop : public DesktopServices {
     const auto request = xcb_get_window_attributes(connection_, static_cast<xcb_window_t>(handle));
     return Ask(connection_, request, xcb_get_window_attributes_reply) != nullptr;
   }
-
-  /// X11 has no password of its own for savers: hosts lock the screen themselves.
-  void ChangePassword(Long) override {}
 
  private:
   xcb_atom_t Atom(std::string_view name) {

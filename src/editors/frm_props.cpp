@@ -71,7 +71,7 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
     : around_(surroundings),
       editing_(std::make_unique<Saver>()),
       events_(std::make_unique<WatchfulPump>(surroundings.Process, *editing_)),
-      model_{*editing_, surroundings.Boxes},
+      model_{*editing_, surroundings.Boxes, surroundings.HelpBook},
       template_(surroundings.Disk),
       settings_{*surroundings.Process.Tree, editing_->Profiles,
                 editing_->Composites,       template_,
@@ -87,7 +87,8 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
 
   setObjectName("frmProps");
   setWindowTitle(kPropertiesCaption);
-  setWindowModality(Qt::ApplicationModal);  // the application's window waits behind it
+  setWindowModality(
+      Qt::WindowModal);  // the application's window waits behind it, the help does not
   LoadAllProfiles(*editing_->Tree, editing_->Profiles, RootSelector::CurrentUser);
   LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
@@ -111,6 +112,7 @@ void FrmProps::Open() {
   open_ = true;
   resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
   winId();  // a window that can be placed before it is shown
+  windowHandle()->setTransientParent(around_.Owner);
   PlacedQtWindow placed(*windowHandle());
   RestoreWindowPlacement(placed, *editing_->Tree, sections::kMain);
   if (placed.State() == WindowState::Maximised) {

@@ -26,9 +26,11 @@ struct PropsSurroundings {
   Saver& Process;  // the state of the process: its tree, pump and flags
   MessageBoxes& Boxes;
   Files& Disk;
+  Help& HelpBook;
   std::string ProgramFolder;
   std::string UserFolder;
   std::function<std::uint64_t()> Seed;  // of each preview
+  QWindow* Owner = nullptr;             // waits behind the dialog
 };
 
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree

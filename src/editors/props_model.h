@@ -6,6 +6,7 @@
 #include <string>
 
 #include "colour/saver.h"
+#include "platform/help.h"
 #include "platform/message_boxes.h"
 #include "settings/product.h"
 
@@ -16,6 +17,7 @@ namespace starfolds {
 struct PropsModel {
   Saver& Process;
   MessageBoxes& Boxes;
+  Help& HelpBook;
 
   ProfileArray& Profiles() const { return Process.Profiles; }
   CompositeArray& Composites() const { return Process.Composites; }

@@ -81,7 +81,7 @@ void FrmAppExe::BeginAnew() {
 
 void FrmAppExe::ShowProperties() {
   SavePlacement();
-  frmProps_();
+  frmProps_(surface_.Window());
   if (saver_.QuitApp) return AppQuit();
   BeginAnew();
 }

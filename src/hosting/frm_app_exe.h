@@ -10,7 +10,7 @@
 namespace starfolds {
 
 /// Shows the properties dialog over a window that it blocks, and returns when it is closed.
-using ShowPropertiesDialog = std::function<void()>;
+using ShowPropertiesDialog = std::function<void(QWindow& owner)>;
 
 /// Runs the effect for somebody who started the program as an application: full-screen, or in a
 /// window that can be resized. Esc leaves, F5 begins anew, anything else asks for the properties

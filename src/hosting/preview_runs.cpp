@@ -11,17 +11,28 @@ namespace {
 
 constexpr Integer kHighestHue = 999;
 
-/// What both kinds of preview do first. The records may be of a user who is still typing; a run
+/// What all kinds of preview do first. The records may be of a user who is still typing; a run
 /// needs them within their ranges.
-void SetUpPreview(Saver& saver, Surface& surface, Integer hueStart, Integer hueEnd,
+void SetUpPreview(Saver& saver, Surface& surface, bool fixedView, const BodyPreview& preview,
                   std::uint64_t seed) {
-  saver.Screen.FocalLength = LoadAdvancedFromRegistry(*saver.Tree).FocalLength;
-  SetupPreviewSurface(saver, surface, false, 1, seed);
+  if (!fixedView) saver.Screen.FocalLength = LoadAdvancedFromRegistry(*saver.Tree).FocalLength;
+  SetupPreviewSurface(saver, surface, fixedView, 1, seed);
   for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
   for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
-  BuildFlareTables(saver, ClampTo<Integer>(hueStart, 0, kHighestHue),
-                   ClampTo<Integer>(hueEnd, 0, kHighestHue));
+  BuildFlareTables(saver, ClampTo<Integer>(preview.HueStart, 0, kHighestHue),
+                   ClampTo<Integer>(preview.HueEnd, 0, kHighestHue));
   BuildHueWheels(saver);
+}
+
+void RunOneBody(Saver& saver, Surface& surface, bool fixedView, const BodyPreview& preview,
+                std::uint64_t seed) {
+  const int bodies = preview.IsComposite ? kCompositeCount : kProfileCount;
+  if (preview.Body < 0 || preview.Body >= bodies) return;
+  const RecordsKept kept(saver);
+  SetUpPreview(saver, surface, fixedView, preview, seed);
+  SingleBodyRun(saver, preview.Body, false, 0, ClampTo<Long>(preview.Stars, 10, 30000),
+                static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999)), preview.IsComposite, 1);
+  saver.Screen.hDCDraw = nullptr;
 }
 
 }  // namespace
@@ -42,8 +53,10 @@ RecordsKept::~RecordsKept() {
 void PreviewUniverse(Saver& saver, Surface& surface, const UniverseSettings& universeOnDialog,
                      std::uint64_t seed) {
   const RecordsKept kept(saver);
-  SetUpPreview(saver, surface, universeOnDialog.Universe_HW_Start, universeOnDialog.Universe_HW_End,
-               seed);
+  BodyPreview hues;
+  hues.HueStart = universeOnDialog.Universe_HW_Start;
+  hues.HueEnd = universeOnDialog.Universe_HW_End;
+  SetUpPreview(saver, surface, false, hues, seed);
   saver.Universe = universeOnDialog;
   saver.Visits = ParseVisitList(universeOnDialog.Universe_GS_Idx);
   UniverseRun(saver);
@@ -51,13 +64,12 @@ void PreviewUniverse(Saver& saver, Surface& surface, const UniverseSettings& uni
 }
 
 void PreviewBody(Saver& saver, Surface& surface, const BodyPreview& preview, std::uint64_t seed) {
-  const int bodies = preview.IsComposite ? kCompositeCount : kProfileCount;
-  if (preview.Body < 0 || preview.Body >= bodies) return;
-  const RecordsKept kept(saver);
-  SetUpPreview(saver, surface, preview.HueStart, preview.HueEnd, seed);
-  SingleBodyRun(saver, preview.Body, false, 0, ClampTo<Long>(preview.Stars, 10, 30000),
-                static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999)), preview.IsComposite, 1);
-  saver.Screen.hDCDraw = nullptr;
+  RunOneBody(saver, surface, false, preview, seed);
+}
+
+void PreviewEditedBody(Saver& saver, Surface& surface, const BodyPreview& preview,
+                       std::uint64_t seed) {
+  RunOneBody(saver, surface, true, preview, seed);
 }
 
 PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {

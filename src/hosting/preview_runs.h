@@ -45,6 +45,10 @@ struct BodyPreview {
 /// frame's delay. A body that does not exist shows nothing.
 void PreviewBody(Saver& saver, Surface& surface, const BodyPreview& preview, std::uint64_t seed);
 
+/// The same in an editor's picture: focal length 1, whatever the settings say.
+void PreviewEditedBody(Saver& saver, Surface& surface, const BodyPreview& preview,
+                       std::uint64_t seed);
+
 /// How the call came to an end that was to run a preview.
 enum class PreviewEnd {
   Refused,  // another preview is on, or the process is about to end; nothing was run

@@ -12,4 +12,14 @@ bool MemoryDesktop::IsWindow(Long handle) {
   return handle != 0 && std::find(Windows.begin(), Windows.end(), handle) != Windows.end();
 }
 
+bool MemoryDesktop::OpenWebPage(const std::string& url) {
+  WebPages.push_back(url);
+  return HasBrowser;
+}
+
+bool MemoryDesktop::ShowSystemInfo() {
+  ++SystemInfos;
+  return HasSystemInfo;
+}
+
 }  // namespace starfolds

@@ -21,6 +21,12 @@ class DesktopServices {
   /// Whether `handle` names a living window. 0 never does.
   virtual bool IsWindow(Long handle) = 0;
 
+  /// Opens a web page in the user's browser. False: it could not be reached.
+  virtual bool OpenWebPage(const std::string& url) = 0;
+
+  /// Starts the program that tells about this machine. False: there is none.
+  virtual bool ShowSystemInfo() = 0;
+
   /// Lets the platform's own dialog change the saver's password; nothing where it has none.
   virtual void ChangePassword(Long ownerWindow) = 0;
 };
@@ -32,10 +38,16 @@ class MemoryDesktop : public DesktopServices {
   std::vector<Long> Windows;
   std::vector<std::string> BroughtForward;
   std::vector<Long> PasswordCalls;
+  std::vector<std::string> WebPages;
+  bool HasBrowser = true;
+  bool HasSystemInfo = true;
+  int SystemInfos = 0;
 
   bool WindowExists(const std::string& caption) override;
   void BringToFront(const std::string& caption) override { BroughtForward.push_back(caption); }
   bool IsWindow(Long handle) override;
+  bool OpenWebPage(const std::string& url) override;
+  bool ShowSystemInfo() override;
   void ChangePassword(Long ownerWindow) override { PasswordCalls.push_back(ownerWindow); }
 };
 

@@ -29,6 +29,13 @@ inline constexpr std::size_t kLongestValue = 127;
 namespace sections {
 inline constexpr std::string_view kGeneral = "General";
 inline constexpr std::string_view kMain = "General\\Main";
+inline constexpr std::string_view kLevelsPlace = "General\\Levels";
+inline constexpr std::string_view kIfsPlace = "General\\IFS";
+inline constexpr std::string_view kAtomicsPlace = "General\\Atomics";
+inline constexpr std::string_view kAdvancedPlace = "General\\Advanced";
+inline constexpr std::string_view kTemplatePlace = "General\\Template";
+inline constexpr std::string_view kSystemDiagPlace = "General\\SystemDiag";
+inline constexpr std::string_view kTemplate = "Template";
 inline constexpr std::string_view kAdvanced = "Advanced";
 inline constexpr std::string_view kUniverse = "Universe";
 }  // namespace sections

@@ -79,12 +79,13 @@ int main(int argc, char** argv) {
   MemoryFiles disk;
   MemoryDesktop desktop;
   ScriptedMessageBoxes boxes;
+  MemoryHelp help;
   CountedPump events;
   static Saver process;  // large
   process.Tree = &tree;
   process.Events = &events;
   process.Desktop = &desktop;
-  FrmProps dialog({process, boxes, disk, "/", "/", [] { return 1U; }});
+  FrmProps dialog({process, boxes, disk, help, "/", "/", [] { return 1U; }});
   dialog.Open();
   dialog.resize(1280, 700);
   QDir().mkpath(argv[1]);

@@ -62,7 +62,7 @@ class FrmPropsTest : public testing::Test {
 
   FrmProps& Open() {
     Dialog = std::make_unique<FrmProps>(
-        PropsSurroundings{*Process, Boxes, Disk, "/prog", "/home/u", [] { return 1U; }});
+        PropsSurroundings{*Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
@@ -98,6 +98,7 @@ class FrmPropsTest : public testing::Test {
   MemoryFiles Disk;
   MemoryDesktop Desktop;
   ScriptedMessageBoxes Boxes;
+  MemoryHelp HelpBook;
   DialogPump Events;
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   std::unique_ptr<FrmProps> Dialog;

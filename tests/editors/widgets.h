@@ -99,7 +99,8 @@ class EditorTest : public testing::Test {
 
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   ScriptedMessageBoxes Boxes;
-  PropsModel Model{*Process, Boxes};
+  MemoryHelp HelpBook;
+  PropsModel Model{*Process, Boxes, HelpBook};
 };
 
 }  // namespace starfolds

@@ -22,7 +22,8 @@ namespace {
 class FrmAppExeTest : public HostTest {
  protected:
   int Run() {
-    Form.emplace(*State, NextSeed, [this] {
+    Form.emplace(*State, NextSeed, [this](QWindow& owner) {
+      EXPECT_EQ(&owner, &Window());
       ++Dialogs;
       if (InDialog) InDialog();
     });

@@ -1,0 +1,49 @@
+#include "hosting/placed_dialog.h"
+
+#include <QShortcut>
+#include <QWindow>
+
+#include "hosting/placed_qt_window.h"
+
+namespace starfolds {
+
+PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
+    : QDialog(parent), place_(place) {
+  setWindowModality(Qt::WindowModal);
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          &PlacedDialog::ShowHelp);
+}
+
+void PlacedDialog::Open() {
+  adjustSize();
+  winId();  // a window that can be placed before it is shown
+  PlacedQtWindow placed(*windowHandle());
+  RestoreWindowPlacement(placed, place_.Tree, place_.Section);
+  if (placed.State() == WindowState::Maximised) {
+    showMaximized();
+  } else {
+    show();
+  }
+}
+
+bool PlacedDialog::RunModal() {
+  Open();
+  return exec() == Accepted;
+}
+
+void PlacedDialog::done(int result) {
+  if (windowHandle()) {
+    SaveWindowPlacement(PlacedQtWindow(*windowHandle()), place_.Tree, place_.Section);
+  }
+  QDialog::done(result);
+}
+
+QPushButton* PlacedDialog::MakeHelpButton() {
+  auto* button = new QPushButton(tr("&Help"));
+  button->setObjectName("cmdHelp");
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, &PlacedDialog::ShowHelp);
+  return button;
+}
+
+}  // namespace starfolds
