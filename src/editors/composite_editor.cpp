@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "editors/picture_box.h"
 #include "editors/property_tables.h"
+#include "hosting/picture_box.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 

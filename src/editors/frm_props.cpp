@@ -38,35 +38,6 @@ QPushButton* MakeButton(const QString& text, const char* name) {
 
 }  // namespace
 
-/// The process's pump. A preview runs inside a click, so it is here that the end of the process is
-/// noticed meanwhile.
-class FrmProps::WatchfulPump : public Pump {
- public:
-  WatchfulPump(Saver& process, Saver& preview) : process_(process), preview_(preview) {}
-
-  Long TickCount() override { return process_.Events->TickCount(); }
-  void PumpEvents() override {
-    process_.Events->PumpEvents();
-    Watch();
-  }
-  void WaitForEvents(Long milliseconds) override {
-    process_.Events->WaitForEvents(milliseconds);
-    Watch();
-  }
-  void WaitForRefresh() override {
-    process_.Events->WaitForRefresh();
-    Watch();
-  }
-
- private:
-  void Watch() {
-    if (process_.QuitApp) preview_.StopRun = true;
-  }
-
-  Saver& process_;
-  Saver& preview_;
-};
-
 FrmProps::FrmProps(const PropsSurroundings& surroundings)
     : around_(surroundings),
       editing_(std::make_unique<Saver>()),

@@ -11,11 +11,12 @@
 #include <memory>
 #include <vector>
 
-#include "editors/picture_box.h"
 #include "editors/props_model.h"
 #include "editors/starfold_view.h"
 #include "editors/universe_view.h"
+#include "hosting/picture_box.h"
 #include "hosting/preview_runs.h"
+#include "hosting/watchful_pump.h"
 #include "platform/files.h"
 #include "settings/property_flows.h"
 
@@ -86,8 +87,6 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   void PreviewSelectedComposite();
   void ShowStill();
   void PreviewOne(QPushButton* button, int body, bool isComposite);
-
-  class WatchfulPump;
 
   PropsSurroundings around_;
   std::unique_ptr<Saver> editing_;  // what the dialog edits and previews

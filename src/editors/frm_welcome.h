@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "editors/picture_box.h"
+#include "hosting/picture_box.h"
 #include "settings/property_flows.h"
 
 class QPushButton;

@@ -12,7 +12,7 @@
 
 #include "bodies/radial.h"
 #include "colour/saver.h"
-#include "editors/picture_box.h"
+#include "hosting/picture_box.h"
 #include "numbers/conversions.h"
 #include "platform/desktop_services.h"
 #include "universe/host_surface.h"

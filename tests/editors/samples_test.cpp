@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
-#include "editors/picture_box.h"
 #include "editors/widgets.h"
+#include "hosting/picture_box.h"
 #include "settings/factory.h"
 
 namespace starfolds {

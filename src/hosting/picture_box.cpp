@@ -1,4 +1,4 @@
-#include "editors/picture_box.h"
+#include "hosting/picture_box.h"
 
 #include <QPaintEvent>
 #include <QPainter>
