@@ -12,6 +12,8 @@
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
+#include "info/frm_about.h"
+#include "info/frm_system_diag.h"
 #include "platform/console.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
@@ -59,9 +61,18 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   DiskFiles disk;
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
   MemoryHelp help;
+  const auto showDiagnostics = [&](QWidget& over) {
+    FrmSystemDiag(
+        {*saver_.Tree, *saver_.Desktop, boxes, help, {STARFOLDS_VERSION, OwnTreeFiles().User}},
+        &over)
+        .RunModal();
+  };
+  const auto showAbout = [&](QWidget& over) {
+    FrmAbout({saver_, help, STARFOLDS_VERSION, seed_}, &over).exec();
+  };
   FrmProps frmProps({saver_, boxes, disk, help,
-                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_,
-                     owner});
+                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
+                     showDiagnostics, showAbout});
   boxes.SetParent(&frmProps);
   frmProps.ShowModal();
 }

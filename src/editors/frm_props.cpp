@@ -180,10 +180,12 @@ void FrmProps::MakeMenus() {
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   AddComing(*help, tr("&Contents..."), "mnuContents")->setShortcut(QKeySequence::HelpContents);
   AddComing(*help, tr("&Search..."), "mnuSearch");
-  AddComing(*help, tr("&Diagnostics..."), "mnuDiagnostics");
+  help->addAction(tr("&Diagnostics..."), this, [this] { around_.ShowDiagnostics(*this); })
+      ->setObjectName("mnuDiagnostics");
   help->addSeparator();
   AddComing(*help, tr("Starfolds &Home Page"), "mnuHomePage");
-  AddComing(*help, tr("A&bout Starfolds..."), "mnuAbout");
+  help->addAction(tr("A&bout Starfolds..."), this, [this] { around_.ShowAbout(*this); })
+      ->setObjectName("mnuAbout");
 }
 
 /// An entry whose window is not part of this version.

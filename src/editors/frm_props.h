@@ -32,6 +32,9 @@ struct PropsSurroundings {
   std::string UserFolder;
   std::function<std::uint64_t()> Seed;  // of each preview
   QWindow* Owner = nullptr;             // waits behind the dialog
+  /// Windows of other floors, which open over the dialog and return when they are closed.
+  std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
+  std::function<void(QWidget& over)> ShowAbout = nullptr;
 };
 
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree

@@ -19,11 +19,11 @@ void PlacedDialog::Open() {
   winId();  // a window that can be placed before it is shown
   PlacedQtWindow placed(*windowHandle());
   RestoreWindowPlacement(placed, place_.Tree, place_.Section);
-  if (placed.State() == WindowState::Maximised) {
-    showMaximized();
-  } else {
-    show();
-  }
+  if (placed.State() == WindowState::Maximised) return showMaximized();
+  // A dialog that does not know of its place takes one of its own when it is shown.
+  move(windowHandle()->framePosition());
+  resize(windowHandle()->size());
+  show();
 }
 
 bool PlacedDialog::RunModal() {

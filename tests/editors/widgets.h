@@ -1,80 +1,13 @@
-// To be included by tests of widgets: makes the application object before the first test of the
-// program and takes it down after the last, and does what a user's hands do.
+// What the tests of editors share.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QFocusEvent>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QTimer>
-#include <QWidget>
-#include <functional>
 #include <memory>
+#include <string>
 
 #include "editors/props_model.h"
+#include "toolkit.h"
 
 namespace starfolds {
-
-class WidgetsEnvironment : public testing::Environment {
- public:
-  void SetUp() override {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QApplication>(count_, arguments_);
-  }
-  void TearDown() override { application_.reset(); }
-
- private:
-  int count_ = 1;
-  char name_[6] = "tests";
-  char* arguments_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
-};
-
-inline testing::Environment* const kWidgets =
-    testing::AddGlobalTestEnvironment(new WidgetsEnvironment);
-
-inline void Press(QWidget& widget, int key, const QString& text = {},
-                  Qt::KeyboardModifiers with = Qt::NoModifier) {
-  QKeyEvent press(QEvent::KeyPress, key, with, text);
-  QApplication::sendEvent(&widget, &press);
-}
-
-inline void Type(QWidget& widget, const QString& text) {
-  for (const QChar c : text) Press(widget, c.toUpper().unicode(), c);
-}
-
-inline void Leave(QWidget& widget) {
-  QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
-  QApplication::sendEvent(&widget, &out);
-}
-
-/// Brings a window to the front, so that its widgets can have the focus.
-inline void Activate(QWidget& window) {
-  window.show();
-  window.activateWindow();
-  QApplication::processEvents();
-}
-
-/// Does something with the modal dialog that the next call shows.
-template <class Dialog>
-void WhenShown(const std::function<void(Dialog&)>& act) {
-  QTimer::singleShot(0, qApp, [act] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    act(*dialog);
-  });
-}
-
-/// The part of a dialog that has this name. It is a fault if there is none.
-template <class Widget>
-Widget& Part(QWidget& dialog, const char* name) {
-  auto* part = dialog.findChild<Widget*>(name);
-  EXPECT_NE(part, nullptr) << name;
-  if (!part) std::abort();
-  return *part;
-}
 
 /// The records of a dialog, with boxes that answer by themselves.
 class EditorTest : public testing::Test {

@@ -1,0 +1,170 @@
+#include "info/frm_about.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "info/frm_credits.h"
+#include "settings/factory.h"
+#include "settings/product.h"
+#include "universe/host_surface.h"
+#include "universe/single_body_run.h"
+
+namespace starfolds {
+namespace {
+
+constexpr QSize kPicture{460, 300};
+constexpr double kNameSize = 1.9;  // of the ordinary letters
+
+// Of each body that is shown.
+constexpr Single kZoom = 1.3F;
+constexpr Integer kFrames = 400;
+constexpr Long kStars = 4000;
+constexpr Single kScale = 0.8F;
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QPushButton* MakeButton(const QString& text, const char* name) {
+  auto* button = new QPushButton(text);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+QString Licence() {
+  QFile file(":/info/LICENSE");
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QWidget* MakeLicencePage() {
+  auto* text = new QPlainTextEdit(Licence());
+  text->setObjectName("txtLicence");
+  text->setReadOnly(true);
+  text->setFrameShape(QFrame::NoFrame);
+  text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+  return text;
+}
+
+}  // namespace
+
+FrmAbout::FrmAbout(const AboutSurroundings& surroundings, QWidget* parent)
+    : QDialog(parent),
+      around_(surroundings),
+      running_(std::make_unique<Saver>()),
+      events_(surroundings.Process, *running_),
+      run_(*running_) {
+  running_->Tree = &noTree_;
+  running_->Events = &events_;
+  running_->Desktop = surroundings.Process.Desktop;
+  running_->Mode = RunMode::ScreenSaver;
+  setObjectName("frmAbout");
+  setWindowTitle(tr("About Starfolds"));
+  setWindowModality(Qt::WindowModal);
+  auto* rows = new QVBoxLayout(this);
+  rows->setSizeConstraint(QLayout::SetFixedSize);
+  auto* pages = new QTabWidget;
+  pages->setObjectName("tabAbout");
+  pages->addTab(MakeAboutPage(), tr("&About"));
+  pages->addTab(MakeLicencePage(), tr("&Licence"));
+  rows->addWidget(pages);
+  rows->addLayout(MakeButtons());
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { around_.HelpBook.ShowTopic(help::kAbout); });
+}
+
+FrmAbout::~FrmAbout() = default;
+
+QWidget* FrmAbout::MakeAboutPage() {
+  auto* page = new QWidget;
+  auto* rows = new QVBoxLayout(page);
+  picAbout_ = new PictureBox;
+  picAbout_->setObjectName("picAbout");
+  picAbout_->setAccessibleName(tr("A body of stars"));
+  picAbout_->setFixedSize(kPicture);
+  rows->addWidget(picAbout_);
+  lblBody_ = new QLabel;
+  lblBody_->setObjectName("lblBody");
+  lblBody_->setForegroundRole(QPalette::PlaceholderText);
+  lblBody_->setAlignment(Qt::AlignRight);
+  lblBody_->setTextFormat(Qt::PlainText);
+  rows->addWidget(lblBody_);
+  auto* name = new QLabel(Text(kProductName) + " " + Text(kProductVersion));
+  QFont large = name->font();
+  large.setPointSizeF(large.pointSizeF() * kNameSize);
+  name->setFont(large);
+  rows->addWidget(name);
+  rows->addWidget(new QLabel(tr("A universe on your screen, each star a single pixel.")));
+  auto* small = new QLabel(tr("Build %1, with Qt %2.\n%3.\nFree software under the MIT licence.")
+                               .arg(Text(around_.Version), qVersion(), Text(kCopyright)));
+  small->setObjectName("lblVersion");
+  small->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  rows->addWidget(small);
+  return page;
+}
+
+QLayout* FrmAbout::MakeButtons() {
+  auto* line = new QHBoxLayout;
+  QPushButton* cmdCredits = MakeButton(tr("&Credits..."), "cmdCredits");
+  QPushButton* cmdDismiss = MakeButton(tr("OK"), "cmdDismiss");
+  cmdDismiss->setDefault(true);
+  cmdDismiss->setFocus();
+  connect(cmdCredits, &QPushButton::clicked, this, &FrmAbout::ShowCredits);
+  connect(cmdDismiss, &QPushButton::clicked, this, &FrmAbout::accept);
+  line->addWidget(cmdCredits);
+  line->addStretch();
+  line->addWidget(cmdDismiss);
+  return line;
+}
+
+/// The run needs the box's event loop around it, so that closing the box returns from `exec`.
+void FrmAbout::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!run_.IsOn()) QTimer::singleShot(0, this, &FrmAbout::Run);
+}
+
+/// A click shows the next body.
+void FrmAbout::mousePressEvent(QMouseEvent* event) {
+  const QPoint place = picAbout_->mapFrom(this, event->pos());
+  if (picAbout_->isVisible() && picAbout_->rect().contains(place)) running_->NewRun = true;
+}
+
+void FrmAbout::done(int result) {
+  if (run_.DelaysClose()) {
+    setResult(result);
+    return;
+  }
+  QDialog::done(result);
+}
+
+void FrmAbout::Run() {
+  const auto factory = std::make_unique<SettingsRecords>();
+  LoadFactorySet(*factory, FactorySet::Starfolds4x);
+  Integer body = 0;
+  const PreviewEnd end = run_.Start([&] {
+    while (!running_->StopRun) {
+      TakeUniverseSettings(*running_, *factory, false);
+      Surface& surface = picAbout_->BeginRun();
+      SetupPreviewSurface(*running_, surface, true, kZoom, around_.Seed());
+      lblBody_->setText(Text(running_->Composites[body].CompFoldName));
+      SingleBodyRun(*running_, body, true, kFrames, kStars, 1, true, kScale);
+      body = static_cast<Integer>((body + 1) % kCompositeCount);
+    }
+    running_->Screen.hDCDraw = nullptr;
+  });
+  if (end == PreviewEnd::Close) QDialog::done(result());
+}
+
+/// The body stands still meanwhile: there is one run at a time to look at.
+void FrmAbout::ShowCredits() { FrmCredits(around_.Seed(), this).exec(); }
+
+}  // namespace starfolds

@@ -1,0 +1,117 @@
+#include "info/frm_about.h"
+
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "info/frm_credits.h"
+#include "toolkit.h"
+
+namespace starfolds {
+namespace {
+
+/// Runs the toolkit's events in each pump, and notes what the box shows.
+class AboutPump : public CountedPump {
+ public:
+  std::function<void(int pump)> OnEach;
+  int Pumps = 0;
+
+  void PumpEvents() override {
+    QApplication::processEvents();
+    if (OnEach) OnEach(++Pumps);
+  }
+};
+
+class FrmAboutTest : public testing::Test {
+ protected:
+  FrmAboutTest() {
+    Process->Events = &Events;
+    Process->Desktop = &Desktop;
+  }
+
+  /// Shows the box until `OnEach` closes it.
+  void Run(const std::function<void(FrmAbout&, int pump)>& onEach) {
+    FrmAbout about({*Process, HelpBook, "1.2.3", [] { return 1U; }});
+    Events.OnEach = [&](int pump) {
+      onEach(about, pump);
+      if (pump > kTooLong) {
+        ADD_FAILURE() << "the box does not close";
+        Process->QuitApp = true;
+        about.close();
+      }
+    };
+    about.exec();
+    EXPECT_FALSE(about.isVisible());
+  }
+
+  static constexpr int kTooLong = 5000;
+  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  AboutPump Events;
+  MemoryDesktop Desktop;
+  MemoryHelp HelpBook;
+};
+
+TEST_F(FrmAboutTest, ShowsOneBodyAfterTheOther) {
+  QStringList shown;
+  Run([&](FrmAbout& about, int pump) {
+    const QString body = Part<QLabel>(about, "lblBody").text();
+    if (shown.isEmpty() || shown.back() != body) shown += body;
+    if (pump == 1000) about.close();
+  });
+  EXPECT_EQ(shown.size(), 3) << shown.join(", ").toStdString();
+  EXPECT_FALSE(shown.contains(""));
+}
+
+TEST_F(FrmAboutTest, AClickOnThePictureShowsTheNextBody) {
+  QString first, second;
+  Run([&](FrmAbout& about, int pump) {
+    auto& picture = Part<PictureBox>(about, "picAbout");
+    const QString body = Part<QLabel>(about, "lblBody").text();
+    if (pump == 10) {
+      first = body;
+      const QPoint place = picture.mapTo(&about, QPoint(5, 5));
+      QMouseEvent click(QEvent::MouseButtonPress, place, about.mapToGlobal(place), Qt::LeftButton,
+                        Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(&about, &click);
+    }
+    if (pump == 20) {
+      second = body;
+      about.close();
+    }
+  });
+  EXPECT_NE(first, second);
+}
+
+TEST_F(FrmAboutTest, EndsWithTheProcess) {
+  int last = 0;
+  Run([&](FrmAbout& about, int pump) {
+    if (pump == 50) Process->QuitApp = true;
+    if (pump == 50) about.close();
+    last = pump;
+  });
+  EXPECT_LE(last, 52);
+}
+
+TEST_F(FrmAboutTest, TheCreditsCloseWithTheProcessToo) {
+  Run([&](FrmAbout& about, int pump) {
+    if (pump != 10) return;
+    WhenShown<FrmCredits>([&](FrmCredits& credits) {
+      Process->QuitApp = true;
+      about.close();
+      credits.close();
+    });
+    Part<QPushButton>(about, "cmdCredits").click();
+  });
+}
+
+TEST_F(FrmAboutTest, SaysWhatItIs) {
+  Run([&](FrmAbout& about, int pump) {
+    if (pump > 1) return;
+    EXPECT_TRUE(Part<QLabel>(about, "lblVersion").text().contains("1.2.3"));
+    EXPECT_TRUE(Part<QPlainTextEdit>(about, "txtLicence").toPlainText().contains("MIT License"));
+    about.close();
+  });
+}
+
+}  // namespace
+}  // namespace starfolds

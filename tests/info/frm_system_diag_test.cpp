@@ -1,0 +1,95 @@
+#include "info/frm_system_diag.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QScreen>
+
+#include "info/diagnostics.h"
+#include "settings/registry.h"
+#include "toolkit.h"
+
+namespace starfolds {
+namespace {
+
+class FrmSystemDiagTest : public testing::Test {
+ protected:
+  FrmSystemDiag& Open() {
+    const ProgramFacts facts{"1.2.3", QDir::homePath().toStdString() + "/.config/settings.db"};
+    Dialog =
+        std::make_unique<FrmSystemDiag>(DiagSurroundings{Tree, Desktop, Boxes, HelpBook, facts});
+    Dialog->Open();
+    return *Dialog;
+  }
+
+  QLineEdit& Field(int index) {
+    return Part<QLineEdit>(*Dialog, ("txtDiagnostics_" + std::to_string(index)).c_str());
+  }
+  bool IsRed(const QLineEdit& field) {
+    const QColor colour = field.palette().color(QPalette::Text);
+    return colour.red() > 200 && colour.green() < 150;
+  }
+
+  MemoryTree Tree;
+  MemoryDesktop Desktop;
+  ScriptedMessageBoxes Boxes;
+  MemoryHelp HelpBook;
+  std::unique_ptr<FrmSystemDiag> Dialog;
+};
+
+TEST_F(FrmSystemDiagTest, ShowsWhatIsSo) {
+  Open();
+  EXPECT_EQ(Field(0).text(), "OK");
+  EXPECT_FALSE(IsRed(Field(0)));
+  EXPECT_EQ(Field(1).text().toStdString(), SystemVersion());
+  const QSize twips = Dialog->screen()->size() * 15;
+  EXPECT_EQ(Field(2).text().remove(',').split(' ', Qt::SkipEmptyParts),
+            QStringList({QString::number(twips.width()), QString::number(twips.height())}));
+  EXPECT_EQ(Field(3).text(), "15");
+  EXPECT_EQ(Field(4).text().toStdString(), Grouped(ColoursOf(Dialog->screen()->depth())));
+}
+
+TEST_F(FrmSystemDiagTest, ATreeThatCannotBeWrittenIsToldInRed) {
+  Tree.Writable = false;
+  Open();
+  EXPECT_EQ(Field(0).text(), "No Access");
+  EXPECT_TRUE(IsRed(Field(0)));
+}
+
+TEST_F(FrmSystemDiagTest, TellsWhereThereIsNoSystemInformation) {
+  Open();
+  Part<QPushButton>(*Dialog, "cmdSysInfo").click();
+  EXPECT_EQ(Desktop.SystemInfos, 1);
+  EXPECT_TRUE(Boxes.Log.empty());
+  Desktop.HasSystemInfo = false;
+  Part<QPushButton>(*Dialog, "cmdSysInfo").click();
+  ASSERT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_EQ(Boxes.Log[0].Text, "System Information Is Unavailable.");
+}
+
+TEST_F(FrmSystemDiagTest, TheReportNamesEverythingButTheUser) {
+  Open();
+  Part<QPushButton>(*Dialog, "cmdCopyReport").click();
+  const QString report = QApplication::clipboard()->text();
+  for (const QString& part :
+       {QString("build 1.2.3"), QString("Qt ") + qVersion(),
+        QString("Platform plug-in: ") + QApplication::platformName(), QString("Screen 1: "),
+        QString("~/.config/settings.db, write test OK"), QString(" frames in 1.")}) {
+    EXPECT_TRUE(report.contains(part)) << part.toStdString() << "\n" << report.toStdString();
+  }
+  EXPECT_FALSE(report.contains(QDir::homePath() + "/"));
+  EXPECT_FALSE(Part<QLabel>(*Dialog, "lblCopied").text().isEmpty());
+}
+
+TEST_F(FrmSystemDiagTest, KeepsItsPlaceAndHasItsTopic) {
+  Open();
+  Part<QPushButton>(*Dialog, "cmdHelp").click();
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kSystemDiag});
+  Dialog->resize(Dialog->size() + QSize(40, 30));
+  const QSize size = Dialog->size();
+  Press(*Dialog, Qt::Key_Escape);
+  EXPECT_FALSE(Dialog->isVisible());
+  EXPECT_EQ(Open().size(), size);
+}
+
+}  // namespace
+}  // namespace starfolds

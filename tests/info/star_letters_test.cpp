@@ -1,0 +1,83 @@
+#include "info/star_letters.h"
+
+#include <algorithm>
+
+#include "info/frm_credits.h"
+#include "toolkit.h"
+
+namespace starfolds {
+namespace {
+
+constexpr int kStars = 480;
+constexpr int kLongEnough = 300;  // frames, for all stars to find their places
+
+std::vector<LetterPoint> Block(Long left, Long top, Long side) {
+  std::vector<LetterPoint> points;
+  for (Long i = 0; i < side * side; ++i) points.push_back({left + i % side, top + i / side});
+  return points;
+}
+
+int LitWithin(const Surface& surface, Long left, Long top, Long side) {
+  const auto points = Block(left, top, side);
+  return static_cast<int>(std::count_if(points.begin(), points.end(), [&](const LetterPoint& p) {
+    return surface.Pixel(p.X, p.Y) != 0;
+  }));
+}
+
+TEST(StarLetters, StarsSettleWhereTheyAreToldAndLeaveNothingBehind) {
+  MemorySurface surface(320, 200);
+  StarLetters letters(surface, kStars, 1);
+  letters.Form(Block(20, 20, 20));
+  for (int i = 0; i < kLongEnough; ++i) letters.Step();
+  EXPECT_EQ(letters.Settled(), 400);
+  EXPECT_EQ(LitWithin(surface, 20, 20, 20), 400);
+
+  letters.Form(Block(250, 150, 20));
+  for (int i = 0; i < kLongEnough; ++i) letters.Step();
+  EXPECT_EQ(LitWithin(surface, 250, 150, 20), 400);
+  EXPECT_LT(LitWithin(surface, 20, 20, 20), 20);  // of those that drift or found no place
+}
+
+TEST(StarLetters, NoSkyAndNoPlacesAreNoFault) {
+  for (const Integer side : {Integer{0}, Integer{1}, Integer{100}}) {
+    MemorySurface surface(side, side);
+    for (const int stars : {0, 1, 100}) {
+      StarLetters letters(surface, stars, 1);
+      letters.Form({});
+      for (int i = 0; i < kLongEnough; ++i) letters.Step();
+      EXPECT_EQ(letters.Settled(), 0);
+    }
+  }
+}
+
+TEST(PointsOfText, EveryPageFitsIntoTheSky) {
+  for (const QSize size : {QSize(760, 430), QSize(320, 200), QSize(1900, 400)}) {
+    for (const QStringList& page : CreditPages()) {
+      const auto points = PointsOfText(page, size, QApplication::font());
+      ASSERT_FALSE(points.empty());
+      const auto [left, right] = std::minmax_element(points.begin(), points.end(),
+                                                     [](auto& a, auto& b) { return a.X < b.X; });
+      EXPECT_GT(left->X, 0) << page.join(' ').toStdString();
+      EXPECT_LT(right->X, size.width() - 1) << page.join(' ').toStdString();
+      EXPECT_GT(points.front().Y, 0);
+      EXPECT_LT(points.back().Y, size.height() - 1);
+    }
+  }
+}
+
+TEST(FrmCredits, AKeyTurnsThePagesAndEscapeCloses) {
+  FrmCredits credits(1);
+  Activate(credits);
+  const int pages = static_cast<int>(CreditPages().size());
+  for (int i = 1; i <= pages; ++i) {
+    Press(credits, Qt::Key_Space, " ");
+    EXPECT_EQ(credits.Page(), i % pages);
+  }
+  credits.resize(200, 100);
+  QApplication::processEvents();
+  Press(credits, Qt::Key_Escape);
+  EXPECT_FALSE(credits.isVisible());
+}
+
+}  // namespace
+}  // namespace starfolds
