@@ -73,7 +73,6 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   FrmProps frmProps({saver_, boxes, disk, help,
                      QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
                      showDiagnostics, showAbout});
-  boxes.SetParent(&frmProps);
   frmProps.ShowModal();
 }
 

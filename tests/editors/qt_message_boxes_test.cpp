@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 
@@ -53,30 +54,23 @@ TEST(QtMessageBoxes, AnswerByTheirButtonsKeysAndClosing) {
   }
 }
 
-TEST(QtMessageBoxes, ShowTheTextAsItIsOverTheirParent) {
-  QWidget parent;
+TEST(QtMessageBoxes, ShowTheTextAsItIsOverTheDialogThatIsOpen) {
+  QDialog first, last(&first);
+  for (QDialog* dialog : {&first, &last}) {
+    dialog->setWindowModality(Qt::WindowModal);
+    Activate(*dialog);
+  }
   QtMessageBoxes boxes;
-  boxes.SetParent(&parent);
   WhenShown<QMessageBox>([&](QMessageBox& box) {
     EXPECT_EQ(box.text(), "A <b>name</b>\n\xC3\xA4");
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
     EXPECT_EQ(box.windowTitle(), "Starfolds");
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
-    EXPECT_EQ(box.parentWidget(), &parent);
+    EXPECT_EQ(box.parentWidget(), &last);
     EXPECT_TRUE(box.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
     box.close();
   });
   boxes.Show("A <b>name</b>\n\xC3\xA4", BoxStyle::Exclamation, "Starfolds");
-}
-
-TEST(QtMessageBoxes, OutliveTheirParent) {
-  QtMessageBoxes boxes;
-  {
-    QWidget parent;
-    boxes.SetParent(&parent);
-  }
-  WhenShown<QMessageBox>(kClose);
-  EXPECT_EQ(boxes.Show("text", BoxStyle::Information, "caption"), BoxAnswer::Ok);
 }
 
 }  // namespace
