@@ -189,7 +189,7 @@ strip style-standard 600 "$body" \
     RadiusExp=0.8 HeightExp=2 AngleTilt=140 HueStart=210 ColorMult=1500' \
   Globe 'Radius=300 Rotation=300 Distance=550 RadSegs=24 RadFill=0 GHW_Ratio=1 RadiusExp=0.4
     HeightExp=0 AngleTilt=155 HueStart=160 ColorMult=900 Profile=2' \
-  'Target' 'Radius=300 Rotation=400 Distance=450 RadBands=6 RadBFill=10 GHW_Ratio=0.02
+  Target 'Radius=300 Rotation=400 Distance=450 RadBands=6 RadBFill=10 GHW_Ratio=0.02
     RadiusExp=1 HeightExp=1 AngleTilt=130 HueStart=0 ColorMult=2400'
 strip standard-levels 200 "$quiet AngleTilt=135 Radius=150 Distance=900" '1 level' '' '2 levels' \
   StdLevels=2 '3 levels' StdLevels=3
@@ -228,9 +228,9 @@ strip style-ifs-point 400 "$body FoldStyle=1" \
 strip style-ifs-wireframe 400 "$body FoldStyle=2 AngleTilt=160" \
   Octahedron 'Radius=500 Rotation=600 Distance=800 RadSegs=6 RadFill=50 RadBands=1 GHW_Ratio=1
     HueStart=150 ColorMult=1500' \
-  'Cube of cubes' 'Radius=400 Rotation=600 Distance=1000 RadSegs=8 RadFill=35 RadBands=2
-    GHW_Ratio=1.6 HueStart=20 ColorMult=1500' \
-  'Thorns' 'Radius=500 Rotation=600 Distance=1400 RadSegs=6 RadFill=100 RadBands=1
+  'Cube of cubes' 'Radius=400 Rotation=600 Distance=1100 RadSegs=8 RadFill=35 RadBands=2
+    GHW_Ratio=2 HueStart=20 ColorMult=1500' \
+  Thorns 'Radius=500 Rotation=600 Distance=1400 RadSegs=6 RadFill=100 RadBands=1
     GHW_Ratio=1 HueStart=280 ColorMult=1500'
 strip style-ifs-fractal 400 "$body FoldStyle=3" \
   Pyramid 'Radius=500 Rotation=400 Distance=800 RadSegs=4 RadFill=50 GHW_Ratio=1 AngleTilt=165
@@ -254,23 +254,23 @@ strip style-quasar 500 "$body FoldStyle=5 NewFreq=6000 NewFrames=0" \
     GHW_Ratio=0.05 RadiusExp=0.1 HeightExp=1 AngleTilt=140 HueStart=200 ColorMult=600' \
   'Two jets' 'Radius=100 Rotation=500 Distance=500 RadSegs=1 RadFill=100 QG_Force=3 GHW_Ratio=1
     RadiusExp=4 HeightExp=0.5 AngleTilt=165 HueStart=240 ColorMult=1200 Profile=4' \
-  'Opening fan' 'Radius=100 Rotation=0 Distance=600 RadSegs=9 RadFill=4 QG_Force=3 GHW_Ratio=1
-    RadiusExp=0.3 HeightExp=0 AngleTilt=150 HueStart=20 ColorMult=600 Profile=2'
+  Swirl 'Radius=100 Rotation=4000 Distance=500 RadSegs=2 RadFill=15 QG_Force=2 GHW_Ratio=1
+    RadiusExp=0.3 HeightExp=0 AngleTilt=160 HueStart=20 ColorMult=600 Profile=2'
 strip style-graviton 500 "$body FoldStyle=6 NewFrames=0" \
   'Six beams' 'Radius=300 Rotation=0 Distance=700 RadSegs=6 RadFill=5 QG_Force=5 GHW_Ratio=0.05
     RadiusExp=0.1 HeightExp=1 AngleTilt=140 HueStart=200 ColorMult=900 NewFreq=2500' \
-  'Breathing globe' 'Radius=400 Rotation=0 Distance=900 RadSegs=1 RadFill=100 QG_Force=1
+  'Falling globe' 'Radius=400 Rotation=0 Distance=900 RadSegs=1 RadFill=100 QG_Force=1
     GHW_Ratio=1 RadiusExp=0.2 HeightExp=0.1 AngleTilt=160 HueStart=100 ColorMult=600 Profile=2
     NewFreq=3000' \
   'Flower wheel' 'Radius=300 Rotation=2500 Distance=450 RadSegs=8 RadFill=5 QG_Force=4 GHW_Ratio=0.1
     RadiusExp=0 HeightExp=1 AngleTilt=140 HueStart=320 ColorMult=600 NewFreq=5000'
 strip style-starwave 400 "$body FoldStyle=7 NewFrames=0 AngleTilt=155" \
   Ripples 'Radius=60 Rotation=0 Distance=250 RadSegs=1 RadFill=100 RadBands=1 RadBFill=150
-    GHW_Ratio=0.5 RadiusExp=5 ColorMult=0 NewFreq=4000 HueStart=200' \
+    GHW_Ratio=0.5 RadiusExp=5 ColorMult=3200 NewFreq=4000' \
   'Twelve fountains' 'Radius=60 Rotation=0 Distance=250 RadSegs=12 RadFill=15 RadBands=1
-    RadBFill=200 GHW_Ratio=0.8 RadiusExp=8 ColorMult=0 NewFreq=4000 HueStart=140' \
+    RadBFill=200 GHW_Ratio=0.8 RadiusExp=8 ColorMult=2600 NewFreq=4000' \
   'Spiral tide' 'Radius=60 Rotation=2500 Distance=250 RadSegs=3 RadFill=30 RadBands=2 RadBFill=150
-    GHW_Ratio=0.4 RadiusExp=5 ColorMult=0 NewFreq=4000 HueStart=30'
+    GHW_Ratio=0.4 RadiusExp=5 ColorMult=1500 NewFreq=4000'
 
 still='Universe_Stars=6000 NovaFreq=0 PulsarFreq=0 CometFreq=0 NewFrames=0 HWheelInc=0'
 points lace IFS '1000 1000 1000 67 0 0 1' '400 400 1000 67 0 0 1' '1600 400 1000 67 0 0 1' \
