@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 
@@ -67,6 +68,20 @@ TEST(QtMessageBoxes, ShowTheTextAsItIsOverTheirParent) {
     box.close();
   });
   boxes.Show("A <b>name</b>\n\xC3\xA4", BoxStyle::Exclamation, "Starfolds");
+}
+
+/// A box behind the dialog that it speaks of could not be answered.
+TEST(QtMessageBoxes, StandOverTheDialogOnTop) {
+  QWidget parent;
+  QDialog dialog(&parent);
+  dialog.setWindowModality(Qt::WindowModal);
+  dialog.show();
+  QtMessageBoxes boxes(&parent);
+  WhenShown<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.parentWidget(), &dialog);
+    box.close();
+  });
+  boxes.Show("text", BoxStyle::Information, "caption");
 }
 
 TEST(QtMessageBoxes, OutliveTheirParent) {
