@@ -11,9 +11,11 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
 #include <memory>
 
 #include "editors/props_model.h"
+#include "platform/pump.h"
 
 namespace starfolds {
 
@@ -75,6 +77,23 @@ Widget& Part(QWidget& dialog, const char* name) {
   if (!part) std::abort();
   return *part;
 }
+
+/// Runs the toolkit's events in each pump of a run, and what is planned for it. A run that nobody
+/// ends is ended after a while, so that a fault fails instead of hanging.
+class DialogPump : public CountedPump {
+ public:
+  static constexpr int kLongestRun = 3000;
+  std::map<int, std::function<void()>> Plan;
+  int Pumps = 0;
+  std::function<void()> OnTooLong;
+
+  void PumpEvents() override {
+    QApplication::processEvents();
+    ++Pumps;
+    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
+    if (Pumps >= kLongestRun && OnTooLong) OnTooLong();
+  }
+};
 
 /// The records of a dialog, with boxes that answer by themselves.
 class EditorTest : public testing::Test {
