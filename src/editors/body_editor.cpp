@@ -136,9 +136,12 @@ void BodyEditor::keyPressEvent(QKeyEvent* event) {
 /// The picture follows the window: a run measures its surface once, so another one begins.
 bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::Resize) {
-    Touched();
     resized_ = true;
-    if (preview_.IsOn()) model_.Process.NewRun = true;
+    if (preview_.IsOn()) {
+      model_.Process.NewRun = true;
+    } else {
+      Touched();
+    }
   }
   return PlacedDialog::eventFilter(object, event);
 }

@@ -145,8 +145,8 @@ QWidget* FrmMolecule::MakeElement() {
   QGridLayout* page = MakePage(frame);
   AddElementLines(*page);
   AddProps(*page);
-  EndPage(*page);
   page->addLayout(MakeActions(), page->rowCount(), 0, 1, page->columnCount());
+  EndPage(*page);
   ShowElement(-1);
   return frame;
 }
@@ -193,6 +193,7 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     box->SetBlankAllowed();
     lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
+    lblProps_[index]->setMinimumWidth(lblProps_[index]->sizeHint().width());  // or boxes jump
     txtProps_.push_back({box, field});
   }
 }
