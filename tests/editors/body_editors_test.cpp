@@ -220,7 +220,10 @@ TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDroppedAndTheOthersCloseUp) {
   emit List("cboTheme").activated(5);  // once more
   EXPECT_EQ(Text("txtLocX_1"), "1000");
   Click("cmdClear");
-  EXPECT_EQ(Text("txtCenter_0") + Text("txtLocX_1") + Text("txtPercent_0"), "");
+  for (const char* box : {"txtCenter_0", "txtLocX_1", "txtPercent_0"}) {
+    Leave(*Edit(box).parentWidget());
+    EXPECT_EQ(Text(box), "") << box;
+  }
   EXPECT_EQ(Text("txtStarfold_0"), "300") << "the body's own numbers are not cleared";
 }
 
@@ -283,7 +286,10 @@ TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
   EXPECT_TRUE(Dialog->isVisible()) << "Escape ended the preview only";
 
   Events.Pumps = 0;
-  Events.Plan = {{4, [&] { Click("cmdOK"); }}};
+  Events.Plan = {{4, [&] {
+                    Click("cmdOK");
+                    EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
+                  }}};
   Click("cmdPreview");
   EXPECT_EQ(Events.Pumps, 4);
   EXPECT_EQ(Dialog->result(), QDialog::Accepted);
