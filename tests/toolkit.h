@@ -11,7 +11,10 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
 #include <memory>
+
+#include "platform/pump.h"
 
 namespace starfolds {
 
@@ -73,5 +76,22 @@ Widget& Part(QWidget& dialog, const char* name) {
   if (!part) std::abort();
   return *part;
 }
+
+/// Runs the toolkit's events in each pump of a run, and what is planned for it. A run that nobody
+/// ends is ended after a while, so that a fault fails instead of hanging.
+class DialogPump : public CountedPump {
+ public:
+  static constexpr int kLongestRun = 3000;
+  std::map<int, std::function<void()>> Plan;
+  int Pumps = 0;
+  std::function<void()> OnTooLong;
+
+  void PumpEvents() override {
+    QApplication::processEvents();
+    ++Pumps;
+    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
+    if (Pumps >= kLongestRun && OnTooLong) OnTooLong();
+  }
+};
 
 }  // namespace starfolds

@@ -6,6 +6,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "editors/frm_levels.h"
+#include "editors/frm_molecule.h"
+#include "editors/frm_user_def_ifs.h"
 #include "editors/frm_welcome.h"
 #include "editors/lines.h"
 #include "editors/samples.h"
@@ -235,12 +238,11 @@ void FrmProps::MakeCentre() {
   connect(&universe_->Bodies(), &QListWidget::itemSelectionChanged, this, &FrmProps::ShowStill);
   connect(universe_, &UniverseView::CompositePreviewAskedFor, this,
           &FrmProps::PreviewSelectedComposite);
-  const QString coming = tr("Not part of this version yet");
-  for (const char* name : {"cmdFoldLevels", "cmdIFS_Chem"}) {
-    auto* button = starfold_->findChild<QPushButton*>(name);
-    button->setEnabled(false);
-    button->setToolTip(coming);
-  }
+  connect(starfold_, &StarfoldView::LevelsAskedFor, this, [this] { RunEditor<FrmLevels>(); });
+  connect(starfold_, &StarfoldView::BodyEditorAskedFor, this, [this] {
+    const bool isIfs = starfold_->Page().Style() == FoldStyle::UserIfs;
+    isIfs ? RunEditor<FrmUserDefIfs>() : RunEditor<FrmMolecule>();
+  });
 }
 
 QWidget* FrmProps::MakePreviewPane() {
@@ -297,6 +299,14 @@ void FrmProps::ApplyTheme(int position) {
   universe_->ApplyThemeRowToPage(FactoryThemeRow(position, is20));
 }
 
+/// The editor works on the record, and what it leaves there comes back to the page.
+template <class Editor>
+void FrmProps::RunEditor() {
+  starfold_->StorePageToProfile(currentProfile_);
+  Editor({model_, *this, around_.Seed, currentProfile_}, this).RunModal();
+  starfold_->TakeProfile(currentProfile_);
+}
+
 /// The run lives inside the click that has started it; the click that stops it comes through the
 /// run's pump. Everything but the button is disabled meanwhile.
 void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
@@ -324,10 +334,8 @@ void FrmProps::ShowStill() {
   if (preview_.IsOn()) return;
   const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
   if (body < 0) return;
-  const auto profiles = std::make_unique<ProfileArray>(model_.Profiles());
-  if (inStarfoldView_) (*profiles)[body] = starfold_->Page();
-  picPreview_->ShowPicture(
-      ProfileSample(*profiles, body, {picPreview_->size(), devicePixelRatioF()}));
+  const StarfoldProfile shown = inStarfoldView_ ? starfold_->Page() : model_.Profiles()[body];
+  picPreview_->ShowPicture(BodySample(shown, {picPreview_->size(), devicePixelRatioF()}));
 }
 
 void FrmProps::PreviewUniverseOnDialog() {
@@ -356,10 +364,7 @@ void FrmProps::PreviewOne(QPushButton* button, int body, bool isComposite) {
   TogglePreview(button, [&](Surface& surface) {
     const UniverseSettings universe = universe_->Settings();
     editing_->Universe = universe;  // some of it counts for a single body, too
-    PreviewBody(*editing_, surface,
-                {static_cast<Integer>(body), isComposite, universe.Universe_Stars,
-                 universe.Universe_STrail, universe.Universe_HW_Start, universe.Universe_HW_End},
-                around_.Seed());
+    PreviewBody(*editing_, surface, PreviewIn(universe, body, isComposite), around_.Seed());
   });
 }
 

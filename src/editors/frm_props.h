@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "editors/body_editor.h"
 #include "editors/props_model.h"
 #include "editors/starfold_view.h"
 #include "editors/universe_view.h"
@@ -40,7 +41,7 @@ struct PropsSurroundings {
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree
 /// before "Accept Settings". It has a state of its own for the records and previews, so that a run
 /// beside it, which waits in its pump meanwhile, finds everything as it left it.
-class FrmProps : public QMainWindow, private PropertiesDialog {
+class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxes {
   Q_OBJECT
 
  public:
@@ -73,6 +74,12 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   ProgressPicture* Preview() override;
   bool ShowWelcomeDialog() override;
 
+  // What the editors of a body ask of it.
+  UniverseSettings UniverseOnDialog() const override { return universe_->Settings(); }
+  void SetStarfoldBox(int index, const std::string& text) override {
+    starfold_->SetBox(index, text);
+  }
+
   void MakeMenus();
   QAction* AddComing(QMenu& menu, const QString& text, const char* name);
   void MakeCentre();
@@ -82,6 +89,8 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   void Accept();
   void Exit();
   void ApplyTheme(int position);
+  template <class Editor>
+  void RunEditor();
 
   using PreviewRun = std::function<void(Surface& surface)>;
   void TogglePreview(QPushButton* button, const PreviewRun& run);

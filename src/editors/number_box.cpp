@@ -72,7 +72,9 @@ QSize NumberBox::sizeHint() const {
 std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }
 
 void NumberBox::SetText(const std::string& text) {
-  lineEdit()->setText(QString::fromStdString(text));
+  const QString shown = QString::fromStdString(text);
+  lineEdit()->setMaxLength(std::max(lineEdit()->maxLength(), static_cast<int>(shown.size())));
+  lineEdit()->setText(shown);
 }
 
 void NumberBox::ClampTextField() {

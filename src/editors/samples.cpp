@@ -323,6 +323,10 @@ QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size
   return Collage(studio, profiles, position == kCycleRandomly, size);
 }
 
+QImage BodySample(const StarfoldProfile& body, SampleSize size) {
+  return BodyStudio().Picture(body, size);
+}
+
 QImage ShapeSample(const ShapeSetting& setting, SampleSize size, const QPalette& palette) {
   QImage picture = EmptyPicture(size);
   picture.fill(palette.color(QPalette::Base));

@@ -20,6 +20,9 @@ struct SampleSize {
 /// a collage of some.
 QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size);
 
+/// The same of one body.
+QImage BodySample(const StarfoldProfile& body, SampleSize size);
+
 /// What decides about the section of a body.
 struct ShapeSetting {
   int Shape = 0;         // `Starfold_Profile`

@@ -81,6 +81,17 @@ void StarfoldView::StorePageToProfile(int index) {
   profile = page_;
 }
 
+void StarfoldView::TakeProfile(int index) {
+  page_ = model_.Profiles()[index];
+  emit Changed();
+}
+
+void StarfoldView::SetBox(int index, const std::string& text) {
+  for (const StarfoldRow& row : StarfoldRows()) {
+    if (row.Index == index) boxes_[&row]->SetText(text);
+  }
+}
+
 StarfoldProfile StarfoldView::Page() const {
   StarfoldProfile shown = page_;
   StoreBoxes(shown, Numbers::Held);

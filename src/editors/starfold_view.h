@@ -30,6 +30,12 @@ class StarfoldView : public QWidget {
   /// Puts what the page shows into profile `index`, every number held to its range.
   void StorePageToProfile(int index);
 
+  /// Takes what profile `index` has by now where the page has no box for it. The boxes keep what
+  /// they show: it is stored with the page.
+  void TakeProfile(int index);
+  /// Shows a number in `txtStarfold(index)`.
+  void SetBox(int index, const std::string& text);
+
   /// What would be stored.
   StarfoldProfile Page() const;
 

@@ -63,6 +63,12 @@ void PreviewUniverse(Saver& saver, Surface& surface, const UniverseSettings& uni
   saver.Screen.hDCDraw = nullptr;
 }
 
+BodyPreview PreviewIn(const UniverseSettings& universe, int body, bool isComposite) {
+  return {RoundedToLimits<Integer>(body), isComposite,
+          universe.Universe_Stars,        universe.Universe_STrail,
+          universe.Universe_HW_Start,     universe.Universe_HW_End};
+}
+
 void PreviewBody(Saver& saver, Surface& surface, const BodyPreview& preview, std::uint64_t seed) {
   RunOneBody(saver, surface, false, preview, seed);
 }

@@ -41,6 +41,9 @@ struct BodyPreview {
   Integer HueEnd = 210;
 };
 
+/// The same for a body in a universe of these settings.
+BodyPreview PreviewIn(const UniverseSettings& universe, int body, bool isComposite);
+
 /// Runs one body on `surface` until a flag says stop, at the pace of the screen whatever the
 /// frame's delay. A body that does not exist shows nothing.
 void PreviewBody(Saver& saver, Surface& surface, const BodyPreview& preview, std::uint64_t seed);

@@ -259,8 +259,6 @@ void ClampFields(Record& record, std::span<const Field<Record>> fields) {
   }
 }
 
-bool IsLattice(Integer structure) { return structure >= 6 && structure < 12; }
-
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 template <class Record>
@@ -322,6 +320,8 @@ Integer AtomPoints(Integer structure) {
   constexpr Integer points[] = {1, 6, 8, 18, 26, 38};
   return structure >= 0 && structure < 6 ? points[structure] : Integer{1};
 }
+
+bool IsLattice(Integer structure) { return structure >= 6 && structure < 12; }
 
 void ClampUniverse(UniverseSettings& universe) { ClampFields(universe, UniverseFields()); }
 

@@ -81,6 +81,9 @@ Limits StyleLimits(RangeRule rule, Integer style);
 /// Points of an atom's structure, 0 to 13; 1 outside.
 Integer AtomPoints(Integer structure);
 
+/// Whether an atom's structure has a number of points per edge in place of a location.
+bool IsLattice(Integer structure);
+
 /// Holds every field to its range, as before each run (universe) or after each load (others).
 void ClampUniverse(UniverseSettings& universe);
 void ClampProfile(StarfoldProfile& profile);

@@ -1,10 +1,13 @@
-// Writes pictures of the properties dialog, of every page and style, for the documents:
+// Writes pictures of the properties dialog, of every page and style, and of the editors behind it,
+// for the documents:
 // dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR makes them larger.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QStyleFactory>
+#include <QTimer>
+#include <map>
 
 #include "editors/frm_props.h"
 #include "settings/first_run.h"
@@ -39,13 +42,50 @@ Widget& Part(FrmProps& dialog, const char* name) {
   return *dialog.findChild<Widget*>(name);
 }
 
+void Take(QWidget& window, const QString& file) {
+  QElapsedTimer pause;  // after which the still of the body follows
+  pause.start();
+  while (pause.elapsed() < 300) QApplication::processEvents();
+  window.grab().save(file);
+}
+
+/// An editor, with an entry of its lists chosen.
+struct EditorPicture {
+  const char* Type;  // of starfold
+  const char* Button;
+  const char* Editor;
+  std::map<const char*, int> Chosen;
+};
+const EditorPicture kEditors[] = {
+    {"Nested Horizontal Rings", "cmdFoldLevels", "frmLevels", {}},
+    {"UD-IFS:  Space Station", "cmdIFS_Chem", "frmUserDefIFS", {{"cboTheme", 5}}},
+    {"UD-ATOM:  Nested Shells", "cmdIFS_Chem", "frmMolecule", {{"cboTheme", 2}}},
+};
+
+void TakeEditors(FrmProps& dialog, const QString& prefix) {
+  for (const EditorPicture& picture : kEditors) {
+    auto& types = Part<BodyList>(dialog, "lstUniStarfold");
+    for (int i = 0; i < types.count(); ++i) {
+      if (types.EntryName(i) == picture.Type) types.setCurrentRow(i);
+    }
+    Part<QPushButton>(dialog, "cmdFoldProps").click();
+    QTimer::singleShot(0, &dialog, [&] {
+      auto& editor = *dialog.findChild<QDialog*>(picture.Editor);
+      for (const auto& [list, entry] : picture.Chosen) {
+        editor.findChild<QComboBox*>(list)->setCurrentIndex(entry);
+      }
+      if (auto* atoms = editor.findChild<QListWidget*>("lstElements")) atoms->setCurrentRow(8);
+      Take(editor, prefix + picture.Editor + ".png");
+      editor.close();
+    });
+    Part<QPushButton>(dialog, picture.Button).click();
+    Part<QPushButton>(dialog, "cmdAccept").click();
+  }
+}
+
 void TakePictures(FrmProps& dialog, const QString& prefix) {
-  const auto take = [&](const QString& name) {
-    QElapsedTimer pause;  // after which the still of the body follows
-    pause.start();
-    while (pause.elapsed() < 300) QApplication::processEvents();
-    dialog.grab().save(prefix + name + ".png");
-  };
+  const auto take = [&](const QString& name) { Take(dialog, prefix + name + ".png"); };
+  TakeEditors(dialog, prefix);
   Part<BodyList>(dialog, "lstUniStarfold").setCurrentRow(6);
   Part<QCheckBox>(dialog, "chkUniTour").setChecked(true);
   Part<BodyList>(dialog, "lstCompStarfold").setCurrentRow(0);

@@ -1,5 +1,3 @@
-#include "editors/frm_props.h"
-
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
@@ -10,99 +8,13 @@
 
 #include "editors/frm_welcome.h"
 #include "numbers/text.h"
+#include "props_dialog.h"
 #include "settings/first_run.h"
 #include "settings/random_records.h"
 #include "settings/templates.h"
-#include "widgets.h"
 
 namespace starfolds {
 namespace {
-
-/// Runs the toolkit's events in each pump of a run, and what is planned for it. A run that nobody
-/// ends is ended after a while, so that a fault fails instead of hanging.
-class DialogPump : public CountedPump {
- public:
-  static constexpr int kLongestRun = 3000;
-  std::map<int, std::function<void()>> Plan;
-  int Pumps = 0;
-  std::function<void()> OnTooLong;
-
-  void PumpEvents() override {
-    QApplication::processEvents();
-    ++Pumps;
-    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
-    if (Pumps >= kLongestRun && OnTooLong) OnTooLong();
-  }
-};
-
-class FrmPropsTest : public testing::Test {
- protected:
-  FrmPropsTest() {
-    Process->Tree = &Tree;
-    Process->Events = &Events;
-    Process->Desktop = &Desktop;
-    Events.OnTooLong = [this] {
-      ADD_FAILURE() << "the run does not end";
-      Process->QuitApp = true;
-    };
-  }
-
-  /// A user who has settings already.
-  void Store(SettingsRecords records) {
-    SaveSettings(Tree, records);
-    RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
-    RegistryWrite(Tree, sections::kGeneral, kResetSettings, Long{1});
-  }
-
-  void StoreFactory() {
-    SettingsRecords records;
-    LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
-    Store(records);
-  }
-
-  FrmProps& Open() {
-    Dialog = std::make_unique<FrmProps>(
-        PropsSurroundings{*Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }});
-    Dialog->Open();
-    Activate(*Dialog);
-    return *Dialog;
-  }
-
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*Dialog, name);
-  }
-  void Click(const char* name) { The<QPushButton>(name).click(); }
-  void Choose(const char* menuEntry) { Part<QAction>(*Dialog, menuEntry).trigger(); }
-  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name.c_str()); }
-
-  /// Types over what stands in a box, and leaves it.
-  void Enter(const std::string& box, const std::string& text) {
-    Edit(box).setText(QString::fromStdString(text));
-    Leave(*Edit(box).parentWidget());
-  }
-
-  std::string LastBox() {
-    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
-    Boxes.Log.clear();
-    return text;
-  }
-
-  /// Opens the properties of a type of starfold.
-  void OpenType(int index) {
-    The<BodyList>("lstUniStarfold").setCurrentRow(index);
-    Click("cmdFoldProps");
-  }
-
-  MemoryTree Tree;
-  MemoryFiles Disk;
-  MemoryDesktop Desktop;
-  ScriptedMessageBoxes Boxes;
-  MemoryHelp HelpBook;
-  DialogPump Events;
-  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
-  std::unique_ptr<FrmProps> Dialog;
-};
 
 std::string Shortest(double number) { return NumberText(static_cast<Single>(number)); }
 
@@ -386,6 +298,7 @@ TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
   StoreFactory();
   Open();
   The<BodyList>("lstUniStarfold").setCurrentRow(2);
+  The<QCheckBox>("chkUniTour").setChecked(false);
   Events.Plan[5] = [&] {
     EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Stop");
     EXPECT_FALSE(Edit("txtUni_0").parentWidget()->isEnabled());
@@ -398,7 +311,7 @@ TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
   EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Preview Starfold");
   EXPECT_TRUE(Edit("txtUni_0").parentWidget()->isEnabled());
   EXPECT_TRUE(The<QPushButton>("cmdAccept").isEnabled());
-  EXPECT_FALSE(The<QPushButton>("cmdFoldLevels").isEnabled()) << "it was not enabled before";
+  EXPECT_FALSE(The<QCheckBox>("chkRotCamera").isEnabled()) << "it was not enabled before";
 
   Events.Plan = {{12, [&] { Press(*Dialog, Qt::Key_Escape); }}};
   Click("cmdPreviewUni");
@@ -489,6 +402,12 @@ TEST_F(FrmPropsTest, TenThousandRandomEventsLeaveAValidTree) {
   std::mt19937 random(7);
   const auto draw = [&](int below) { return static_cast<int>(random() % unsigned(below)); };
   for (int i = 1; i < 400; ++i) Events.Plan[i * 6] = [&] { Press(*Dialog, Qt::Key_Escape); };
+  QTimer closer;  // of the editors, which wait modally
+  closer.callOnTimeout([] {
+    auto* editor = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (editor) editor->close();
+  });
+  closer.start(0);
   for (int i = 0; i < 10000; ++i) {
     const QWidgetList widgets = Dialog->findChildren<QWidget*>();
     QWidget* widget = widgets[draw(static_cast<int>(widgets.size()))];

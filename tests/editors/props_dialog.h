@@ -1,0 +1,80 @@
+// The properties dialog over a tree in memory, driven as by a user's hands.
+#pragma once
+
+#include "editors/frm_props.h"
+#include "settings/first_run.h"
+#include "settings/storage.h"
+#include "widgets.h"
+
+namespace starfolds {
+
+class FrmPropsTest : public testing::Test {
+ protected:
+  FrmPropsTest() {
+    Process->Tree = &Tree;
+    Process->Events = &Events;
+    Process->Desktop = &Desktop;
+    Events.OnTooLong = [this] {
+      ADD_FAILURE() << "the run does not end";
+      Process->QuitApp = true;
+    };
+  }
+
+  /// A user who has settings already.
+  void Store(SettingsRecords records) {
+    SaveSettings(Tree, records);
+    RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
+    RegistryWrite(Tree, sections::kGeneral, kResetSettings, Long{1});
+  }
+
+  void StoreFactory() {
+    SettingsRecords records;
+    LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
+    Store(records);
+  }
+
+  FrmProps& Open() {
+    Dialog = std::make_unique<FrmProps>(
+        PropsSurroundings{*Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }});
+    Dialog->Open();
+    Activate(*Dialog);
+    return *Dialog;
+  }
+
+  template <class Widget>
+  Widget& The(const char* name) {
+    return Part<Widget>(*Dialog, name);
+  }
+  void Click(const char* name) { The<QPushButton>(name).click(); }
+  void Choose(const char* menuEntry) { Part<QAction>(*Dialog, menuEntry).trigger(); }
+  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name.c_str()); }
+
+  /// Types over what stands in a box, and leaves it.
+  void Enter(const std::string& box, const std::string& text) {
+    Edit(box).setText(QString::fromStdString(text));
+    Leave(*Edit(box).parentWidget());
+  }
+
+  std::string LastBox() {
+    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
+    Boxes.Log.clear();
+    return text;
+  }
+
+  /// Opens the properties of a type of starfold.
+  void OpenType(int index) {
+    The<BodyList>("lstUniStarfold").setCurrentRow(index);
+    Click("cmdFoldProps");
+  }
+
+  MemoryTree Tree;
+  MemoryFiles Disk;
+  MemoryDesktop Desktop;
+  ScriptedMessageBoxes Boxes;
+  MemoryHelp HelpBook;
+  DialogPump Events;
+  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<FrmProps> Dialog;
+};
+
+}  // namespace starfolds
