@@ -1,5 +1,6 @@
 #include "editors/qt_message_boxes.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <algorithm>
@@ -50,7 +51,9 @@ BoxAnswer AnswerOf(int button, BoxStyle style) {
 
 BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
                                const std::string& caption) {
-  QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton, parent_);
+  QWidget* dialog = QApplication::activeModalWidget();
+  QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton,
+                  dialog ? dialog : parent_.data());
   box.setTextFormat(Qt::PlainText);  // a name or a path may hold anything
   box.setText(Shown(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

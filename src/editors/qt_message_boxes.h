@@ -8,8 +8,8 @@
 
 namespace starfolds {
 
-/// Boxes over a window, which they block; their text can be selected and copied. Esc answers as
-/// closing the box does.
+/// Boxes over a window, or over the dialog that stands over it, which they block; their text can be
+/// selected and copied. Esc answers as closing the box does.
 class QtMessageBoxes : public MessageBoxes {
  public:
   explicit QtMessageBoxes(QWidget* parent = nullptr) : parent_(parent) {}
