@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "editors/frm_advanced.h"
 #include "editors/frm_welcome.h"
 #include "editors/lines.h"
 #include "editors/samples.h"
@@ -204,7 +205,9 @@ void FrmProps::MakeMenus() {
   addReset(kReset20, "Starfolds 2.0");
   reset->addSeparator();
   addReset(kReset4x, "Starfolds 4.x");
-  AddComing(*edit, tr("&Advanced Settings..."), "mnuAdvanced");
+  edit->addAction(tr("&Advanced Settings..."), this,
+                  [this] { FrmAdvanced(*editing_->Tree, around_.HelpBook, this).RunModal(); })
+      ->setObjectName("mnuAdvanced");
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   AddComing(*help, tr("&Contents..."), "mnuContents")->setShortcut(QKeySequence::HelpContents);
