@@ -77,7 +77,8 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
       settings_{*surroundings.Process.Tree, editing_->Profiles,
                 editing_->Composites,       template_,
                 surroundings.Disk,          surroundings.Boxes,
-                surroundings.ProgramFolder, surroundings.UserFolder} {
+                surroundings.ProgramFolder, surroundings.UserFolder},
+      templates_(MakeTemplateHost()) {
   const Saver& process = around_.Process;
   editing_->Tree = process.Tree;
   editing_->Events = events_.get();
@@ -185,11 +186,25 @@ bool FrmProps::ShowWelcomeDialog() {
   });
 }
 
+/// A page that is open shows the loaded profile before it is put away, so that it stores the same.
+TemplateHost FrmProps::MakeTemplateHost() {
+  const auto settle = [this] {
+    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+    universe_->ClampTextFields();
+  };
+  const auto loaded = [this] {
+    if (inStarfoldView_) {
+      starfold_->LoadProfileToPage(currentProfile_);
+      OpenStarfoldView(false);
+    }
+    universe_->SelectTheme(0);  // whatever theme was chosen before, it is not what stands there now
+  };
+  return {*this, settings_, *this, around_.HelpBook, settle, loaded, [this] { ShowStill(); }};
+}
+
 void FrmProps::MakeMenus() {
   QMenu* file = menuBar()->addMenu(tr("&File"));
-  AddComing(*file, tr("&Open Template..."), "mnuOpen")->setShortcut(QKeySequence::Open);
-  AddComing(*file, tr("&Save Template"), "mnuSave")->setShortcut(QKeySequence::Save);
-  AddComing(*file, tr("Save Template &As..."), "mnuSaveAs")->setShortcut(QKeySequence::SaveAs);
+  templates_.AddTo(*file);
   file->addSeparator();
   file->addAction(tr("E&xit"), this, &FrmProps::Exit)->setObjectName("mnuExit");
 
@@ -249,6 +264,8 @@ void FrmProps::MakeCentre() {
   buttons->addWidget(cmdDismiss_);
   rows->addLayout(buttons);
   setCentralWidget(centre);
+  // A file that is dropped is a template wherever it lands, not a text for a box.
+  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
 
   connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
   connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
@@ -339,12 +356,14 @@ void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
     disabled.push_back(widget);
   }
   for (QWidget* widget : disabled) widget->setEnabled(false);
+  templates_.SetEnabled(false);
   const QString caption = button->text();
   button->setText(tr("Stop"));
   button->setFocus();
   const PreviewEnd end = preview_.Start([&] { run(picPreview_->BeginRun()); });
   button->setText(caption);
   for (QWidget* widget : disabled) widget->setEnabled(true);
+  templates_.SetEnabled(true);
   if (end == PreviewEnd::Close) close();
 }
 

@@ -14,6 +14,7 @@
 #include "editors/picture_box.h"
 #include "editors/props_model.h"
 #include "editors/starfold_view.h"
+#include "editors/template_menu.h"
 #include "editors/universe_view.h"
 #include "hosting/preview_runs.h"
 #include "platform/files.h"
@@ -69,6 +70,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   ProgressPicture* Preview() override;
   bool ShowWelcomeDialog() override;
 
+  TemplateHost MakeTemplateHost();
   void MakeMenus();
   QAction* AddComing(QMenu& menu, const QString& text, const char* name);
   void MakeCentre();
@@ -95,6 +97,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   PropsModel model_;
   TemplateFile template_;
   PropertySettings settings_;
+  TemplateMenu templates_;
 
   QTimer stillTimer_;
   bool open_ = false;
