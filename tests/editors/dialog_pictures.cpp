@@ -1,11 +1,16 @@
-// Writes pictures of the properties dialog, of every page and style, for the documents:
+// Writes pictures of the properties dialog, of every page and style, and of the dialogs behind it,
+// for the documents:
 // dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR makes them larger.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTimer>
 
+#include "editors/frm_advanced.h"
+#include "editors/frm_file_io.h"
 #include "editors/frm_props.h"
 #include "settings/first_run.h"
 #include "settings/storage.h"
@@ -35,7 +40,7 @@ void StoreFactory(KeyValueTree& tree) {
 }
 
 template <class Widget>
-Widget& Part(FrmProps& dialog, const char* name) {
+Widget& Part(QWidget& dialog, const char* name) {
   return *dialog.findChild<Widget*>(name);
 }
 
@@ -65,6 +70,45 @@ void TakePictures(FrmProps& dialog, const QString& prefix) {
   }
 }
 
+void TakeAdvanced(KeyValueTree& tree, Help& help, const QString& prefix) {
+  RegistryWrite(tree, sections::kAdvanced, "LockMessage", "Back at two. Mind the cat.");
+  RegistryWrite(tree, sections::kAdvanced, "Adv_FontName", "DejaVu Serif");
+  FrmAdvanced dialog(tree, help);
+  dialog.Open();
+  dialog.grab().save(prefix + "advanced.png");
+}
+
+void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QString& prefix) {
+  QTemporaryDir home;
+  qputenv("HOME", home.path().toLocal8Bit());
+  QDir folder(home.path());
+  for (const char* path : {"Documents", "Music", "Universes/Old"}) folder.mkpath(path);
+  for (const char* name : {"clockwork", "fern-house", "quiet-night"}) {
+    QFile(folder.filePath(QString("Universes/") + name + ".sfd")).open(QIODevice::WriteOnly);
+  }
+  RegistryWrite(tree, sections::kTemplate, "Path_Dir", folder.filePath("Universes").toStdString());
+  const auto take = [&](bool open, const QString& name) {
+    FrmFileIo dialog({tree, help, boxes, "/", {}, [&](const std::string&, ProgressPicture* bar) {
+                        DrawProgress(bar, 2, 3);
+                        dialog.grab().save(prefix + name + ".png");
+                        return std::optional<std::string>("enough");
+                      }});
+    QTimer::singleShot(300, &dialog, [&] {
+      Part<QLineEdit>(dialog, "txtFile").setText("quiet-night.sfd");
+      if (open) {
+        dialog.grab().save(prefix + name + ".png");
+      } else {
+        Part<QPushButton>(dialog, "cmdOK").click();
+      }
+      dialog.reject();
+    });
+    dialog.ChooseTemplate(open, true, "Select Template to Open",
+                          "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|", "sfd");
+  };
+  take(true, "template-open");
+  take(false, "template-save");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -89,6 +133,9 @@ int main(int argc, char** argv) {
   dialog.Open();
   dialog.resize(1280, 700);
   QDir().mkpath(argv[1]);
-  TakePictures(dialog, QString(argv[1]) + "/" + look + "-");
+  const QString prefix = QString(argv[1]) + "/" + look + "-";
+  TakePictures(dialog, prefix);
+  TakeAdvanced(tree, help, prefix);
+  TakeFileIo(tree, help, boxes, prefix);
   return 0;
 }
