@@ -27,7 +27,7 @@ constexpr int kStep = 14;  // by which a folder stands behind the one that holds
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kDepthRole = Qt::UserRole + 1;
 
-/// Folders stand behind the one that holds them.
+/// Folders stand behind the one that holds them. A long name is cut in the middle.
 class FolderDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -40,8 +40,7 @@ class FolderDelegate : public QStyledItemDelegate {
   }
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QSize size = QStyledItemDelegate::sizeHint(option, index);
-    return size + QSize(kStep * index.data(kDepthRole).toInt(), 0);
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
   }
 };
 
@@ -120,6 +119,7 @@ void FrmFileIo::MakeControls() {
   filTemp_->setAccessibleName(tr("Files"));
   dirTemp_->setAccessibleName(tr("Folders"));
   dirTemp_->setItemDelegate(new FolderDelegate(dirTemp_));
+  dirTemp_->setTextElideMode(Qt::ElideMiddle);
   filTemp_->setUniformItemSizes(true);  // of a hundred thousand files none is measured
   for (QListWidget* list : {filTemp_, dirTemp_}) list->setMinimumSize(kLeastList);
   cboFilter_->hide();
@@ -248,6 +248,7 @@ void FrmFileIo::ShowFolders(const QStringList& subfolders) {
     auto* item = new QListWidgetItem(icon, name, dirTemp_);
     item->setData(kPathRole, path);
     item->setData(kDepthRole, depth);
+    item->setToolTip(QDir::toNativeSeparators(path));
   };
   const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
   for (const QString& folder : WayTo(root, folder_)) {
