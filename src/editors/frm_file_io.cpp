@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "editors/props_model.h"
 #include "settings/product.h"
@@ -24,26 +25,6 @@ constexpr int kStatusHeight = 12;
 constexpr QSize kLeastList{270, 240};
 constexpr int kStep = 14;  // by which a folder stands behind the one that holds it
 
-constexpr int kPathRole = Qt::UserRole;
-constexpr int kDepthRole = Qt::UserRole + 1;
-
-/// Folders stand behind the one that holds them. A long name is cut in the middle.
-class FolderDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override {
-    QStyleOptionViewItem indented = option;
-    indented.rect.setLeft(option.rect.left() + kStep * index.data(kDepthRole).toInt());
-    QStyledItemDelegate::paint(painter, indented, index);
-  }
-
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
-  }
-};
-
 /// An empty text where what is stored could not be read back.
 std::string StoredPath(const QString& path) {
   std::string text = path.toStdString();
@@ -55,6 +36,43 @@ bool IsPlainName(const QString& typed) {
 }
 
 }  // namespace
+
+/// Folders stand behind the one that holds them. A long name is cut in the middle. What an entry
+/// looks like follows from its row, so that a list of a hundred thousand is filled at once.
+class FrmFileIo::FolderDelegate : public QStyledItemDelegate {
+ public:
+  explicit FolderDelegate(QListWidget* list)
+      : QStyledItemDelegate(list),
+        open_(list->style()->standardIcon(QStyle::SP_DirOpenIcon, nullptr, list)),
+        closed_(list->style()->standardIcon(QStyle::SP_DirClosedIcon, nullptr, list)) {}
+
+  /// Of the entries so many are the way to the folder that is shown; behind them is what it holds.
+  void SetWay(qsizetype folders) { way_ = static_cast<int>(folders); }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem indented = option;
+    indented.rect.setLeft(option.rect.left() + kStep * std::min(index.row(), way_));
+    QStyledItemDelegate::paint(painter, indented, index);
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->icon = index.row() < way_ ? open_ : closed_;
+    option->decorationSize = option->icon.actualSize(option->decorationSize);
+  }
+
+ private:
+  int way_ = 0;
+  QIcon open_;
+  QIcon closed_;
+};
 
 std::string TemplateFaultText(bool open, const std::string& path, const std::string& reason) {
   return std::string(open ? "The template could not be opened:\n"
@@ -118,10 +136,13 @@ void FrmFileIo::MakeControls() {
 
   filTemp_->setAccessibleName(tr("Files"));
   dirTemp_->setAccessibleName(tr("Folders"));
-  dirTemp_->setItemDelegate(new FolderDelegate(dirTemp_));
+  folderDelegate_ = new FolderDelegate(dirTemp_);
+  dirTemp_->setItemDelegate(folderDelegate_);
   dirTemp_->setTextElideMode(Qt::ElideMiddle);
-  filTemp_->setUniformItemSizes(true);  // of a hundred thousand files none is measured
-  for (QListWidget* list : {filTemp_, dirTemp_}) list->setMinimumSize(kLeastList);
+  for (QListWidget* list : {filTemp_, dirTemp_}) {
+    list->setUniformItemSizes(true);  // of a hundred thousand entries one is measured
+    list->setMinimumSize(kLeastList);
+  }
   cboFilter_->hide();
   for (const FolderRoot& root : roots_) drvTemp_->addItem(root.Name);
   for (QComboBox* list : {drvTemp_, cboTypes_}) {
@@ -180,10 +201,12 @@ void FrmFileIo::ConnectControls() {
     if (!EnterFolder(roots_[static_cast<std::size_t>(root)].Path)) ReadAgain();
   });
   connect(dirTemp_, &QListWidget::itemDoubleClicked, this, &FrmFileIo::OpenSelectedFolder);
-  connect(filTemp_, &QListWidget::itemSelectionChanged, this, [this] {
+  const auto copyName = [this] {
     const QList<QListWidgetItem*> selected = filTemp_->selectedItems();
     if (!selected.isEmpty()) txtFile_->setText(selected.front()->text());
-  });
+  };
+  connect(filTemp_, &QListWidget::itemSelectionChanged, this, copyName);
+  connect(filTemp_, &QListWidget::itemClicked, this, copyName);  // the selected one, once more
   connect(filTemp_, &QListWidget::itemDoubleClicked, cmdOK_, &QPushButton::click);
   connect(cboTypes_, &QComboBox::currentIndexChanged, this, [this](int type) {
     cboFilter_->setCurrentIndex(type);
@@ -240,26 +263,15 @@ bool FrmFileIo::EnterOrSay(const QString& folder) {
 }
 
 void FrmFileIo::ShowFolders(const QStringList& subfolders) {
-  const QIcon openIcon = style()->standardIcon(QStyle::SP_DirOpenIcon, nullptr, this);
-  const QIcon closedIcon = style()->standardIcon(QStyle::SP_DirClosedIcon, nullptr, this);
-  dirTemp_->clear();
-  int depth = 0;
-  const auto add = [&](const QIcon& icon, const QString& name, const QString& path) {
-    auto* item = new QListWidgetItem(icon, name, dirTemp_);
-    item->setData(kPathRole, path);
-    item->setData(kDepthRole, depth);
-    item->setToolTip(QDir::toNativeSeparators(path));
-  };
   const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
-  for (const QString& folder : WayTo(root, folder_)) {
-    const QString name =
-        depth == 0 ? QDir::toNativeSeparators(folder) : QFileInfo(folder).fileName();
-    add(openIcon, name, folder);
-    ++depth;
-  }
-  dirTemp_->setCurrentRow(depth - 1);
-  for (const QString& name : subfolders) add(closedIcon, name, TypedPath(folder_, name));
-  dirTemp_->scrollToItem(dirTemp_->currentItem());
+  way_ = WayTo(root, folder_);
+  folderDelegate_->SetWay(way_.size());
+  QStringList names{QDir::toNativeSeparators(way_.front())};
+  for (const QString& folder : way_.mid(1)) names.append(QFileInfo(folder).fileName());
+  dirTemp_->clear();
+  dirTemp_->addItems(names + subfolders);
+  dirTemp_->item(0)->setToolTip(names.front());
+  dirTemp_->setCurrentRow(static_cast<int>(way_.size()) - 1);
 }
 
 void FrmFileIo::ShowFiles(const QStringList& files) {
@@ -268,9 +280,10 @@ void FrmFileIo::ShowFiles(const QStringList& files) {
 }
 
 void FrmFileIo::OpenSelectedFolder() {
-  if (const QListWidgetItem* item = dirTemp_->currentItem()) {
-    EnterOrSay(item->data(kPathRole).toString());
-  }
+  const int row = dirTemp_->currentRow();
+  if (row < 0) return;
+  EnterOrSay(row < way_.size() ? QString(way_[row])
+                               : TypedPath(folder_, dirTemp_->item(row)->text()));
 }
 
 void FrmFileIo::Ok() {
@@ -323,7 +336,7 @@ void FrmFileIo::Take(const QString& path) {
     if (fault) {
       around_.Boxes.Show(TemplateFaultText(open_, chosen, *fault), BoxStyle::Exclamation,
                          std::string(kProductName));
-      return txtFile_->setFocus();
+      return FocusName();
     }
   }
   selectedPath_ = chosen;
@@ -343,13 +356,19 @@ void FrmFileIo::StoreFolder() {
   change.Commit();
 }
 
+/// Ready to be typed over.
+void FrmFileIo::FocusName() {
+  txtFile_->setFocus();
+  txtFile_->selectAll();
+}
+
 void FrmFileIo::Inform(const std::string& text) {
   around_.Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
 }
 
 void FrmFileIo::Refuse(const std::string& text) {
   Inform(text);
-  txtFile_->setFocus();
+  FocusName();
 }
 
 }  // namespace starfolds

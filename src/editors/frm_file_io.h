@@ -53,6 +53,8 @@ class FrmFileIo : public PlacedDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  class FolderDelegate;
+
   void MakeControls();
   void LayOut();
   void AddNameColumn(QGridLayout& grid);
@@ -74,6 +76,7 @@ class FrmFileIo : public PlacedDialog {
   void TakeForSaving(const QString& typed);
   void Take(const QString& path);
   void StoreFolder();
+  void FocusName();
   void Inform(const std::string& text);
   /// What was typed is no good.
   void Refuse(const std::string& text);
@@ -86,6 +89,8 @@ class FrmFileIo : public PlacedDialog {
 
   std::vector<FolderRoot> roots_;  // the entries of drvTemp
   QString folder_;                 // that is shown
+  QStringList way_;                // the first entries of dirTemp: from the root to that folder
+  FolderDelegate* folderDelegate_;
   QComboBox* drvTemp_;
   QListWidget* dirTemp_;
   QListWidget* filTemp_;

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QStyleFactory>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include "editors/frm_advanced.h"
@@ -79,9 +78,9 @@ void TakeAdvanced(KeyValueTree& tree, Help& help, const QString& prefix) {
 }
 
 void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QString& prefix) {
-  QTemporaryDir home;
-  qputenv("HOME", home.path().toLocal8Bit());
-  QDir folder(home.path());
+  QDir folder(QDir::temp().filePath("starfolds-pictures"));  // the pictures show its name
+  folder.removeRecursively();
+  qputenv("HOME", folder.path().toLocal8Bit());
   for (const char* path : {"Documents", "Music", "Universes/Old"}) folder.mkpath(path);
   for (const char* name : {"clockwork", "fern-house", "quiet-night"}) {
     QFile(folder.filePath(QString("Universes/") + name + ".sfd")).open(QIODevice::WriteOnly);
@@ -107,6 +106,7 @@ void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QStri
   };
   take(true, "template-open");
   take(false, "template-save");
+  folder.removeRecursively();
 }
 
 }  // namespace

@@ -86,18 +86,20 @@ class TemplateMenuTest : public testing::Test {
     return records;
   }
 
-  /// Drags files over the window, and drops them if it takes them.
+  /// Drags files over a box in the window, as file managers do, and drops them if they are taken.
   bool Drop(const std::vector<std::string>& paths) {
     QMimeData data;
     QList<QUrl> urls;
     for (const std::string& path : paths) urls.append(QUrl::fromLocalFile(path.c_str()));
     data.setUrls(urls);
+    data.setText("/some/path");
+    QWidget* box = &The<QLineEdit>("txtUniFoldName");
     QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
-    QApplication::sendEvent(Dialog.get(), &enter);
+    QApplication::sendEvent(box, &enter);
     if (!enter.isAccepted()) return false;
     QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(Dialog.get(), &drop);
+    QApplication::sendEvent(box, &drop);
     QApplication::processEvents();
     return drop.isAccepted();
   }
