@@ -117,6 +117,7 @@ void FrmProps::Open() {
   windowHandle()->setTransientParent(around_.Owner);
   PlacedQtWindow placed(*windowHandle());
   RestoreWindowPlacement(placed, *editing_->Tree, sections::kMain);
+  move(windowHandle()->framePosition());  // the toolkit would place it anew, or forget the frame
   if (placed.State() == WindowState::Maximised) {
     showMaximized();
   } else {

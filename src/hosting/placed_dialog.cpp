@@ -19,6 +19,7 @@ void PlacedDialog::Open() {
   winId();  // a window that can be placed before it is shown
   PlacedQtWindow placed(*windowHandle());
   RestoreWindowPlacement(placed, place_.Tree, place_.Section);
+  move(windowHandle()->framePosition());  // the toolkit would place it anew, or forget the frame
   if (placed.State() == WindowState::Maximised) {
     showMaximized();
   } else {

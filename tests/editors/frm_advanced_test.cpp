@@ -170,6 +170,15 @@ TEST_F(FrmAdvancedTest, SamplesFollowTheControls) {
   EXPECT_GT(qRed(pixel("picHueStart", 1, 1)), qBlue(pixel("picHueStart", 1, 1)));
 }
 
+TEST_F(FrmAdvancedTest, OpensWhereItStood) {
+  Open();
+  const QPoint place = Dialog->pos() + QPoint(40, 30);
+  Dialog->move(place);
+  Click("cmdDismiss");
+  Open();
+  EXPECT_EQ(Dialog->pos(), place);
+}
+
 TEST_F(FrmAdvancedTest, HelpIsOneKeyAway) {
   Open();
   Click("cmdHelp");
