@@ -169,6 +169,12 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   });
 
   AppWindows windows(*saver, options);
+  if (!options.Template.empty()) {
+    saver->Tree = &overridden;
+    if (!windows.BeginWithTemplate(options.Template, overridden.Beginning())) {
+      return windows.ExitCode();
+    }
+  }
   Run(*saver, options, windows);
   return windows.ExitCode();
 }

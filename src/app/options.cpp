@@ -168,6 +168,10 @@ Fault ReadOption(std::span<const std::string_view>& rest, StartOptions& options)
     options.Companion = true;
     return std::nullopt;
   }
+  if (!name.starts_with("--") && options.Template.empty()) {
+    options.Template = name;
+    return std::nullopt;
+  }
   const SettingOption* const setting = FindSettingOption(name);
   if (setting != nullptr && !setting->Value.empty()) {
     return TakeChange(options, setting->Setting, setting->Value);
@@ -190,6 +194,9 @@ Fault CheckTogether(const StartOptions& options) {
   if (options.Seed && !ofUse) return "--seed goes with --saver, --window, --root or --window-id";
   if (!options.Changes.empty() && !ofUse) {
     return "settings go with --saver, --window, --root or --window-id";
+  }
+  if (!options.Template.empty() && options.AskedFor != Role::Window) {
+    return "'" + options.Template + "': a template goes with --window, or alone";
   }
   if (options.Screen && options.AskedFor != Role::Saver) return "--screens goes with --saver";
   if (options.HostWindow && options.AskedFor != Role::Guest) {
@@ -231,6 +238,7 @@ A screen saver that simulates a universe of starfolds.
 
   --saver         run the screen saver; a key, a button or moving the pointer ends it
   --window        run the effect as an application: Esc ends it, F5 begins anew
+  --window FILE   show the template FILE so, and store nothing of it
   --settings      open the settings dialog
   --screens WHICH with --saver: all screens, each with a universe of its own (as without this
                   option), the primary one, or one by its number from 1
@@ -266,7 +274,7 @@ Switches, as Windows gives them to a screen saver (capitals do not matter):
   /C              open the settings dialog; so does no switch at all
   /P HANDLE       show a preview inside the window HANDLE
   /A HANDLE       change the password, where the system has one
-  FILE.sfd        load a template and run the screen saver
+  FILE.sfd        load a template, store its universe, and run the screen saver
 )";
 }
 

@@ -29,6 +29,7 @@ struct StartOptions {
   std::optional<std::uint64_t> Seed;
   std::optional<int> Screen;       // that the saver covers, from 1; without one it covers all
   bool Companion = false;          // of a saver on several screens, and not the first of them
+  std::string Template;            // path of one that a window shows; empty: none
   std::optional<Long> HostWindow;  // of a guest; else the host names it in the environment
   /// Names and values of settings that hold for this process alone, each one good.
   std::vector<std::pair<std::string, std::string>> Changes;

@@ -7,6 +7,7 @@
 
 #include "app/saver_screens.h"
 #include "desktop/foreign_window.h"
+#include "editors/frm_file_io.h"
 #include "editors/frm_props.h"
 #include "editors/qt_message_boxes.h"
 #include "hosting/frm_app_exe.h"
@@ -15,6 +16,7 @@
 #include "info/frm_about.h"
 #include "info/frm_system_diag.h"
 #include "platform/console.h"
+#include "settings/product.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "storage/storage_places.h"
@@ -102,6 +104,18 @@ void AppWindows::LoadTemplate(const std::string& path) {
   }
   EnsureBodies(saver_);
   ImportTemplate(file, path, *saver_.Tree, saver_.Profiles);
+}
+
+/// Who clicked on a file has no terminal to read a complaint from.
+bool AppWindows::BeginWithTemplate(const std::string& path, KeyValueTree& tree) {
+  DiskFiles disk;
+  TemplateFile file(disk);
+  const auto fault = StoreTemplate(file, path, tree);
+  if (!fault) return true;
+  Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+  QtMessageBoxes().Show(TemplateFaultText(true, path, *fault), BoxStyle::Exclamation,
+                        std::string(kProductName));
+  return false;
 }
 
 void AppWindows::Fail(const std::string& message, int exitCode) {

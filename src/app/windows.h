@@ -23,6 +23,10 @@ class AppWindows : public StartActions {
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
+  /// Brings a template into `tree`, the values that the process begins with. False: it cannot be
+  /// read, and the user knows why.
+  bool BeginWithTemplate(const std::string& path, KeyValueTree& tree);
+
   /// The full effect inside the window of a saver host.
   void ShowInHost(Long hostWindow);
 

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "editors/frm_advanced.h"
 #include "editors/frm_levels.h"
 #include "editors/frm_molecule.h"
 #include "editors/frm_user_def_ifs.h"
@@ -50,7 +51,8 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
       settings_{*surroundings.Process.Tree, editing_->Profiles,
                 editing_->Composites,       template_,
                 surroundings.Disk,          surroundings.Boxes,
-                surroundings.ProgramFolder, surroundings.UserFolder} {
+                surroundings.ProgramFolder, surroundings.UserFolder},
+      templates_(MakeTemplateHost()) {
   const Saver& process = around_.Process;
   editing_->Tree = process.Tree;
   editing_->Events = events_.get();
@@ -89,6 +91,7 @@ void FrmProps::Open() {
   windowHandle()->setTransientParent(around_.Owner);
   PlacedQtWindow placed(*windowHandle());
   RestoreWindowPlacement(placed, *editing_->Tree, sections::kMain);
+  move(windowHandle()->framePosition());  // the toolkit would place it anew, or forget the frame
   if (placed.State() == WindowState::Maximised) {
     showMaximized();
   } else {
@@ -158,11 +161,25 @@ bool FrmProps::ShowWelcomeDialog() {
   });
 }
 
+/// A page that is open shows the loaded profile before it is put away, so that it stores the same.
+TemplateHost FrmProps::MakeTemplateHost() {
+  const auto settle = [this] {
+    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+    universe_->ClampTextFields();
+  };
+  const auto loaded = [this] {
+    if (inStarfoldView_) {
+      starfold_->LoadProfileToPage(currentProfile_);
+      OpenStarfoldView(false);
+    }
+    universe_->SelectTheme(0);  // whatever theme was chosen before, it is not what stands there now
+  };
+  return {*this, settings_, *this, around_.HelpBook, settle, loaded, [this] { ShowStill(); }};
+}
+
 void FrmProps::MakeMenus() {
   QMenu* file = menuBar()->addMenu(tr("&File"));
-  AddComing(*file, tr("&Open Template..."), "mnuOpen")->setShortcut(QKeySequence::Open);
-  AddComing(*file, tr("&Save Template"), "mnuSave")->setShortcut(QKeySequence::Save);
-  AddComing(*file, tr("Save Template &As..."), "mnuSaveAs")->setShortcut(QKeySequence::SaveAs);
+  templates_.AddTo(*file);
   file->addSeparator();
   file->addAction(tr("E&xit"), this, &FrmProps::Exit)->setObjectName("mnuExit");
 
@@ -178,7 +195,9 @@ void FrmProps::MakeMenus() {
   addReset(kReset20, "Starfolds 2.0");
   reset->addSeparator();
   addReset(kReset4x, "Starfolds 4.x");
-  AddComing(*edit, tr("&Advanced Settings..."), "mnuAdvanced");
+  edit->addAction(tr("&Advanced Settings..."), this,
+                  [this] { FrmAdvanced(*editing_->Tree, around_.HelpBook, this).RunModal(); })
+      ->setObjectName("mnuAdvanced");
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   AddComing(*help, tr("&Contents..."), "mnuContents")->setShortcut(QKeySequence::HelpContents);
@@ -222,6 +241,8 @@ void FrmProps::MakeCentre() {
   buttons->addWidget(cmdDismiss_);
   rows->addLayout(buttons);
   setCentralWidget(centre);
+  // A file that is dropped is a template wherever it lands, not a text for a box.
+  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
 
   connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
   connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
@@ -319,12 +340,14 @@ void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
     disabled.push_back(widget);
   }
   for (QWidget* widget : disabled) widget->setEnabled(false);
+  templates_.SetEnabled(false);
   const QString caption = button->text();
   button->setText(tr("Stop"));
   button->setFocus();
   const PreviewEnd end = preview_.Start([&] { run(picPreview_->BeginRun()); });
   button->setText(caption);
   for (QWidget* widget : disabled) widget->setEnabled(true);
+  templates_.SetEnabled(true);
   if (end == PreviewEnd::Close) close();
 }
 

@@ -14,6 +14,7 @@
 #include "editors/body_editor.h"
 #include "editors/props_model.h"
 #include "editors/starfold_view.h"
+#include "editors/template_menu.h"
 #include "editors/universe_view.h"
 #include "hosting/picture_box.h"
 #include "hosting/preview_runs.h"
@@ -80,6 +81,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
     starfold_->SetBox(index, text);
   }
 
+  TemplateHost MakeTemplateHost();
   void MakeMenus();
   QAction* AddComing(QMenu& menu, const QString& text, const char* name);
   void MakeCentre();
@@ -106,6 +108,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   PropsModel model_;
   TemplateFile template_;
   PropertySettings settings_;
+  TemplateMenu templates_;
 
   QTimer stillTimer_;
   bool open_ = false;

@@ -56,13 +56,16 @@ void OverriddenTree::Override(std::span<const std::pair<std::string, std::string
 
 std::optional<std::string> OverriddenTree::Read(Hive hive, std::string_view path,
                                                 std::string_view name) {
-  std::optional<std::string> text = overrides_.Read(hive, path, name);
-  return text ? text : stored_.Read(hive, path, name);
+  if (auto text = overrides_.Read(hive, path, name)) return text;
+  if (auto text = beginning_.Read(hive, path, name)) return text;
+  return stored_.Read(hive, path, name);
 }
 
 bool OverriddenTree::Write(Hive hive, std::string_view path, std::string_view name,
                            std::string_view text) {
-  return stored_.Write(hive, path, name, text);
+  if (!stored_.Write(hive, path, name, text)) return false;
+  if (beginning_.Read(hive, path, name)) beginning_.Write(hive, path, name, text);
+  return true;
 }
 
 bool OverriddenTree::DeleteKey(Hive hive, std::string_view path) {
@@ -70,14 +73,19 @@ bool OverriddenTree::DeleteKey(Hive hive, std::string_view path) {
 }
 
 bool OverriddenTree::Begin(Access access) {
-  bulk_.reset(
-      new TreeBulk(access == Access::Look ? TreeBulk::Look(stored_) : TreeBulk::Change(stored_)));
+  const auto begin = [access](KeyValueTree& tree) {
+    return new TreeBulk(access == Access::Look ? TreeBulk::Look(tree) : TreeBulk::Change(tree));
+  };
+  bulk_.reset(begin(stored_));
+  beginningBulk_.reset(begin(beginning_));
   return bulk_->Begun();
 }
 
 bool OverriddenTree::End(bool keep) {
   const bool stored = keep && bulk_->Commit();
   bulk_.reset();
+  if (stored) beginningBulk_->Commit();
+  beginningBulk_.reset();
   return stored;
 }
 

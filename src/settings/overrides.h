@@ -13,7 +13,8 @@
 namespace starfolds {
 
 /// Lies over the stored tree. Whoever reads finds the overridden values in place of the stored
-/// ones; what is written goes to the stored tree, and is not seen while it is overridden.
+/// ones; what is written goes to the stored tree, and is not seen while it is overridden. Between
+/// the two may lie values to begin with: they are seen until they are written.
 class OverriddenTree : public KeyValueTree {
  public:
   /// `stored` outlives this tree.
@@ -22,6 +23,9 @@ class OverriddenTree : public KeyValueTree {
   /// Takes settings by the names of `SetByName`, each with its value. Those that are no good are
   /// passed over.
   void Override(std::span<const std::pair<std::string, std::string>> changes);
+
+  /// The values to begin with, to be filled before anybody reads.
+  KeyValueTree& Beginning() { return beginning_; }
 
   std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
   bool Write(Hive hive, std::string_view path, std::string_view name,
@@ -34,8 +38,11 @@ class OverriddenTree : public KeyValueTree {
 
  private:
   KeyValueTree& stored_;
+  MemoryTree beginning_;
   MemoryTree overrides_;
-  std::unique_ptr<TreeBulk> bulk_;  // of the stored tree, while there is one of this
+  // Of the two trees that can be written, while there is one of this.
+  std::unique_ptr<TreeBulk> bulk_;
+  std::unique_ptr<TreeBulk> beginningBulk_;
 };
 
 }  // namespace starfolds

@@ -1,6 +1,7 @@
 #include "settings/templates.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "settings/packing.h"
 #include "settings/product.h"
 #include "settings/registry.h"
+#include "settings/storage.h"
 
 namespace starfolds {
 namespace {
@@ -268,6 +270,23 @@ std::optional<std::string> ReadTemplate(TemplateFile& file, const std::string& p
   ReadFields(file, sections::kAdvanced, AdvancedFields(), records.Advanced);
   ClampAdvanced(records.Advanced);
   LoadBodiesFromTemplate(file, records.Profiles, records.Composites, {});
+  file.ClearBuffer();
+  return std::nullopt;
+}
+
+std::optional<std::string> StoreTemplate(TemplateFile& file, const std::string& path,
+                                         KeyValueTree& tree) {
+  if (auto fault = file.Load(path)) return fault;
+  const auto records = std::make_unique<SettingsRecords>();
+  LoadBodiesFromTemplate(file, records->Profiles, records->Composites, {});
+  TreeBulk change = TreeBulk::Change(tree);
+  CopyAdvancedFromTemplate(file, tree);
+  SaveUniverseToRegistry(tree, LoadUniverseFromTemplate(file));
+  SaveAllProfiles(tree, records->Profiles);
+  SaveAllComposites(tree, records->Composites);
+  RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
+  RegistryWrite(tree, sections::kGeneral, kResetSettings, Long{1});
+  change.Commit();
   file.ClearBuffer();
   return std::nullopt;
 }

@@ -58,6 +58,11 @@ std::optional<std::string> WriteTemplate(TemplateFile& file, KeyValueTree& tree,
 std::optional<std::string> ReadTemplate(TemplateFile& file, const std::string& path,
                                         SettingsRecords& records);
 
+/// Stores all of the template at `path` in a tree, as if its user had always had it. Gives a reason
+/// for the user where it cannot be read; then nothing is stored.
+std::optional<std::string> StoreTemplate(TemplateFile& file, const std::string& path,
+                                         KeyValueTree& tree);
+
 /// The route of the command line: the template's universe and advanced values go to the user's tree
 /// as they are, its profiles to memory. Profiles and composites in the tree stay, so the run that
 /// follows shows the template's universe over the bodies that the user has. Gives a reason where

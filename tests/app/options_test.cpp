@@ -75,6 +75,15 @@ TEST(StartOptions, ChangeSettings) {
   EXPECT_NE(Refused({"--settings", "--stars", "5"}), "");
 }
 
+TEST(StartOptions, TakeATemplateToShow) {
+  EXPECT_EQ(Parsed({"--window", "/a b/\"c\" $d.sfd", "--seed", "1"}).Template, "/a b/\"c\" $d.sfd");
+  EXPECT_EQ(Parsed({"--window"}).Template, "");
+  EXPECT_EQ(Refused({"--window", "a.sfd", "b.sfd"}), "unknown option 'b.sfd'");
+  for (const char* const role : {"--settings", "--root", "--saver"}) {
+    EXPECT_NE(Refused({role, "a.sfd"}).find("'a.sfd'"), std::string::npos) << role;
+  }
+}
+
 TEST(StartOptions, TakeASeed) {
   EXPECT_EQ(Parsed({"--saver"}).Seed, std::nullopt);
   EXPECT_EQ(Parsed({"--saver", "--seed", "0"}).Seed, 0U);

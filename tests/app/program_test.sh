@@ -83,6 +83,23 @@ if ! grep -q '^Universe_Stars=1234' "$XDG_CONFIG_HOME/stored.sfd"; then
   faults=$((faults + 1))
 fi
 
+# A window shows one with its bodies, whatever its name is, and leaves the stored settings alone.
+odd="$XDG_CONFIG_HOME/it's \"100%\" \$odd.sfd"
+"$render" --set Universe_Stars=77 --set Starfold0/_UniFoldName=Odd --save "$odd"
+runs --window "$odd"
+"$render" --stored --save "$XDG_CONFIG_HOME/stored.sfd"
+if ! grep -q '^Universe_Stars=1234' "$XDG_CONFIG_HOME/stored.sfd" ||
+   grep -q Odd "$XDG_CONFIG_HOME/stored.sfd"; then
+  echo "a template that a window shows has changed the settings" >&2
+  faults=$((faults + 1))
+fi
+# What is wrong with it is told in a box, too, which waits for the user.
+timeout -k 5 -s TERM 2 "$program" --window rings.sfd 2>"$errors"
+if [ $? != 124 ] || ! grep -q 'cannot read "rings.sfd": No such file' "$errors"; then
+  echo "a window for a template that is not there: $(cat "$errors")" >&2
+  faults=$((faults + 1))
+fi
+
 # A complaint is one line, and nothing in it commands the terminal.
 expect 2 '' "unknown option '--.\[31mred'" $'--\e[31mred'
 if [ "$(wc -l <"$errors")" != 1 ] || grep -q $'\e' "$errors"; then

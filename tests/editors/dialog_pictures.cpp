@@ -1,4 +1,4 @@
-// Writes pictures of the properties dialog, of every page and style, and of the editors behind it,
+// Writes pictures of the properties dialog, of every page and style, and of the dialogs behind it,
 // for the documents:
 // dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR makes them larger.
 #include <QApplication>
@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <map>
 
+#include "editors/frm_advanced.h"
+#include "editors/frm_file_io.h"
 #include "editors/frm_props.h"
 #include "settings/first_run.h"
 #include "settings/storage.h"
@@ -38,7 +40,7 @@ void StoreFactory(KeyValueTree& tree) {
 }
 
 template <class Widget>
-Widget& Part(FrmProps& dialog, const char* name) {
+Widget& Part(QWidget& dialog, const char* name) {
   return *dialog.findChild<Widget*>(name);
 }
 
@@ -105,6 +107,46 @@ void TakePictures(FrmProps& dialog, const QString& prefix) {
   }
 }
 
+void TakeAdvanced(KeyValueTree& tree, Help& help, const QString& prefix) {
+  RegistryWrite(tree, sections::kAdvanced, "LockMessage", "Back at two. Mind the cat.");
+  RegistryWrite(tree, sections::kAdvanced, "Adv_FontName", "DejaVu Serif");
+  FrmAdvanced dialog(tree, help);
+  dialog.Open();
+  dialog.grab().save(prefix + "advanced.png");
+}
+
+void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QString& prefix) {
+  QDir folder(QDir::temp().filePath("starfolds-pictures"));  // the pictures show its name
+  folder.removeRecursively();
+  qputenv("HOME", folder.path().toLocal8Bit());
+  for (const char* path : {"Documents", "Music", "Universes/Old"}) folder.mkpath(path);
+  for (const char* name : {"clockwork", "fern-house", "quiet-night"}) {
+    QFile(folder.filePath(QString("Universes/") + name + ".sfd")).open(QIODevice::WriteOnly);
+  }
+  RegistryWrite(tree, sections::kTemplate, "Path_Dir", folder.filePath("Universes").toStdString());
+  const auto take = [&](bool open, const QString& name) {
+    FrmFileIo dialog({tree, help, boxes, "/", {}, [&](const std::string&, ProgressPicture* bar) {
+                        DrawProgress(bar, 2, 3);
+                        dialog.grab().save(prefix + name + ".png");
+                        return std::optional<std::string>("enough");
+                      }});
+    QTimer::singleShot(300, &dialog, [&] {
+      Part<QLineEdit>(dialog, "txtFile").setText("quiet-night.sfd");
+      if (open) {
+        dialog.grab().save(prefix + name + ".png");
+      } else {
+        Part<QPushButton>(dialog, "cmdOK").click();
+      }
+      dialog.reject();
+    });
+    dialog.ChooseTemplate(open, true, "Select Template to Open",
+                          "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|", "sfd");
+  };
+  take(true, "template-open");
+  take(false, "template-save");
+  folder.removeRecursively();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -129,6 +171,9 @@ int main(int argc, char** argv) {
   dialog.Open();
   dialog.resize(1280, 700);
   QDir().mkpath(argv[1]);
-  TakePictures(dialog, QString(argv[1]) + "/" + look + "-");
+  const QString prefix = QString(argv[1]) + "/" + look + "-";
+  TakePictures(dialog, prefix);
+  TakeAdvanced(tree, help, prefix);
+  TakeFileIo(tree, help, boxes, prefix);
   return 0;
 }

@@ -36,4 +36,13 @@ for line in 'Categories=Screensaver;' 'OnlyShowIn=MATE;XFCE;' \
 done
 [ -s "$share/xscreensaver/config/starfolds.xml" ] || fault "XScreenSaver's settings are missing"
 
+# Files of templates have a type, which the program opens; its own lie where it looks for them.
+type=application/x-starfolds-template
+update-mime-database "$share/mime" 2>/dev/null
+grep -qxF "50:$type:*.sfd" "$share/mime/globs2" || fault "no file is a template"
+for line in "MimeType=$type;" 'Exec=starfolds --window %f'; do
+  grep -qxF "$line" "$share/applications/starfolds.desktop" || fault "the desktop file lacks $line"
+done
+[ -s "$root/usr/bin/../share/starfolds/templates/one-lotus.sfd" ] || fault "there are no templates"
+
 [ "$faults" = 0 ] || exit 1

@@ -66,6 +66,25 @@ TEST_F(OverridesTest, LetWritesThrough) {
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Starfold, 8);
 }
 
+TEST_F(OverridesTest, ValuesToBeginWithAreSeenUntilTheyAreWritten) {
+  SettingsRecords records;
+  records.Universe.Universe_Stars = 1111;
+  records.Universe.Universe_Starfold = 11;
+  SaveSettings(Tree.Beginning(), records);
+  Override({{"Universe_Starfold", "22"}});
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 1111);
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Starfold, 22);
+  EXPECT_TRUE(Stored == Before);
+  records.Universe.Universe_Stars = 99;
+  Stored.WritesUntilFull = 100;
+  EXPECT_FALSE(SaveSettings(Tree, records));
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 1111);
+  Stored.WritesUntilFull = -1;
+  EXPECT_TRUE(SaveSettings(Tree, records));
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 99);
+  EXPECT_EQ(LoadSettings(Stored).Universe.Universe_Stars, 99);
+}
+
 /// A bulk that fails underneath fails, and leaves nothing behind.
 TEST_F(OverridesTest, SaveAllOrNothing) {
   SettingsRecords records;

@@ -76,6 +76,18 @@ TEST_F(Templates, RandomRecordsComeBackWhole) {
   }
 }
 
+TEST_F(Templates, AreStoredWithTheirBodiesAsAUsersOwn) {
+  const SettingsRecords records = RandomRecords(17).Make();
+  ASSERT_EQ(Write(records), std::nullopt);
+  MemoryTree tree;
+  EXPECT_NE(StoreTemplate(File, "missing.sfd", tree), std::nullopt);
+  EXPECT_EQ(tree.Size(), 0U);
+  EXPECT_EQ(StoreTemplate(File, "out.sfd", tree), std::nullopt);
+  EXPECT_EQ(Contents(LoadSettings(tree)), Contents(Read(Disk.Contents["out.sfd"])));
+  EXPECT_TRUE(EnsureFactoryProfiles(tree)) << "a run finds bodies there";
+  EXPECT_EQ(Contents(LoadSettings(tree)), Contents(Read(Disk.Contents["out.sfd"])));
+}
+
 TEST_F(Templates, AreWrittenInTheirForm) {
   SettingsRecords records;
   records.Profiles[0].UniFoldName = "A [b]\r\nc";

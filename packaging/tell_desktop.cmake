@@ -1,0 +1,14 @@
+# Part of `cmake --install`: lets the desktop know at once which files the program opens. Where a
+# package is made (DESTDIR), the package manager does that when it is installed.
+function(tell PROGRAM FOLDER)
+  cmake_path(ABSOLUTE_PATH FOLDER BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE)
+  find_program(${PROGRAM}_PATH ${PROGRAM})
+  if(${PROGRAM}_PATH)
+    execute_process(COMMAND ${${PROGRAM}_PATH} ${FOLDER})
+  endif()
+endfunction()
+
+if("$ENV{DESTDIR}" STREQUAL "")
+  tell(update-mime-database ${DATA_FOLDER}/mime)
+  tell(update-desktop-database ${DATA_FOLDER}/applications)
+endif()

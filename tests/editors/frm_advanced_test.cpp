@@ -1,0 +1,189 @@
+#include "editors/frm_advanced.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <map>
+
+#include "numbers/utf8.h"
+#include "settings/registry.h"
+#include "settings/storage.h"
+#include "widgets.h"
+
+namespace starfolds {
+namespace {
+
+/// A value of every setting of the dialog that is not its default.
+const std::map<std::string, std::string> kOther = {
+    {"LockMessage", "Späti"}, {"Adv_TimeDelay", "999"}, {"FocalLength", "2.5"},
+    {"Adv_FontSize", "80"},   {"Adv_FontHueV", "0"},    {"Adv_Randomize", "1"},
+    {"Adv_RandomMag", "100"}, {"Adv_RandomExp", "1"},   {"Adv_WinResize", "1"},
+    {"Adv_MouseMove", "1"},   {"Adv_DispBackG", "1"},
+};
+
+class FrmAdvancedTest : public testing::Test {
+ protected:
+  FrmAdvanced& Open() {
+    Dialog = std::make_unique<FrmAdvanced>(Tree, HelpBook);
+    Dialog->Open();
+    return *Dialog;
+  }
+  template <class Widget>
+  Widget& The(const char* name) {
+    return Part<Widget>(*Dialog, name);
+  }
+  void Click(const char* name) { The<QPushButton>(name).click(); }
+  QLineEdit& Edit(const char* name) { return The<QLineEdit>(name); }
+
+  std::string Stored(std::string_view name) {
+    return RegistryReadText(Tree, sections::kAdvanced, name, "(none)");
+  }
+  void Store(const std::map<std::string, std::string>& values) {
+    for (const auto& [name, text] : values) RegistryWrite(Tree, sections::kAdvanced, name, text);
+  }
+
+  MemoryTree Tree;
+  MemoryHelp HelpBook;
+  std::unique_ptr<FrmAdvanced> Dialog;
+};
+
+TEST_F(FrmAdvancedTest, WhatIsStoredIsShownAndStoredAgain) {
+  Store(kOther);
+  Open();
+  EXPECT_EQ(Edit("txtMessage").text(), "Späti");
+  EXPECT_EQ(Edit("txtAdv_0").text(), "999");
+  EXPECT_EQ(Edit("txtAdv_1").text(), "2.5");
+  EXPECT_EQ(Edit("txtAdv_2").text(), "80");
+  EXPECT_EQ(Edit("txtAdv_3").text(), "0");
+  EXPECT_EQ(Edit("txtAdv_9").text(), "100");
+  EXPECT_EQ(Edit("txtAdv_10").text(), "1");
+  for (const char* check : {"chkRandom", "chkResize", "chkMouseM", "chkBackGr"}) {
+    EXPECT_TRUE(The<QCheckBox>(check).isChecked()) << check;
+  }
+  auto& fonts = The<QComboBox>("cboFont");
+  fonts.setCurrentIndex(fonts.count() - 1);
+  const std::string font = fonts.currentText().toStdString();
+  Tree = MemoryTree();
+  Click("cmdOK");
+  for (const auto& [name, text] : kOther) EXPECT_EQ(Stored(name), text) << name;
+  EXPECT_EQ(Stored("Adv_FontName"), font);
+  EXPECT_NE(RegistryReadText(Tree, sections::kAdvancedPlace, "WindowSize"), "");
+}
+
+TEST_F(FrmAdvancedTest, DefaultsStandWhereNothingIsStoredAndChangeOnlyTheControls) {
+  Open();
+  Click("cmdOK");
+  for (const auto& [name, other] : kOther) {
+    EXPECT_EQ(Stored(name), DefaultText(*FindField(AdvancedFields(), name))) << name;
+  }
+  const MemoryTree fresh = Tree;
+  Store(kOther);
+  const MemoryTree before = Tree;
+  Open();
+  Click("cmdDefaults");
+  EXPECT_EQ(Edit("txtMessage").text(), "Späti");
+  EXPECT_EQ(Edit("txtAdv_1").text(), "1.0");
+  EXPECT_TRUE(Tree == before);
+  Click("cmdDismiss");
+  EXPECT_TRUE(Tree == before) << "the dialog stands where it stood";
+  Open();
+  Click("cmdDefaults");
+  Edit("txtMessage").clear();
+  Click("cmdOK");
+  EXPECT_TRUE(Tree == fresh);
+}
+
+TEST_F(FrmAdvancedTest, AFontThatTheSystemLacksIsTheFirstOne) {
+  Store({{"Adv_FontName", "No Such Font"}});
+  Open();
+  EXPECT_EQ(The<QComboBox>("cboFont").currentIndex(), 0);
+  Store({{"Adv_FontName", "arial"}});
+  Open();
+  EXPECT_EQ(The<QComboBox>("cboFont").currentIndex(), 0) << "names are exact";
+}
+
+TEST_F(FrmAdvancedTest, NumbersAreHeldToTheirRanges) {
+  struct Case {
+    const char *Box, *Typed, *Held;
+  };
+  for (const auto& [box, typed, held] :
+       {Case{"txtAdv_1", "20", "10"}, Case{"txtAdv_1", "", "0.01"}, Case{"txtAdv_0", "", "0"},
+        Case{"txtAdv_2", "9", "10"}, Case{"txtAdv_3", "360", "359"}, Case{"txtAdv_9", "0", "1"},
+        Case{"txtAdv_10", "101", "100"}}) {
+    Open();
+    Edit(box).setText(typed);
+    Leave(*Edit(box).parentWidget());
+    EXPECT_STREQ(qPrintable(Edit(box).text()), held) << box;
+    Edit(box).setFocus();
+    Edit(box).setText(typed);
+    Click("cmdOK");  // by the key that leaves no box
+    EXPECT_FALSE(Dialog->isVisible());
+    Open();
+    EXPECT_STREQ(qPrintable(Edit(box).text()), held) << box;
+  }
+}
+
+TEST_F(FrmAdvancedTest, AMessageIsCutToWhatCanBeReadAgain) {
+  Open();
+  Edit("txtMessage").setText("  " + QString(200, QChar(0x20AC)));  // three bytes each
+  Click("cmdOK");
+  const std::string stored = Stored("LockMessage");
+  EXPECT_EQ(stored.size(), 123U);
+  EXPECT_TRUE(IsUtf8(stored));
+  EXPECT_EQ(LoadAdvancedFromRegistry(Tree).LockMessage, stored);
+}
+
+TEST_F(FrmAdvancedTest, StoresAllOrNothing) {
+  Store(kOther);
+  Open();
+  Click("cmdDefaults");
+  const MemoryTree before = Tree;
+  Tree.WritesUntilFull = 5;
+  Click("cmdOK");
+  EXPECT_TRUE(Tree == before);
+}
+
+TEST_F(FrmAdvancedTest, SamplesFollowTheControls) {
+  Open();
+  const auto pixel = [&](const char* name, int x, int y) {
+    return The<QLabel>(name).pixmap(Qt::ReturnByValue).toImage().pixel(x, y);
+  };
+  const auto inked = [&] {
+    const QImage sample = The<QLabel>("picMessage").pixmap(Qt::ReturnByValue).toImage();
+    int count = 0;
+    for (int y = 0; y < sample.height(); ++y) {
+      for (int x = 0; x < sample.width(); ++x) count += sample.pixel(x, y) != qRgb(0, 0, 0);
+    }
+    return count;
+  };
+  EXPECT_EQ(inked(), 0);
+  Edit("txtMessage").setText("HHHH");
+  const int small = inked();
+  EXPECT_GT(small, 0);
+  Edit("txtAdv_2").setText("40");
+  EXPECT_GT(inked(), small);
+  const QRgb cyan = pixel("picHueStart", 1, 1);
+  Edit("txtAdv_3").setText("0");
+  EXPECT_GT(qBlue(cyan), qRed(cyan));
+  EXPECT_GT(qRed(pixel("picHueStart", 1, 1)), qBlue(pixel("picHueStart", 1, 1)));
+}
+
+TEST_F(FrmAdvancedTest, OpensWhereItStood) {
+  Open();
+  const QPoint place = Dialog->pos() + QPoint(40, 30);
+  Dialog->move(place);
+  Click("cmdDismiss");
+  Open();
+  EXPECT_EQ(Dialog->pos(), place);
+}
+
+TEST_F(FrmAdvancedTest, HelpIsOneKeyAway) {
+  Open();
+  Click("cmdHelp");
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kAdvanced});
+}
+
+}  // namespace
+}  // namespace starfolds
