@@ -16,14 +16,7 @@ PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
 
 void PlacedDialog::Open() {
   adjustSize();
-  winId();  // a window that can be placed before it is shown
-  PlacedQtWindow placed(*windowHandle());
-  RestoreWindowPlacement(placed, place_.Tree, place_.Section);
-  if (placed.State() == WindowState::Maximised) {
-    showMaximized();
-  } else {
-    show();
-  }
+  ShowWherePlaced(*this, place_.Tree, place_.Section);
 }
 
 bool PlacedDialog::RunModal() {
