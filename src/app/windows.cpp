@@ -29,7 +29,8 @@ constexpr int kExitWrongUse = 2;
 AppWindows::AppWindows(Saver& saver, const StartOptions& options)
     : saver_(saver),
       options_(options),
-      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }) {}
+      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }),
+      help_(*saver.Tree, *saver.Desktop, helpBoxes_) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -58,10 +59,9 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   QtMessageBoxes boxes;
   DiskFiles disk;
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
-  MemoryHelp help;
-  FrmProps frmProps({saver_, boxes, disk, help,
-                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_,
-                     owner});
+  FrmProps frmProps({saver_, boxes, disk, help_,
+                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
+                     STARFOLDS_HOME_PAGE});
   boxes.SetParent(&frmProps);
   frmProps.ShowModal();
 }

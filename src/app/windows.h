@@ -5,8 +5,10 @@
 #include <string>
 
 #include "app/options.h"
+#include "editors/qt_message_boxes.h"
 #include "hosting/main.h"
 #include "hosting/run_loop.h"
+#include "info/help_window.h"
 
 namespace starfolds {
 
@@ -36,6 +38,8 @@ class AppWindows : public StartActions {
   Saver& saver_;
   StartOptions options_;
   SeedSource seed_;
+  QtMessageBoxes helpBoxes_;
+  HelpWindow help_;
   int exitCode_ = 0;
 };
 

@@ -31,6 +31,7 @@ struct PropsSurroundings {
   std::string UserFolder;
   std::function<std::uint64_t()> Seed;  // of each preview
   QWindow* Owner = nullptr;             // waits behind the dialog
+  std::string HomePage = {};            // address of the product's; empty where it has none
 };
 
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree
@@ -70,6 +71,8 @@ class FrmProps : public QMainWindow, private PropertiesDialog {
   bool ShowWelcomeDialog() override;
 
   void MakeMenus();
+  Integer TopicHere() const;
+  void ShowHomePage();
   QAction* AddComing(QMenu& menu, const QString& text, const char* name);
   void MakeCentre();
   QWidget* MakePreviewPane();
