@@ -120,5 +120,5 @@ dialog() {
 }
 QT_SCALE_FACTOR=2 "$dialogs" shown light 2>/dev/null
 dialog dialog-universe light-universe-0 -resize 1100x
-dialog dialog-types light-universe-0 -crop 784x1370+0+30 -resize 640x
+dialog dialog-types light-universe-0 -crop 784x720+0+480 -resize 640x
 dialog dialog-starfold light-style-0 -crop 1560x1060+0+40 -resize 1100x

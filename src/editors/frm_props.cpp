@@ -95,7 +95,9 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
   LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
   MakeMenus();
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+  auto* helpHere = new QShortcut(QKeySequence::HelpContents, this);
+  helpHere->setObjectName("helpHere");
+  connect(helpHere, &QShortcut::activated, this,
           [this] { around_.HelpBook.ShowTopic(TopicHere()); });
   universe_->RebuildProfileList();
   universe_->Composites().Rebuild();
