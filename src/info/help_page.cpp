@@ -1,6 +1,7 @@
 #include "info/help_page.h"
 
 #include <QImageReader>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -55,7 +56,6 @@ std::vector<Stretch> LinksOf(const QTextBlock& block) {
 HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   setAccessibleName(tr("Text of the help"));
-  document()->setDocumentMargin(kMargin);
   setLineWrapMode(QTextEdit::FixedPixelWidth);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pages of all lengths have the same width
   changed_.setSingleShot(true);
@@ -74,12 +74,18 @@ void HelpPage::ShowMarkdown(const QString& markdown, const QStringList& words) {
   ensureCursorVisible();
 }
 
+/// The page is made away from the view, which would lay it out after each change.
 void HelpPage::LayOut() {
   FitLines();  // pictures are made for its width
-  setMarkdown(markdown_);
-  StyleBlocks();
-  StyleTables();
-  moveCursor(QTextCursor::Start);
+  const QPointer<QTextDocument> former(document());
+  auto* const page = new QTextDocument(this);  // asks its parent for pictures
+  page->setDefaultFont(font());
+  page->setDocumentMargin(kMargin);
+  page->setMarkdown(markdown_);
+  StyleBlocks(*page);
+  StyleTables(*page);
+  setDocument(page);
+  delete former;  // the view deletes only the one that it began with
 }
 
 /// The same page with other colours or lines of another length; what is read stays in view.
@@ -98,25 +104,27 @@ void HelpPage::FitLines() {
 }
 
 /// Headings stand nearer to what follows them, and links can be read on any paper.
-void HelpPage::StyleBlocks() {
+void HelpPage::StyleBlocks(QTextDocument& page) const {
   const int letter = QFontInfo(font()).pixelSize();
+  QTextBlockFormat airy;
+  airy.setLineHeight(120, QTextBlockFormat::ProportionalHeight);
+  QTextCursor cursor(&page);
+  cursor.select(QTextCursor::Document);
+  cursor.mergeBlockFormat(airy);
   QTextCharFormat linkFormat;
   linkFormat.setForeground(LinkColour(palette()));
-  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-    QTextCursor cursor(block);
-    const int heading = block.blockFormat().headingLevel();
+  for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+    cursor = QTextCursor(block);
     QTextBlockFormat format;
-    // A picture stands on its line as a letter does, and would get a fifth more of its height.
-    const bool picture = block.text().contains(QChar::ObjectReplacementCharacter);
-    format.setLineHeight(picture ? 100 : 120, QTextBlockFormat::ProportionalHeight);
-    if (heading > 0) {
+    if (block.blockFormat().headingLevel() > 0) {
       format.setTopMargin(block.blockNumber() == 0 ? 0 : letter * 1.4);
       format.setBottomMargin(letter * 0.4);
-    } else if (cursor.currentTable() != nullptr) {
-      format.setTopMargin(0);
-      format.setBottomMargin(0);
+      cursor.mergeBlockFormat(format);
+    } else if (block.text().contains(QChar::ObjectReplacementCharacter)) {
+      // A picture stands on its line as a letter does, and would get a fifth more of its height.
+      format.setLineHeight(100, QTextBlockFormat::ProportionalHeight);
+      cursor.mergeBlockFormat(format);
     }
-    cursor.mergeBlockFormat(format);
     for (const auto& [begin, length] : LinksOf(block)) {
       cursor.setPosition(begin);
       cursor.setPosition(begin + length, QTextCursor::KeepAnchor);
@@ -125,10 +133,10 @@ void HelpPage::StyleBlocks() {
   }
 }
 
-void HelpPage::StyleTables() {
+void HelpPage::StyleTables(QTextDocument& page) const {
   const QColor paper = palette().color(QPalette::Base);
   const QColor ink = palette().color(QPalette::Text);
-  for (QTextFrame* frame : document()->rootFrame()->childFrames()) {
+  for (QTextFrame* frame : page.rootFrame()->childFrames()) {
     auto* const table = qobject_cast<QTextTable*>(frame);
     if (table == nullptr) continue;
     QTextTableFormat format = table->format();
@@ -141,6 +149,12 @@ void HelpPage::StyleTables() {
     format.setBottomMargin(QFontInfo(font()).pixelSize() * 0.7);
     format.setHeaderRowCount(1);
     table->setFormat(format);
+    QTextCursor cells = table->firstCursorPosition();
+    cells.setPosition(table->lastPosition(), QTextCursor::KeepAnchor);
+    QTextBlockFormat close;
+    close.setTopMargin(0);
+    close.setBottomMargin(0);
+    cells.mergeBlockFormat(close);
     for (int column = 0; column < table->columns(); ++column) {
       QTextTableCell cell = table->cellAt(0, column);
       QTextCharFormat header = cell.format();
@@ -185,7 +199,7 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   QImage picture = QImageReader(kHelpFolder + name.path()).read();
   if (picture.isNull()) return {};
   const double room = lineWrapColumnOrWidth() - 2 * kMargin;
-  const double width = std::min(picture.width() / picture.devicePixelRatio(), room);
+  const double width = std::floor(std::min(picture.width() / picture.devicePixelRatio(), room));
   const double ratio = std::min(devicePixelRatioF(), picture.width() / width);
   picture.setDevicePixelRatio(1);  // with another one, Qt 6.4 faults where it scales a palette
   picture =

@@ -31,8 +31,8 @@ class HelpPage : public QTextBrowser {
   void FitLines();
   void LayOut();
   void LayOutAnew();
-  void StyleBlocks();
-  void StyleTables();
+  void StyleBlocks(QTextDocument& page) const;
+  void StyleTables(QTextDocument& page) const;
 
   QString markdown_;
   QStringList marked_;

@@ -121,7 +121,7 @@ TEST_F(HelpWindowTest, LinesStayShortAndPicturesAndTablesFit) {
   Shown()->resize(1600, 700);
   HelpPage& page = The<HelpPage>("txtTopic");
   const int letter = QFontInfo(page.font()).pixelSize();
-  for (int wide : {1600, 700}) {
+  for (const int wide : {1600, 980}) {
     Shown()->resize(wide, 700);
     QApplication::processEvents();
     EXPECT_LE(page.lineWrapColumnOrWidth(), 42 * letter + 1);
