@@ -84,6 +84,7 @@ void HelpPage::LayOut() {
   page->setMarkdown(markdown_);
   StyleBlocks(*page);
   StyleTables(*page);
+  setExtraSelections({});  // of the former page
   setDocument(page);
   delete former;  // the view deletes only the one that it began with
 }

@@ -19,7 +19,7 @@ wait_for_window() {
 expect_title() {
   local tries
   for tries in $(seq 1 50); do
-    [ "$(xdotool getwindowname "$1")" = "$2" ] && return
+    [ "$(xdotool getwindowname "$1" 2>/dev/null)" = "$2" ] && return
     sleep 0.1
   done
   fault "$3: the help shows '$(xdotool getwindowname "$1")'"

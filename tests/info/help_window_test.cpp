@@ -84,6 +84,10 @@ TEST_F(HelpWindowTest, SearchLeadsToAMarkedPlace) {
   EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
   EXPECT_FALSE(The<HelpPage>("txtTopic").extraSelections().isEmpty());
 
+  Follow("glossary.md");
+  EXPECT_TRUE(The<HelpPage>("txtTopic").extraSelections().isEmpty());
+  Search("water molecule");
+
   Search("xyzzy");
   EXPECT_EQ(The<QListWidget>("lstFound").count(), 1) << "that nothing was found";
   EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
