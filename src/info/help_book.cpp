@@ -65,9 +65,10 @@ QString WithoutMarkup(QString markdown) {
   static const QRegularExpression picture(R"(!\[[^\]\n]*\]\([^)\n]*\))");
   static const QRegularExpression link(R"(\[([^\]\n]*)\]\([^)\n]*\))");
   static const QRegularExpression rule(R"(^[|:\- ]+$)", QRegularExpression::MultilineOption);
-  static const QRegularExpression marks(R"([*`|\\]|^#+ |^    )",
-                                        QRegularExpression::MultilineOption);
-  markdown.remove(picture).replace(link, R"(\1)").remove(rule).replace(marks, " ");
+  static const QRegularExpression columns(R"(\||^#+ |^ *[-*] )",
+                                          QRegularExpression::MultilineOption);
+  static const QRegularExpression marks(R"([*`\\])");
+  markdown.remove(picture).replace(link, R"(\1)").remove(rule).replace(columns, " ").remove(marks);
   return markdown.simplified();
 }
 

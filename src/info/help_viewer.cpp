@@ -17,6 +17,7 @@ namespace {
 constexpr QSize kFirstSize{980, 660};
 constexpr int kListWidth = 310;
 constexpr int kTextWidth = kFirstSize.width() - kListWidth;
+constexpr int kLeastTextWidth = 280;
 constexpr int kHomePage = 0;
 
 }  // namespace
@@ -27,6 +28,7 @@ HelpViewer::HelpViewer(KeyValueTree& tree, WebPageOpener openWebPage)
   resize(kFirstSize.boundedTo(screen()->availableSize()));
   page_ = new HelpPage;
   page_->setObjectName("txtTopic");
+  page_->setMinimumWidth(kLeastTextWidth);
   connect(page_, &QTextBrowser::anchorClicked, this, &HelpViewer::FollowLink);
   search_ = new HelpSearch(book_);
   connect(search_, &HelpSearch::TopicChosen, this,

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
@@ -122,7 +123,7 @@ struct Description {
 
 std::multimap<std::string, Description> Descriptions(const HelpBook& book) {
   static const QRegularExpression pattern(
-      R"(`(\w+)`[ :|]+([\d.]+) to ([\d.]+)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
+      R"(`(\w+)`\)?[ :|]+([\d.]+) to ([\d.]+)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
   std::multimap<std::string, Description> found;
   for (int topic = 0; topic < book.Count(); ++topic) {
     auto places = pattern.globalMatch(book.Markdown(topic));
@@ -191,6 +192,25 @@ TEST_F(HelpOfSettingsTest, TellsTheRangeOfEveryBoxOfTheProperties) {
     for (const StarfoldRow& row : rows) {
       if (FieldOf(row, 0).Rule != RangeRule::Fixed) continue;  // the style decides
       EXPECT_TRUE(Described.contains(std::string(row.Name))) << row.Name;
+    }
+  }
+}
+
+TEST_F(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
+  const int first = *Book.TopicOfFile("style-standard.md");
+  for (int style = 0; style < kStyleCount; ++style) {
+    const std::string name(StyleNames()[style]);
+    EXPECT_EQ(Book.Title(first + style), QString::fromStdString(name).simplified());
+    for (const Field<StarfoldProfile>& field : ProfileFields()) {
+      if (field.Rule == RangeRule::None || field.Rule == RangeRule::Fixed) continue;
+      const Limits limits = StyleLimits(field.Rule, static_cast<Integer>(style));
+      const auto [begin, end] = Described.equal_range(std::string(field.Name));
+      const auto said = std::find_if(begin, end, [&](const auto& place) {
+        return place.second.File == FileOf(first + style);
+      });
+      ASSERT_NE(said, end) << field.Name << " in " << FileOf(first + style);
+      EXPECT_EQ(said->second.Low, limits.Low) << field.Name << " in " << FileOf(first + style);
+      EXPECT_EQ(said->second.High, limits.High) << field.Name << " in " << FileOf(first + style);
     }
   }
 }
