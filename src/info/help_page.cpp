@@ -71,7 +71,7 @@ void HelpPage::ShowMarkdown(const QString& markdown, const QStringList& words) {
   verticalScrollBar()->setValue(0);
   if (first.isNull()) return;
   setTextCursor(first);
-  ensureCursorVisible();
+  ScrollTo(first, viewport()->height() / 4);  // with what stands in front of it
 }
 
 /// The page is made away from the view, which would lay it out after each change.
@@ -96,7 +96,13 @@ void HelpPage::LayOutAnew() {
   MarkWords();
   QTextCursor cursor(document());
   cursor.setPosition(std::min(reading, document()->characterCount() - 1));
-  verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top() - kMargin);
+  ScrollTo(cursor, kMargin);
+}
+
+/// Brings a place so far below the top of the view.
+void HelpPage::ScrollTo(const QTextCursor& place, int below) {
+  QScrollBar& bar = *verticalScrollBar();
+  bar.setValue(bar.value() + cursorRect(place).top() - below);
 }
 
 void HelpPage::FitLines() {

@@ -31,6 +31,7 @@ class HelpPage : public QTextBrowser {
   void FitLines();
   void LayOut();
   void LayOutAnew();
+  void ScrollTo(const QTextCursor& place, int below);
   void StyleBlocks(QTextDocument& page) const;
   void StyleTables(QTextDocument& page) const;
 
