@@ -33,7 +33,8 @@ constexpr int kExitWrongUse = 2;
 AppWindows::AppWindows(Saver& saver, const StartOptions& options)
     : saver_(saver),
       options_(options),
-      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }) {}
+      seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }),
+      help_(*saver.Tree, *saver.Desktop, boxes_) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -59,22 +60,20 @@ void AppWindows::ShowFrmAppExe() {
 
 /// The safety copy of the settings goes beside the program, or beside the user's own settings.
 void AppWindows::RunFrmProps(QWindow* owner) {
-  QtMessageBoxes boxes;
   DiskFiles disk;
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
-  MemoryHelp help;
   const auto showDiagnostics = [&](QWidget& over) {
     FrmSystemDiag(
-        {*saver_.Tree, *saver_.Desktop, boxes, help, {STARFOLDS_VERSION, OwnTreeFiles().User}},
+        {*saver_.Tree, *saver_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}},
         &over)
         .RunModal();
   };
   const auto showAbout = [&](QWidget& over) {
-    FrmAbout({saver_, help, STARFOLDS_VERSION, seed_}, &over).exec();
+    FrmAbout({saver_, help_, STARFOLDS_VERSION, seed_}, &over).exec();
   };
-  FrmProps frmProps({saver_, boxes, disk, help,
+  FrmProps frmProps({saver_, boxes_, disk, help_,
                      QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
-                     showDiagnostics, showAbout});
+                     STARFOLDS_HOME_PAGE, showDiagnostics, showAbout});
   frmProps.ShowModal();
 }
 
@@ -113,8 +112,8 @@ bool AppWindows::BeginWithTemplate(const std::string& path, KeyValueTree& tree) 
   const auto fault = StoreTemplate(file, path, tree);
   if (!fault) return true;
   Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
-  QtMessageBoxes().Show(TemplateFaultText(true, path, *fault), BoxStyle::Exclamation,
-                        std::string(kProductName));
+  boxes_.Show(TemplateFaultText(true, path, *fault), BoxStyle::Exclamation,
+              std::string(kProductName));
   return false;
 }
 

@@ -5,8 +5,10 @@
 #include <string>
 
 #include "app/options.h"
+#include "editors/qt_message_boxes.h"
 #include "hosting/main.h"
 #include "hosting/run_loop.h"
+#include "info/help_window.h"
 
 namespace starfolds {
 
@@ -40,6 +42,8 @@ class AppWindows : public StartActions {
   Saver& saver_;
   StartOptions options_;
   SeedSource seed_;
+  QtMessageBoxes boxes_;
+  HelpWindow help_;
   int exitCode_ = 0;
 };
 

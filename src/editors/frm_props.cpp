@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "editors/frm_advanced.h"
@@ -15,6 +16,7 @@
 #include "editors/samples.h"
 #include "hosting/captions.h"
 #include "hosting/placed_qt_window.h"
+#include "hosting/web_page.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
 
@@ -69,6 +71,10 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
   LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
   MakeMenus();
+  auto* helpHere = new QShortcut(QKeySequence::HelpContents, this);
+  helpHere->setObjectName("helpHere");
+  connect(helpHere, &QShortcut::activated, this,
+          [this] { around_.HelpBook.ShowTopic(TopicHere()); });
   universe_->RebuildProfileList();
   universe_->Composites().Rebuild();
 }
@@ -87,16 +93,9 @@ void FrmProps::ShowModal() {
 void FrmProps::Open() {
   open_ = true;
   resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
-  winId();  // a window that can be placed before it is shown
+  winId();  // a window that can have an owner before it is shown
   windowHandle()->setTransientParent(around_.Owner);
-  PlacedQtWindow placed(*windowHandle());
-  RestoreWindowPlacement(placed, *editing_->Tree, sections::kMain);
-  move(windowHandle()->framePosition());  // the toolkit would place it anew, or forget the frame
-  if (placed.State() == WindowState::Maximised) {
-    showMaximized();
-  } else {
-    show();
-  }
+  ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
   OpenProperties(settings_, *this);
 }
 
@@ -106,6 +105,7 @@ void FrmProps::closeEvent(QCloseEvent* event) {
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
   around_.Process.NewRun = true;
   open_ = false;
+  around_.HelpBook.Quit();
   event->accept();
 }
 
@@ -156,9 +156,10 @@ void FrmProps::MarkResetMenu(int menuIndex, bool marked) {
 ProgressPicture* FrmProps::Preview() { return picPreview_; }
 
 bool FrmProps::ShowWelcomeDialog() {
-  return RunWelcome(this, MakeWelcomePage(*editing_->Tree), [this](ProgressPicture* picture) {
-    SaveSafetyCopy(settings_, *this, picture);
-  });
+  return RunWelcome(
+      this, MakeWelcomePage(*editing_->Tree),
+      [this](ProgressPicture* picture) { SaveSafetyCopy(settings_, *this, picture); },
+      around_.HelpBook);
 }
 
 /// A page that is open shows the loaded profile before it is put away, so that it stores the same.
@@ -200,24 +201,34 @@ void FrmProps::MakeMenus() {
       ->setObjectName("mnuAdvanced");
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  AddComing(*help, tr("&Contents..."), "mnuContents")->setShortcut(QKeySequence::HelpContents);
-  AddComing(*help, tr("&Search..."), "mnuSearch");
-  help->addAction(tr("&Diagnostics..."), this, [this] { around_.ShowDiagnostics(*this); })
-      ->setObjectName("mnuDiagnostics");
+  const auto addHelp = [&](const QString& text, const char* name,
+                           const std::function<void()>& act) {
+    help->addAction(text, this, act)->setObjectName(name);
+  };
+  addHelp(tr("&Contents..."), "mnuContents", [this] { around_.HelpBook.ShowContents(); });
+  addHelp(tr("&Search..."), "mnuSearch", [this] { around_.HelpBook.ShowSearch(); });
+  addHelp(tr("&Diagnostics..."), "mnuDiagnostics", [this] { around_.ShowDiagnostics(*this); });
   help->addSeparator();
-  AddComing(*help, tr("Starfolds &Home Page"), "mnuHomePage");
-  help->addAction(tr("A&bout Starfolds..."), this, [this] { around_.ShowAbout(*this); })
-      ->setObjectName("mnuAbout");
+  addHelp(tr("Starfolds &Home Page"), "mnuHomePage", [this] { ShowHomePage(); });
+  addHelp(tr("A&bout Starfolds..."), "mnuAbout", [this] { around_.ShowAbout(*this); });
 }
 
-/// An entry whose window is not part of this version.
-QAction* FrmProps::AddComing(QMenu& menu, const QString& text, const char* name) {
-  QAction* entry = menu.addAction(text);
-  entry->setObjectName(name);
-  entry->setEnabled(false);
-  entry->setToolTip(tr("Not part of this version yet"));
-  menu.setToolTipsVisible(true);
-  return entry;
+/// The topic of what has the focus, or else of the page that is shown.
+Integer FrmProps::TopicHere() const {
+  const auto isIn = [this](const char* name) {
+    const auto* const part = findChild<QWidget*>(name);
+    return part->isAncestorOf(focusWidget());
+  };
+  if (inStarfoldView_) return static_cast<Integer>(help::kStarfoldPage + starfold_->ShownPage());
+  if (isIn("fraPropCopy")) return help::kPropertyCopy;
+  if (isIn("fraStarfoldTypes")) return help::kUniverseView;
+  return static_cast<Integer>(help::kUniversePage + universe_->ShownPage());
+}
+
+/// A program that was built without an address tells of its home in the help.
+void FrmProps::ShowHomePage() {
+  if (around_.HomePage.empty()) return around_.HelpBook.ShowTopic(help::kProject);
+  OpenWebPage(*around_.Process.Desktop, around_.Boxes, around_.HomePage);
 }
 
 void FrmProps::MakeCentre() {

@@ -34,6 +34,7 @@ struct PropsSurroundings {
   std::string UserFolder;
   std::function<std::uint64_t()> Seed;  // of each preview
   QWindow* Owner = nullptr;             // waits behind the dialog
+  std::string HomePage = {};            // address of the product's; empty where it has none
   /// Windows of other floors, which open over the dialog and return when they are closed.
   std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
   std::function<void(QWidget& over)> ShowAbout = nullptr;
@@ -83,7 +84,8 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
 
   TemplateHost MakeTemplateHost();
   void MakeMenus();
-  QAction* AddComing(QMenu& menu, const QString& text, const char* name);
+  Integer TopicHere() const;
+  void ShowHomePage();
   void MakeCentre();
   QWidget* MakePreviewPane();
 

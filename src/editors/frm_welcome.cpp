@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <iterator>
 #include <memory>
@@ -65,9 +66,13 @@ QImage Banner(qreal ratio) {
 
 }  // namespace
 
-FrmWelcome::FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, QWidget* parent)
+FrmWelcome::FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, Help& helpBook,
+                       QWidget* parent)
     : QDialog(parent), saveCopy_(std::move(saveCopy)) {
   setObjectName("frmWelcome");
+  setWindowModality(Qt::WindowModal);  // the help can be read beside it
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [&helpBook] { helpBook.ShowTopic(help::kGettingStarted); });
   setWindowTitle(Shown(kProductName));
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
@@ -153,8 +158,9 @@ void FrmWelcome::reject() {
   if (!saving_) QDialog::reject();
 }
 
-bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy) {
-  FrmWelcome dialog(page, saveCopy, parent);
+bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy,
+                Help& helpBook) {
+  FrmWelcome dialog(page, saveCopy, helpBook, parent);
   dialog.exec();
   return dialog.ResetRequested();
 }

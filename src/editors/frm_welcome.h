@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "hosting/picture_box.h"
+#include "platform/help.h"
 #include "settings/property_flows.h"
 
 class QPushButton;
@@ -19,7 +20,8 @@ class FrmWelcome : public QDialog {
   Q_OBJECT
 
  public:
-  FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, QWidget* parent = nullptr);
+  FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, Help& helpBook,
+             QWidget* parent = nullptr);
 
   /// Whether the user wants the factory's settings. The safety copy has been written then.
   bool ResetRequested() const { return resetRequested_; }
@@ -42,6 +44,7 @@ class FrmWelcome : public QDialog {
 };
 
 /// Shows the dialog over `parent` until it is dismissed. True: a reset was asked for.
-bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy);
+bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy,
+                Help& helpBook);
 
 }  // namespace starfolds

@@ -51,8 +51,9 @@ BoxAnswer AnswerOf(int button, BoxStyle style) {
 
 BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
                                const std::string& caption) {
-  QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton,
-                  QApplication::activeModalWidget());
+  QWidget* asking = QApplication::activeWindow();
+  if (!asking) asking = QApplication::activeModalWidget();
+  QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton, asking);
   box.setTextFormat(Qt::PlainText);  // a name or a path may hold anything
   box.setText(Shown(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -5,8 +5,8 @@
 
 namespace starfolds {
 
-/// Boxes over the dialog that is open, the last one of several, which they block; their text can be
-/// selected and copied. Esc answers as closing the box does.
+/// Boxes over the window that the user works in, or else over the dialog that was opened last; they
+/// block both. Their text can be selected and copied. Esc answers as closing the box does.
 class QtMessageBoxes : public MessageBoxes {
  public:
   BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) override;

@@ -39,6 +39,9 @@ class StarfoldView : public QWidget {
   /// What would be stored.
   StarfoldProfile Page() const;
 
+  /// Position of `cboFoldExtras`.
+  int ShownPage() const { return cboFoldExtras_->currentIndex(); }
+
   /// Shows, hides and names the rows as the style asks for.
   void ApplyStyle(int style);
   /// Applies a row of the factory's to the page: all but name and weight.

@@ -50,6 +50,7 @@ class UniverseView : public QWidget {
   /// Positions of `cboUniTheme` and `cboUniExtras`.
   void SelectTheme(int position) { cboUniTheme_->setCurrentIndex(position); }
   void SelectPage(int position) { cboUniExtras_->setCurrentIndex(position); }
+  int ShownPage() const { return cboUniExtras_->currentIndex(); }
   /// `ApplyThemeRowToPage`.
   void ApplyThemeRowToPage(std::string_view row);
 

@@ -14,20 +14,13 @@ PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
           &PlacedDialog::ShowHelp);
 }
 
-void PlacedDialog::Open() {
+void PlacedDialog::ShowInPlace() {
   adjustSize();
-  winId();  // a window that can be placed before it is shown
-  PlacedQtWindow placed(*windowHandle());
-  RestoreWindowPlacement(placed, place_.Tree, place_.Section);
-  if (placed.State() == WindowState::Maximised) return showMaximized();
-  // A dialog that does not know of its place takes one of its own when it is shown.
-  move(windowHandle()->framePosition());
-  resize(windowHandle()->size());
-  show();
+  ShowWherePlaced(*this, place_.Tree, place_.Section);
 }
 
 bool PlacedDialog::RunModal() {
-  Open();
+  ShowInPlace();
   return exec() == Accepted;
 }
 

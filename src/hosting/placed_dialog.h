@@ -27,7 +27,7 @@ class PlacedDialog : public QDialog {
   explicit PlacedDialog(const DialogPlace& place, QWidget* parent = nullptr);
 
   /// Shows the dialog where it stood; for who runs the events otherwise.
-  void Open();
+  void ShowInPlace();
   /// The same, and returns when it is closed. True: with "OK".
   bool RunModal();
 

@@ -54,4 +54,20 @@ void PlacedQtWindow::CentreOnScreen() {
   window_.setFramePosition(place.topLeft());
 }
 
+void ShowWherePlaced(QWidget& window, KeyValueTree& tree, std::string_view section) {
+  window.winId();  // a window that can be placed before it is shown
+  QWindow& handle = *window.windowHandle();
+  PlacedQtWindow placed(handle);
+  RestoreWindowPlacement(placed, tree, section);
+  // Showing gives the window the place that the widget believes in.
+  const QPoint place = handle.framePosition();
+  window.resize(handle.size());
+  window.move(place);
+  if (placed.State() == WindowState::Maximised) {
+    window.showMaximized();
+  } else {
+    window.show();
+  }
+}
+
 }  // namespace starfolds

@@ -1,6 +1,7 @@
 // A window of the toolkit, as its stored placement sees it.
 #pragma once
 
+#include <QWidget>
 #include <QWindow>
 
 #include "settings/window_placement.h"
@@ -27,5 +28,8 @@ class PlacedQtWindow : public PlacedWindow {
  private:
   QWindow& window_;
 };
+
+/// Shows a window where it stood when its placement was saved in `section`.
+void ShowWherePlaced(QWidget& window, KeyValueTree& tree, std::string_view section);
 
 }  // namespace starfolds

@@ -59,7 +59,7 @@ class BodyEditorsTest : public EditorTest {
         Dialog = std::make_unique<FrmMolecule>(editing);
         break;
     }
-    Dialog->Open();
+    Dialog->ShowInPlace();
     Activate(*Dialog);
     return *Dialog;
   }

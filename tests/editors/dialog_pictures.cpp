@@ -111,7 +111,7 @@ void TakeAdvanced(KeyValueTree& tree, Help& help, const QString& prefix) {
   RegistryWrite(tree, sections::kAdvanced, "LockMessage", "Back at two. Mind the cat.");
   RegistryWrite(tree, sections::kAdvanced, "Adv_FontName", "DejaVu Serif");
   FrmAdvanced dialog(tree, help);
-  dialog.Open();
+  dialog.ShowInPlace();
   dialog.grab().save(prefix + "advanced.png");
 }
 

@@ -27,7 +27,7 @@ class FrmAdvancedTest : public testing::Test {
  protected:
   FrmAdvanced& Open() {
     Dialog = std::make_unique<FrmAdvanced>(Tree, HelpBook);
-    Dialog->Open();
+    Dialog->ShowInPlace();
     return *Dialog;
   }
   template <class Widget>

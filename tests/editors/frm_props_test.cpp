@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QTimer>
 #include <map>
 #include <random>
@@ -229,6 +230,52 @@ TEST_F(FrmPropsTest, CancelLeavesTheTreeAsItWas) {
   EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
   EXPECT_TRUE(Process->NewRun);
   EXPECT_NE(RegistryReadText(Tree, sections::kMain, "WindowSize"), "");
+}
+
+TEST_F(FrmPropsTest, TheHelpOpensWhereTheUserIs) {
+  StoreFactory();
+  Open();
+  const auto f1 = [&] {
+    emit Part<QShortcut>(*Dialog, "helpHere").activated();
+    return HelpBook.Topics.back();
+  };
+  The<BodyList>("lstUniStarfold").setFocus();
+  EXPECT_EQ(f1(), help::kUniverseView);
+  The<QComboBox>("cboPropCopyList").setFocus();
+  EXPECT_EQ(f1(), help::kPropertyCopy);
+  The<QComboBox>("cboUniExtras").setFocus();
+  for (int page = 0; page < kUniversePageCount; ++page) {
+    The<QComboBox>("cboUniExtras").setCurrentIndex(page);
+    EXPECT_EQ(f1(), help::kUniversePage + page);
+  }
+  OpenType(0);
+  for (int page = 0; page < kStarfoldPageCount; ++page) {
+    The<QComboBox>("cboFoldExtras").setCurrentIndex(page);
+    EXPECT_EQ(f1(), help::kStarfoldPage + page);
+  }
+  Choose("mnuContents");
+  EXPECT_EQ(HelpBook.Contents, 1);
+  Choose("mnuSearch");
+  EXPECT_EQ(HelpBook.Searches, 1);
+  EXPECT_EQ(HelpBook.Quits, 0);
+  Dialog->close();
+  EXPECT_EQ(HelpBook.Quits, 1);
+}
+
+TEST_F(FrmPropsTest, TheHomePageIsATopicUnlessThereIsAnAddress) {
+  StoreFactory();
+  Open();
+  Choose("mnuHomePage");
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kProject});
+  EXPECT_TRUE(Desktop.WebPages.empty());
+
+  HomePage = "https://example.org/starfolds";
+  Desktop.HasBrowser = false;
+  Open();
+  Choose("mnuHomePage");
+  EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{HomePage});
+  EXPECT_EQ(LastBox(), "The Web Page could not be reached.\n\nURL:  " + HomePage);
+  EXPECT_EQ(HelpBook.Topics.size(), 1U);
 }
 
 TEST_F(FrmPropsTest, NamesAndWeightsAreCommitted) {

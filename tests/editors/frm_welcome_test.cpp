@@ -35,14 +35,18 @@ class FrmWelcomeTest : public testing::Test {
 
   bool Run(const WelcomePage& page, const std::function<void(FrmWelcome&)>& act) {
     WhenShown<FrmWelcome>(act);
-    return RunWelcome(nullptr, page, [this](ProgressPicture* picture) {
-      ++Copies;
-      if (OnCopy) OnCopy(*picture);
-    });
+    return RunWelcome(
+        nullptr, page,
+        [this](ProgressPicture* picture) {
+          ++Copies;
+          if (OnCopy) OnCopy(*picture);
+        },
+        HelpBook);
   }
 
   int Copies = 0;
   std::function<void(ProgressPicture&)> OnCopy;
+  MemoryHelp HelpBook;
 
  private:
   MemoryTree tree_;

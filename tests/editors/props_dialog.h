@@ -34,8 +34,9 @@ class FrmPropsTest : public testing::Test {
   }
 
   FrmProps& Open() {
-    Dialog = std::make_unique<FrmProps>(
-        PropsSurroundings{*Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }});
+    Dialog = std::make_unique<FrmProps>(PropsSurroundings{
+        *Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr, HomePage,
+        [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
@@ -72,6 +73,9 @@ class FrmPropsTest : public testing::Test {
   MemoryDesktop Desktop;
   ScriptedMessageBoxes Boxes;
   MemoryHelp HelpBook;
+  std::string HomePage;
+  int Diagnostics = 0;
+  int Abouts = 0;
   DialogPump Events;
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   std::unique_ptr<FrmProps> Dialog;

@@ -17,7 +17,7 @@ class FrmSystemDiagTest : public testing::Test {
     const ProgramFacts facts{"1.2.3", QDir::homePath().toStdString() + "/.config/settings.db"};
     Dialog =
         std::make_unique<FrmSystemDiag>(DiagSurroundings{Tree, Desktop, Boxes, HelpBook, facts});
-    Dialog->Open();
+    Dialog->ShowInPlace();
     return *Dialog;
   }
 

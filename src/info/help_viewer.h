@@ -1,0 +1,71 @@
+// The window of the help.
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "info/help_book.h"
+#include "info/help_page.h"
+#include "info/help_search.h"
+#include "platform/key_value_tree.h"
+
+namespace starfolds {
+
+/// Contents and search on the left, a topic on the right. It belongs to no other window, so that it
+/// can be read beside a dialog that waits for an answer.
+class HelpViewer : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  using WebPageOpener = std::function<void(const std::string& url)>;
+
+  /// Remembers its place in `tree`.
+  HelpViewer(KeyValueTree& tree, WebPageOpener openWebPage);
+
+  void ShowContext(Integer context);
+  void ShowContents();
+  void ShowSearch();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  /// A page that was read, and how far.
+  struct Reading {
+    int Topic;
+    int Scrolled;
+  };
+
+  void MakeTools();
+  QAction* AddTool(QToolBar& tools, const QString& text, const char* name,
+                   const QList<QKeySequence>& keys, const std::function<void()>& act);
+  QWidget* MakeContents();
+  /// Shows the window, or brings it forward.
+  void BringUp();
+  void OpenTopic(int topic, const QStringList& words = {});
+  void ShowPage(int topic, const QStringList& words);
+  void GoTo(int reading);
+  void FollowLink(const QUrl& link);
+
+  KeyValueTree& tree_;
+  WebPageOpener openWebPage_;
+  HelpBook book_;
+  std::vector<Reading> history_;
+  int reading_ = -1;  // position in it
+
+  QTabWidget* tabs_ = nullptr;
+  QTreeWidget* treContents_ = nullptr;
+  std::vector<QTreeWidgetItem*> entries_;  // of the contents, by topic
+  HelpSearch* search_ = nullptr;
+  HelpPage* page_ = nullptr;
+  QAction* back_ = nullptr;
+  QAction* forward_ = nullptr;
+};
+
+}  // namespace starfolds

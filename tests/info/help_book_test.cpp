@@ -1,0 +1,244 @@
+#include "info/help_book.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QRegularExpression>
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "editors/property_tables.h"
+#include "numbers/text.h"
+
+namespace starfolds {
+namespace {
+
+std::string FileOf(int topic) { return std::string(HelpTopics()[topic].File); }
+
+/// Every place of a pattern's first group in the text of a topic.
+std::vector<std::string> AllOf(const HelpBook& book, int topic, const char* pattern) {
+  std::vector<std::string> found;
+  auto places = QRegularExpression(pattern).globalMatch(book.Markdown(topic));
+  while (places.hasNext()) found.push_back(places.next().captured(1).toStdString());
+  return found;
+}
+
+std::set<std::string> FilesIn(const char* folder, const char* pattern) {
+  std::set<std::string> files;
+  const QDir place(QString(STARFOLDS_HELP_FOLDER) + folder);
+  for (const QString& file : place.entryList({pattern}, QDir::Files)) {
+    files.insert(file.toStdString());
+  }
+  return files;
+}
+
+TEST(HelpBookTest, EveryDialogFindsItsOwnTopic) {
+  const std::map<Integer, std::string> topics = {
+      {help::kGettingStarted, "getting-started.md"},
+      {help::kProject, "project.md"},
+      {help::kFileIo, "templates.md"},
+      {help::kSystemDiag, "diagnostics.md"},
+      {help::kUniverseView, "universe-view.md"},
+      {help::kUniversePage, "universe-creation.md"},
+      {help::kUniversePage + 3, "composites.md"},
+      {help::kUniversePage + kUniversePageCount - 1, "universe-gravity.md"},
+      {help::kStarfoldView, "starfold-view.md"},
+      {help::kStarfoldPage, "starfold-shape.md"},
+      {help::kStarfoldPage + kStarfoldPageCount - 1, "starfold-comets.md"},
+      {help::kPropertyCopy, "property-copy.md"},
+      {help::kIfs, "editor-ifs.md"},
+      {help::kMolecule, "editor-molecule.md"},
+      {help::kLevels, "editor-levels.md"},
+      {help::kAdvanced, "advanced.md"},
+      {help::kAbout, "about.md"},
+      {kNoContext, "getting-started.md"},
+      {4711, "getting-started.md"},
+  };
+  const HelpBook book;
+  for (const auto& [context, file] : topics) {
+    EXPECT_EQ(HelpTopics()[book.TopicOf(context)].File, file) << context;
+  }
+}
+
+TEST(HelpBookTest, TheContentsHoldEveryFileOnceAndEachHasSomethingToSay) {
+  const HelpBook book;
+  std::set<std::string> files;
+  int level = -1;
+  for (int topic = 0; topic < book.Count(); ++topic) {
+    EXPECT_TRUE(files.insert(FileOf(topic)).second) << FileOf(topic);
+    EXPECT_EQ(AllOf(book, topic, "(?m)^(# .)").size(), 1U) << FileOf(topic);
+    EXPECT_GT(book.Markdown(topic).size(), 400) << FileOf(topic);
+    EXPECT_LE(HelpTopics()[topic].Level, level + 1) << FileOf(topic) << " hangs in the air";
+    level = HelpTopics()[topic].Level;
+  }
+  EXPECT_EQ(files, FilesIn("", "*.md"));
+}
+
+TEST(HelpBookTest, EveryLinkLeadsSomewhereAndEveryTopicIsLinked) {
+  const HelpBook book;
+  std::set<std::string> reached{FileOf(0)};
+  for (int topic = 0; topic < book.Count(); ++topic) {
+    for (const std::string& link : AllOf(book, topic, R"((?<!!)\[[^\]]*\]\(([^)]*)\))")) {
+      const bool web = link.starts_with("https://");
+      EXPECT_TRUE(web || book.TopicOfFile(link.c_str())) << FileOf(topic) << ": " << link;
+      reached.insert(link);
+    }
+  }
+  for (int topic = 0; topic < book.Count(); ++topic) {
+    EXPECT_TRUE(reached.contains(FileOf(topic))) << FileOf(topic);
+  }
+}
+
+TEST(HelpBookTest, EveryPictureIsThereSmallAndShown) {
+  const HelpBook book;
+  std::set<std::string> shown;
+  for (int topic = 0; topic < book.Count(); ++topic) {
+    for (const std::string& picture : AllOf(book, topic, R"(!\[[^\]]+\]\(pictures/([^)]*)\))")) {
+      shown.insert(picture);
+    }
+    EXPECT_TRUE(AllOf(book, topic, R"((!\[\]))").empty()) << FileOf(topic) << ": no description";
+  }
+  EXPECT_EQ(shown, FilesIn("/pictures", "*.png"));
+  qint64 bytes = 0;
+  for (const std::string& picture : shown) {
+    const qint64 size = QFile(QString(kHelpFolder) + "pictures/" + picture.c_str()).size();
+    EXPECT_GT(size, 0) << picture;
+    EXPECT_LE(size, 40 * 1024) << picture;
+    bytes += size;
+  }
+  EXPECT_LT(bytes, 2'500'000) << "the program carries them all";
+}
+
+/// What the help says of settings: "`Name`: 1 to 20, default 5", or the same in the columns of a
+/// table.
+struct Description {
+  std::string File;
+  double Low, High;
+  std::optional<double> Default;
+};
+
+std::multimap<std::string, Description> Descriptions(const HelpBook& book) {
+  static const QRegularExpression pattern(
+      R"(`(\w+)`\)?[ :|]+([\d.]+) to ([\d.]+)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
+  std::multimap<std::string, Description> found;
+  for (int topic = 0; topic < book.Count(); ++topic) {
+    auto places = pattern.globalMatch(book.Markdown(topic));
+    while (places.hasNext()) {
+      const auto place = places.next();
+      Description said{
+          FileOf(topic), place.captured(2).toDouble(), place.captured(3).toDouble(), {}};
+      if (!place.captured(4).isEmpty()) said.Default = place.captured(4).toDouble();
+      found.insert({place.captured(1).toStdString(), said});
+    }
+  }
+  return found;
+}
+
+class HelpOfSettingsTest : public testing::Test {
+ protected:
+  /// Settings that dialogs edit are there to be found, and wherever a range is told it is the one
+  /// of the dialog.
+  template <class Record>
+  void ExpectDescribed(std::span<const Field<Record>> fields) {
+    for (const Field<Record>& field : fields) {
+      if (!field.Odd.InDialog) continue;
+      EXPECT_TRUE(IsNamed(field.Name)) << field.Name;
+      if (field.Rule != RangeRule::Fixed) continue;
+      const double high = field.Odd.DialogHigh > 0 ? field.Odd.DialogHigh : field.High;
+      const auto [begin, end] = Described.equal_range(std::string(field.Name));
+      for (auto place = begin; place != end; ++place) {
+        const Description& said = place->second;
+        EXPECT_EQ(said.Low, field.Low) << field.Name << " in " << said.File;
+        EXPECT_EQ(said.High, high) << field.Name << " in " << said.File;
+        const double standard = LenientNumber(DefaultText(field));
+        EXPECT_EQ(said.Default.value_or(standard), standard) << field.Name << " in " << said.File;
+      }
+    }
+  }
+
+  const HelpBook Book;
+  const std::multimap<std::string, Description> Described = Descriptions(Book);
+
+ private:
+  bool IsNamed(std::string_view name) const {
+    const QString marked = '`' + QString::fromStdString(std::string(name)) + '`';
+    for (int topic = 0; topic < Book.Count(); ++topic) {
+      if (Book.Markdown(topic).contains(marked)) return true;
+    }
+    return false;
+  }
+};
+
+TEST_F(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
+  ExpectDescribed(UniverseFields());
+  ExpectDescribed(ProfileFields());
+  ExpectDescribed(CompositeFields());
+  ExpectDescribed(AdvancedFields());
+  ExpectDescribed(IfsCenterFields());
+  ExpectDescribed(IfsPointFields());
+  ExpectDescribed(AtomCenterFields());
+  ExpectDescribed(AtomPointFields());
+}
+
+TEST_F(HelpOfSettingsTest, TellsTheRangeOfEveryBoxOfTheProperties) {
+  for (const UniverseRow& row : UniverseRows()) {
+    EXPECT_TRUE(Described.contains(std::string(row.Name))) << row.Name;
+  }
+  for (const auto rows : {StarfoldRows(), PixHueRows()}) {
+    for (const StarfoldRow& row : rows) {
+      if (FieldOf(row, 0).Rule != RangeRule::Fixed) continue;  // the style decides
+      EXPECT_TRUE(Described.contains(std::string(row.Name))) << row.Name;
+    }
+  }
+}
+
+TEST_F(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
+  const int first = *Book.TopicOfFile("style-standard.md");
+  for (int style = 0; style < kStyleCount; ++style) {
+    const std::string name(StyleNames()[style]);
+    EXPECT_EQ(Book.Title(first + style), QString::fromStdString(name).simplified());
+    for (const Field<StarfoldProfile>& field : ProfileFields()) {
+      if (field.Rule == RangeRule::None || field.Rule == RangeRule::Fixed) continue;
+      const Limits limits = StyleLimits(field.Rule, static_cast<Integer>(style));
+      const auto [begin, end] = Described.equal_range(std::string(field.Name));
+      const auto said = std::find_if(begin, end, [&](const auto& place) {
+        return place.second.File == FileOf(first + style);
+      });
+      ASSERT_NE(said, end) << field.Name << " in " << FileOf(first + style);
+      EXPECT_EQ(said->second.Low, limits.Low) << field.Name << " in " << FileOf(first + style);
+      EXPECT_EQ(said->second.High, limits.High) << field.Name << " in " << FileOf(first + style);
+    }
+  }
+}
+
+TEST(HelpSearchTest, FindsAllWordsWhateverTheirCapitalsTitlesFirst) {
+  const HelpBook book;
+  const auto hits = book.Search("  mOleCule \"editor ");
+  ASSERT_FALSE(hits.empty());
+  EXPECT_EQ(HelpTopics()[hits.front().Topic].File, "editor-molecule.md");
+  EXPECT_TRUE(hits.front().Line.contains("molecule", Qt::CaseInsensitive));
+  for (const HelpBook::Hit& hit : hits) {
+    EXPECT_TRUE(book.Markdown(hit.Topic).contains("editor", Qt::CaseInsensitive));
+    EXPECT_LE(hit.Score, hits.front().Score);
+  }
+  for (const char* nothing : {"", " \" ", "molecule xyzzy"}) {
+    EXPECT_TRUE(book.Search(nothing).empty()) << nothing;
+  }
+}
+
+TEST(HelpSearchTest, NoTextHurts) {
+  const HelpBook book;
+  for (const QString& text :
+       {QString(1'000'000, 'a'), QString("a ").repeated(500'000), QString("(.*)*$[").repeated(999),
+        QString(QChar(0xD800)), QString(QChar(0)), QString::fromUtf8("\xE2\x80\xAE*`|")}) {
+    EXPECT_LE(book.Search(text).size(), HelpTopics().size());
+    EXPECT_LE(SearchWords(text).size(), 12);
+  }
+}
+
+}  // namespace
+}  // namespace starfolds

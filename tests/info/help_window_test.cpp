@@ -1,0 +1,144 @@
+#include "info/help_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QTextTable>
+
+#include "info/help_viewer.h"
+#include "settings/registry.h"
+#include "toolkit.h"
+
+namespace starfolds {
+namespace {
+
+class HelpWindowTest : public testing::Test {
+ protected:
+  static HelpViewer* Shown() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* viewer = qobject_cast<HelpViewer*>(window);
+      if (viewer && viewer->isVisible()) return viewer;
+    }
+    return nullptr;
+  }
+  template <class Widget>
+  static Widget& The(const char* name) {
+    return Part<Widget>(*Shown(), name);
+  }
+  static std::string Caption() { return Shown()->windowTitle().toStdString(); }
+  static void Follow(const char* link) { emit The<HelpPage>("txtTopic").anchorClicked(QUrl(link)); }
+  static void Choose(const char* tool) { The<QAction>(tool).trigger(); }
+  static void Search(const QString& words) {
+    The<QLineEdit>("txtSearch").setText(words);
+    Press(The<QLineEdit>("txtSearch"), Qt::Key_Return);
+  }
+
+  MemoryTree Tree;
+  MemoryDesktop Desktop;
+  ScriptedMessageBoxes Boxes;
+  HelpWindow Book{Tree, Desktop, Boxes};
+};
+
+TEST_F(HelpWindowTest, OpensAtATopicAndGoesOnFromThere) {
+  EXPECT_EQ(Shown(), nullptr);
+  Book.ShowTopic(help::kMolecule);
+  EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
+  EXPECT_EQ(The<QTreeWidget>("treContents").currentItem()->text(0), "The molecule editor");
+  EXPECT_FALSE(The<QAction>("cmdBack").isEnabled());
+
+  Follow("glossary.md");
+  EXPECT_EQ(Caption(), "Starfolds Help - Glossary");
+  Choose("cmdHome");
+  Choose("cmdBack");
+  Choose("cmdBack");
+  EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
+  Choose("cmdForward");
+  EXPECT_EQ(Caption(), "Starfolds Help - Glossary");
+  Follow("project.md");
+  EXPECT_FALSE(The<QAction>("cmdForward").isEnabled());
+  Follow("../../etc/passwd");  // no topic: nothing happens
+  EXPECT_EQ(Caption(), "Starfolds Help - About this project");
+
+  HelpViewer* const window = Shown();
+  Book.ShowTopic(help::kLevels);
+  EXPECT_EQ(Shown(), window) << "there is one window";
+  EXPECT_FALSE(window->isModal());
+  Book.Quit();
+  EXPECT_EQ(Shown(), nullptr);
+  Book.Quit();
+}
+
+TEST_F(HelpWindowTest, GoingBackFindsThePlaceThatWasRead) {
+  Book.ShowTopic(help::kMolecule);
+  The<HelpPage>("txtTopic").verticalScrollBar()->setValue(300);
+  Follow("glossary.md");
+  EXPECT_EQ(The<HelpPage>("txtTopic").verticalScrollBar()->value(), 0);
+  Choose("cmdBack");
+  EXPECT_EQ(The<HelpPage>("txtTopic").verticalScrollBar()->value(), 300);
+}
+
+TEST_F(HelpWindowTest, SearchLeadsToAMarkedPlace) {
+  Book.ShowSearch();
+  EXPECT_EQ(Shown()->focusWidget(), &The<QLineEdit>("txtSearch"));
+  Search("water molecule");
+  EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
+  EXPECT_FALSE(The<HelpPage>("txtTopic").extraSelections().isEmpty());
+
+  Follow("glossary.md");
+  EXPECT_TRUE(The<HelpPage>("txtTopic").extraSelections().isEmpty());
+  Search("Chlorine");
+  const HelpPage& page = The<HelpPage>("txtTopic");
+  EXPECT_GT(page.verticalScrollBar()->value(), 0) << "it stands far down";
+  EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect().topLeft()));
+
+  Search("xyzzy");
+  EXPECT_EQ(The<QListWidget>("lstFound").count(), 1) << "that nothing was found";
+  EXPECT_EQ(Caption(), "Starfolds Help - User Defined: Molecular Structures");
+  Book.ShowContents();
+  EXPECT_EQ(Shown()->focusWidget(), &The<QTreeWidget>("treContents"));
+}
+
+TEST_F(HelpWindowTest, WebPagesAreTheBrowsersBusiness) {
+  Book.ShowContents();
+  Follow("https://example.org/a?b=c");
+  EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{"https://example.org/a?b=c"});
+  EXPECT_TRUE(Boxes.Log.empty());
+  Desktop.HasBrowser = false;
+  Follow("https://example.org/");
+  ASSERT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_EQ(Boxes.Log[0].Text, "The Web Page could not be reached.\n\nURL:  https://example.org/");
+  EXPECT_EQ(Boxes.Log[0].Caption, "Starfolds");
+}
+
+TEST_F(HelpWindowTest, EscapeClosesAndThePlaceIsRemembered) {
+  Book.ShowContents();
+  Shown()->resize(700, 500);
+  Activate(*Shown());
+  Press(*Shown()->focusWidget(), Qt::Key_Escape);
+  HelpWindow another(Tree, Desktop, Boxes);
+  EXPECT_NE(RegistryReadText(Tree, sections::kHelpPlace, "WindowSize"), "");
+  Book.Quit();
+  another.ShowContents();
+  QApplication::processEvents();
+  EXPECT_EQ(Shown()->size(), QSize(700, 500));
+}
+
+TEST_F(HelpWindowTest, LinesStayShortAndPicturesAndTablesFit) {
+  Book.ShowContents();
+  Shown()->resize(1600, 700);
+  HelpPage& page = The<HelpPage>("txtTopic");
+  const int letter = QFontInfo(page.font()).pixelSize();
+  for (const int wide : {1600, 980}) {
+    Shown()->resize(wide, 700);
+    QApplication::processEvents();
+    EXPECT_LE(page.lineWrapColumnOrWidth(), 42 * letter + 1);
+    for (std::size_t topic = 0; topic < HelpTopics().size(); ++topic) {
+      Follow(std::string(HelpTopics()[topic].File).c_str());
+      EXPECT_LE(page.horizontalScrollBar()->maximum(), 0)
+          << HelpTopics()[topic].File << ' ' << wide;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace starfolds
