@@ -198,7 +198,7 @@ void FrmFileIo::AddFolderColumn(QGridLayout& grid) {
 
 void FrmFileIo::ConnectControls() {
   connect(drvTemp_, &QComboBox::currentIndexChanged, this, [this](int root) {
-    if (!EnterFolder(roots_[static_cast<std::size_t>(root)].Path)) ReadAgain();
+    if (root < 0 || !EnterFolder(Root(root))) ReadAgain();
   });
   connect(dirTemp_, &QListWidget::itemDoubleClicked, this, &FrmFileIo::OpenSelectedFolder);
   const auto copyName = [this] {
@@ -263,7 +263,7 @@ bool FrmFileIo::EnterOrSay(const QString& folder) {
 }
 
 void FrmFileIo::ShowFolders(const QStringList& subfolders) {
-  const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
+  const QString& root = Root(RootOf(roots_, folder_));
   way_ = WayTo(root, folder_);
   folderDelegate_->SetWay(way_.size());
   QStringList names{QDir::toNativeSeparators(way_.front())};
@@ -350,7 +350,7 @@ void FrmFileIo::StoreFolder() {
   QString folder = folder_;
   while (StoredPath(folder).empty()) folder = QFileInfo(folder).path();
   TreeBulk change = TreeBulk::Change(around_.Tree);
-  const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
+  const QString& root = Root(RootOf(roots_, folder_));
   RegistryWrite(around_.Tree, sections::kTemplate, kDriveKey, StorableText(root.toStdString()));
   RegistryWrite(around_.Tree, sections::kTemplate, kFolderKey, StoredPath(folder));
   change.Commit();

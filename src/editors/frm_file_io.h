@@ -69,6 +69,7 @@ class FrmFileIo : public PlacedDialog {
   void ShowFiles(const QStringList& files);
   void OpenSelectedFolder();
   void ReadAgain() { EnterFolder(folder_); }
+  const QString& Root(int i) const { return roots_[static_cast<std::size_t>(i)].Path; }
 
   void Ok();
   bool EnterTypedFolder(const QString& typed);
