@@ -88,6 +88,7 @@ class FrmFileIo : public PlacedDialog {
   QString extension_;    // sFileExtension
   std::string selectedPath_;
 
+  QString templates_;              // the folder of the program's own; empty: there is none
   std::vector<FolderRoot> roots_;  // the entries of drvTemp
   QString folder_;                 // that is shown
   QStringList way_;                // the first entries of dirTemp: from the root to that folder

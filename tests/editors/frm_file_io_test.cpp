@@ -220,6 +220,9 @@ TEST_F(FrmFileIoTest, BeginsWhereTheUserWasOrAtTheTemplates) {
     RegistryWrite(Tree, sections::kTemplate, "Path_Dir", each.Stored);
     Choose(true, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{each.First}); });
   }
+  RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Home.Path("prog/templates"));
+  Choose(false, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
+  RegistryWrite(Tree, sections::kTemplate, "Path_Dir", "");
   RegistryWrite(Tree, sections::kTemplate, "Path_Drive", QDir::homePath().toStdString());
   Choose(true, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
 }
