@@ -85,7 +85,8 @@ FrmFileIo::FrmFileIo(const FileIoSurroundings& surroundings, QWidget* parent)
           {surroundings.Tree, sections::kTemplatePlace, surroundings.HelpBook, help::kFileIo},
           parent),
       around_(surroundings),
-      roots_(FolderRoots(ShippedTemplates(Shown(surroundings.ProgramFolder)))) {
+      templates_(ShippedTemplates(Shown(surroundings.ProgramFolder))),
+      roots_(FolderRoots(templates_)) {
   setObjectName("frmFileIO");
   setWindowTitle(tr("Select Template File"));
   MakeControls();
@@ -198,7 +199,7 @@ void FrmFileIo::AddFolderColumn(QGridLayout& grid) {
 
 void FrmFileIo::ConnectControls() {
   connect(drvTemp_, &QComboBox::currentIndexChanged, this, [this](int root) {
-    if (!EnterFolder(roots_[static_cast<std::size_t>(root)].Path)) ReadAgain();
+    if (root < 0 || !EnterFolder(Root(root))) ReadAgain();
   });
   connect(dirTemp_, &QListWidget::itemDoubleClicked, this, &FrmFileIo::OpenSelectedFolder);
   const auto copyName = [this] {
@@ -227,21 +228,22 @@ void FrmFileIo::SetFileTypes(const QString& fileTypes) {
   }
 }
 
-/// Where the user was last; the first time at the templates that came with the program, or at home,
-/// where files can be saved.
+/// Where the user was last; the first time at the templates that came with the program. Who saves
+/// begins at home instead of there: these files are the program's.
 void FrmFileIo::EnterFirstFolder() {
   const auto stored = [this](const char* key) {
     return Shown(RegistryReadText(around_.Tree, sections::kTemplate, key));
   };
-  const QString templates = ShippedTemplates(Shown(around_.ProgramFolder));
-  const bool entered = open_ && !templates.isEmpty() && EnterFolder(templates);
-  if (!entered && !EnterFolder(roots_.front().Path)) EnterFolder(QDir::rootPath());
+  const auto enter = [this](const QString& folder) {
+    return (open_ || folder != templates_) && EnterFolder(folder);
+  };
+  if (!enter(templates_) && !EnterFolder(roots_.front().Path)) EnterFolder(QDir::rootPath());
   const QString drive = stored(kDriveKey);
   for (const FolderRoot& root : roots_) {
-    if (root.Path == drive) EnterFolder(drive);
+    if (root.Path == drive) enter(drive);
   }
   const QString folder = stored(kFolderKey);
-  if (QDir::isAbsolutePath(folder)) EnterFolder(QDir::cleanPath(folder));
+  if (QDir::isAbsolutePath(folder)) enter(QDir::cleanPath(folder));
 }
 
 /// A folder that cannot be read leaves everything as it is.
@@ -263,7 +265,7 @@ bool FrmFileIo::EnterOrSay(const QString& folder) {
 }
 
 void FrmFileIo::ShowFolders(const QStringList& subfolders) {
-  const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
+  const QString& root = Root(RootOf(roots_, folder_));
   way_ = WayTo(root, folder_);
   folderDelegate_->SetWay(way_.size());
   QStringList names{QDir::toNativeSeparators(way_.front())};
@@ -348,9 +350,9 @@ void FrmFileIo::Take(const QString& path) {
 /// Of a path that is too long to be stored it is the nearest folder above.
 void FrmFileIo::StoreFolder() {
   QString folder = folder_;
-  while (StoredPath(folder).empty()) folder = QFileInfo(folder).path();
+  while (!folder.isEmpty() && StoredPath(folder).empty()) folder = QFileInfo(folder).path();
   TreeBulk change = TreeBulk::Change(around_.Tree);
-  const QString& root = roots_[static_cast<std::size_t>(drvTemp_->currentIndex())].Path;
+  const QString& root = Root(RootOf(roots_, folder_));
   RegistryWrite(around_.Tree, sections::kTemplate, kDriveKey, StorableText(root.toStdString()));
   RegistryWrite(around_.Tree, sections::kTemplate, kFolderKey, StoredPath(folder));
   change.Commit();

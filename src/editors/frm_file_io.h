@@ -69,6 +69,7 @@ class FrmFileIo : public PlacedDialog {
   void ShowFiles(const QStringList& files);
   void OpenSelectedFolder();
   void ReadAgain() { EnterFolder(folder_); }
+  const QString& Root(int i) const { return roots_[static_cast<std::size_t>(i)].Path; }
 
   void Ok();
   bool EnterTypedFolder(const QString& typed);
@@ -87,6 +88,7 @@ class FrmFileIo : public PlacedDialog {
   QString extension_;    // sFileExtension
   std::string selectedPath_;
 
+  QString templates_;              // the folder of the program's own; empty: there is none
   std::vector<FolderRoot> roots_;  // the entries of drvTemp
   QString folder_;                 // that is shown
   QStringList way_;                // the first entries of dirTemp: from the root to that folder

@@ -8,6 +8,7 @@
 #include <QStorageInfo>
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace starfolds {
@@ -19,10 +20,10 @@ QString Translated(const char* text) { return QCoreApplication::translate("frmFi
 
 /// File systems that hold no files of a user's.
 bool IsPseudo(const QByteArray& type) {
-  static const QByteArray types[] = {"autofs",   "devtmpfs",    "efivarfs", "fuse.gvfsd-fuse",
-                                     "overlay",  "fuse.portal", "nsfs",     "ramfs",
-                                     "squashfs", "tmpfs"};
-  return std::find(std::begin(types), std::end(types), type) != std::end(types);
+  static constexpr std::string_view types[] = {
+      "autofs",      "devtmpfs", "efivarfs", "fuse.gvfsd-fuse", "overlay",
+      "fuse.portal", "nsfs",     "ramfs",    "squashfs",        "tmpfs"};
+  return std::find(std::begin(types), std::end(types), type.toStdString()) != std::end(types);
 }
 
 bool IsForFiles(const QStorageInfo& storage) {

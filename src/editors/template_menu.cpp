@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QUrl>
 #include <utility>
 
@@ -69,8 +68,10 @@ bool TemplateMenu::eventFilter(QObject* watched, QEvent* event) {
   drop->setDropAction(Qt::CopyAction);
   drop->accept();
   // The other program waits until the drop has been handled; a message box would hold it up.
-  if (event->type() == QEvent::Drop)
-    QTimer::singleShot(0, this, [this, path] { OpenDropped(*path); });
+  if (event->type() == QEvent::Drop) {
+    QMetaObject::invokeMethod(
+        this, [this, path] { OpenDropped(*path); }, Qt::QueuedConnection);
+  }
   return true;
 }
 

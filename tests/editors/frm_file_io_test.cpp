@@ -147,19 +147,7 @@ TEST_F(FrmFileIoTest, NamesToSaveUnderGetTheExtensionOrAreRefused) {
   EXPECT_EQ(Home.Names().size(), 5U);
 }
 
-TEST_F(FrmFileIoTest, ATypedFolderIsEnteredAndTheNextNameIsLookedForThere) {
-  EXPECT_EQ(Choose(true,
-                   [&] {
-                     Edit().setText("sub");
-                     Press(Edit(), Qt::Key_Return);
-                     EXPECT_EQ(Edit().text(), "");
-                     Edit().setText("inner.sfd");
-                     Press(Edit(), Qt::Key_Return);
-                   }),
-            Home.Path("sub/inner.sfd"));
-}
-
-TEST_F(FrmFileIoTest, ReturnEntersTheFolderThatHasTheFocus) {
+TEST_F(FrmFileIoTest, ReturnEntersTheFolderThatIsSelectedOrTyped) {
   Choose(true, [&] {
     auto& folders = The<QListWidget>("dirTemp");
     Activate(*folders.window());
@@ -167,9 +155,11 @@ TEST_F(FrmFileIoTest, ReturnEntersTheFolderThatHasTheFocus) {
     folders.setCurrentRow(1);
     Press(folders, Qt::Key_Return);
     EXPECT_EQ(Texts("filTemp"), QStringList{"inner.sfd"});
-    folders.setCurrentRow(0);
-    Press(folders, Qt::Key_Return);
+    Edit().setText("..");
+    Edit().setFocus();
+    Press(Edit(), Qt::Key_Return);
     EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"});
+    EXPECT_EQ(Edit().text(), "");
   });
   EXPECT_TRUE(Boxes.Log.empty());
 }
@@ -220,6 +210,9 @@ TEST_F(FrmFileIoTest, BeginsWhereTheUserWasOrAtTheTemplates) {
     RegistryWrite(Tree, sections::kTemplate, "Path_Dir", each.Stored);
     Choose(true, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{each.First}); });
   }
+  RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Home.Path("prog/templates"));
+  Choose(false, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
+  RegistryWrite(Tree, sections::kTemplate, "Path_Dir", "");
   RegistryWrite(Tree, sections::kTemplate, "Path_Drive", QDir::homePath().toStdString());
   Choose(true, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
 }
