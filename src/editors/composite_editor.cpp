@@ -199,7 +199,7 @@ void CompositeEditor::ShowSelected() {
   const int selected = Selected();
   if (selected < 0) return;
   const CompositeProfile& composite = model_.Composites()[selected];
-  name_->setText(Shown(composite.CompFoldName));
+  name_->ShowName(Shown(composite.CompFoldName));
   name_->setCursorPosition(0);  // shows the beginning of a long one
   percent_->SetText(NumberText(Long{composite.CompFoldPct}));
   ChooseMembers(composite);

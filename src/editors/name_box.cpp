@@ -23,6 +23,11 @@ NameBox::NameBox(QWidget* parent) : QLineEdit(parent) {
   });
 }
 
+void NameBox::ShowName(const QString& name) {
+  setText(name);
+  setCursorPosition(0);
+}
+
 void NameBox::keyPressEvent(QKeyEvent* event) {
   if (event->text().size() == 1 && IsForbidden(event->text()[0])) {
     QApplication::beep();

@@ -13,6 +13,9 @@ class NameBox : public QLineEdit {
  public:
   explicit NameBox(QWidget* parent = nullptr);
 
+  /// Of one that is longer than the box its beginning.
+  void ShowName(const QString& name);
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

@@ -38,7 +38,7 @@ TemplateMenu::TemplateMenu(TemplateHost host) : host_(std::move(host)) {
 }
 
 void TemplateMenu::AddTo(QMenu& file) {
-  const auto add = [&](const QString& text, const char* name, QKeySequence::StandardKey key,
+  const auto add = [&](const QString& text, const char* name, const QKeySequence& key,
                        void (TemplateMenu::*act)()) {
     QAction* entry = file.addAction(text, this, act);
     entry->setObjectName(name);
@@ -47,7 +47,8 @@ void TemplateMenu::AddTo(QMenu& file) {
   };
   add(tr("&Open Template..."), "mnuOpen", QKeySequence::Open, &TemplateMenu::Open);
   add(tr("&Save Template"), "mnuSave", QKeySequence::Save, &TemplateMenu::Save);
-  add(tr("Save Template &As..."), "mnuSaveAs", QKeySequence::SaveAs, &TemplateMenu::SaveAs);
+  add(tr("Save Template &As..."), "mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+      &TemplateMenu::SaveAs);
 }
 
 void TemplateMenu::SetEnabled(bool enabled) {

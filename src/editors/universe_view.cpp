@@ -360,7 +360,7 @@ void UniverseView::SelectBody() {
   const int index = lstUniStarfold_->Selected();
   if (index < 0) return;
   const StarfoldProfile& profile = model_.Profiles()[index];
-  txtUniFoldName_->setText(Shown(profile.UniFoldName));
+  txtUniFoldName_->ShowName(Shown(profile.UniFoldName));
   txtUniFoldPct_->SetText(std::to_string(profile.UniFoldPct));
 }
 

@@ -210,8 +210,8 @@ QLayout* FrmSystemDiag::MakeButtons() {
   connect(cmdDismiss, &QPushButton::clicked, this, &FrmSystemDiag::accept);
   line->addWidget(cmdCopyReport);
   line->addWidget(lblCopied_, 1);
-  line->addWidget(MakeHelpButton());
   line->addWidget(cmdDismiss);
+  line->addWidget(MakeHelpButton());
   return line;
 }
 

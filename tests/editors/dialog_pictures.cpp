@@ -12,6 +12,11 @@
 #include "editors/frm_advanced.h"
 #include "editors/frm_file_io.h"
 #include "editors/frm_props.h"
+#include "info/frm_about.h"
+#include "info/frm_credits.h"
+#include "info/frm_system_diag.h"
+#include "info/help_viewer.h"
+#include "info/help_window.h"
 #include "settings/first_run.h"
 #include "settings/storage.h"
 
@@ -147,6 +152,49 @@ void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QStri
   folder.removeRecursively();
 }
 
+/// What the run in the About box is shown for, in frames; and a page of the credits.
+constexpr int kAboutFrames = 200;
+constexpr int kCreditsMs = 2600;
+
+/// Runs the toolkit's events in each pump.
+class EventsPump : public CountedPump {
+ public:
+  std::function<void()> OnEach;
+  void PumpEvents() override {
+    QApplication::processEvents();
+    if (OnEach) OnEach();
+  }
+};
+
+void TakeAbout(Saver& process, Help& help, const QString& prefix) {
+  EventsPump events;
+  process.Events = &events;
+  FrmAbout about({process, help, "0.1.0", [] { return 1U; }});
+  int frame = 0;
+  events.OnEach = [&] {
+    if (++frame != kAboutFrames) return;
+    about.grab().save(prefix + "about.png");
+    about.close();
+  };
+  about.exec();
+
+  FrmCredits credits(1);
+  QTimer::singleShot(kCreditsMs, &credits, [&] {
+    credits.grab().save(prefix + "credits.png");
+    credits.close();
+  });
+  credits.exec();
+}
+
+void TakeHelp(KeyValueTree& tree, DesktopServices& desktop, MessageBoxes& boxes,
+              const QString& prefix) {
+  HelpWindow help(tree, desktop, boxes);
+  help.ShowTopic(help::kMolecule);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* viewer = qobject_cast<HelpViewer*>(window)) Take(*viewer, prefix + "help.png");
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -175,5 +223,10 @@ int main(int argc, char** argv) {
   TakePictures(dialog, prefix);
   TakeAdvanced(tree, help, prefix);
   TakeFileIo(tree, help, boxes, prefix);
+  FrmSystemDiag diagnostics({tree, desktop, boxes, help, {"0.1.0", "settings.db"}});
+  diagnostics.ShowInPlace();
+  Take(diagnostics, prefix + "diagnostics.png");
+  TakeAbout(process, help, prefix);
+  TakeHelp(tree, desktop, boxes, prefix);
   return 0;
 }
