@@ -14,12 +14,6 @@ constexpr QSize kLeastPreview{320, 240};
 constexpr QSize kMorePreview{100, 60};
 constexpr int kStillPauseMs = 150;
 
-QPushButton* MakeButton(const QString& text, const char* name) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  return button;
-}
-
 }  // namespace
 
 BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* parent)

@@ -236,17 +236,11 @@ QGroupBox* FrmAdvanced::MakeEnhancementFrame() {
 }
 
 QLayout* FrmAdvanced::MakeButtons() {
-  const auto make = [](const QString& text, const char* name) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-  };
-  auto* defaults = make(tr("De&faults"), "cmdDefaults");
+  QPushButton* defaults = MakeButton(tr("De&faults"), "cmdDefaults");
   defaults->setToolTip(tr("Shows the settings that the program came with; the text stays"));
-  auto* ok = make(tr("OK"), "cmdOK");
+  QPushButton* ok = MakeButton(tr("OK"), "cmdOK");
   ok->setDefault(true);
-  auto* cancel = make(tr("Cancel"), "cmdDismiss");
+  QPushButton* cancel = MakeButton(tr("Cancel"), "cmdDismiss");
   auto* line = new QHBoxLayout;
   line->addWidget(defaults);
   line->addStretch();

@@ -150,7 +150,6 @@ void FrmFileIo::MakeControls() {
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   }
   cmdOK_->setDefault(true);
-  cmdDismiss_->setAutoDefault(false);
   picStatus_->setAccessibleName(tr("Progress"));
   picStatus_->setFixedHeight(kStatusHeight);
   for (QWidget* widget : {static_cast<QWidget*>(lblStatus_), static_cast<QWidget*>(picStatus_)}) {

@@ -35,13 +35,6 @@ const char kAcceptSettings[] = "&Accept Settings";
 const char kReturnToUniverse[] = "&Return to Universe Settings";
 const char kStarfoldProperties[] = "Starfold Properties";
 
-QPushButton* MakeButton(const QString& text, const char* name) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  return button;
-}
-
 }  // namespace
 
 FrmProps::FrmProps(const PropsSurroundings& surroundings)

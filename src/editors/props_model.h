@@ -1,11 +1,11 @@
 // What the parts of the properties dialog share.
 #pragma once
 
-#include <QString>
 #include <functional>
 #include <string>
 
 #include "colour/saver.h"
+#include "hosting/dialog_parts.h"
 #include "platform/help.h"
 #include "platform/message_boxes.h"
 #include "settings/product.h"
@@ -27,10 +27,5 @@ struct PropsModel {
     Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
   }
 };
-
-/// Text of the settings as the toolkit has it.
-inline QString Shown(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace starfolds

@@ -47,12 +47,6 @@ QGroupBox* MakeFrame(const QString& title, const char* name) {
   return frame;
 }
 
-QPushButton* MakeButton(const QString& text, const char* name) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  return button;
-}
-
 const Field<UniverseSettings>& UniverseField(std::string_view name) {
   return *FindField(UniverseFields(), name);
 }

@@ -3,6 +3,7 @@
 #include <QShortcut>
 #include <QWindow>
 
+#include "hosting/dialog_parts.h"
 #include "hosting/placed_qt_window.h"
 
 namespace starfolds {
@@ -32,9 +33,7 @@ void PlacedDialog::done(int result) {
 }
 
 QPushButton* PlacedDialog::MakeHelpButton() {
-  auto* button = new QPushButton(tr("&Help"));
-  button->setObjectName("cmdHelp");
-  button->setAutoDefault(false);
+  QPushButton* button = MakeButton(tr("&Help"), "cmdHelp");
   connect(button, &QPushButton::clicked, this, &PlacedDialog::ShowHelp);
   return button;
 }

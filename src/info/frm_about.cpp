@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "hosting/dialog_parts.h"
 #include "info/frm_credits.h"
 #include "settings/factory.h"
 #include "settings/product.h"
@@ -28,17 +29,6 @@ constexpr Single kZoom = 1.3F;
 constexpr Integer kFrames = 400;
 constexpr Long kStars = 4000;
 constexpr Single kScale = 0.8F;
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QPushButton* MakeButton(const QString& text, const char* name) {
-  auto* button = new QPushButton(text);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  return button;
-}
 
 QString Licence() {
   QFile file(":/info/LICENSE");
@@ -98,14 +88,14 @@ QWidget* FrmAbout::MakeAboutPage() {
   lblBody_->setAlignment(Qt::AlignRight);
   lblBody_->setTextFormat(Qt::PlainText);
   rows->addWidget(lblBody_);
-  auto* name = new QLabel(Text(kProductName) + " " + Text(kProductVersion));
+  auto* name = new QLabel(Shown(kProductName) + " " + Shown(kProductVersion));
   QFont large = name->font();
   large.setPointSizeF(large.pointSizeF() * kNameSize);
   name->setFont(large);
   rows->addWidget(name);
   rows->addWidget(new QLabel(tr("A universe on your screen, each star a single pixel.")));
   auto* small = new QLabel(tr("Build %1, with Qt %2.\n%3.\nFree software under the MIT licence.")
-                               .arg(Text(around_.Version), qVersion(), Text(kCopyright)));
+                               .arg(Shown(around_.Version), qVersion(), Shown(kCopyright)));
   small->setObjectName("lblVersion");
   small->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   rows->addWidget(small);
@@ -155,7 +145,7 @@ void FrmAbout::Run() {
       TakeUniverseSettings(*running_, *factory, false);
       Surface& surface = picAbout_->BeginRun();
       SetupPreviewSurface(*running_, surface, true, kZoom, around_.Seed());
-      lblBody_->setText(Text(running_->Composites[body].CompFoldName));
+      lblBody_->setText(Shown(running_->Composites[body].CompFoldName));
       SingleBodyRun(*running_, body, true, kFrames, kStars, 1, true, kScale);
       body = static_cast<Integer>((body + 1) % kCompositeCount);
     }

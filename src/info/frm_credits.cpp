@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "hosting/dialog_parts.h"
 #include "settings/product.h"
 
 namespace starfolds {
@@ -20,10 +21,6 @@ constexpr int kLargestLetters = 104;
 constexpr int kSmallestLetters = 12;
 constexpr double kLineSpacing = 1.35;
 constexpr int kInk = 110;  // of 255: a pixel that has more of it belongs to a letter
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// The height of letters with which all lines fit.
 int LetterHeight(const QStringList& lines, QSize size, QFont font) {
@@ -44,7 +41,7 @@ int LetterHeight(const QStringList& lines, QSize size, QFont font) {
 
 std::vector<QStringList> CreditPages() {
   return {
-      {Text(kProductName), Text(kProductVersion)},
+      {Shown(kProductName), Shown(kProductVersion)},
       {"made by", "the Starfolds", "authors"},
       {"splines after", "Schoenberg", "and de Boor"},
       {"fractals after", "Hutchinson", "and Barnsley"},

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "hosting/dialog_parts.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 
@@ -39,8 +40,6 @@ bool IsWindows() {
   return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 }
 
-QString Named(const std::string& text) { return QString::fromStdString(text); }
-
 /// What is a problem is red, in a shade that can be read on a light and on a dark field.
 void ShowField(QLineEdit& field, const QString& text, bool isProblem) {
   field.setText(text);
@@ -51,7 +50,7 @@ void ShowField(QLineEdit& field, const QString& text, bool isProblem) {
   field.setPalette(palette);
 }
 
-QString KnownOrNot(std::uint64_t number) { return number == 0 ? kUnknown : Named(Grouped(number)); }
+QString KnownOrNot(std::uint64_t number) { return number == 0 ? kUnknown : Shown(Grouped(number)); }
 
 }  // namespace
 
@@ -80,9 +79,9 @@ void FrmSystemDiag::showEvent(QShowEvent* event) {
 
 void FrmSystemDiag::RunDiagnostics() {
   ShowDisplay();
-  ShowField(*version_, Named(SystemVersion()), false);
+  ShowField(*version_, Shown(SystemVersion()), false);
   const std::string access = TestRegistryAccess(around_.Tree);
-  ShowField(*access_, Named(access), access != kWriteTestPassed);
+  ShowField(*access_, Shown(access), access != kWriteTestPassed);
   Surface& surface = picGraphics_->BeginRun();
   PlotTestCircle(surface);
   surface.Present();
@@ -117,7 +116,7 @@ void FrmSystemDiag::CopyReport() {
       MeasureFrames(around_.Tree, around_.Desktop, size.width(), size.height(), kMeasuredSeconds);
   QGuiApplication::restoreOverrideCursor();
   QGuiApplication::clipboard()->setText(
-      Named(DiagnosticsReport(around_.Facts, TestRegistryAccess(around_.Tree), cost)));
+      Shown(DiagnosticsReport(around_.Facts, TestRegistryAccess(around_.Tree), cost)));
   lblCopied_->setText(tr("The report is on the clipboard."));
 }
 
@@ -135,9 +134,7 @@ QGroupBox* FrmSystemDiag::MakeRegistryFrame() {
   auto* label = new QLabel(tr("Registry write test (passed test if value is OK):"));
   access_ = MakeField();
   label->setBuddy(access_);
-  auto* cmdSysInfo = new QPushButton(tr("&Complete System   Info..."));
-  cmdSysInfo->setObjectName("cmdSysInfo");
-  cmdSysInfo->setAutoDefault(false);
+  QPushButton* cmdSysInfo = MakeButton(tr("&Complete System   Info..."), "cmdSysInfo");
   connect(cmdSysInfo, &QPushButton::clicked, this, &FrmSystemDiag::ShowSystemInfo);
   line->addWidget(label);
   line->addWidget(access_, 1);
@@ -172,7 +169,7 @@ QGroupBox* FrmSystemDiag::MakeSystemFrame() {
   label->setBuddy(version_);
   rows->addWidget(label);
   rows->addWidget(version_);
-  auto* lblSystem = new QLabel(Named(SystemName()));
+  auto* lblSystem = new QLabel(Shown(SystemName()));
   lblSystem->setObjectName("lblSystem");
   lblSystem->setTextFormat(Qt::PlainText);
   lblSystem->setWordWrap(true);
@@ -196,15 +193,12 @@ QGroupBox* FrmSystemDiag::MakeDisplayFrame() {
 
 QLayout* FrmSystemDiag::MakeButtons() {
   auto* line = new QHBoxLayout;
-  auto* cmdCopyReport = new QPushButton(tr("Copy &Report"));
-  cmdCopyReport->setObjectName("cmdCopyReport");
+  QPushButton* cmdCopyReport = MakeButton(tr("Copy &Report"), "cmdCopyReport");
   cmdCopyReport->setToolTip(
       tr("Puts all of this on the clipboard, with versions, screens and the cost of a frame"));
-  cmdCopyReport->setAutoDefault(false);
   lblCopied_ = new QLabel;
   lblCopied_->setObjectName("lblCopied");
-  auto* cmdDismiss = new QPushButton(tr("OK"));
-  cmdDismiss->setObjectName("cmdDismiss");
+  QPushButton* cmdDismiss = MakeButton(tr("OK"), "cmdDismiss");
   cmdDismiss->setDefault(true);
   connect(cmdCopyReport, &QPushButton::clicked, this, &FrmSystemDiag::CopyReport);
   connect(cmdDismiss, &QPushButton::clicked, this, &FrmSystemDiag::accept);

@@ -9,14 +9,11 @@
 #include <QSysInfo>
 #include <QtGlobal>
 
+#include "hosting/dialog_parts.h"
 #include "settings/product.h"
 
 namespace starfolds {
 namespace {
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString WithoutHome(const QString& path) {
   const QString home = QDir::homePath();
@@ -76,17 +73,17 @@ std::string DiagnosticsReport(const ProgramFacts& facts, const std::string& regi
                               const FrameCost& cost) {
   QStringList lines;
   lines += QString("%1 %2, build %3")
-               .arg(Text(kProductName), Text(kProductVersion), Text(facts.Version));
+               .arg(Shown(kProductName), Shown(kProductVersion), Shown(facts.Version));
   lines += QString("Qt %1, built with %2").arg(qVersion(), QLibraryInfo::build());
   lines += QString("System: %1, %2 %3, %4")
-               .arg(Text(SystemName()), QSysInfo::kernelType(), QSysInfo::kernelVersion(),
+               .arg(Shown(SystemName()), QSysInfo::kernelType(), QSysInfo::kernelVersion(),
                     QSysInfo::currentCpuArchitecture());
   lines += QString("Platform plug-in: %1").arg(QGuiApplication::platformName());
   lines += "Session: " + Session();
   int number = 0;
   for (const QScreen* screen : QGuiApplication::screens()) lines += Described(*screen, ++number);
   lines += QString("Stored settings: %1, write test %2")
-               .arg(WithoutHome(Text(facts.TreePlace)), Text(registryAccess));
+               .arg(WithoutHome(Shown(facts.TreePlace)), Shown(registryAccess));
   lines += Described(cost);
   return lines.join('\n').toStdString() + "\n";
 }
