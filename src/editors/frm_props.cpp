@@ -17,6 +17,7 @@
 #include "hosting/captions.h"
 #include "hosting/placed_qt_window.h"
 #include "hosting/web_page.h"
+#include "hosting/wheel_guard.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
 
@@ -245,6 +246,7 @@ void FrmProps::MakeCentre() {
   buttons->addWidget(cmdDismiss_);
   rows->addLayout(buttons);
   setCentralWidget(centre);
+  LetWheelPass(*centre);
   // A file that is dropped is a template wherever it lands, not a text for a box.
   for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
 

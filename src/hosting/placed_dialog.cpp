@@ -5,6 +5,7 @@
 
 #include "hosting/dialog_parts.h"
 #include "hosting/placed_qt_window.h"
+#include "hosting/wheel_guard.h"
 
 namespace starfolds {
 
@@ -16,6 +17,7 @@ PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
 }
 
 void PlacedDialog::ShowInPlace() {
+  LetWheelPass(*this);
   adjustSize();
   ShowWherePlaced(*this, place_.Tree, place_.Section);
 }

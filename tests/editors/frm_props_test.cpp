@@ -278,6 +278,28 @@ TEST_F(FrmPropsTest, TheHomePageIsATopicUnlessThereIsAnAddress) {
   EXPECT_EQ(HelpBook.Topics.size(), 1U);
 }
 
+/// One notch of the wheel down, with the pointer over a widget.
+void TurnWheel(QWidget& widget) {
+  const QPointF place = widget.rect().center();
+  QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &turn);
+}
+
+TEST_F(FrmPropsTest, TheWheelChangesAListOnlyWhereTheFocusIs) {
+  StoreFactory();
+  Open();
+  auto& themes = The<QComboBox>("cboUniTheme");
+  const int before = themes.currentIndex();
+  The<QPushButton>("cmdAccept").setFocus();
+  TurnWheel(themes);
+  EXPECT_EQ(themes.currentIndex(), before);
+  EXPECT_FALSE(themes.hasFocus());
+  themes.setFocus();
+  TurnWheel(themes);
+  EXPECT_EQ(themes.currentIndex(), before + 1);
+}
+
 TEST_F(FrmPropsTest, NamesAndWeightsAreCommitted) {
   StoreFactory();
   Open();
