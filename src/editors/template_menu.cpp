@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "editors/frm_file_io.h"
+#include "hosting/dialog_parts.h"
 #include "settings/product.h"
 
 namespace starfolds {
@@ -35,6 +36,8 @@ bool IsWaiting(const QWidget& window) {
 TemplateMenu::TemplateMenu(TemplateHost host) : host_(std::move(host)) {
   host_.Window.setAcceptDrops(true);
   host_.Window.installEventFilter(this);
+  // The other program waits until the drop has been handled; a message box would hold it up.
+  connect(this, &TemplateMenu::Dropped, this, &TemplateMenu::OpenDropped, Qt::QueuedConnection);
 }
 
 void TemplateMenu::AddTo(QMenu& file) {
@@ -68,11 +71,7 @@ bool TemplateMenu::eventFilter(QObject* watched, QEvent* event) {
   }
   drop->setDropAction(Qt::CopyAction);
   drop->accept();
-  // The other program waits until the drop has been handled; a message box would hold it up.
-  if (event->type() == QEvent::Drop) {
-    QMetaObject::invokeMethod(
-        this, [this, path] { OpenDropped(*path); }, Qt::QueuedConnection);
-  }
+  if (event->type() == QEvent::Drop) emit Dropped(Shown(*path));
   return true;
 }
 
@@ -97,8 +96,8 @@ void TemplateMenu::Choose(bool open) {
 }
 
 /// By then a preview may have been started.
-void TemplateMenu::OpenDropped(const std::string& path) {
-  if (enabled_ && !IsWaiting(host_.Window)) RunInPreview(true, path);
+void TemplateMenu::OpenDropped(const QString& path) {
+  if (enabled_ && !IsWaiting(host_.Window)) RunInPreview(true, path.toStdString());
 }
 
 /// Without the file dialog, so its progress shows in the preview.

@@ -39,6 +39,10 @@ class TemplateMenu : public QObject {
   /// While it is disabled nothing can be dropped, either.
   void SetEnabled(bool enabled);
 
+ signals:
+  /// A template was dropped onto the window.
+  void Dropped(const QString& path);
+
  protected:
   /// Watches the dialog's window for what is dragged over it.
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,7 +52,7 @@ class TemplateMenu : public QObject {
   void Save();
   void SaveAs() { Choose(false); }
   void Choose(bool open);
-  void OpenDropped(const std::string& path);
+  void OpenDropped(const QString& path);
   void RunInPreview(bool open, const std::string& path);
 
   std::optional<std::string> LoadFrom(const std::string& path, ProgressPicture* picture);

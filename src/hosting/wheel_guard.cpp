@@ -21,10 +21,9 @@ class WheelGuard : public QObject {
 }  // namespace
 
 void LetWheelPass(QWidget& window) {
-  auto* guard = new WheelGuard(&window);
   for (QComboBox* list : window.findChildren<QComboBox*>()) {
     list->setFocusPolicy(Qt::StrongFocus);  // a turn of the wheel does not give it the focus
-    list->installEventFilter(guard);
+    list->installEventFilter(new WheelGuard(list));
   }
 }
 

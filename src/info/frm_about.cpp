@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "hosting/dialog_parts.h"
@@ -68,6 +67,8 @@ FrmAbout::FrmAbout(const AboutSurroundings& surroundings, QWidget* parent)
   pages->addTab(MakeLicencePage(), tr("&Licence"));
   rows->addWidget(pages);
   rows->addLayout(MakeButtons());
+  begin_.setSingleShot(true);
+  connect(&begin_, &QTimer::timeout, this, &FrmAbout::Run);
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
           [this] { around_.HelpBook.ShowTopic(help::kAbout); });
 }
@@ -119,7 +120,7 @@ QLayout* FrmAbout::MakeButtons() {
 /// The run needs the box's event loop around it, so that closing the box returns from `exec`.
 void FrmAbout::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!run_.IsOn()) QTimer::singleShot(0, this, &FrmAbout::Run);
+  if (!run_.IsOn()) begin_.start();
 }
 
 /// A click shows the next body.

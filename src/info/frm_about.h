@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QTimer>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -49,6 +50,7 @@ class FrmAbout : public QDialog {
   WatchfulPump events_;
   MemoryTree noTree_;
   PreviewSwitch run_;
+  QTimer begin_;
   PictureBox* picAbout_ = nullptr;
   QLabel* lblBody_ = nullptr;
 };
