@@ -21,7 +21,7 @@ constexpr std::int64_t kColourCost = 150;
 constexpr double kPictureCost = 0.4;
 
 /// The longest request that every server takes is 65535 words.
-constexpr std::size_t kMostShapes = 16 * 1024;
+constexpr std::size_t kMostShapes = 0x4000;
 
 class X11PointPainter : public PointPainter {
  public:
