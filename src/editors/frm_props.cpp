@@ -59,8 +59,8 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
 
   setObjectName("frmProps");
   setWindowTitle(kPropertiesCaption);
-  setWindowModality(
-      Qt::WindowModal);  // the application's window waits behind it, the help does not
+  // The application's window waits behind it, the help does not.
+  setWindowModality(Qt::WindowModal);
   LoadAllProfiles(*editing_->Tree, editing_->Profiles, RootSelector::CurrentUser);
   LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
@@ -156,12 +156,21 @@ bool FrmProps::ShowWelcomeDialog() {
       around_.HelpBook);
 }
 
+/// Brings into the records and boxes what is still being edited.
+void FrmProps::Settle() {
+  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+  universe_->ClampTextFields();
+}
+
+/// A page that is open shows the profile as it is then; it would else be stored over it later.
+void FrmProps::Reset(int menuIndex) {
+  Settle();
+  ResetFromMenu(settings_, *this, menuIndex);
+  if (inStarfoldView_) OpenStarfoldView(true);
+}
+
 /// A page that is open shows the loaded profile before it is put away, so that it stores the same.
 TemplateHost FrmProps::MakeTemplateHost() {
-  const auto settle = [this] {
-    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
-    universe_->ClampTextFields();
-  };
   const auto loaded = [this] {
     if (inStarfoldView_) {
       starfold_->LoadProfileToPage(currentProfile_);
@@ -169,7 +178,13 @@ TemplateHost FrmProps::MakeTemplateHost() {
     }
     universe_->SelectTheme(0);  // whatever theme was chosen before, it is not what stands there now
   };
-  return {*this, settings_, *this, around_.HelpBook, settle, loaded, [this] { ShowStill(); }};
+  return {*this,
+          settings_,
+          *this,
+          around_.HelpBook,
+          [this] { Settle(); },
+          loaded,
+          [this] { ShowStill(); }};
 }
 
 void FrmProps::MakeMenus() {
@@ -181,8 +196,7 @@ void FrmProps::MakeMenus() {
   QMenu* edit = menuBar()->addMenu(tr("&Edit"));
   QMenu* reset = edit->addMenu(tr("&Reset Properties"));
   const auto addReset = [&](int index, const QString& text) {
-    QAction* entry =
-        reset->addAction(text, this, [this, index] { ResetFromMenu(settings_, *this, index); });
+    QAction* entry = reset->addAction(text, this, [this, index] { Reset(index); });
     entry->setObjectName("mnuResetProps_" + QString::number(index));
     entry->setCheckable(true);
     resetMenu_[index] = entry;

@@ -82,6 +82,8 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
     starfold_->SetBox(index, text);
   }
 
+  void Settle();
+  void Reset(int menuIndex);
   TemplateHost MakeTemplateHost();
   void MakeMenus();
   Integer TopicHere() const;

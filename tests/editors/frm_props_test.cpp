@@ -401,6 +401,23 @@ TEST_F(FrmPropsTest, APreviewEndsWithTheProcess) {
   EXPECT_LE(Events.Pumps, 10);
 }
 
+TEST_F(FrmPropsTest, APageThatIsOpenDuringAResetShowsAndStoresTheFactorysValues) {
+  StoreFactory();
+  Open();
+  OpenType(3);
+  const std::string factory = Edit("txtStarfold_0").text().toStdString();
+  Enter("txtStarfold_0", "4321");
+  Boxes.Answers = {BoxAnswer::Cancel};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(Edit("txtStarfold_0").text(), "4321") << "what was typed outlives a cancelled reset";
+  Boxes.Answers = {BoxAnswer::No};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), factory);
+  Click("cmdAccept");
+  OpenType(3);
+  EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), factory);
+}
+
 TEST_F(FrmPropsTest, ResetsFromTheMenuAskFirst) {
   Store(RandomRecords(91).Make());
   Open();
