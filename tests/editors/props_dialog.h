@@ -35,8 +35,8 @@ class FrmPropsTest : public testing::Test {
 
   FrmProps& Open() {
     Dialog = std::make_unique<FrmProps>(PropsSurroundings{
-        *Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr, HomePage,
-        [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
+        *Process, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr,
+        HomePage, [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
@@ -70,6 +70,7 @@ class FrmPropsTest : public testing::Test {
 
   MemoryTree Tree;
   MemoryFiles Disk;
+  Files* UsedFiles = &Disk;
   MemoryDesktop Desktop;
   ScriptedMessageBoxes Boxes;
   MemoryHelp HelpBook;
