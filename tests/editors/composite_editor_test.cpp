@@ -84,7 +84,7 @@ TEST_F(CompositeEditorTest, RecordsThatNobodyShouldHaveStoredDoNoHarm) {
   EXPECT_TRUE(ChosenMinors().empty());
 }
 
-TEST_F(CompositeEditorTest, CommitStoresTheMajorFirstAndOnceThenTheMinorsInListOrder) {
+TEST_F(CompositeEditorTest, CommitStoresTheMajorFirstAndOnceThenTheMinorsAndNameAndPercent) {
   const struct {
     int Major;
     std::initializer_list<int> Minors;
@@ -102,17 +102,12 @@ TEST_F(CompositeEditorTest, CommitStoresTheMajorFirstAndOnceThenTheMinorsInListO
     EXPECT_EQ(Members(2), row.Members);
   }
   Minors.selectAll();
-  Press("cmdCompCommit");
-  EXPECT_EQ(Process->Composites[2].CompFold_Count, kMaxMembers) << "more than there is room for";
-  EXPECT_EQ(LastBox(), "");
-}
-
-TEST_F(CompositeEditorTest, CommitStoresNameAndClampedPercentAndRewritesTheEntry) {
-  Select(2);
   Name.setText("Halo");
   Percent.setMaxLength(9);
   Percent.setText("12000");
   Press("cmdCompCommit");
+  EXPECT_EQ(LastBox(), "");
+  EXPECT_EQ(Process->Composites[2].CompFold_Count, kMaxMembers) << "more than there is room for";
   EXPECT_EQ(Process->Composites[2].CompFoldName, "Halo");
   EXPECT_EQ(Process->Composites[2].CompFoldPct, 9999);
   EXPECT_EQ(List.EntryName(2), "Halo");
@@ -225,13 +220,6 @@ TEST_F(CompositeEditorTest, MinorsAreChosenByTheKeyboardOneByOne) {
   EXPECT_THAT(ChosenMinors(), ElementsAre(0, 2));
   starfolds::Press(Minors, Qt::Key_Space, " ");
   EXPECT_THAT(ChosenMinors(), ElementsAre(0));
-}
-
-TEST_F(CompositeEditorTest, ThePreviewIsTheWindowsBusiness) {
-  int requests = 0;
-  QObject::connect(&Editor, &CompositeEditor::PreviewRequested, [&] { ++requests; });
-  Press("cmdPreviewComp");
-  EXPECT_EQ(requests, 1);
 }
 
 }  // namespace

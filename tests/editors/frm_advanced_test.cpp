@@ -66,6 +66,8 @@ TEST_F(FrmAdvancedTest, WhatIsStoredIsShownAndStoredAgain) {
   fonts.setCurrentIndex(fonts.count() - 1);
   const std::string font = fonts.currentText().toStdString();
   Tree = MemoryTree();
+  Click("cmdHelp");
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kAdvanced});
   Click("cmdOK");
   for (const auto& [name, text] : kOther) EXPECT_EQ(Stored(name), text) << name;
   EXPECT_EQ(Stored("Adv_FontName"), font);
@@ -159,21 +161,6 @@ TEST_F(FrmAdvancedTest, SamplesFollowTheControls) {
   Edit("txtAdv_3").setText("0");
   const QRgb hue = sample("picHueStart").pixel(1, 1);
   EXPECT_GT(qRed(hue), qBlue(hue));
-}
-
-TEST_F(FrmAdvancedTest, OpensWhereItStood) {
-  Open();
-  const QPoint place = Dialog->pos() + QPoint(40, 30);
-  Dialog->move(place);
-  Click("cmdDismiss");
-  Open();
-  EXPECT_EQ(Dialog->pos(), place);
-}
-
-TEST_F(FrmAdvancedTest, HelpIsOneKeyAway) {
-  Open();
-  Click("cmdHelp");
-  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kAdvanced});
 }
 
 }  // namespace
