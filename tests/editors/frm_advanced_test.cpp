@@ -23,20 +23,14 @@ const std::map<std::string, std::string> kOther = {
     {"Adv_MouseMove", "1"},   {"Adv_DispBackG", "1"},
 };
 
-class FrmAdvancedTest : public testing::Test {
+class FrmAdvancedTest : public DialogTest {
  protected:
   FrmAdvanced& Open() {
     Dialog = std::make_unique<FrmAdvanced>(Tree, HelpBook);
     Dialog->ShowInPlace();
     return *Dialog;
   }
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*Dialog, name);
-  }
-  void Click(const char* name) { The<QPushButton>(name).click(); }
-  QLineEdit& Edit(const char* name) { return The<QLineEdit>(name); }
-
+  QWidget& Window() override { return *Dialog; }
   std::string Stored(std::string_view name) {
     return RegistryReadText(Tree, sections::kAdvanced, name, "(none)");
   }
@@ -44,8 +38,6 @@ class FrmAdvancedTest : public testing::Test {
     for (const auto& [name, text] : values) RegistryWrite(Tree, sections::kAdvanced, name, text);
   }
 
-  MemoryTree Tree;
-  MemoryHelp HelpBook;
   std::unique_ptr<FrmAdvanced> Dialog;
 };
 

@@ -241,25 +241,17 @@ TEST_F(FrmPropsTest, TheHomePageIsATopicUnlessThereIsAnAddress) {
   EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{HomePage});
 }
 
-/// One notch of the wheel down, with the pointer over a widget.
-void TurnWheel(QWidget& widget) {
-  const QPointF place = widget.rect().center();
-  QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                   Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&widget, &turn);
-}
-
 TEST_F(FrmPropsTest, TheWheelChangesAListOnlyWhereTheFocusIs) {
   StoreFactory();
   Open();
   auto& themes = The<QComboBox>("cboUniTheme");
   const int before = themes.currentIndex();
   The<QPushButton>("cmdAccept").setFocus();
-  TurnWheel(themes);
+  TurnWheel(themes, -120);
   EXPECT_EQ(themes.currentIndex(), before);
   EXPECT_FALSE(themes.hasFocus());
   themes.setFocus();
-  TurnWheel(themes);
+  TurnWheel(themes, -120);
   EXPECT_EQ(themes.currentIndex(), before + 1);
 }
 

@@ -101,31 +101,32 @@ class PropertyCopyTest : public EditorTest {
     return lines;
   }
 
-  void PressCopy() { Part<QPushButton>(Copy, "cmdPropCopy").click(); }
+  QWidget& Window() override { return Copy; }
+  void PressCopy() { Click("cmdPropCopy"); }
 
   int Copies = 0;
   PropertyCopy Copy{Model};
-  QComboBox& List = Part<QComboBox>(Copy, "cboPropCopyList");
+  QComboBox& Properties = Part<QComboBox>(Copy, "cboPropCopyList");
   QLabel& Label = Part<QLabel>(Copy, "lblPropCopy");
   NumberBox& Box = Part<NumberBox>(Copy, "spnPropCopy");
   QLineEdit& Text = Part<QLineEdit>(Copy, "txtPropCopy");
   QComboBox& Choice = Part<QComboBox>(Copy, "cboPropCopy");
-  QCheckBox& Check = Part<QCheckBox>(Copy, "chkPropCopy");
+  QCheckBox& Closed = Part<QCheckBox>(Copy, "chkPropCopy");
 };
 
 TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
-  ASSERT_EQ(List.count(), 68);
+  ASSERT_EQ(Properties.count(), 68);
   std::set<std::string> entries;
-  for (int i = 0; i < List.count(); ++i) {
-    List.setCurrentIndex(i);
-    const std::string entry = List.currentText().toStdString();
+  for (int i = 0; i < Properties.count(); ++i) {
+    Properties.setCurrentIndex(i);
+    const std::string entry = Properties.currentText().toStdString();
     SCOPED_TRACE(entry);
     EXPECT_TRUE(entries.insert(entry).second);
     const std::string told = Label.text().section('(', 1).section(')', 0, 0).toStdString();
     const ExpectedRow row = Expected(entry, told);
     EXPECT_EQ(!Box.isHidden(), !row.Range.empty());
     EXPECT_EQ(!Choice.isHidden(), row.Choices > 0);
-    EXPECT_EQ(!Check.isHidden(), row.Range.empty() && row.Choices == 0);
+    EXPECT_EQ(!Closed.isHidden(), row.Range.empty() && row.Choices == 0);
     EXPECT_EQ(Choice.count(), row.Choices);
     EXPECT_EQ(Label.text().toStdString(), row.Range.empty() ? "" : "Range (" + row.Range + "):");
 
@@ -147,8 +148,8 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
       Choice.setCurrentIndex(row.Choices - 1);
       value = std::to_string(row.Choices - 1);
     } else {
-      EXPECT_EQ(Check.text(), "Control Point Loop is Closed?");
-      Check.setChecked(true);
+      EXPECT_EQ(Closed.text(), "Control Point Loop is Closed?");
+      Closed.setChecked(true);
       value = "1";
     }
 
@@ -164,42 +165,42 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
 }
 
 TEST_F(PropertyCopyTest, EachEntryBeginsWithoutTheFormerValue) {
-  List.setCurrentIndex(61);
-  Check.setChecked(true);
-  List.setCurrentIndex(12);
+  Properties.setCurrentIndex(61);
+  Closed.setChecked(true);
+  Properties.setCurrentIndex(12);
   Choice.setCurrentIndex(4);
-  List.setCurrentIndex(20);
+  Properties.setCurrentIndex(20);
   EXPECT_EQ(Choice.currentIndex(), 0);
-  List.setCurrentIndex(61);
-  EXPECT_FALSE(Check.isChecked());
+  Properties.setCurrentIndex(61);
+  EXPECT_FALSE(Closed.isChecked());
 }
 
 TEST_F(PropertyCopyTest, WithoutASelectionNothingIsShownOrTaken) {
   for (const int position : {-1, 68}) {
-    List.setCurrentIndex(5);
+    Properties.setCurrentIndex(5);
     Copy.SetupPropCopyValue(position);
-    EXPECT_TRUE(Box.isHidden() && Choice.isHidden() && Check.isHidden());
+    EXPECT_TRUE(Box.isHidden() && Choice.isHidden() && Closed.isHidden());
     EXPECT_EQ(Label.text(), "");
     EXPECT_EQ(Text.maxLength(), 0);
   }
-  List.setCurrentIndex(-1);
+  Properties.setCurrentIndex(-1);
   Activate(Copy);
   PressCopy();
   EXPECT_EQ(LastBox(), "Please select a Property to copy.");
-  EXPECT_TRUE(List.hasFocus());
+  EXPECT_TRUE(Properties.hasFocus());
 }
 
 TEST_F(PropertyCopyTest, AMissingValueIsAskedFor) {
   Activate(Copy);
-  List.setCurrentIndex(0);
+  Properties.setCurrentIndex(0);
   for (const char* blank : {"", " "}) {
-    List.setFocus();
+    Properties.setFocus();
     Box.SetText(blank);
     PressCopy();
     EXPECT_EQ(LastBox(), "Please enter a Property value.");
     EXPECT_TRUE(Box.hasFocus());
   }
-  List.setCurrentIndex(12);
+  Properties.setCurrentIndex(12);
   Choice.setCurrentIndex(-1);
   PressCopy();
   EXPECT_EQ(LastBox(), "Please select a Property value.");
@@ -209,7 +210,7 @@ TEST_F(PropertyCopyTest, AMissingValueIsAskedFor) {
 
 TEST_F(PropertyCopyTest, WholeNumbersTakeTheNearestEvenOneAndOthersTheNumberItself) {
   const auto copy = [this](int position, const char* text) {
-    List.setCurrentIndex(position);
+    Properties.setCurrentIndex(position);
     Box.SetText(text);
     Copy.CopyPropertyToAllProfiles();
   };
@@ -225,7 +226,7 @@ TEST_F(PropertyCopyTest, WholeNumbersTakeTheNearestEvenOneAndOthersTheNumberItse
 
 /// The mnemonic of the button leaves no box.
 TEST_F(PropertyCopyTest, TheButtonHoldsTheNumberAndColoursFollow) {
-  List.setCurrentIndex(0);
+  Properties.setCurrentIndex(0);
   Box.SetText("0");
   PressCopy();
   const Colour dark = Process->Colours.Profile[7].HueTable[0];

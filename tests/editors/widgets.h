@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPushButton>
+#include <QWheelEvent>
 #include <functional>
 #include <memory>
 #include <random>
@@ -14,8 +17,37 @@
 
 namespace starfolds {
 
-/// The records of a dialog, with boxes that answer by themselves.
-class EditorTest : public testing::Test {
+/// What dialogs are made over: a tree and a help in memory, and boxes that answer by themselves.
+class DialogTest : public testing::Test {
+ protected:
+  virtual QWidget& Window() = 0;
+
+  template <class Widget>
+  Widget& The(const std::string& name) {
+    return Part<Widget>(Window(), name.c_str());
+  }
+  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name); }
+  QComboBox& List(const std::string& name) { return The<QComboBox>(name); }
+  QCheckBox& Check(const std::string& name) { return The<QCheckBox>(name); }
+  void Click(const std::string& name) { The<QPushButton>(name).click(); }
+
+  /// The text of the last box, which is forgotten; empty if there was none.
+  std::string LastBox() {
+    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
+    if (!text.empty()) {
+      EXPECT_EQ(Boxes.Log.back().Caption, "Starfolds");
+    }
+    Boxes.Log.clear();
+    return text;
+  }
+
+  MemoryTree Tree;
+  MemoryHelp HelpBook;
+  ScriptedMessageBoxes Boxes;
+};
+
+/// The records of a dialog.
+class EditorTest : public DialogTest {
  protected:
   EditorTest() {
     const SettingsRecords records;
@@ -23,23 +55,18 @@ class EditorTest : public testing::Test {
     Process->Composites = records.Composites;
   }
 
-  /// The text of the last box, which is forgotten; empty if there was none.
-  std::string LastBox() {
-    std::string text;
-    if (!Boxes.Log.empty()) {
-      text = Boxes.Log.back().Text;
-      EXPECT_EQ(Boxes.Log.back().Style, BoxStyle::Information);
-      EXPECT_EQ(Boxes.Log.back().Caption, "Starfolds");
-    }
-    Boxes.Log.clear();
-    return text;
-  }
-
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
-  ScriptedMessageBoxes Boxes;
-  MemoryHelp HelpBook;
   PropsModel Model{*Process, Boxes, HelpBook};
 };
+
+/// One notch of the wheel with the pointer over a widget. Returns whether the widget took it.
+inline bool TurnWheel(QWidget& widget, int angle) {
+  const QPointF place = widget.rect().center();
+  QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &turn);
+  return turn.isAccepted();
+}
 
 /// A user who presses, types and chooses anywhere in a window.
 class RandomHands {
