@@ -279,29 +279,20 @@ TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
   EXPECT_EQ(Events.Pumps, 30) << "it goes on in the new size";
   EXPECT_TRUE(Dialog->isVisible()) << "Escape ended the preview only";
 
-  Events.Pumps = 0;
-  Events.Plan = {{4, [&] {
-                    Click("cmdOK");
-                    EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
-                  }}};
-  Click("cmdPreview");
-  EXPECT_EQ(Events.Pumps, 4);
-  EXPECT_EQ(Dialog->result(), QDialog::Accepted);
-  EXPECT_FALSE(Dialog->isVisible());
+  for (const bool closes : {true, false}) {
+    Dialog->show();
+    Events.Pumps = 0;
+    Events.Plan = {{4, [&] {
+                      closes ? void(Dialog->close()) : Click("cmdOK");
+                      EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
+                    }}};
+    Click("cmdPreview");
+    EXPECT_EQ(Events.Pumps, 4);
+    EXPECT_EQ(Dialog->result(), closes ? QDialog::Rejected : QDialog::Accepted);
+    EXPECT_FALSE(Dialog->isVisible());
+  }
   EXPECT_EQ(Record().IFS.Points[0].IFS_LocX, 5);
   EXPECT_EQ(Props.Texts[0], "250");
-}
-
-TEST_F(BodyEditorsTest, AWindowThatIsClosedOverAPreviewClosesAfterIt) {
-  Open(Kind::Levels);
-  Events.Plan = {{4, [&] {
-                    Dialog->close();
-                    EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
-                  }}};
-  Click("cmdPreview");
-  EXPECT_EQ(Events.Pumps, 4);
-  EXPECT_FALSE(Dialog->isVisible());
-  EXPECT_EQ(Dialog->result(), QDialog::Rejected);
 }
 
 TEST_F(BodyEditorsTest, AWindowThatCannotBeResizedKeepsItsSize) {
