@@ -64,14 +64,8 @@ class BodyEditorsTest : public EditorTest {
     return *Dialog;
   }
 
-  template <class Widget>
-  Widget& The(const std::string& name) {
-    return Part<Widget>(*Dialog, name.c_str());
-  }
-  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name); }
-  QComboBox& List(const std::string& name) { return The<QComboBox>(name); }
+  QWidget& Window() override { return *Dialog; }
   QListWidget& Atoms() { return The<QListWidget>("lstElements"); }
-  void Click(const std::string& name) { The<QPushButton>(name).click(); }
   void Put(const std::string& box, const std::string& text) {
     Edit(box).setText(QString::fromStdString(text));
   }
@@ -111,7 +105,6 @@ class BodyEditorsTest : public EditorTest {
     return all;
   }
 
-  MemoryTree Tree;
   MemoryDesktop Desktop;
   DialogPump Events;
   BoxesOfNobody Props;

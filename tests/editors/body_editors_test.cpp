@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <random>
 #include <set>
 
 #include "body_editors.h"
@@ -18,26 +17,20 @@ namespace {
 TEST_F(BodyEditorsTest, AreCalledPlacedAndExplained) {
   struct Row {
     Kind Which;
-    std::string Title, Frame, Preview, Section;
+    std::string_view Section;
     Integer Topic;
   };
-  const Row rows[] = {
-      {Kind::Levels, "Mine & Yours Starfold Levels:  ", "Levels Preview - Mine && Yours", "Preview",
-       "General\\Levels", 7400},
-      {Kind::Ifs, "Mine & Yours User Defined Iterated Function System (IFS):  ",
-       "IFS Preview - Mine && Yours", "Preview I.F.S.", "General\\IFS", 7100},
-      {Kind::Molecule, "Mine & Yours User Defined Molecular Structure:  ",
-       "Molecule Preview - Mine && Yours", "Preview Molecule", "General\\Atomics", 7300}};
-  for (const Row& row : rows) {
-    Open(row.Which);
-    EXPECT_EQ(Dialog->windowTitle().toStdString(), row.Title);
-    EXPECT_EQ(The<QGroupBox>("fraPreview").title().toStdString(), row.Frame);
-    EXPECT_EQ(The<QPushButton>("cmdPreview").text().toStdString(), row.Preview);
+  for (const auto& [kind, section, topic] :
+       {Row{Kind::Levels, sections::kLevelsPlace, help::kLevels},
+        Row{Kind::Ifs, sections::kIfsPlace, help::kIfs},
+        Row{Kind::Molecule, sections::kAtomicsPlace, help::kMolecule}}) {
+    Open(kind);
+    EXPECT_TRUE(Dialog->windowTitle().startsWith("Mine & Yours "));
+    EXPECT_TRUE(The<QGroupBox>("fraPreview").title().endsWith(" - Mine && Yours"));
     Click("cmdHelp");
-    EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{row.Topic});
-    HelpBook.Topics.clear();
+    EXPECT_EQ(HelpBook.Topics.back(), topic);
     Click("cmdDismiss");
-    EXPECT_NE(RegistryReadText(Tree, row.Section, "WindowSize"), "");
+    EXPECT_NE(RegistryReadText(Tree, section, "WindowSize"), "");
   }
 }
 
@@ -159,6 +152,7 @@ TEST_F(BodyEditorsTest, LevelsAreHeldToTheirRangesAndHandedOn) {
     EXPECT_EQ(Props.Texts, handedOn);
     Open(Kind::Levels);
     for (int i = 0; i < 5; ++i) EXPECT_EQ(Text(boxes[i]), held[i]);
+    EXPECT_EQ(The<QCheckBox>("chkToggle_1").isChecked(), interleaved);
   }
   Record().Starfold_StdLevDRad = 1234567;
   Open(Kind::Levels);
@@ -285,29 +279,20 @@ TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
   EXPECT_EQ(Events.Pumps, 30) << "it goes on in the new size";
   EXPECT_TRUE(Dialog->isVisible()) << "Escape ended the preview only";
 
-  Events.Pumps = 0;
-  Events.Plan = {{4, [&] {
-                    Click("cmdOK");
-                    EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
-                  }}};
-  Click("cmdPreview");
-  EXPECT_EQ(Events.Pumps, 4);
-  EXPECT_EQ(Dialog->result(), QDialog::Accepted);
-  EXPECT_FALSE(Dialog->isVisible());
+  for (const bool closes : {true, false}) {
+    Dialog->show();
+    Events.Pumps = 0;
+    Events.Plan = {{4, [&] {
+                      closes ? void(Dialog->close()) : Click("cmdOK");
+                      EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
+                    }}};
+    Click("cmdPreview");
+    EXPECT_EQ(Events.Pumps, 4);
+    EXPECT_EQ(Dialog->result(), closes ? QDialog::Rejected : QDialog::Accepted);
+    EXPECT_FALSE(Dialog->isVisible());
+  }
   EXPECT_EQ(Record().IFS.Points[0].IFS_LocX, 5);
   EXPECT_EQ(Props.Texts[0], "250");
-}
-
-TEST_F(BodyEditorsTest, AWindowThatIsClosedOverAPreviewClosesAfterIt) {
-  Open(Kind::Levels);
-  Events.Plan = {{4, [&] {
-                    Dialog->close();
-                    EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
-                  }}};
-  Click("cmdPreview");
-  EXPECT_EQ(Events.Pumps, 4);
-  EXPECT_FALSE(Dialog->isVisible());
-  EXPECT_EQ(Dialog->result(), QDialog::Rejected);
 }
 
 TEST_F(BodyEditorsTest, AWindowThatCannotBeResizedKeepsItsSize) {
@@ -325,31 +310,17 @@ TEST_F(BodyEditorsTest, AWindowThatCannotBeResizedKeepsItsSize) {
 
 /// Whoever presses, types and chooses anywhere leaves a record that a tree can hold.
 TEST_F(BodyEditorsTest, RandomEventsLeaveAValidRecord) {
-  std::mt19937 random(11);
-  const auto draw = [&](int below) { return static_cast<int>(random() % unsigned(below)); };
+  RandomHands hands(11);
   for (const Kind kind : kKinds) {
     Open(kind);
     for (int i = 1; i < 400; ++i) Events.Plan[i * 5] = [&] { Press(*Dialog, Qt::Key_Escape); };
     for (int i = 0; i < 4000; ++i) {
-      const QWidgetList widgets = Dialog->findChildren<QWidget*>();
-      QWidget* widget = widgets[draw(static_cast<int>(widgets.size()))];
-      const QString name = widget->objectName();
-      if (!widget->isEnabled() || !widget->isVisible() || name == "cmdDismiss") continue;
-      if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-        if (name == "cmdOK" || ((name == "cmdPreview" || name == "cmdClear") && draw(20) > 0)) {
-          continue;
-        }
-        Events.Pumps = 0;
-        button->click();
-      } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
-        if (name != "cboTheme" || draw(20) == 0) list->setCurrentIndex(draw(list->count() + 1) - 1);
-      } else if (auto* items = qobject_cast<QListWidget*>(widget); items && items->count() > 0) {
-        items->setCurrentRow(draw(items->count()), QItemSelectionModel::Toggle);
-      } else {
-        const int key = Qt::Key_Space + draw(95);
-        Press(*widget, key, QChar(key));
-      }
-      if (draw(50) == 0) Leave(*widget);
+      Events.Pumps = 0;
+      hands.Act(*Dialog, [&](const QString& name) {
+        if (name == "cmdOK" || name == "cmdDismiss") return true;
+        const bool seldom = name == "cmdPreview" || name == "cmdClear" || name == "cboTheme";
+        return seldom && hands.Draw(20) > 0;
+      });
     }
     Click("cmdOK");
     StarfoldProfile held = Record();

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "settings/factory.h"
 #include "settings/fields.h"
 
@@ -72,32 +70,6 @@ TEST(BodyThemes, BuildTheCubane) {
       near += within ? 1 : 0;
     }
     EXPECT_EQ(near, 2) << corner;
-  }
-}
-
-TEST(BodyThemes, AreTextsOfPaddedRows) {
-  struct Editor {
-    std::span<const BodyTheme> Themes;
-    std::string (*TextOf)(const BodyTheme&);
-  };
-  constexpr std::size_t headRows = 3;
-  const Editor editors[] = {{IfsThemes(), IfsThemeText}, {MoleculeThemes(), MoleculeThemeText}};
-  for (const auto& [themes, textOf] : editors) {
-    EXPECT_EQ(themes.size(), 10U);
-    std::set<std::string> texts;
-    for (const BodyTheme& theme : themes) {
-      const std::string text = textOf(theme);
-      const std::size_t rows =
-          textOf == IfsThemeText ? std::size_t{kMaxIfsPoints} : theme.Rows.size();
-      const std::size_t width = text.find(',') + 1;
-      ASSERT_EQ(text.size(), width * (headRows + rows)) << theme.Name;
-      for (std::size_t end = width; end <= text.size(); end += width) {
-        EXPECT_EQ(text[end - 1], ',') << theme.Name;
-      }
-      EXPECT_EQ(GetField(text, kThemeDescription), theme.Description);
-      texts.insert(text);
-    }
-    EXPECT_EQ(texts.size(), themes.size());
   }
 }
 

@@ -23,20 +23,14 @@ const std::map<std::string, std::string> kOther = {
     {"Adv_MouseMove", "1"},   {"Adv_DispBackG", "1"},
 };
 
-class FrmAdvancedTest : public testing::Test {
+class FrmAdvancedTest : public DialogTest {
  protected:
   FrmAdvanced& Open() {
     Dialog = std::make_unique<FrmAdvanced>(Tree, HelpBook);
     Dialog->ShowInPlace();
     return *Dialog;
   }
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*Dialog, name);
-  }
-  void Click(const char* name) { The<QPushButton>(name).click(); }
-  QLineEdit& Edit(const char* name) { return The<QLineEdit>(name); }
-
+  QWidget& Window() override { return *Dialog; }
   std::string Stored(std::string_view name) {
     return RegistryReadText(Tree, sections::kAdvanced, name, "(none)");
   }
@@ -44,8 +38,6 @@ class FrmAdvancedTest : public testing::Test {
     for (const auto& [name, text] : values) RegistryWrite(Tree, sections::kAdvanced, name, text);
   }
 
-  MemoryTree Tree;
-  MemoryHelp HelpBook;
   std::unique_ptr<FrmAdvanced> Dialog;
 };
 
@@ -66,6 +58,8 @@ TEST_F(FrmAdvancedTest, WhatIsStoredIsShownAndStoredAgain) {
   fonts.setCurrentIndex(fonts.count() - 1);
   const std::string font = fonts.currentText().toStdString();
   Tree = MemoryTree();
+  Click("cmdHelp");
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kAdvanced});
   Click("cmdOK");
   for (const auto& [name, text] : kOther) EXPECT_EQ(Stored(name), text) << name;
   EXPECT_EQ(Stored("Adv_FontName"), font);
@@ -159,21 +153,6 @@ TEST_F(FrmAdvancedTest, SamplesFollowTheControls) {
   Edit("txtAdv_3").setText("0");
   const QRgb hue = sample("picHueStart").pixel(1, 1);
   EXPECT_GT(qRed(hue), qBlue(hue));
-}
-
-TEST_F(FrmAdvancedTest, OpensWhereItStood) {
-  Open();
-  const QPoint place = Dialog->pos() + QPoint(40, 30);
-  Dialog->move(place);
-  Click("cmdDismiss");
-  Open();
-  EXPECT_EQ(Dialog->pos(), place);
-}
-
-TEST_F(FrmAdvancedTest, HelpIsOneKeyAway) {
-  Open();
-  Click("cmdHelp");
-  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kAdvanced});
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace {
 constexpr char kTypes[] = "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|";
 
 /// The home folder is one of the test's own: "old.sfd", "b.txt", and "sub" with "inner.sfd".
-class FrmFileIoTest : public testing::Test {
+class FrmFileIoTest : public DialogTest {
  protected:
   FrmFileIoTest() : formerHome_(qgetenv("HOME")) {
     std::filesystem::create_directory(Home.Path("sub"));
@@ -44,35 +44,28 @@ class FrmFileIoTest : public testing::Test {
   }
 
   /// Types a name and presses OK.
-  std::string ChooseTyped(bool open, const QString& typed) {
-    return Choose(open, [&] {
+  std::string ChooseTyped(bool open, const QString& typed, bool action = true) {
+    const auto act = [&] {
       Edit().setText(typed);
       Press(Edit(), Qt::Key_Return);
-    });
+      if (!Fault) return;
+      EXPECT_TRUE(Edit().isVisible());
+      EXPECT_TRUE(The<PictureBox>("picStatus").isHidden());
+    };
+    return Choose(open, act, action);
   }
 
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*dialog_, name);
-  }
-  QLineEdit& Edit() { return The<QLineEdit>("txtFile"); }
+  QWidget& Window() override { return *dialog_; }
+  QLineEdit& Edit() { return DialogTest::Edit("txtFile"); }
   QStringList Texts(const char* list) {
     QStringList texts;
     auto& widget = The<QListWidget>(list);
     for (int i = 0; i < widget.count(); ++i) texts.append(widget.item(i)->text());
     return texts;
   }
-  std::string LastBox() {
-    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
-    Boxes.Log.clear();
-    return text;
-  }
   std::string StoredFolder() { return RegistryReadText(Tree, sections::kTemplate, "Path_Dir"); }
 
   TestFolder Home;
-  MemoryTree Tree;
-  MemoryHelp HelpBook;
-  ScriptedMessageBoxes Boxes;
   std::string ProgramFolder = "/nowhere";
   std::optional<std::string> Fault;
   std::vector<std::string> Done;
@@ -167,14 +160,7 @@ TEST_F(FrmFileIoTest, ReturnEntersTheFolderThatIsSelectedOrTyped) {
 TEST_F(FrmFileIoTest, AFaultIsToldAndTheDialogStays) {
   Fault = "No space left on device";
   for (const bool open : {true, false}) {
-    EXPECT_EQ(Choose(open,
-                     [&] {
-                       Edit().setText("old.sfd");
-                       Press(Edit(), Qt::Key_Return);
-                       EXPECT_TRUE(Edit().isVisible());
-                       EXPECT_FALSE(The<PictureBox>("picStatus").isVisible());
-                     }),
-              "");
+    EXPECT_EQ(ChooseTyped(open, "old.sfd"), "");
     const std::string text = LastBox();
     EXPECT_NE(text.find(Home.Path("old.sfd")), std::string::npos);
     EXPECT_TRUE(text.ends_with("\n\nNo space left on device"));
@@ -183,14 +169,7 @@ TEST_F(FrmFileIoTest, AFaultIsToldAndTheDialogStays) {
 }
 
 TEST_F(FrmFileIoTest, WithoutAnActionItOnlyReturnsThePath) {
-  EXPECT_EQ(Choose(
-                true,
-                [&] {
-                  Edit().setText("old.sfd");
-                  Press(Edit(), Qt::Key_Return);
-                },
-                false),
-            Home.Path("old.sfd"));
+  EXPECT_EQ(ChooseTyped(true, "old.sfd", false), Home.Path("old.sfd"));
   EXPECT_TRUE(Done.empty());
 }
 

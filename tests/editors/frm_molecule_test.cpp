@@ -80,28 +80,18 @@ TEST_F(FrmMoleculeTest, AtomsAreAddedChangedAndRemoved) {
 }
 
 TEST_F(FrmMoleculeTest, AStructureNamesItsBoxes) {
-  struct Row {
-    int First, Last;
-    std::string X, Fifth;
-    bool Location, Symmetry;
-  };
-  const Row rows[] = {{0, 0, "Loc X\n(0-9999):", "Symmetry Radius", true, false},
-                      {1, 5, "Loc X\n(0-9999):", "Symmetry Radius", true, true},
-                      {6, 11, "Points per\nEdge (1-99)", "Atom Offset", false, true}};
   Open(Kind::Molecule);
-  for (const int step : {1, -1}) {  // each also after its neighbour on the other side
-    for (int i = 0; i < 12; ++i) {
-      const int structure = step > 0 ? i : 11 - i;
-      List("cboType").setCurrentIndex(structure);
-      for (const Row& row : rows) {
-        if (structure < row.First || structure > row.Last) continue;
-        EXPECT_EQ(The<QLabel>("lblProps_0").text().toStdString(), row.X) << structure;
-        EXPECT_EQ(The<QLabel>("lblProps_4").text().toStdString(), row.Fifth) << structure;
-        EXPECT_EQ(The<NumberBox>("spnProps_1").isEnabled(), row.Location) << structure;
-        EXPECT_EQ(The<NumberBox>("spnProps_2").isEnabled(), row.Location) << structure;
-        EXPECT_EQ(The<NumberBox>("spnProps_4").isEnabled(), row.Symmetry) << structure;
-      }
-    }
+  for (int i = 0; i < 23; ++i) {  // up and down: each also after its neighbour on the other side
+    const int structure = i < 12 ? i : 22 - i;
+    const bool lattice = structure >= 6;
+    SCOPED_TRACE(structure);
+    List("cboType").setCurrentIndex(structure);
+    EXPECT_EQ(The<QLabel>("lblProps_0").text(),
+              lattice ? "Points per\nEdge (1-99)" : "Loc X\n(0-9999):");
+    EXPECT_EQ(The<QLabel>("lblProps_4").text(), lattice ? "Atom Offset" : "Symmetry Radius");
+    EXPECT_EQ(The<NumberBox>("spnProps_1").isEnabled(), !lattice);
+    EXPECT_EQ(The<NumberBox>("spnProps_2").isEnabled(), !lattice);
+    EXPECT_EQ(The<NumberBox>("spnProps_4").isEnabled(), structure > 0);
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTextDocument>
@@ -24,7 +23,7 @@ class FrmWelcomeTest : public testing::Test {
   }
 
   static QPushButton& Button(FrmWelcome& dialog, const char* name) {
-    return *dialog.findChild<QPushButton*>(name);
+    return Part<QPushButton>(dialog, name);
   }
   /// The page as it is read, without its markup.
   static std::string Read(FrmWelcome& dialog) {
@@ -95,10 +94,7 @@ TEST_F(FrmWelcomeTest, ResetsOnlyAfterTheSafetyCopy) {
 
 TEST_F(FrmWelcomeTest, LeavesTheSettingsAloneWhenItIsDismissed) {
   for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
-    EXPECT_FALSE(Run(Upgrade(), [key](FrmWelcome& dialog) {
-      QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-      QApplication::sendEvent(&dialog, &press);
-    }));
+    EXPECT_FALSE(Run(Upgrade(), [key](FrmWelcome& dialog) { Press(dialog, key); }));
   }
   EXPECT_EQ(Copies, 0);
 }

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <QClipboard>
-#include <QWheelEvent>
 
 #include "editors/name_box.h"
 #include "editors/widgets.h"
@@ -121,19 +120,13 @@ TEST(NumberBoxTest, TheWheelTurnsOnlyABoxWithTheFocus) {
   box.SetRange({NumberKind::AsInteger, 0, 100});
   box.SetText("50");
   Activate(window);
-  const auto wheel = [&box] {
-    QWheelEvent event(QPointF(2, 2), QPointF(2, 2), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&box, &event);
-    return event.isAccepted();
-  };
   other.setFocus();
-  EXPECT_FALSE(wheel()) << "the page under the box does not scroll";
+  EXPECT_FALSE(TurnWheel(box, 120)) << "the page under the box does not scroll";
   EXPECT_EQ(box.Text(), "50");
   EXPECT_FALSE(box.hasFocus());
   box.setFocus();
   ASSERT_TRUE(box.hasFocus());
-  wheel();
+  TurnWheel(box, 120);
   EXPECT_EQ(box.Text(), "51");
 }
 

@@ -1,7 +1,9 @@
 // Copying a property into all profiles, against a table of its own.
 #include "editors/property_copy.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
 
 #include "editors/widgets.h"
 #include "numbers/text.h"
@@ -12,22 +14,16 @@ namespace {
 
 /// What is expected of an entry. Without a range and choices it has a check box.
 struct ExpectedRow {
-  const char* Entry;
+  std::string Entry;
   std::string Range;    // of the number
   int Choices;          // in the list
-  const char* Target;   // the setting that changes; empty: none
+  std::string Target;   // the setting that changes; empty: none
   std::string Skipped;  // digits of the styles that are left alone
 };
 
-const ExpectedRow kExpected[] = {
-    {"Starfold Hue:  Red", "0 - 100", 0, "Starfold_HueRed", ""},
-    {"Starfold Hue:  Green", "0 - 100", 0, "Starfold_HueGrn", ""},
-    {"Starfold Hue:  Blue", "0 - 100", 0, "Starfold_HueBlu", ""},
-    {"Starfold Hue:  Base", "0 - 100", 0, "Starfold_HueBase", ""},
-    {"Starfold Hue:  Blend", "1 - 60", 0, "Starfold_HueBlend", ""},
+/// The entries that are more, less or something else than a number for the setting of their name.
+const ExpectedRow kSpecial[] = {
     {"Starfold Radius", "1 - 30000", 0, "Starfold_Radius", "7"},
-    {"Starfold Rotation Speed", "0 - 30000", 0, "Starfold_Rotation", ""},
-    {"Starfold Core Distance from Eye", "0 - 30000", 0, "Starfold_Distance", ""},
     {"Starfold Radial Arms", "1 - 99", 0, "Starfold_RadSegs", "123"},
     {"Starfold Radial Arm Fill %", "0 - 100", 0, "Starfold_RadFill", "123"},
     {"Starfold Radial Bands", "1 - 99", 0, "Starfold_RadBands", "127"},
@@ -35,60 +31,36 @@ const ExpectedRow kExpected[] = {
     {"Starfold Style", "", 10, "Starfold_FoldStyle", ""},
     {"Starfold Axial Plane of Rotation", "", 2, "Starfold_AxisPlane", ""},
     {"Starfold Shape Profile", "", 7, "Starfold_Profile", ""},
-    {"Starfold Height/Width Ratio", "0 - 99.9", 0, "Starfold_GHW_Ratio", ""},
     {"Starfold Radius Exponent", "0 - 99.9", 0, "Starfold_RadiusExp", "47"},
     {"Starfold Height Exponent", "0 - 99.9", 0, "Starfold_HeightExp", "4"},
     {"Starfold Angular Tilt", "0 - 359", 0, "Starfold_AngleTilt", ""},
     {"Starfold Angular Tilt Increment", "0 - 360.0", 0, "Starfold_AngleTInc", ""},
     {"Starfold Color Computation Index", "", 5, "Starfold_ColorComp", ""},
-    {"Starfold Color Multiplier", "0 - 30000", 0, "Starfold_ColorMult", ""},
-    {"Starfold Hue Wheel Start", "0 - 359", 0, "Starfold_HueStart", ""},
     {"Starfold Hue Wheel Increment", "0 - 360.0", 0, "Starfold_HWheelInc", ""},
-    {"New Star Frequency", "0 - 9999", 0, "Starfold_NewFreq", ""},
     {"New Star Frames", "1 - 999", 0, "Starfold_NewFrames", ""},
-    {"New Star Extension Multiplier", "1 - 9999", 0, "Starfold_NewExtMult", ""},
-    {"Nova Star Frequency", "0 - 9999", 0, "Starfold_NovaFreq", ""},
-    {"Nova Star Frames", "1 - 999", 0, "Starfold_NovaFrames", ""},
-    {"Nova Star Extension Multiplier", "1 - 9999", 0, "Starfold_NovaExtMult", ""},
-    {"Pulsar Star Frequency", "0 - 9999", 0, "Starfold_PulsarFreq", ""},
-    {"Pulsar Star Z-Depth", "0 - 9999", 0, "Starfold_PulsarDepth", ""},
-    {"Pulsar Star Cycles", "1 - 99", 0, "Starfold_PulsarCycles", ""},
-    {"Pulsar Star Frames per Cycle", "1 - 99", 0, "Starfold_PulsarFrames", ""},
-    {"Pulsar Star Radius Start", "1 - 9999", 0, "Starfold_PulsarMinExt", ""},
-    {"Pulsar Star Radius End", "1 - 9999", 0, "Starfold_PulsarMaxExt", ""},
     {"Pulsar Star General Shape", "", 5, "Starfold_PulsarShape", ""},
-    {"Comet Frequency", "0 - 9999", 0, "Starfold_CometFreq", ""},
     {"Comet Stars", "1 - 999", 0, "", ""},
     {"Comet Orbital Speed", "0 - 9999", 0, "", ""},
-    {"Comet Emit Speed", "0 - 9999", 0, "Starfold_CometSpeed", ""},
-    {"Comet Solar Wind", "0 - 9999", 0, "Starfold_CometSWind", ""},
-    {"Comet Persistence", "0.1 - 0.9999", 0, "Starfold_CometCPersist", ""},
-    {"Comet Star Persistence", "0.1 - 0.9999", 0, "Starfold_CometSPersist", ""},
-    {"Comet Hue Wheel Start", "0 - 999", 0, "Starfold_HWC_Start", ""},
-    {"Comet Hue Wheel End", "0 - 999", 0, "Starfold_HWC_End", ""},
-    {"Attractor Iteration Points", "1 - 99", 0, "", ""},
-    {"Attractor Iteration Scale %", "0 - 100", 0, "", ""},
-    {"Attractor Rotation Angle", "0 - 360", 0, "", ""},
-    {"Wireframe Vertices", "4 - 10", 0, "", ""},
-    {"Wireframe Scale %", "0 - 100", 0, "", ""},
-    {"Wireframe Iteration Levels", "1 - 99", 0, "", ""},
-    {"Fractal Iteration Points", "4 - 10", 0, "", ""},
-    {"Fractal Iteration Scale %", "0 - 100", 0, "", ""},
     {"Nebula Control Points", "1 - 20", 0, "Starfold_CP_Close", "012356789"},
     {"Nebula Control Point Steps", "1 - 9999", 0, "", ""},
     {"Nebula Bias Points", "1 - 99", 0, "", ""},
     {"Nebula Bias Exponent", "0 - 100", 0, "", ""},
     {"Nebula Bias Travel Speed", "0 - 999", 0, "", ""},
-    {"Nebula Expansion Speed", "0 - 99.9", 0, "", ""},
-    {"Nebula Solar Wind Magnitude", "0 - 99.9", 0, "", ""},
     {"Nebula Control Points Closed", "", 0, "", ""},
-    {"Quasar Emit Speed", "0 - 99.9", 0, "", ""},
-    {"Graviton Force", "0 - 99.9", 0, "", ""},
-    {"Starwave Expansion Rate", "1 - 30000", 0, "", ""},
-    {"Starwave Interleaved Waves", "1 - 99", 0, "", ""},
-    {"Starwave Amplitude Persistence", "1 - 999", 0, "", ""},
-    {"Starwave Particle Angle Increment", "0 - 99.9", 0, "", ""},
 };
+
+/// An entry that is called after no setting changes none; it is held to the range that it tells.
+ExpectedRow Expected(const std::string& entry, const std::string& rangeTold) {
+  for (const ExpectedRow& row : kSpecial) {
+    if (row.Entry == entry) return row;
+  }
+  const auto number = [](double value) { return NumberText(static_cast<Single>(value)); };
+  for (const auto& field : ProfileFields()) {
+    if (field.Label != entry) continue;
+    return {entry, number(field.Low) + " - " + number(field.High), 0, std::string(field.Name), ""};
+  }
+  return {entry, rangeTold, 0, "", ""};
+}
 
 constexpr Single kFormer = 3;  // of all settings; no row is tested with it
 
@@ -121,7 +93,7 @@ class PropertyCopyTest : public EditorTest {
     const ProfileArray former = Process->Profiles;
     for (StarfoldProfile& profile : Process->Profiles) {
       const auto style = static_cast<char>('0' + profile.Starfold_FoldStyle);
-      if (!*row.Target || row.Skipped.find(style) != std::string::npos) continue;
+      if (row.Target.empty() || row.Skipped.find(style) != std::string::npos) continue;
       EXPECT_TRUE(SetFieldText(profile, *FindField(ProfileFields(), row.Target), value));
     }
     std::vector<std::string> lines = Settings();
@@ -129,28 +101,32 @@ class PropertyCopyTest : public EditorTest {
     return lines;
   }
 
-  void PressCopy() { Part<QPushButton>(Copy, "cmdPropCopy").click(); }
+  QWidget& Window() override { return Copy; }
+  void PressCopy() { Click("cmdPropCopy"); }
 
   int Copies = 0;
   PropertyCopy Copy{Model};
-  QComboBox& List = Part<QComboBox>(Copy, "cboPropCopyList");
+  QComboBox& Properties = Part<QComboBox>(Copy, "cboPropCopyList");
   QLabel& Label = Part<QLabel>(Copy, "lblPropCopy");
   NumberBox& Box = Part<NumberBox>(Copy, "spnPropCopy");
   QLineEdit& Text = Part<QLineEdit>(Copy, "txtPropCopy");
   QComboBox& Choice = Part<QComboBox>(Copy, "cboPropCopy");
-  QCheckBox& Check = Part<QCheckBox>(Copy, "chkPropCopy");
+  QCheckBox& Closed = Part<QCheckBox>(Copy, "chkPropCopy");
 };
 
 TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
-  ASSERT_EQ(List.count(), static_cast<int>(std::size(kExpected)));
-  for (int i = 0; i < List.count(); ++i) {
-    const ExpectedRow& row = kExpected[i];
-    SCOPED_TRACE(row.Entry);
-    EXPECT_EQ(List.itemText(i).toStdString(), row.Entry);
-    List.setCurrentIndex(i);
+  ASSERT_EQ(Properties.count(), 68);
+  std::set<std::string> entries;
+  for (int i = 0; i < Properties.count(); ++i) {
+    Properties.setCurrentIndex(i);
+    const std::string entry = Properties.currentText().toStdString();
+    SCOPED_TRACE(entry);
+    EXPECT_TRUE(entries.insert(entry).second);
+    const std::string told = Label.text().section('(', 1).section(')', 0, 0).toStdString();
+    const ExpectedRow row = Expected(entry, told);
     EXPECT_EQ(!Box.isHidden(), !row.Range.empty());
     EXPECT_EQ(!Choice.isHidden(), row.Choices > 0);
-    EXPECT_EQ(!Check.isHidden(), row.Range.empty() && row.Choices == 0);
+    EXPECT_EQ(!Closed.isHidden(), row.Range.empty() && row.Choices == 0);
     EXPECT_EQ(Choice.count(), row.Choices);
     EXPECT_EQ(Label.text().toStdString(), row.Range.empty() ? "" : "Range (" + row.Range + "):");
 
@@ -172,8 +148,8 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
       Choice.setCurrentIndex(row.Choices - 1);
       value = std::to_string(row.Choices - 1);
     } else {
-      EXPECT_EQ(Check.text(), "Control Point Loop is Closed?");
-      Check.setChecked(true);
+      EXPECT_EQ(Closed.text(), "Control Point Loop is Closed?");
+      Closed.setChecked(true);
       value = "1";
     }
 
@@ -182,49 +158,49 @@ TEST_F(PropertyCopyTest, EveryEntryShowsItsControlAndChangesItsSettingOnly) {
     Copies = 0;
     PressCopy();
     EXPECT_EQ(Settings(), expected);
-    EXPECT_EQ(Copies, *row.Target ? 1 : 0);
+    EXPECT_EQ(Copies, row.Target.empty() ? 0 : 1);
     EXPECT_EQ(LastBox(), "");
     Process->Profiles = former;
   }
 }
 
 TEST_F(PropertyCopyTest, EachEntryBeginsWithoutTheFormerValue) {
-  List.setCurrentIndex(61);
-  Check.setChecked(true);
-  List.setCurrentIndex(12);
+  Properties.setCurrentIndex(61);
+  Closed.setChecked(true);
+  Properties.setCurrentIndex(12);
   Choice.setCurrentIndex(4);
-  List.setCurrentIndex(20);
+  Properties.setCurrentIndex(20);
   EXPECT_EQ(Choice.currentIndex(), 0);
-  List.setCurrentIndex(61);
-  EXPECT_FALSE(Check.isChecked());
+  Properties.setCurrentIndex(61);
+  EXPECT_FALSE(Closed.isChecked());
 }
 
 TEST_F(PropertyCopyTest, WithoutASelectionNothingIsShownOrTaken) {
   for (const int position : {-1, 68}) {
-    List.setCurrentIndex(5);
+    Properties.setCurrentIndex(5);
     Copy.SetupPropCopyValue(position);
-    EXPECT_TRUE(Box.isHidden() && Choice.isHidden() && Check.isHidden());
+    EXPECT_TRUE(Box.isHidden() && Choice.isHidden() && Closed.isHidden());
     EXPECT_EQ(Label.text(), "");
     EXPECT_EQ(Text.maxLength(), 0);
   }
-  List.setCurrentIndex(-1);
+  Properties.setCurrentIndex(-1);
   Activate(Copy);
   PressCopy();
   EXPECT_EQ(LastBox(), "Please select a Property to copy.");
-  EXPECT_TRUE(List.hasFocus());
+  EXPECT_TRUE(Properties.hasFocus());
 }
 
 TEST_F(PropertyCopyTest, AMissingValueIsAskedFor) {
   Activate(Copy);
-  List.setCurrentIndex(0);
+  Properties.setCurrentIndex(0);
   for (const char* blank : {"", " "}) {
-    List.setFocus();
+    Properties.setFocus();
     Box.SetText(blank);
     PressCopy();
     EXPECT_EQ(LastBox(), "Please enter a Property value.");
     EXPECT_TRUE(Box.hasFocus());
   }
-  List.setCurrentIndex(12);
+  Properties.setCurrentIndex(12);
   Choice.setCurrentIndex(-1);
   PressCopy();
   EXPECT_EQ(LastBox(), "Please select a Property value.");
@@ -234,7 +210,7 @@ TEST_F(PropertyCopyTest, AMissingValueIsAskedFor) {
 
 TEST_F(PropertyCopyTest, WholeNumbersTakeTheNearestEvenOneAndOthersTheNumberItself) {
   const auto copy = [this](int position, const char* text) {
-    List.setCurrentIndex(position);
+    Properties.setCurrentIndex(position);
     Box.SetText(text);
     Copy.CopyPropertyToAllProfiles();
   };
@@ -248,21 +224,16 @@ TEST_F(PropertyCopyTest, WholeNumbersTakeTheNearestEvenOneAndOthersTheNumberItse
   EXPECT_EQ(Process->Profiles[0].Starfold_GHW_Ratio, 2.5F);
 }
 
-TEST_F(PropertyCopyTest, TheMnemonicOfTheButtonTakesNoNumberOutOfRange) {
-  List.setCurrentIndex(5);
-  Box.SetText("40000");
-  PressCopy();
-  EXPECT_EQ(Process->Profiles[0].Starfold_Radius, 30000);
-  EXPECT_EQ(Box.Text(), "30000");
-}
-
-TEST_F(PropertyCopyTest, ColoursFollowTheRecords) {
-  List.setCurrentIndex(0);
+/// The mnemonic of the button leaves no box.
+TEST_F(PropertyCopyTest, TheButtonHoldsTheNumberAndColoursFollow) {
+  Properties.setCurrentIndex(0);
   Box.SetText("0");
   PressCopy();
   const Colour dark = Process->Colours.Profile[7].HueTable[0];
-  Box.SetText("100");
+  Box.SetText("101");
   PressCopy();
+  EXPECT_EQ(Process->Profiles[0].Starfold_HueRed, 100);
+  EXPECT_EQ(Box.Text(), "100");
   EXPECT_GT(Process->Colours.Profile[7].HueTable[0] & 0xFFU, dark & 0xFFU);
 }
 

@@ -8,7 +8,7 @@
 
 namespace starfolds {
 
-class FrmPropsTest : public testing::Test {
+class FrmPropsTest : public DialogTest {
  protected:
   FrmPropsTest() {
     Process->Tree = &Tree;
@@ -35,31 +35,20 @@ class FrmPropsTest : public testing::Test {
 
   FrmProps& Open() {
     Dialog = std::make_unique<FrmProps>(PropsSurroundings{
-        *Process, Boxes, Disk, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr, HomePage,
-        [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
+        *Process, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr,
+        HomePage, [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
   }
 
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*Dialog, name);
-  }
-  void Click(const char* name) { The<QPushButton>(name).click(); }
+  QWidget& Window() override { return *Dialog; }
   void Choose(const char* menuEntry) { Part<QAction>(*Dialog, menuEntry).trigger(); }
-  QLineEdit& Edit(const std::string& name) { return The<QLineEdit>(name.c_str()); }
 
   /// Types over what stands in a box, and leaves it.
   void Enter(const std::string& box, const std::string& text) {
     Edit(box).setText(QString::fromStdString(text));
     Leave(*Edit(box).parentWidget());
-  }
-
-  std::string LastBox() {
-    const std::string text = Boxes.Log.empty() ? "" : Boxes.Log.back().Text;
-    Boxes.Log.clear();
-    return text;
   }
 
   /// Opens the properties of a type of starfold.
@@ -68,11 +57,9 @@ class FrmPropsTest : public testing::Test {
     Click("cmdFoldProps");
   }
 
-  MemoryTree Tree;
   MemoryFiles Disk;
+  Files* UsedFiles = &Disk;
   MemoryDesktop Desktop;
-  ScriptedMessageBoxes Boxes;
-  MemoryHelp HelpBook;
   std::string HomePage;
   int Diagnostics = 0;
   int Abouts = 0;

@@ -4,73 +4,43 @@
 
 #include <QDropEvent>
 #include <QMimeData>
-#include <QPushButton>
 #include <QUrl>
 
 #include "editors/frm_file_io.h"
-#include "editors/frm_props.h"
-#include "settings/first_run.h"
-#include "settings/storage.h"
+#include "props_dialog.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "test_folder.h"
-#include "widgets.h"
 
 namespace starfolds {
 namespace {
 
-class PreviewPump : public CountedPump {
- public:
-  std::function<void()> OnPump;
-  void PumpEvents() override {
-    QApplication::processEvents();
-    if (OnPump) OnPump();
-  }
-};
-
 /// A user with the factory's settings, and a template of another universe, "other.sfd".
-class TemplateMenuTest : public testing::Test {
+class TemplateMenuTest : public FrmPropsTest {
  protected:
   TemplateMenuTest() {
-    Process->Tree = &Tree;
-    Process->Events = &Events;
-    SettingsRecords records;
-    LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
-    SaveSettings(Tree, records);
-    RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
-    RegistryWrite(Tree, sections::kGeneral, kResetSettings, Long{1});
-
+    UsedFiles = &RealDisk;
+    StoreFactory();
+    SettingsRecords records = LoadSettings(Tree);
     records.Universe.Universe_Stars = 1234;
     records.Profiles[5].UniFoldName = "Mine";
     records.Profiles[5].Starfold_Radius = 777;
     MemoryTree advanced;
     RegistryWrite(advanced, sections::kAdvanced, "LockMessage", "Hello");
-    TemplateFile file(Disk);
+    TemplateFile file(RealDisk);
     file.TemplateFileName = Folder.Path("other.sfd");
     WriteTemplate(file, advanced, records.Universe, records.Profiles, records.Composites, {});
     RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Folder.Path(""));
-    Dialog = std::make_unique<FrmProps>(PropsSurroundings{
-        *Process, Boxes, Disk, HelpBook, "/nowhere", "/nowhere", [] { return 1U; }});
-    Dialog->Open();
-    Activate(*Dialog);
+    Open();
   }
 
-  template <class Widget>
-  Widget& The(const char* name) {
-    return Part<Widget>(*Dialog, name);
-  }
-  void Click(const char* name) { The<QPushButton>(name).click(); }
   QAction& Entry(const char* name) { return Part<QAction>(*Dialog, name); }
   QString Box(const char* name) { return The<QLineEdit>(name).text(); }
   QString Name(int type) { return The<BodyList>("lstUniStarfold").EntryName(type).c_str(); }
   bool InStarfoldView() { return The<QPushButton>("cmdDismiss").isHidden(); }
-  void OpenType(int type) {
-    The<BodyList>("lstUniStarfold").setCurrentRow(type);
-    Click("cmdFoldProps");
-  }
 
   /// Chooses an entry, and a name in the dialog that comes up.
-  void Choose(const char* entry, const QString& name) {
+  void ChooseFile(const char* entry, const QString& name) {
     WhenShown<FrmFileIo>([name](FrmFileIo& dialog) {
       Part<QLineEdit>(dialog, "txtFile").setText(name);
       Part<QPushButton>(dialog, "cmdOK").click();
@@ -81,7 +51,7 @@ class TemplateMenuTest : public testing::Test {
 
   SettingsRecords Saved(const std::string& name) {
     SettingsRecords records;
-    TemplateFile file(Disk);
+    TemplateFile file(RealDisk);
     EXPECT_EQ(ReadTemplate(file, Folder.Path(name), records), std::nullopt);
     return records;
   }
@@ -105,47 +75,41 @@ class TemplateMenuTest : public testing::Test {
   }
 
   TestFolder Folder;
-  DiskFiles Disk;
-  MemoryTree Tree;
-  MemoryHelp HelpBook;
-  ScriptedMessageBoxes Boxes;
-  PreviewPump Events;
-  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
-  std::unique_ptr<FrmProps> Dialog;
+  DiskFiles RealDisk;
 };
 
 TEST_F(TemplateMenuTest, AnOpenedTemplateIsShownAndSavedAgain) {
   The<QComboBox>("cboUniTheme").setCurrentIndex(3);
-  Choose("mnuOpen", "other.sfd");
+  ChooseFile("mnuOpen", "other.sfd");
   EXPECT_EQ(Box("txtUni_0"), "1234");
   EXPECT_EQ(Name(5), "Mine");
   EXPECT_EQ(The<QComboBox>("cboUniTheme").currentIndex(), 0);
   EXPECT_EQ(RegistryReadText(Tree, sections::kAdvanced, "LockMessage"), "Hello");
   EXPECT_EQ(LoadSettings(Tree).Profiles[5].UniFoldName, "Rapid Rotator");
   The<QLineEdit>("txtUni_0").setText("99999999");  // the entry's key leaves no box
-  Entry("mnuSave").trigger();
+  Choose("mnuSave");
   EXPECT_EQ(Saved("other.sfd").Universe.Universe_Stars, 30000);
   EXPECT_EQ(Saved("other.sfd").Profiles[5].Starfold_Radius, 777);
   EXPECT_TRUE(Boxes.Log.empty());
 }
 
 TEST_F(TemplateMenuTest, SaveAsksForANameOnce) {
-  Choose("mnuSave", "first");
+  ChooseFile("mnuSave", "first");
   The<QLineEdit>("txtUni_0").setText("55");
-  Entry("mnuSave").trigger();
+  Choose("mnuSave");
   EXPECT_EQ(Saved("first.sfd").Universe.Universe_Stars, 55);
 }
 
 TEST_F(TemplateMenuTest, TheOpenPageIsSavedAndALoadedTemplateTakesItsPlace) {
   OpenType(5);
   The<QLineEdit>("txtStarfold_0").setText("4321");
-  Choose("mnuSaveAs", "page");
+  ChooseFile("mnuSaveAs", "page");
   EXPECT_EQ(Saved("page.sfd").Profiles[5].Starfold_Radius, 4321);
   EXPECT_TRUE(InStarfoldView());
-  Choose("mnuOpen", "missing.sfd");
+  ChooseFile("mnuOpen", "missing.sfd");
   EXPECT_TRUE(InStarfoldView());
   EXPECT_EQ(Box("txtStarfold_0"), "4321");
-  Choose("mnuOpen", "other.sfd");
+  ChooseFile("mnuOpen", "other.sfd");
   EXPECT_FALSE(InStarfoldView());
   OpenType(5);
   EXPECT_EQ(Box("txtStarfold_0"), "777");
@@ -153,16 +117,16 @@ TEST_F(TemplateMenuTest, TheOpenPageIsSavedAndALoadedTemplateTakesItsPlace) {
 
 TEST_F(TemplateMenuTest, WhatCannotBeReadOrWrittenIsToldAndChangesNothing) {
   std::ofstream(Folder.Path("broken.sfd")) << "no template";
-  Choose("mnuOpen", "broken.sfd");
+  ChooseFile("mnuOpen", "broken.sfd");
   ASSERT_EQ(Boxes.Log.size(), 1U);
   EXPECT_EQ(Boxes.Log.back().Text, "The template could not be opened:\n" +
                                        Folder.Path("broken.sfd") +
                                        "\n\nIt holds no settings of a universe");
   EXPECT_EQ(Box("txtUni_0"), "5000");
-  Choose("mnuOpen", "other.sfd");
+  ChooseFile("mnuOpen", "other.sfd");
   std::filesystem::remove(Folder.Path("other.sfd"));
   std::filesystem::create_directory(Folder.Path("other.sfd"));
-  Entry("mnuSave").trigger();
+  Choose("mnuSave");
   ASSERT_EQ(Boxes.Log.size(), 2U);
   EXPECT_TRUE(Boxes.Log.back().Text.starts_with("The template could not be saved to:\n"));
 }
@@ -184,10 +148,7 @@ TEST_F(TemplateMenuTest, OneTemplateCanBeDropped) {
 }
 
 TEST_F(TemplateMenuTest, NothingIsOpenedWhileAPreviewRuns) {
-  bool looked = false;
-  Events.OnPump = [&] {
-    if (looked) return;
-    looked = true;
+  Events.Plan[1] = [&] {
     for (const char* entry : {"mnuOpen", "mnuSave", "mnuSaveAs"}) {
       EXPECT_FALSE(Entry(entry).isEnabled());
     }
@@ -195,7 +156,7 @@ TEST_F(TemplateMenuTest, NothingIsOpenedWhileAPreviewRuns) {
     Click("cmdPreviewUni");
   };
   Click("cmdPreviewUni");
-  EXPECT_TRUE(looked);
+  EXPECT_EQ(Events.Pumps, 1);
   EXPECT_TRUE(Entry("mnuOpen").isEnabled());
   EXPECT_TRUE(Drop({Folder.Path("other.sfd")}));
 }
