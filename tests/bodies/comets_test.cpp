@@ -94,22 +94,6 @@ TEST(Comets, ThePoolHoldsAsManyAsTheirStarsFitIn) {
   }
 }
 
-TEST(Comets, ALaunchTakesOneDrawnSlotByItsChance) {
-  CometStage stage([](StarfoldProfile& set) {
-    set.Starfold_CometFreq = 2500;
-    set.Starfold_CometStars = 250;  // room for ten
-  });
-  constexpr int frames = 20000;
-  std::array<int, 10> slots{};
-  for (int frame = 0; frame < frames; ++frame) {
-    stage.StepComets();
-    ASSERT_LE(stage.LiveHeads(), 1);
-    for (std::size_t k = 0; k < slots.size(); ++k) slots[k] += stage.Head(k).CometLeft > 0;
-    stage.Visit(0);
-  }
-  for (const int count : slots) EXPECT_NEAR(count, frames * 0.025, FiveSigma(frames, 0.025));
-}
-
 TEST(Comets, EachCometHasSlotsOfItsOwn) {
   CometStage stage;
   stage.StepComets(2000);
@@ -124,27 +108,6 @@ TEST(Comets, EachCometHasSlotsOfItsOwn) {
   for (std::size_t j = 0; j < kCometStars; ++j) {
     EXPECT_EQ(stage.Comets().CometStarLive[j] != 0, j < 2460 && j / 60 != 7) << j;
   }
-}
-
-TEST(Comets, ADyingCometFreesItsSlotWhenItsLastStarEnds) {
-  CometStage stage([](StarfoldProfile& set) { set.Starfold_CometStars = 250; });
-  CometHead& head = stage.LaunchOne();
-  stage.Set().Starfold_CometSPersist = 0.75F;
-  stage.Set().Starfold_CometCPersist = 0;
-  stage.StepComets();
-  EXPECT_FALSE(head.CometLive) << "the nucleus goes first";
-  EXPECT_EQ(head.CometLeft, 250) << "in a frame in which its stars were still reborn";
-  stage.StepComets();
-  EXPECT_NEAR(head.CometLeft, 250 * 0.75, FiveSigma(250, 0.75));
-  for (int frames = 0; head.CometLeft > 0; ++frames) {
-    ASSERT_LT(frames, 1000);
-    ASSERT_EQ(stage.LiveStars(), head.CometLeft);
-    stage.StepComets();
-  }
-  stage.Chance() = 1;
-  stage.Set().Starfold_CometCPersist = 1;
-  stage.StepComets(200);
-  EXPECT_GT(head.CometLeft, 0) << "and is taken again";
 }
 
 TEST(Comets, ANewVisitErasesThem) {
@@ -198,47 +161,6 @@ TEST(Comets, NothingStaysLitWhenTheyAreGone) {
     for (int frame = 0; frame < 2000 && stage.LiveHeads() > 0; ++frame) stage.StepComets(1, 1);
     EXPECT_EQ(stage.LiveStars(), 0) << style;
     EXPECT_EQ(stage.LitPixels(), 0) << style;
-  }
-}
-
-TEST(Comets, StarsLeaveTheNucleusScatteredAndBlownOutward) {
-  CometStage stage([&](StarfoldProfile& set) {
-    set.Starfold_CometSpeed = 900;
-    set.Starfold_CometSWind = 700;
-    set.Starfold_CometSPersist = 0;  // all stars are shed anew in every frame
-  });
-  stage.LaunchOne();
-  const CometArrays& comets = stage.Comets();
-  const std::size_t first = stage.FirstLiveStar();
-  const double r =
-      Length(comets.CometStarX[first], comets.CometStarY[first], comets.CometStarZ[first]);
-  ASSERT_GT(r, 0.1);
-  for (std::size_t j = first; j < first + 60; ++j) {
-    EXPECT_EQ(comets.CometStarX[j], comets.CometStarX[first]) << "together";
-    const double wind = 0.007 / r;
-    EXPECT_NEAR(Length(comets.CometStarVX[j] - comets.CometStarX[j] * wind,
-                       comets.CometStarVY[j] - comets.CometStarY[j] * wind,
-                       comets.CometStarVZ[j] - comets.CometStarZ[j] * wind),
-                0.009, 1e-7);
-  }
-}
-
-TEST(Comets, TheNucleusIsSeenTiltedAsTheBodyIs) {
-  for (const bool upright : {false, true}) {
-    CometStage stage([&](StarfoldProfile& set) {
-      set.Starfold_AngleTilt = 90;
-      set.Starfold_AxisPlane = upright;
-      set.Starfold_CometSpeed = 0;
-      set.Starfold_CometSWind = 0;
-      set.Starfold_CometOrbit = 0;
-    });
-    const CometHead& head = stage.LaunchOne();
-    const std::size_t j = stage.FirstLiveStar();
-    const CometArrays& comets = stage.Comets();
-    // A quarter turn brings the axis along the line of sight.
-    EXPECT_NEAR(comets.CometStarZ[j], head.CometY, 1e-5);
-    EXPECT_NEAR(comets.CometStarX[j], upright ? head.CometZ : head.CometX, 1e-5);
-    EXPECT_NEAR(comets.CometStarY[j], upright ? head.CometX : head.CometZ, 1e-5);
   }
 }
 

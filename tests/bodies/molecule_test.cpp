@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numbers>
 #include <set>
 #include <tuple>
 
@@ -42,24 +43,6 @@ class Molecule : public OneBody {
   }
 };
 
-/// All places whose coordinates have the given amounts, in any order and with any signs.
-void AddShell(Spots& spots, std::array<double, 3> amounts) {
-  std::sort(amounts.begin(), amounts.end());
-  do {
-    for (int signs = 0; signs < 8; ++signs) {
-      spots.insert(SpotAt((signs & 1 ? -1 : 1) * amounts[0] * kSpacing,
-                          (signs & 2 ? -1 : 1) * amounts[1] * kSpacing,
-                          (signs & 4 ? -1 : 1) * amounts[2] * kSpacing));
-    }
-  } while (std::next_permutation(amounts.begin(), amounts.end()));
-}
-
-Spots Shells(std::initializer_list<std::array<double, 3>> shells) {
-  Spots spots;
-  for (const auto& amounts : shells) AddShell(spots, amounts);
-  return spots;
-}
-
 class Lattice : public Molecule {
  protected:
   /// The places of a structure, all of which are equally likely.
@@ -77,34 +60,34 @@ class Lattice : public Molecule {
   }
 };
 
-TEST_F(Lattice, ShellsAreTheirSymmetricPlaces) {
-  const double cube = std::pow(2, -0.75);
-  const double half = std::sqrt(0.5);
-  const double third = std::sqrt(0.75);
-  const Spots expected[] = {
-      Shells({{1, 0, 0}}),
-      Shells({{1, 1, 1}}),
-      Shells({{1, 0, 0}, {half, half, 0}}),
-      Shells({{1, 0, 0}, {half, half, 0}, {cube, cube, cube}}),
-      Shells({{1, 0, 0}, {cube, cube, cube}, {third, 0.5, 0}}),
-  };
-  for (Integer structure = 1; structure <= 5; ++structure) {
-    const Spots& shell = expected[structure - 1];
-    EXPECT_EQ(PlacesOf(structure, 0, static_cast<int>(shell.size())), shell) << structure;
-  }
-}
-
-TEST_F(Lattice, StacksAreClosePackedAboutTheAxis) {
-  const double layer = std::sqrt(2.0 / 3);  // of close packing, in spacings
+TEST_F(Lattice, ShellsAndStacksLieEvenlyAboutTheAxis) {
+  const double layer = std::sqrt(2.0 / 3);  // of close packing
+  const double degree = std::numbers::pi / 180;
   struct Case {
     Integer Structure, Edge;
     int Points;
-    double Top;  // the highest place, in spacings
+    double Top, Nearest;  // the highest place and the least distance, in spacings
   };
-  for (const Case& c : {Case{6, 2, 4, 0}, Case{6, 4, 16, 0}, Case{7, 2, 7, 0}, Case{7, 4, 37, 0},
-                        Case{8, 2, 8, 0.5}, Case{8, 4, 64, 1.5}, Case{9, 2, 4, layer / 3},
-                        Case{9, 3, 10, layer}, Case{10, 2, 5, layer}, Case{10, 3, 14, 2 * layer},
-                        Case{11, 2, 16, 1.5}, Case{11, 3, 71, 2}, Case{11, 4, 200, 3.5}}) {
+  for (const Case& c : {
+           Case{1, 0, 6, 1, std::sqrt(2)},
+           Case{2, 0, 8, 1, 2},
+           Case{3, 0, 18, 1, 2 * std::sin(22.5 * degree)},
+           Case{4, 0, 26, 1, std::hypot(std::sqrt(2) * (std::sqrt(0.5) - 0.594603), 0.594603)},
+           Case{5, 0, 38, 1, 2 * std::sin(15 * degree)},
+           Case{6, 2, 4, 0, 1},
+           Case{6, 4, 16, 0, 1},
+           Case{7, 2, 7, 0, 1},
+           Case{7, 4, 37, 0, 1},
+           Case{8, 2, 8, 0.5, 1},
+           Case{8, 4, 64, 1.5, 1},
+           Case{9, 2, 4, layer / 3, 1},
+           Case{9, 3, 10, layer, 1},
+           Case{10, 2, 5, layer, 1},
+           Case{10, 3, 14, 2 * layer, 1},
+           Case{11, 2, 16, 1.5, 1},
+           Case{11, 3, 71, 2, 1},
+           Case{11, 4, 200, 3.5, 1},
+       }) {
     SCOPED_TRACE(testing::Message() << "structure " << c.Structure << ", edge " << c.Edge);
     const Spots places = PlacesOf(c.Structure, c.Edge, c.Points);
     double sumX = 0, sumZ = 0, top = -99, nearest = 99;
@@ -121,7 +104,7 @@ TEST_F(Lattice, StacksAreClosePackedAboutTheAxis) {
     EXPECT_NEAR(sumX / c.Points, 0, 0.001);
     EXPECT_NEAR(sumZ / c.Points, 0, 0.001);
     EXPECT_NEAR(top, c.Top * kSpacing, 0.001);
-    EXPECT_NEAR(nearest, kSpacing, 0.002);
+    EXPECT_NEAR(nearest, c.Nearest * kSpacing, 0.002);
   }
 }
 

@@ -33,10 +33,6 @@ class Plotters : public ::testing::Test {
   scenes::Stage stage_;
 };
 
-/// The four places (+-n, 0), (0, +-n), and the four corners about them.
-void AddAxis(Places& places, int n) { places.insert({{-n, 0}, {n, 0}, {0, -n}, {0, n}}); }
-void AddSquare(Places& places, int n) { places.insert({{-n, -n}, {n, -n}, {-n, n}, {n, n}}); }
-
 TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
   struct Case {
     double Unit;  // pixels
@@ -48,14 +44,6 @@ TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
     PlotNew(Screen(), 200, 150, 1, 8, 8, static_cast<Single>(c.Unit), 0xFFFFFF);
     EXPECT_EQ(Lit().size(), c.Pixels) << c.Unit;
   }
-}
-
-TEST_F(Plotters, ALargeNewStarIsACrossWithDiagonals) {
-  PlotNew(Screen(), 200, 150, 2, 4, 8, 4, 0xFFFFFF);  // 1/2 * 4 * 4/8: one pixel a unit
-  Places expected{{0, 0}};
-  for (const int m : {1, 4, 16, 32}) AddAxis(expected, m);
-  for (const int m : {8, 12}) AddSquare(expected, m);
-  EXPECT_EQ(Lit(), expected);
 }
 
 TEST_F(Plotters, FlareSizesFollowTheFocalLengthAndNotTheWindow) {

@@ -100,30 +100,6 @@ TEST_F(Ribbon, AfterItsStepsEveryPointReachesTheNextKey) {
   }
 }
 
-TEST_F(Ribbon, TheExponentSpreadsStarsAboutTheBiasPoints) {
-  constexpr int spots = 4;
-  constexpr int stars = 20000;
-  Set().Starfold_CP_B_Pts = spots;
-  struct Case {
-    Integer Exponent;
-    double NearShare;  // of the stars within half of the half band: 1 - 0.5^(1/exponent)
-  };
-  for (const Case& c : {Case{50, 0.75}, Case{200, 1 - std::sqrt(0.5)}}) {
-    Set().Starfold_CP_B_Exp = c.Exponent;
-    SetUpSlots();
-    int near = 0;
-    int before = 0;
-    for (int i = 0; i < stars; ++i) {
-      const double place = double{Seed().Span} * spots;
-      const double offset = place - std::floor(place) - 0.5;
-      near += std::abs(offset) < 0.25;
-      before += offset < 0;
-    }
-    EXPECT_NEAR(near, stars * c.NearShare, FiveSigma(stars, c.NearShare)) << c.Exponent;
-    EXPECT_NEAR(before, stars * 0.5, FiveSigma(stars, 0.5)) << c.Exponent;
-  }
-}
-
 TEST_F(Ribbon, TheBiasTravelsWithEachSeededStar) {
   Set().Starfold_CP_B_Exp = 0;
   Set().Starfold_CP_B_Spd = 15000;  // 1.5 points a star
