@@ -118,6 +118,7 @@ const BadLine kBadLines[] = {
     {{"--scale", "5"}, "from 1 to 4"},
     {{"--seed", "18446744073709551616"}, "not \"18446744073709551616\""},
     {{"--seed", " 1"}, "not \" 1\""},
+    {{"--seed", "1e3"}, "not \"1e3\""},
     {{"--frames", kLong}, "from 1 to 100000000"},
     {{"--every", "0"}, "--every: takes a whole number"},
     {{"--hash", "--frames", "10", "--first", "11"}, "--first 11 lies beyond the last frame, 10"},
