@@ -67,11 +67,6 @@ class CometStage : public scenes::BodyStage {
     return *std::find_if(Comets().Heads.begin(), Comets().Heads.end() - 1,
                          [](const CometHead& head) { return head.CometLeft > 0; });
   }
-
-  std::size_t FirstLiveStar() {
-    const auto& live = Comets().CometStarLive;
-    return static_cast<std::size_t>(std::find(live.begin(), live.end(), 1) - live.begin());
-  }
 };
 
 TEST(Comets, TheyLiveFromTheThirdStepOfAVisit) {
