@@ -1,6 +1,5 @@
 #include "bodies/emitters.h"
 
-#include <map>
 #include <numbers>
 
 #include "bodies/star_motion.h"
@@ -30,19 +29,14 @@ class Quasar : public OneBody {
 };
 
 TEST_F(Quasar, TheShapeGrowsWithoutChangingForm) {
-  for (const Single force : {0.0F, 5.0F, 80.0F}) {
-    Set().Starfold_QG_Force = force;
-    SetUpSlots();
-    const double growth = 1 + 10 * 0.01 * static_cast<double>(force);
-    for (int i = 0; i < 200; ++i) {
-      const SeedPoint seed = Seed();
-      StarState star = StateOf(seed);
-      Move(star, Run(), 10);
-      const double tolerance = 1e-5 * growth * kMaxLevels;
-      EXPECT_NEAR(star.StarX, seed.X * growth, tolerance);
-      EXPECT_NEAR(star.StarY, seed.Y * growth, tolerance);
-      EXPECT_NEAR(star.StarZ, seed.Z * growth, tolerance);
-    }
+  Set().Starfold_QG_Force = 5;
+  SetUpSlots();
+  for (int i = 0; i < 200; ++i) {
+    const SeedPoint seed = Seed();
+    StarState star = StateOf(seed);
+    Move(star, Run(), 10);
+    ExpectPoint({star.StarX, star.StarY, star.StarZ}, {seed.X * 1.5F, seed.Y * 1.5F, seed.Z * 1.5F},
+                1e-4);
   }
 }
 
@@ -69,24 +63,16 @@ class Graviton : public OneBody {
   static constexpr double kForce = 0.0005;
 };
 
-TEST_F(Graviton, AStarFallsFromRest) {
+TEST_F(Graviton, TheFallFromRestKeepsItsEnergy) {
   SetUpSlots();
-  for (int i = 0; i < 50; ++i) {
-    SeedPoint star;
-    star.VX = star.VY = star.VZ = 9;  // of its former life
-    SeedByStyle(star, TheBody(), Slots, 0);
-    EXPECT_EQ(Length(star.VX, star.VY, star.VZ), 0);
-  }
-}
-
-TEST_F(Graviton, TheFallKeepsItsEnergyAndGoesThroughTheCore) {
-  SetUpSlots();
-  StarState star;
+  SeedPoint seed;
+  seed.VX = seed.VY = seed.VZ = 9;  // of its former life
+  SeedByStyle(seed, TheBody(), Slots, 0);
+  StarState star = StateOf(seed);
   star.StarX = 2;
   star.StarY = -1;
   star.StarZ = 2;
-  int frames = 0;
-  for (; Length(star.StarX, star.StarY, star.StarZ) > 0.3; ++frames) {
+  for (int frames = 0; Length(star.StarX, star.StarY, star.StarZ) > 0.3; ++frames) {
     ASSERT_LT(frames, 1000) << "it never falls";
     Move(star, Run(), 1);
     const double r = Length(star.StarX, star.StarY, star.StarZ);
@@ -96,28 +82,6 @@ TEST_F(Graviton, TheFallKeepsItsEnergyAndGoesThroughTheCore) {
     EXPECT_NEAR(star.StarX, star.StarZ, 1e-4) << "straight for the core";
     EXPECT_NEAR(star.StarX, -2 * star.StarY, 1e-4);
   }
-  // The last steps before the core are coarse, so how fast it comes out is not certain.
-  for (frames = 0; star.StarX > -0.3; ++frames) {
-    ASSERT_LT(frames, 1000) << "it never comes out on the far side";
-    Move(star, Run(), 1);
-  }
-  EXPECT_NEAR(star.StarX, star.StarZ, 1e-3);
-  EXPECT_NEAR(star.StarX, -2 * star.StarY, 1e-3);
-}
-
-TEST_F(Graviton, AStarOfTheRightSpeedCircles) {
-  SetUpSlots();
-  StarState star;
-  star.StarX = 2;
-  const double speed = std::sqrt(kForce);  // at any distance: the pull goes with 1 / r
-  star.StarVZ = static_cast<Single>(speed);
-  const double period = 2 * std::numbers::pi * 2 / speed;
-  for (int frame = 0; frame < std::lround(period); ++frame) {
-    Move(star, Run(), 1);
-    ASSERT_NEAR(std::hypot(star.StarX, star.StarZ), 2, 0.03) << frame;
-  }
-  EXPECT_NEAR(star.StarX, 2, 0.03);
-  EXPECT_NEAR(star.StarZ, 0, 0.06);
 }
 
 TEST_F(Graviton, TheExactCentreIsHarmless) {
@@ -125,10 +89,6 @@ TEST_F(Graviton, TheExactCentreIsHarmless) {
   StarState still;
   Move(still, Run(), 3);
   EXPECT_EQ(Length(still.StarX, still.StarY, still.StarZ), 0);
-  StarState near;
-  near.StarX = 1e-6F;
-  Move(near, Run(), 1);
-  EXPECT_NEAR(near.StarVX, -kForce * 1e-6 / (1e-12 + 1e-9), 1e-4) << "flung off at once";
 }
 
 class Starwave : public OneBody {
@@ -137,8 +97,6 @@ class Starwave : public OneBody {
     Set().Starfold_Radius = 500;
     Set().Starfold_GHW_Ratio = 0.4F;  // an amplitude of 2
     Set().Starfold_RadBands = 4;
-    Set().Starfold_RadBFill = 20;   // frames to half of it
-    Set().Starfold_RadiusExp = 15;  // degrees a frame
   }
   static constexpr double kAmplitude = 2;
 };
@@ -158,64 +116,27 @@ TEST_F(Starwave, TwoDrawsForTheDirectionAndOneForThePhase) {
   EXPECT_EQ(Length(star.X, star.Y, star.Z), 0) << "in the core";
 }
 
-TEST_F(Starwave, StarsRunOutAtOneSpeedInEquallyLikelyWaves) {
-  constexpr Integer waves = 7;
-  Set().Starfold_RadBands = waves;
-  SetUpSlots();
-  constexpr int stars = 14000;
-  std::map<long, int> hits;
-  for (int i = 0; i < stars; ++i) {
-    const SeedPoint star = Seed();
-    ASSERT_NEAR(std::hypot(star.VX, star.VZ), 0.05, 1e-6);
-    const double wave = star.VY / (2 * std::numbers::pi) * waves;
-    ASSERT_NEAR(wave, std::round(wave), 1e-5);
-    ++hits[std::lround(wave)];
-  }
-  ASSERT_EQ(hits.size(), static_cast<std::size_t>(waves));
-  EXPECT_EQ(hits.begin()->first, 0);
-  for (const auto& [wave, count] : hits) {
-    EXPECT_NEAR(count, stars / double{waves}, FiveSigma(stars, 1.0 / waves)) << wave;
-  }
-}
-
-TEST_F(Starwave, HeightsFollowASineOfThePhase) {
-  Set().Starfold_RadBFill = 9999;
-  SetUpSlots();
+TEST_F(Starwave, HeightsFollowASineOfThePhaseAndDecay) {
   struct Case {
-    double Draw;  // of the phase: quarters of a turn
+    Single PhaseStep;  // degrees a frame
+    Integer HalfLife;  // frames; 0: a flat wave
+    Single Draw;       // of the phase: quarters of a turn
     int Frames;
-    double Height;  // in amplitudes
+    double Height;  // in amplitudes, before it decays
   };
-  for (const Case& c : {Case{0, 2, 0.5}, Case{0, 6, 1}, Case{0, 12, 0}, Case{0, 18, -1},
-                        Case{0.25, 6, 0}, Case{0.5, 6, -1}}) {
-    Draws({0, 0, static_cast<Single>(c.Draw)});
+  for (const Case& c :
+       {Case{15, 9999, 0, 2, 0.5}, Case{15, 9999, 0, 18, -1}, Case{15, 30, 0.25F, 12, -1},
+        Case{15, 9999, 0.5F, 6, -1}, Case{0, 20, 0.25F, 60, 1}, Case{0, 0, 0.25F, 5, 1}}) {
+    Set().Starfold_RadiusExp = c.PhaseStep;
+    Set().Starfold_RadBFill = c.HalfLife;
+    SetUpSlots();
+    Draws({0, 0, c.Draw});
     StarState star = StateOf(Seed());
     Move(star, Run(), c.Frames);
-    const double fading = 9999.0 / (9999 + c.Frames);
+    const double fading = double{1} * c.HalfLife / (c.HalfLife + c.Frames);
     EXPECT_NEAR(star.StarY, kAmplitude * c.Height * fading, 1e-4) << c.Draw << " " << c.Frames;
     EXPECT_NEAR(std::hypot(star.StarX, star.StarZ), 0.05 * c.Frames, 1e-5) << "a circular ripple";
   }
-}
-
-TEST_F(Starwave, AStandingPhaseShowsTheDecay) {
-  Set().Starfold_RadiusExp = 0;
-  SetUpSlots();
-  Draws({0, 0, 0.25F});  // at the crest
-  StarState star = StateOf(Seed());
-  Move(star, Run(), 20);
-  EXPECT_NEAR(star.StarY, kAmplitude / 2, 1e-5);
-  Move(star, Run(), 40);
-  EXPECT_NEAR(star.StarY, kAmplitude / 4, 1e-5);
-}
-
-TEST_F(Starwave, NoPersistenceIsAFlatWave) {
-  Set().Starfold_RadBFill = 0;
-  Set().Starfold_RadiusExp = 0;
-  SetUpSlots();
-  Draws({0, 0, 0.25F});
-  StarState star = StateOf(Seed());
-  Move(star, Run(), 5);
-  EXPECT_EQ(star.StarY, 0);
 }
 
 TEST(StarwaveTrails, WithTrailsAWaveAgesTwiceAsFast) {
@@ -223,17 +144,10 @@ TEST(StarwaveTrails, WithTrailsAWaveAgesTwiceAsFast) {
     scenes::BodyStage stage(320, 180, 50, trail, [](SettingsRecords& settings) {
       StarfoldProfile& set = settings.Profiles[0];
       set.Starfold_FoldStyle = static_cast<Integer>(FoldStyle::Starwave);
-      set.Starfold_RadiusExp = 0;
-      set.Starfold_RadBands = 2;
-      set.Starfold_RadBFill = 30;
       set.Starfold_NewFreq = 0;
-      set.Starfold_CometFreq = 0;
     });
-    StarState& star = stage.Run->Stars.Star[7];
-    star.StarVY = static_cast<Single>(std::numbers::pi / 2);
-    const int halfLife = trail == 1 ? 30 : 15;
-    for (int frame = 0; frame < halfLife; ++frame) stage.Step();
-    EXPECT_NEAR(star.StarY, stage.Process->Prepared[0].Star.WaveAmplitude / 2, 1e-5) << trail;
+    for (int frame = 0; frame < 15; ++frame) stage.Step();
+    EXPECT_EQ(stage.Run->Stars.Star[7].StarAge, trail == 1 ? 15 : 30);
   }
 }
 

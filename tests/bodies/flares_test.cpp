@@ -66,17 +66,6 @@ TEST_F(Roll, PulsarsComeFirstThenNovasThenNewStars) {
   EXPECT_EQ(star.StarNovaLeft + star.StarPulsarLeft, 0);
 }
 
-TEST_F(Roll, ANewStarSettlesWhereItIs) {
-  StarState& star = Reseed(0.6F);
-  const Single height = star.StarY;
-  for (int frame = 0; frame < 5; ++frame) {
-    EXPECT_EQ(star.StarNewLeft, 5 - frame);
-    Stage_.Step();
-  }
-  EXPECT_FALSE(star.InFlare());
-  EXPECT_EQ(star.StarY, height);
-}
-
 TEST_F(Roll, NovasAndPulsarsEndInANewSeed) {
   Stage_.Process->Prepared[0].RunPulsarChance = 0.1F;
   for (const auto& [roll, frames] : {std::pair{0.25F, 15}, std::pair{0.05F, 60}}) {

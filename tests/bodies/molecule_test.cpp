@@ -6,7 +6,6 @@
 #include <set>
 #include <tuple>
 
-#include "bodies/star_motion.h"
 #include "one_body.h"
 
 namespace starfolds {
@@ -44,168 +43,68 @@ class Molecule : public OneBody {
   }
 };
 
-/// All places whose coordinates have the given amounts, in any order and with any signs.
-void AddShell(Spots& spots, std::array<double, 3> amounts) {
-  std::sort(amounts.begin(), amounts.end());
-  do {
-    for (int signs = 0; signs < 8; ++signs) {
-      spots.insert(SpotAt((signs & 1 ? -1 : 1) * amounts[0] * kSpacing,
-                          (signs & 2 ? -1 : 1) * amounts[1] * kSpacing,
-                          (signs & 4 ? -1 : 1) * amounts[2] * kSpacing));
-    }
-  } while (std::next_permutation(amounts.begin(), amounts.end()));
-}
-
-Spots Shells(std::initializer_list<std::array<double, 3>> shells) {
-  Spots spots;
-  for (const auto& amounts : shells) AddShell(spots, amounts);
-  return spots;
-}
-
-/// A grid of `edge` places on each of the axes that extend, about the centre.
-Spots Grid(int edge, int layers) {
-  Spots spots;
-  const double half = (edge - 1) / 2.0;
-  for (int x = 0; x < edge; ++x) {
-    for (int z = 0; z < edge; ++z) {
-      for (int y = 0; y < layers; ++y) {
-        spots.insert(SpotAt((x - half) * kSpacing, (y - (layers - 1) / 2.0) * kSpacing,
-                            (z - half) * kSpacing));
-      }
-    }
-  }
-  return spots;
-}
-
-/// The places of a hexagonal lattice less than `rings` steps from the centre.
-void AddHexagon(Spots& spots, int rings, double y) {
-  for (int q = -rings; q <= rings; ++q) {
-    for (int r = -rings; r <= rings; ++r) {
-      if (std::max({std::abs(q), std::abs(r), std::abs(q + r)}) >= rings) continue;
-      spots.insert(SpotAt((q + r * 0.5) * kSpacing, y, r * std::sqrt(0.75) * kSpacing));
-    }
-  }
-}
-
-Spots Hexagon(int rings) {
-  Spots spots;
-  AddHexagon(spots, rings, 0);
-  return spots;
-}
-
-const double kLayer = std::sqrt(2.0 / 3);
-
-/// A tetrahedron of `edge` places to a side, tip up: weighted sums of its four corners with whole
-/// weights. `lift` is the height of its tip.
-Spots Tetrahedron(int edge, double lift, bool mirrored = false) {
-  const double corners[4][3] = {{0, 0, 0},
-                                {0, -kLayer, 1 / std::sqrt(3)},
-                                {0.5, -kLayer, -0.5 / std::sqrt(3)},
-                                {-0.5, -kLayer, -0.5 / std::sqrt(3)}};
-  Spots spots;
-  for (int a = 0; a < edge; ++a) {
-    for (int b = 0; a + b < edge; ++b) {
-      for (int c = 0; a + b + c < edge; ++c) {
-        double place[3];
-        for (int axis = 0; axis < 3; ++axis) {
-          place[axis] = a * corners[1][axis] + b * corners[2][axis] + c * corners[3][axis];
-        }
-        const double y = place[1] + lift;
-        spots.insert(
-            SpotAt(place[0] * kSpacing, (mirrored ? -y : y) * kSpacing, place[2] * kSpacing));
-      }
-    }
-  }
-  return spots;
-}
-
-/// The tip of a stack of `edge` layers, had it one layer more there, lies at two thirds of its
-/// height.
-Spots Tetramatrix(int edge) { return Tetrahedron(edge, (edge * 2.0 / 3 - 1) * kLayer); }
-
-/// Two stacks base to base at height 0.
-Spots Octamatrix(int edge) {
-  Spots spots = Tetrahedron(edge, (edge - 1) * kLayer);
-  spots.merge(Tetrahedron(edge, (edge - 1) * kLayer, true));
-  return spots;
-}
-
-/// A column of hexagons, one spacing apart, that widen from half of the rings to all of them and
-/// narrow again.
-Spots Hexamatrix(int edge) {
-  const int tip = edge == 3 ? 2 : edge / 2;  // half, to the even number
-  const int layers = edge + 2 * (edge - tip);
-  Spots spots;
-  for (int layer = 0; layer < layers; ++layer) {
-    const int fromEnd = std::min(layer, layers - 1 - layer);
-    AddHexagon(spots, std::min(edge, tip + fromEnd), (layer - (layers - 1) / 2.0) * kSpacing);
-  }
-  return spots;
-}
-
-TEST_F(Molecule, EveryPointOfAStructureIsThereAndEquallyLikely) {
-  const double cube = std::pow(2, -0.75);
-  const double half = std::sqrt(0.5);
-  const double third = std::sqrt(0.75);
-  struct Case {
-    Integer Structure;
-    Integer Edge;
-    Spots Expected;
-  };
-  std::vector<Case> cases{
-      {1, 0, Shells({{1, 0, 0}})},
-      {2, 0, Shells({{1, 1, 1}})},
-      {3, 0, Shells({{1, 0, 0}, {half, half, 0}})},
-      {4, 0, Shells({{1, 0, 0}, {half, half, 0}, {cube, cube, cube}})},
-      {5, 0, Shells({{1, 0, 0}, {cube, cube, cube}, {third, 0.5, 0}})},
-  };
-  for (Integer edge = 1; edge <= 4; ++edge) {
-    cases.push_back({6, edge, Grid(edge, 1)});
-    cases.push_back({7, edge, Hexagon(edge)});
-    cases.push_back({8, edge, Grid(edge, edge)});
-    cases.push_back({9, edge, Tetramatrix(edge)});
-    cases.push_back({10, edge, Octamatrix(edge)});
-    if (edge > 1) cases.push_back({11, edge, Hexamatrix(edge)});
-  }
-  for (const Case& c : cases) {
-    Atom(0).Atom_Structure = c.Structure;
-    Atom(0).Atom_LocX = c.Edge;
-    SetUpSlots();
-    SCOPED_TRACE(testing::Message() << "structure " << c.Structure << ", edge " << c.Edge);
-    const auto points = static_cast<int>(c.Expected.size());
-    const int stars = 400 * points;
-    const std::map<Spot, int> hits = Draw(stars);
-    Spots seen;
-    for (const auto& [spot, count] : hits) {
-      seen.insert(spot);
-      EXPECT_NEAR(count, 400, FiveSigma(stars, 1.0 / points));
-    }
-    EXPECT_EQ(seen, c.Expected);
-    if (c.Structure <= 5) {
-      EXPECT_EQ(Run().RunAtoms[0].RunAtomStars, points) << "a shell's weight";
-    }
-  }
-}
-
-/// The least distance between two of the places.
-double NearestNeighbours(const std::map<Spot, int>& spots) {
-  double least = 1e9;
-  for (auto a = spots.begin(); a != spots.end(); ++a) {
-    for (auto b = spots.begin(); b != a; ++b) {
-      const auto [ax, ay, az] = a->first;
-      const auto [bx, by, bz] = b->first;
-      least = std::min(least, Length(ax - bx, ay - by, az - bz) / 1000);
-    }
-  }
-  return least;
-}
-
-TEST_F(Molecule, StacksAreClosePacked) {
-  for (const Integer structure : {6, 7, 8, 9, 10, 11}) {
+class Lattice : public Molecule {
+ protected:
+  /// The places of a structure, all of which are equally likely.
+  Spots PlacesOf(Integer structure, Integer edge, int points) {
     Atom(0).Atom_Structure = structure;
-    Atom(0).Atom_LocX = 4;
+    Atom(0).Atom_LocX = edge;
     SetUpSlots();
-    EXPECT_NEAR(NearestNeighbours(Draw(20000)), kSpacing, 0.002) << int{structure};
+    Spots places;
+    for (const auto& [spot, count] : Draw(400 * points)) {
+      places.insert(spot);
+      EXPECT_NEAR(count, 400, FiveSigma(400 * points, 1.0 / points));
+    }
+    EXPECT_EQ(places.size(), static_cast<std::size_t>(points));
+    return places;
+  }
+};
+
+TEST_F(Lattice, ShellsAndStacksLieEvenlyAboutTheAxis) {
+  const double layer = std::sqrt(2.0 / 3);  // of close packing
+  const double degree = std::numbers::pi / 180;
+  struct Case {
+    Integer Structure, Edge;
+    int Points;
+    double Top, Nearest;  // the highest place and the least distance, in spacings
+  };
+  for (const Case& c : {
+           Case{1, 0, 6, 1, std::sqrt(2)},
+           Case{2, 0, 8, 1, 2},
+           Case{3, 0, 18, 1, 2 * std::sin(22.5 * degree)},
+           Case{4, 0, 26, 1, std::hypot(std::sqrt(2) * (std::sqrt(0.5) - 0.594603), 0.594603)},
+           Case{5, 0, 38, 1, 2 * std::sin(15 * degree)},
+           Case{6, 2, 4, 0, 1},
+           Case{6, 4, 16, 0, 1},
+           Case{7, 2, 7, 0, 1},
+           Case{7, 4, 37, 0, 1},
+           Case{8, 2, 8, 0.5, 1},
+           Case{8, 4, 64, 1.5, 1},
+           Case{9, 2, 4, layer / 3, 1},
+           Case{9, 3, 10, layer, 1},
+           Case{10, 2, 5, layer, 1},
+           Case{10, 3, 14, 2 * layer, 1},
+           Case{11, 2, 16, 1.5, 1},
+           Case{11, 3, 71, 2, 1},
+           Case{11, 4, 200, 3.5, 1},
+       }) {
+    SCOPED_TRACE(testing::Message() << "structure " << c.Structure << ", edge " << c.Edge);
+    const Spots places = PlacesOf(c.Structure, c.Edge, c.Points);
+    double sumX = 0, sumZ = 0, top = -99, nearest = 99;
+    for (auto a = places.begin(); a != places.end(); ++a) {
+      const auto [x, y, z] = *a;
+      sumX += x / 1000.0;
+      sumZ += z / 1000.0;
+      top = std::max(top, y / 1000.0);
+      for (auto b = places.begin(); b != a; ++b) {
+        const auto [bx, by, bz] = *b;
+        nearest = std::min(nearest, Length(x - bx, y - by, z - bz) / 1000);
+      }
+    }
+    EXPECT_NEAR(sumX / c.Points, 0, 0.001);
+    EXPECT_NEAR(sumZ / c.Points, 0, 0.001);
+    EXPECT_NEAR(top, c.Top * kSpacing, 0.001);
+    EXPECT_NEAR(nearest, c.Nearest * kSpacing, 0.002);
   }
 }
 
@@ -227,43 +126,31 @@ TEST_F(Molecule, ASingleAtomIsADotAtItsLocation) {
   Set().Atom.Atom_CenterX = 500;
   Set().Atom.Atom_CenterY = 400;
   SetUpSlots();
-  EXPECT_EQ(Draw(100), (std::map<Spot, int>{{SpotAt(2, -2.5, 3), 100}}));
+  EXPECT_EQ(Draw(10), (std::map<Spot, int>{{SpotAt(2, -2.5, 3), 10}}));
+  Atom(0).Atom_Structure = 12;
+  EXPECT_EQ(Draw(10), (std::map<Spot, int>{{SpotAt(0, 0, 0), 10}})) << "there is no such structure";
 }
 
 TEST_F(Molecule, AtomsAreDrawnByTheirPointsAndLatticesAsOne) {
-  Atom(0).Atom_Structure = 4;
-  Atom(0).Atom_Element = 6;
-  Atom(1).Atom_Structure = 0;
-  Atom(1).Atom_Element = 1;
-  Atom(2).Atom_Structure = 8;
-  Atom(2).Atom_LocX = 50;
-  Atom(2).Atom_Element = 16;
-  Atom(3).Atom_Structure = 1;
-  Atom(3).Atom_Element = 2;
-  SetUpSlots();
-  constexpr int stars = 34000;
-  std::map<int, int> hits;  // by the element's hue
-  for (int i = 0; i < stars; ++i) ++hits[Seed().HueOffset];
   struct Case {
-    int Hue;
+    Integer Structure, Element;
+    int Hue;  // of the element
     double Weight;
   };
-  for (const Case& c : {Case{210, 26}, Case{180, 1}, Case{60, 1}, Case{330, 6}}) {
+  const std::array cases{Case{4, 6, 210, 26}, Case{0, 1, 180, 1}, Case{8, 16, 60, 1},
+                         Case{1, 2, 330, 6}};
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    Atom(i).Atom_Structure = cases[i].Structure;
+    Atom(i).Atom_Element = cases[i].Element;
+    Atom(i).Atom_LocX = 50;
+  }
+  SetUpSlots();
+  constexpr int stars = 34000;
+  std::map<int, int> hits;
+  for (int i = 0; i < stars; ++i) ++hits[Seed().HueOffset];
+  for (const Case& c : cases) {
     EXPECT_NEAR(hits[c.Hue], stars * c.Weight / 34, FiveSigma(stars, c.Weight / 34)) << c.Hue;
   }
-  EXPECT_EQ(hits.size(), 4U);
-}
-
-TEST_F(Molecule, AStarShowsTheHueOfItsElement) {
-  Atom(0).Atom_Element = 7;  // nitrogen, 240
-  Set().Starfold_ColorComp = 6;
-  Set().Starfold_ColorMult = 0;
-  Set().Starfold_HueStart = 200;
-  SetUpSlots();
-  BuildHueWheels(Process());
-  StarArrays stars(1, 1);
-  SeedStar(Process(), stars, Slots, 0);
-  EXPECT_NEAR(stars.Star[0].StarHue, 80, 1e-3);
 }
 
 TEST_F(Molecule, TheOffsetSpreadsStarsOverASphereAboutEachPoint) {
@@ -280,71 +167,28 @@ TEST_F(Molecule, TheOffsetSpreadsStarsOverASphereAboutEachPoint) {
   for (const int count : octants) EXPECT_NEAR(count, stars / 8, FiveSigma(stars, 0.125));
   SeedPoint nucleus;
   SeedMolecule(nucleus, TheBody(), false);
-  EXPECT_EQ(SpotAt(nucleus.X, nucleus.Y, nucleus.Z), SpotAt(3, 0, 0)) << "on the point itself";
+  ExpectPoint(PlaceOf(nucleus), {3, 0, 0});
 }
 
 TEST_F(Molecule, WithoutAtomsAStarStaysAsItIs) {
-  Set().Starfold_ColorComp = 4;
   SetUpSlots();
-  StarArrays stars(1, 1);
-  stars.Star[0].StarX = 5;
-  stars.Star[0].StarY = 6;
-  stars.Star[0].StarZ = 7;
-  stars.Star[0].StarSpinSin = 0.5F;
+  SeedPoint star;
+  star.X = star.Y = star.Z = 5;
   Draws({0.5F});
-  SeedStar(Process(), stars, Slots, 0);
+  SeedByStyle(star, TheBody(), Slots, 0);
   EXPECT_EQ(Random().ScriptedDrawsLeft(), 1U);
-  EXPECT_EQ(stars.Star[0].StarX, 5);
-  EXPECT_EQ(stars.Star[0].StarY, 6);
-  EXPECT_EQ(stars.Star[0].StarZ, 7);
-  EXPECT_EQ(stars.Star[0].StarSpinSin, 0.5F);
+  ExpectPoint(PlaceOf(star), {5, 5, 5}, 0);
 }
 
 TEST_F(Molecule, EdgesAreHeldBetweenOneAndNinetyNinePoints) {
   Atom(0).Atom_Structure = 6;
-  struct Case {
-    Integer Edge;
-    double Reach;
-  };
-  for (const Case& c :
-       {Case{0, 0}, Case{1, 0}, Case{99, 49 * kSpacing}, Case{500, 49 * kSpacing}}) {
-    Atom(0).Atom_LocX = c.Edge;
+  for (const auto& [edge, reach] : {std::pair{0, 0.0}, std::pair{500, 49 * kSpacing}}) {
+    Atom(0).Atom_LocX = static_cast<Integer>(edge);
     SetUpSlots();
-    double reach = 0;
-    for (int i = 0; i < 5000; ++i) reach = std::max(reach, std::abs(double{Seed().X}));
-    EXPECT_NEAR(reach, c.Reach, 1e-4) << c.Edge;
+    double farthest = 0;
+    for (int i = 0; i < 5000; ++i) farthest = std::max(farthest, std::abs(double{Seed().X}));
+    EXPECT_NEAR(farthest, reach, 1e-4) << edge;
   }
-}
-
-TEST_F(Molecule, UnknownStructuresHaveNoPoint) {
-  for (const Integer structure : {12, 13}) {
-    Atom(0).Atom_Structure = structure;
-    Atom(0).Atom_LocX = 900;
-    SetUpSlots();
-    EXPECT_EQ(Draw(10), (std::map<Spot, int>{{SpotAt(0, 0, 0), 10}})) << structure;
-  }
-}
-
-TEST_F(Molecule, AStarComesInWhereTheTurningBodyStands) {
-  Atom(0).Atom_LocX = 300;
-  Atom(0).Atom_LocZ = 400;
-  Set().Starfold_Rotation = 10000;
-  SetUpSlots();
-  const SeedPoint early = Seed();
-  StarState carried;
-  carried.StarX = early.X;
-  carried.StarZ = early.Z;
-  carried.StarSpinCos = early.SpinCos;
-  carried.StarSpinSin = early.SpinSin;
-  for (int frame = 0; frame < 100; ++frame) {
-    AdvanceAngles(Process());
-    RotateStar(carried);
-  }
-  const SeedPoint late = Seed();
-  EXPECT_NEAR(late.X, carried.StarX, 1e-3);
-  EXPECT_NEAR(late.Z, carried.StarZ, 1e-3);
-  EXPECT_NEAR(std::atan2(late.Z, late.X), std::atan2(4, 3) + 100 * 0.08 - 2 * std::numbers::pi,
-              1e-3);
 }
 
 }  // namespace

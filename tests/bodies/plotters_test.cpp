@@ -33,11 +33,6 @@ class Plotters : public ::testing::Test {
   scenes::Stage stage_;
 };
 
-/// The four places (+-a, 0), (0, +-b) and the like, built by hand for the expectations.
-void AddAxis(Places& places, int n) { places.insert({{-n, 0}, {n, 0}, {0, -n}, {0, n}}); }
-void AddHalfAxis(Places& places, int n) { places.insert({{-n, 0}, {n, 0}, {0, n}}); }
-void AddPair(Places& places, int a, int b) { places.insert({{-a, -b}, {a, -b}, {-a, b}, {a, b}}); }
-
 TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
   struct Case {
     double Unit;  // pixels
@@ -51,14 +46,6 @@ TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
   }
 }
 
-TEST_F(Plotters, ALargeNewStarIsACrossWithDiagonals) {
-  PlotNew(Screen(), 200, 150, 2, 4, 8, 4, 0xFFFFFF);  // 1/2 * 4 * 4/8: one pixel a unit
-  Places expected{{0, 0}};
-  for (const int m : {1, 4, 16, 32}) AddAxis(expected, m);
-  for (const int m : {8, 12}) AddPair(expected, m, m);
-  EXPECT_EQ(Lit(), expected);
-}
-
 TEST_F(Plotters, FlareSizesFollowTheFocalLengthAndNotTheWindow) {
   PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
   const Places small = Lit();
@@ -69,34 +56,6 @@ TEST_F(Plotters, FlareSizesFollowTheFocalLengthAndNotTheWindow) {
   Screen().FocalLength = 2;
   PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
   EXPECT_NE(Lit(), small);
-}
-
-TEST_F(Plotters, ANovaFarOffShowsItsFiveSlicesAtOnePlace) {
-  // At depth 1000 the slices lie a fraction of a pixel apart, so their rings share one centre and
-  // the unit: 1/1000 * 2000 = 2 pixels in the first frame.
-  PlotNova(Screen(), 0, 0, 1000, 9, 9, 2000, 0xFFFFFF);
-  Places expected{{0, 0}};
-  const auto unit = [](int m, double depth) {
-    return static_cast<int>(std::lrint(2000 / depth * m));
-  };
-  for (const int m : {16, 32}) AddAxis(expected, unit(m, 1000));
-  AddHalfAxis(expected, unit(11, 1000));
-  for (const int m : {16, 7, 11}) AddPair(expected, unit(m, 1000), unit(m, 1000));
-  AddPair(expected, unit(2, 1000), unit(24, 1000));
-  AddPair(expected, unit(24, 1000), unit(2, 1000));
-  for (const double depth : {1200.0, 800.0}) {
-    AddPair(expected, unit(3, depth), unit(10, depth));
-    AddPair(expected, unit(10, depth), unit(3, depth));
-    AddPair(expected, unit(7, depth), unit(5, depth));
-    AddPair(expected, unit(5, depth), unit(7, depth));
-    AddAxis(expected, unit(24, depth));
-  }
-  for (const double depth : {1400.0, 600.0}) {
-    AddAxis(expected, unit(2, depth));
-    AddPair(expected, unit(3, depth), unit(5, depth));
-    AddPair(expected, unit(5, depth), unit(3, depth));
-  }
-  EXPECT_EQ(Lit(), expected);
 }
 
 TEST_F(Plotters, ANovaGrowsByItsPowerOfTime) {
@@ -122,21 +81,6 @@ TEST_F(Plotters, SpheresAreRound) {
       rim += distance > 32 * 3 * 0.97;
     }
     EXPECT_GE(rim, shape == 3 ? 16U : 20U) << "the places of the circle at the centre";
-  }
-}
-
-TEST_F(Plotters, EveryShapeErasesWhatItDrew) {
-  for (Integer shape = -1; shape <= 5; ++shape) {
-    for (const Single depth : {0.0002F, 0.3F, 2.0F, 500.0F}) {
-      const auto plot = [&](Colour colour) {
-        PlotPulsar(Screen(), 0.01F, -0.02F, depth, 1.7F, shape, 0.4F, colour);
-        PlotNova(Screen(), 0.01F, -0.02F, depth, 30, 40, 0.3F, colour);
-      };
-      plot(0xFFFFFF);
-      EXPECT_FALSE(Lit().empty() && depth > 0.1F) << shape << " " << depth;
-      plot(0);
-      EXPECT_TRUE(Lit().empty()) << shape << " " << depth;
-    }
   }
 }
 

@@ -132,67 +132,38 @@ TEST(StarStepTest, NothingStaysOnTheScreenButTheStarsThatAreThere) {
       });
       for (int frame = 0; frame < 150; ++frame) stage.Step();
       stage.Process->Profiles[0].Starfold_NewFreq = 0;
-      stage.Process->Prepared[0].RunCometChance = 0;
-      stage.Process->Prepared[0].RunNovaChance = 0;
-      stage.Process->Prepared[0].RunPulsarChance = 0;
       stage.Process->Profiles[0].Starfold_CometCPersist = 0.1F;
+      PreparedProfile& run = stage.Process->Prepared[0];
+      run.RunCometChance = run.RunNovaChance = run.RunPulsarChance = 0;
       for (int frame = 0; frame < 500; ++frame) stage.Step();
-      std::set<std::pair<Long, Long>> stars;
-      for (const TrailPlace& place : stage.Run->Stars.Trail) {
-        stars.insert({place.TrailX, place.TrailY});
-      }
-      for (const auto& place : LitPlaces(stage.Canvas)) {
-        ASSERT_TRUE(stars.contains(place))
-            << place.first << ", " << place.second << " trail " << trail << " shape " << shape;
-      }
+      std::set<std::pair<Long, Long>> lit = LitPlaces(stage.Canvas);
+      for (const TrailPlace& place : stage.Run->Stars.Trail)
+        lit.erase({place.TrailX, place.TrailY});
+      EXPECT_EQ(lit.size(), 0U) << "trail " << trail << " shape " << shape;
     }
   }
 }
 
-TEST(StarStepTest, AStarBehindTheEyeIsErasedAndComesBack) {
-  BodyStage stage(320, 200, 10, 1, Quiet);
-  stage.Step();
-  EXPECT_FALSE(LitPlaces(stage.Canvas).empty());
-  const RelPlace home = stage.Run->Folds.StarfoldRel[0];
-  stage.Run->Folds.StarfoldRel[0] = {0, 0, -50};
-  stage.Step();
-  stage.Step();
-  EXPECT_TRUE(LitPlaces(stage.Canvas).empty());
-  stage.Run->Folds.StarfoldRel[0] = home;
-  stage.Step();
-  EXPECT_FALSE(LitPlaces(stage.Canvas).empty());
-}
-
-TEST(StarStepTest, ATrailIsAsLongAsItsRing) {
-  BodyStage stage(640, 400, 10, 6, [](SettingsRecords& settings) {
-    Quiet(settings);
-    settings.Profiles[0].Starfold_Rotation = 30000;
-  });
-  for (auto& star : stage.Run->Stars.Star) star.StarHome = 0;
-  std::size_t most = 0;
-  for (int frame = 1; frame <= 40; ++frame) {
-    stage.Step();
-    const std::size_t lit = LitPlaces(stage.Canvas).size();
-    EXPECT_LE(lit, 10U * std::min(frame, 6));
-    most = std::max(most, lit);
-  }
-  EXPECT_GT(most, 45U);
-}
-
-TEST(StarStepTest, AWaitingStarDrainsItsTrailBeforeItIsReborn) {
+TEST(StarStepTest, ATrailIsAsLongAsItsRingAndDrainsBeforeAWaitingStarIsReborn) {
   BodyStage stage(640, 400, 10, 4, [](SettingsRecords& settings) {
     Quiet(settings);
     settings.Profiles[0].Starfold_Rotation = 30000;
     settings.Profiles[0].Starfold_NewFrames = 0;
     settings.Profiles[0].Starfold_NovaFreq = 0;
   });
-  for (int frame = 0; frame < 8; ++frame) stage.Step();
+  for (std::size_t frame = 1; frame <= 8; ++frame) {
+    stage.Step();
+    EXPECT_LE(LitPlaces(stage.Canvas).size(), 10 * std::min<std::size_t>(frame, 4));
+  }
+  EXPECT_GT(LitPlaces(stage.Canvas).size(), 30U);
   for (StarState& star : stage.Run->Stars.Star) star.StarWait = 5;
   for (int frame = 0; frame < 4; ++frame) stage.Step();
   EXPECT_TRUE(LitPlaces(stage.Canvas).empty()) << "four frames empty a ring of four";
   stage.Step();
-  for (const StarState& star : stage.Run->Stars.Star) EXPECT_EQ(star.StarWait, 0);
-  for (const StarState& star : stage.Run->Stars.Star) EXPECT_EQ(star.StarAge, 0);
+  for (const StarState& star : stage.Run->Stars.Star) {
+    EXPECT_EQ(star.StarWait, 0);
+    EXPECT_EQ(star.StarAge, 0);
+  }
 }
 
 TEST(StarStepTest, HuesMoveOnceAFrame) {
@@ -221,17 +192,6 @@ TEST(StarStepTest, ARecycledStarsHueMovesInTheFrameThatSeedsIt) {
   stage.Step();
   for (const StarState& star : stage.Run->Stars.Star) {
     EXPECT_EQ(star.StarHue - std::floor(star.StarHue), 0.25F) << "seeded hues are whole";
-  }
-}
-
-TEST(StarStepTest, WithTrailsAWaveStarAgesTwice) {
-  for (const Integer trail : {Integer{1}, Integer{2}}) {
-    BodyStage stage(320, 200, 10, trail, [](SettingsRecords& settings) {
-      Quiet(settings);
-      settings.Profiles[0].Starfold_FoldStyle = 7;
-    });
-    for (int frame = 0; frame < 20; ++frame) stage.Step();
-    EXPECT_EQ(stage.Run->Stars.Star[3].StarAge, 20 * trail);
   }
 }
 

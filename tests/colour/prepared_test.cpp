@@ -46,16 +46,6 @@ TEST_F(Prepared, UnitsAreConvertedOnce) {
   EXPECT_NEAR(Run().RunTilt, -170 * kDegree, 1e-5);
 }
 
-TEST_F(Prepared, ForceDependsOnTheStyle) {
-  First().Starfold_QG_Force = 5;
-  First().Starfold_FoldStyle = 5;
-  Process->Profiles[1].Starfold_QG_Force = 5;
-  Process->Profiles[1].Starfold_FoldStyle = 6;
-  PrepareProfiles(*Process);
-  EXPECT_FLOAT_EQ(Run().Star.RunForce, 0.05F);
-  EXPECT_FLOAT_EQ(Process->Prepared[1].Star.RunForce, 0.0005F);
-}
-
 TEST_F(Prepared, OnlyTheStandardStyleHasLevels) {
   First().Starfold_StdLevels = 4;
   First().Starfold_StdLevDRad = 200;
@@ -100,22 +90,6 @@ TEST_F(Prepared, ARandomFactorMultipliesOrDivides) {
   EXPECT_FLOAT_EQ(Run().Star.WaveAmplitude, 0.3F * 3.0F) << "the wave's height keeps its size";
 }
 
-TEST_F(Prepared, EveryProfileDrawsFourTimesWhetherUsedOrNot) {
-  Randomize(5, 2);
-  const std::array<Single, 201> draws{};
-  Process->Random.Script(draws);
-  PrepareProfiles(*Process);
-  EXPECT_EQ(Process->Random.ScriptedDrawsLeft(), 1U);
-}
-
-TEST_F(Prepared, AMagnitudeOfOneChangesNothing) {
-  PrepareProfiles(*Process);
-  const Single radius = Run().RunRadius;
-  Randomize(1, 1);
-  PrepareProfiles(*Process);
-  EXPECT_EQ(Run().RunRadius, radius);
-}
-
 TEST_F(Prepared, RecordsAreMeasuredFromTheirCentreInTenthsOfTheRadius) {
   First().Starfold_Radius = 1000;
   First().Starfold_FoldStyle = 8;
@@ -130,17 +104,6 @@ TEST_F(Prepared, RecordsAreMeasuredFromTheirCentreInTenthsOfTheRadius) {
   EXPECT_FLOAT_EQ(Run().RunIfs[1].X, -5.0F);
   EXPECT_FLOAT_EQ(Run().RunIfs[0].Scale, 0.33F);
   EXPECT_EQ(Run().RunIfs[1].Sum, 6);
-}
-
-TEST_F(Prepared, MembersWeighByTheirLevels) {
-  First().Starfold_StdLevels = 3;
-  CompositeProfile& composite = Process->Composites[2];
-  composite.CompFold_Count = 3;
-  composite.CompFold_Type = {0, 7, 0};
-  PrepareProfiles(*Process);
-  EXPECT_EQ(Process->MemberSum[2][0], 3);
-  EXPECT_EQ(Process->MemberSum[2][1], 4);
-  EXPECT_EQ(Process->MemberSum[2][2], 7);
 }
 
 TEST_F(Prepared, AnglesAdvanceAndComeRound) {

@@ -73,16 +73,6 @@ TEST_F(HueWheel, ASmallBlendRestartsTheRampWithinTheSector) {
   EXPECT_GT(At(19).Green, 230);
 }
 
-TEST_F(HueWheel, ABlendOfOneLeavesSixHardSectors) {
-  Profile.Starfold_HueBlend = 1;
-  for (int hue = 0; hue < 360; ++hue) EXPECT_EQ(At(hue), At(hue / 60 * 60)) << hue;
-}
-
-TEST_F(HueWheel, AFullBaseIsWhiteAllRound) {
-  Profile.Starfold_HueBase = 100;
-  for (const int hue : {0, 77, 200, 359, 360}) EXPECT_EQ(At(hue), (Channels{255, 255, 255}));
-}
-
 TEST_F(HueWheel, TheLastEntryIsTheFirst) { EXPECT_EQ(At(360), At(0)); }
 
 TEST(FlareTableTest, FadesFromWhiteThroughTheHuesToBlack) {
@@ -149,12 +139,6 @@ TEST_F(FlareTables, APulsarBreathesBetweenItsExtents) {
   EXPECT_LT(ChannelsOf(Colours().PulsarColors[0]).Green, 60) << "it fades in from black";
   EXPECT_EQ(ChannelsOf(Colours().PulsarColors[20]).Blue, 255) << "the end hue, 220, in full";
   EXPECT_LT(ChannelsOf(Colours().PulsarColors[39]).Green, 60) << "and fades out";
-}
-
-TEST_F(FlareTables, APulsarOfOneFrameIsNotFaded) {
-  First().Starfold_PulsarFrames = 1;
-  BuildPulsarTables(*Process);
-  EXPECT_EQ(Colours().PulsarColors[0], HueToRgb(First().Starfold_HWC_Start, 55, 100, 100, 100));
 }
 
 TEST_F(FlareTables, CometHuesDriftOnlyWhereTheyAreTold) {

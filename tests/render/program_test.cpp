@@ -59,13 +59,6 @@ TEST(Program, TheSameSeedGivesTheSamePixels) {
   EXPECT_NE(once, Hashes("--frames 400 --every 57 --seed 6"));
 }
 
-TEST(Program, FirstAndEveryChooseFramesAndChangeNone) {
-  const auto all = Hashes("--frames 20");
-  EXPECT_EQ(all.size(), 20U);
-  const auto some = Hashes("--frames 20 --first 6 --every 7");
-  EXPECT_EQ(some, (std::map<int, std::string>{{6, all.at(6)}, {13, all.at(13)}, {20, all.at(20)}}));
-}
-
 TEST(Program, AProfileIsOneBodyThatTakesTheSettings) {
   const auto body = Hashes("--frames 3 --profile 0");
   EXPECT_NE(body, Hashes("--frames 3"));

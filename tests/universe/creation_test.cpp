@@ -115,13 +115,6 @@ TEST_F(Creation, TheUniverseGrowsAtADampedPaceAndSlowsToAStop) {
   EXPECT_LT(Scene->Growth.ExpandStep, 1e-9);
 }
 
-TEST_F(Creation, WithoutExpansionAllStaysAtTheCore) {
-  Settings().Universe_Expand = 0;
-  Create();
-  for (const Single x : Folds().StarfoldX) EXPECT_EQ(x, 0);
-  EXPECT_EQ(Scene->Growth.ExpandTotal, 0);
-}
-
 TEST_F(Creation, AStopLeavesAtOnce) {
   Stage.StopAfter(3);
   Create();

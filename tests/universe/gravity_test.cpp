@@ -11,14 +11,6 @@ StarfoldArrays TwoBodies(Single distance) {
   return folds;
 }
 
-TEST(Gravity, PullsWithTheInverseOfTheDistance) {
-  for (const Single distance : {2.0F, 8.0F}) {
-    StarfoldArrays folds = TwoBodies(distance);
-    StepGravity(folds, 0.01F, true);
-    EXPECT_NEAR(folds.StarfoldVX[0], 0.01 / distance, 1e-7);
-  }
-}
-
 TEST(Gravity, ALaterBodySeesTheEarlierOneWhereItWent) {
   StarfoldArrays folds = TwoBodies(2);
   StepGravity(folds, 0.5F, true);

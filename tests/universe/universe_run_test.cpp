@@ -291,7 +291,6 @@ void SetAll(SettingsRecords& settings, double value) {
 INSTANTIATE_TEST_SUITE_P(
     , Limits,
     ::testing::Values(
-        LimitCase{"FewestStars", [](SettingsRecords& s) { s.Universe.Universe_Stars = 10; }},
         LimitCase{"MostStars", [](SettingsRecords& s) { s.Universe.Universe_Stars = 30000; }},
         LimitCase{"LongestTrail", [](SettingsRecords& s) { s.Universe.Universe_STrail = 99; }},
         LimitCase{"MostStarfoldsWithGravity",
@@ -300,7 +299,6 @@ INSTANTIATE_TEST_SUITE_P(
                     s.Universe.Universe_GravForce = 999999;
                     s.Universe.Universe_GravFrame = 5;
                   }},
-        LimitCase{"NoExpansion", [](SettingsRecords& s) { s.Universe.Universe_Expand = 0; }},
         LimitCase{"OneStepEach",
                   [](SettingsRecords& s) {
                     s.Universe.Universe_ESteps = 1;
@@ -308,7 +306,6 @@ INSTANTIATE_TEST_SUITE_P(
                     s.Universe.Universe_GPCtrl = 1;
                     s.Universe.Universe_GCCtrl = 0;
                   }},
-        LimitCase{"NoAmbientStars", [](SettingsRecords& s) { s.Universe.Universe_AmStar = 0; }},
         LimitCase{"AllAtZero", [](SettingsRecords& s) { SetAll(s, 0); }},
         LimitCase{"AllBelow", [](SettingsRecords& s) { SetAll(s, -1e30); }},
         LimitCase{"AllBeyond",
