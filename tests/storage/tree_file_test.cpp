@@ -109,9 +109,9 @@ TEST_F(TreeFile, TheMachinesFileServesABulkAndCannotSpoilIt) {
   EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), "1");
   EXPECT_TRUE(Stored.Tree.DeleteKey(Hive::LocalMachine, "P"));
   EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), std::nullopt);
-  EXPECT_FALSE(Stored.Tree.DeleteKey(Hive::LocalMachine, "P"));
   std::ofstream(Folder.Path("machine.db")) << std::string(2000, '?');
   EXPECT_EQ(Stored.Tree.Read(Hive::LocalMachine, "P", "x"), std::nullopt);
+  EXPECT_FALSE(Stored.Tree.DeleteKey(Hive::LocalMachine, "P"));
   EXPECT_TRUE(bulk.Commit());
   EXPECT_EQ(FileText(Folder.Path("machine.db")), std::string(2000, '?'));
 }
