@@ -40,6 +40,7 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
     EXPECT_TRUE(Window().flags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(Window().flags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_EQ(Window().cursor().shape(), Qt::BlankCursor);
+    EXPECT_FALSE(Window().findChild<QWindow*>("picMessage")->isVisible()) << "it is empty";
     EXPECT_EQ(State->Screen.SurfaceWidth, screen.width());
     EXPECT_EQ(State->Screen.SurfaceHeight, screen.height());
     EXPECT_EQ(State->Screen.FrameDelayMs, AdvancedSettings().Adv_TimeDelay);
@@ -51,23 +52,18 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
   EXPECT_EQ(State->Screen.hDCDraw, nullptr);
 }
 
-TEST_F(FrmSaverTest, EndsInTheFrameOfAKeyOrAButton) {
+TEST_F(FrmSaverTest, EndsInTheFrameOfAKeyAButtonOrMoves) {
   Events.Plan[5] = [&] { Press(Window(), Qt::Key_Shift); };
   EXPECT_EQ(Run(), 5);
   EXPECT_TRUE(State->StopRun);
   Events.Plan = {{12, [&] { Click(Window()); }}};
   EXPECT_EQ(Run(), 12);
-}
-
-TEST_F(FrmSaverTest, EndsOnTheFourthMoveFromThePlaceOfTheStartUnlessToldOtherwise) {
+  Events.Pumps = 0;
+  Events.Plan.clear();
   for (int pump = 1; pump <= 8; ++pump) {
     Events.Plan[pump] = [this, pump] { Move(Window(), pump); };
   }
-  EXPECT_EQ(Run(), 5);
-  Store("Advanced", "Adv_MouseMove", 1);
-  Events.Pumps = 0;
-  Events.Plan[9] = [&] { Click(Window()); };
-  EXPECT_EQ(Run(), 9);
+  EXPECT_EQ(Run(), 5) << "with the fourth move from the place of the start";
 }
 
 TEST_F(FrmSaverTest, IsABackgroundThatADoubleClickEnds) {
@@ -163,11 +159,12 @@ TEST_F(FrmSaverPassword, GoesOnInTheSameFrameIfItIsRefused) {
 }
 
 TEST_F(FrmSaverPassword, EndsTheSaverIfItIsRightOrCannotBeAskedFor) {
-  Events.Plan[5] = [&] { Click(Window()); };
-  EXPECT_EQ(Run(), 5);
-  Platform.Verdict = std::nullopt;
-  Events.Plan[9] = [&] { Click(Window()); };
-  EXPECT_EQ(Run(), 9);
+  for (const std::optional<Long> verdict : {std::optional<Long>(1), std::optional<Long>()}) {
+    Platform.Verdict = verdict;
+    Events.Pumps = 0;
+    Events.Plan[5] = [&] { Click(Window()); };
+    EXPECT_EQ(Run(), 5);
+  }
 }
 
 /// The dialog runs window events while it is shown.
@@ -222,14 +219,6 @@ TEST_F(FrmSaverTest, AMessageStandsInTheMiddleOfTheUpperEdge) {
     };
     EXPECT_EQ(Run(), 2);
   }
-}
-
-TEST_F(FrmSaverTest, AnEmptyMessageIsNotThere) {
-  Events.Plan[2] = [&] {
-    EXPECT_FALSE(Window().findChild<QWindow*>("picMessage")->isVisible());
-    State->StopRun = true;
-  };
-  EXPECT_EQ(Run(), 2);
 }
 
 }  // namespace
