@@ -100,13 +100,5 @@ TYPED_TEST(TreeContract, BulksAreStoredAsAWholeOrNotAtAllAndTheOutermostCounts) 
   }
 }
 
-TYPED_TEST(TreeContract, ALookAtAnEmptyTreeSucceedsAndFindsNothing) {
-  TreeBulk look = TreeBulk::Look(this->Tree);
-  EXPECT_TRUE(look.Begun());
-  EXPECT_EQ(this->Read("A"), std::nullopt);
-  EXPECT_EQ(this->Tree.Read(Hive::LocalMachine, "A", "x"), std::nullopt);
-  EXPECT_TRUE(look.Commit());
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -8,7 +8,6 @@
 #include <thread>
 
 #include "storage/child.h"
-#include "storage/failing_disk.h"
 #include "storage/stored_tree.h"
 
 namespace starfolds {
@@ -66,48 +65,6 @@ void LockForReading(const std::string& file) {
   lock.l_len = 510;
   EXPECT_EQ(fcntl(open(file.c_str(), O_RDONLY), F_SETLK, &lock), 0);
 }
-
-class TreeOnFailingDisk : public testing::TestWithParam<FailingDisk::Fault> {
- protected:
-  TestFolder Folder{QuickFolder()};
-  const std::string File = Folder.Path("settings.db");
-  FailingDisk Disk;
-};
-
-TEST_P(TreeOnFailingDisk, ASaveIsStoredAsAWholeOrNotAtAll) {
-  for (const std::string before : {"", "old"}) {
-    int accesses = 0;
-    for (bool failed = true; failed; ++accesses) {
-      fs::remove(File);
-      StoredTree stored(File);
-      if (!before.empty()) {
-        ASSERT_TRUE(stored.Save(before, kValues));
-      }
-      Disk.FailAfter(accesses, GetParam());
-      const bool saved = stored.Save(kNew, kValues);
-      failed = Disk.Heal();
-      ASSERT_EQ(stored.Saved(kValues), saved ? kNew : before) << accesses;
-      ASSERT_TRUE(stored.Complaints.empty()) << accesses;
-    }
-    EXPECT_GT(accesses, 15);
-  }
-}
-
-TEST_P(TreeOnFailingDisk, AFaultIsNotTakenForMissingValues) {
-  StoredTree stored(File);
-  ASSERT_TRUE(stored.Save("old", kValues));
-  int accesses = 0;
-  for (bool failed = true; failed; ++accesses) {
-    Disk.FailAfter(accesses, GetParam());
-    const std::string saved = stored.Saved(kValues);
-    failed = Disk.Heal();
-    ASSERT_TRUE(saved == "old" || (failed && saved == "unread")) << accesses << saved;
-  }
-  EXPECT_GT(accesses, 5);
-}
-
-INSTANTIATE_TEST_SUITE_P(Faults, TreeOnFailingDisk,
-                         testing::Values(FailingDisk::Fault::Once, FailingDisk::Fault::FromThenOn));
 
 TEST_F(TreeFaults, ManyProcessesSaveAtOnceAndNobodyFails) {
   const auto save = [&](char tag) {
