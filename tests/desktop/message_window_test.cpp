@@ -10,27 +10,21 @@
 #include <QWindow>
 #include <random>
 
-#include "desktop/qt_pump.h"
-#include "desktop/toolkit.h"
+#include "desktop/pumped_test.h"
 #include "desktop/window_surface.h"
 
 namespace starfolds {
 namespace {
 
-class MessageWindowTest : public testing::Test {
+class MessageWindowTest : public PumpedTest {
  protected:
   void SetUp() override {
     if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "nothing shows there";
     Target.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
     Target.Window().setGeometry(20, 10, 500, 200);
     Target.Window().show();
-    Settle();
+    Settle(100);
     Target.TakeWindowSize();
-  }
-
-  void Settle() {
-    const Long begin = Events.TickCount();
-    while (Events.TickCount() - begin < 100) Events.WaitForEvents(10);
   }
 
   /// Fills the whole surface with noise.
@@ -68,14 +62,13 @@ class MessageWindowTest : public testing::Test {
 
   std::mt19937 Random{3};
   WindowEvents Unheard;
-  QtPump Events;
   WindowSurface Target{Unheard};
   MessageWindow Message{Target.Window()};
 };
 
 TEST_F(MessageWindowTest, IsNeverDrawnOver) {
   Message.Print("Back at ten", {"Arial", 20, kGreen});
-  Settle();
+  Settle(100);
   for (int i = 0; i < 20; ++i) {
     ShowNoise();
     Events.WaitForEvents(5);
@@ -88,7 +81,7 @@ TEST_F(MessageWindowTest, IsNeverDrawnOver) {
 
 TEST_F(MessageWindowTest, IsCutOffAtBothSides) {
   Message.Print(std::string(60, 'H'), {"Arial", 20, kGreen});
-  Settle();
+  Settle(100);
   EXPECT_LT(Box().left(), -100);
   EXPECT_GT(Box().right(), Target.Window().width() + 100);
   for (const int x : {0, Target.Window().width() - 40}) {
@@ -98,15 +91,15 @@ TEST_F(MessageWindowTest, IsCutOffAtBothSides) {
 
 TEST_F(MessageWindowTest, GoesAndComesAgain) {
   Message.Print("Back at ten", {"Arial", 20, kGreen});
-  Settle();
+  Settle(100);
   const QRect box = Box();
   Message.Hide();
-  Settle();
+  Settle(100);
   ShowNoise();
-  Settle();
+  Settle(100);
   EXPECT_GT(StrangeAndInked(Grab(box)).first, 1000);
   Message.Print("10", {"Arial", 20, kGreen});
-  Settle();
+  Settle(100);
   EXPECT_EQ(StrangeAndInked(Grab(Box())).first, 0);
   EXPECT_LT(Box().width(), box.width());
 }

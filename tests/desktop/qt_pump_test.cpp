@@ -103,17 +103,5 @@ TEST(QtPump, DeletesWhatIsToBeDeletedLater) {
   EXPECT_TRUE(object.isNull());
 }
 
-TEST(QtPump, RunsAllThatIsPending) {
-  QtPump events;
-  QObject receiver;
-  int ran = 0;
-  for (int i = 0; i < 10; ++i) {
-    QMetaObject::invokeMethod(
-        &receiver, [&] { ++ran; }, Qt::QueuedConnection);
-  }
-  events.PumpEvents();
-  EXPECT_EQ(ran, 10);
-}
-
 }  // namespace
 }  // namespace starfolds

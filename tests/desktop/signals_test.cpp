@@ -3,44 +3,30 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include "desktop/qt_pump.h"
-#include "desktop/toolkit.h"
+#include "desktop/pumped_test.h"
 
 namespace starfolds {
 namespace {
 
-class StopSignalsTest : public testing::TestWithParam<int> {
+class StopSignalsTest : public PumpedTest, public testing::WithParamInterface<int> {
  protected:
-  void PumpUntilStopped() {
-    const Long begin = Events.TickCount();
-    while (Stops == 0 && Events.TickCount() - begin < 5000) Events.WaitForEvents(10);
-  }
-
   static void* HandlerOf(int number) {
     struct sigaction action {};
     sigaction(number, nullptr, &action);
     return reinterpret_cast<void*>(action.sa_handler);
   }
 
-  QtPump Events;
   int Stops = 0;
 };
 
-TEST_P(StopSignalsTest, StopTheRunFromInsideThePump) {
-  StopSignals signals_;
-  signals_.Watch([&] { ++Stops; });
-  raise(GetParam());
-  EXPECT_EQ(Stops, 0);
-  PumpUntilStopped();
-  EXPECT_EQ(Stops, 1);
-}
-
-TEST_P(StopSignalsTest, AreKeptUntilSomebodyWatches) {
+TEST_P(StopSignalsTest, StopTheRunFromInsideThePumpAndAreKeptUntilSomebodyWatches) {
   StopSignals signals_;
   raise(GetParam());
   signals_.Watch([&] { ++Stops; });
-  PumpUntilStopped();
+  EXPECT_TRUE(PumpUntil([&] { return Stops == 1; }));
+  raise(GetParam());
   EXPECT_EQ(Stops, 1);
+  EXPECT_TRUE(PumpUntil([&] { return Stops == 2; }));
 }
 
 TEST_P(StopSignalsTest, HaveTheirFormerMeaningAfterwards) {
@@ -58,7 +44,7 @@ TEST_P(StopSignalsTest, StayIgnoredWhereTheyWere) {
     StopSignals signals_;
     signals_.Watch([&] { ++Stops; });
     raise(GetParam());
-    for (int i = 0; i < 5; ++i) Events.WaitForEvents(10);
+    Settle();
   }
   signal(GetParam(), former);
   EXPECT_EQ(Stops, 0);

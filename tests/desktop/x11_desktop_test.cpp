@@ -3,25 +3,17 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <functional>
 #include <limits>
 #include <memory>
 
 #include "desktop/desktop_services_qt.h"
-#include "desktop/qt_pump.h"
-#include "desktop/toolkit.h"
+#include "desktop/pumped_test.h"
 
 namespace starfolds {
 namespace {
 
-class X11DesktopTest : public testing::Test {
+class X11DesktopTest : public PumpedTest {
  protected:
-  bool PumpUntil(const std::function<bool()>& done) {
-    const Long begin = Events.TickCount();
-    while (!done() && Events.TickCount() - begin < 5000) Events.WaitForEvents(10);
-    return done();
-  }
-
   void Show(QWindow& window, const char* caption) {
     window.setTitle(QString::fromUtf8(caption));
     window.setGeometry(50, 50, 200, 100);
@@ -29,7 +21,6 @@ class X11DesktopTest : public testing::Test {
     ASSERT_TRUE(PumpUntil([&] { return window.isExposed(); }));
   }
 
-  QtPump Events;
   std::unique_ptr<DesktopServices> Desktop = MakeDesktopServices();
 };
 

@@ -88,7 +88,7 @@ class PreviewTest : public ::testing::Test {
 /// Frames 1 to 10 are the creation, then 20 of a visit, then 10 of the pull-out, and so on.
 class PreviewStages : public PreviewTest, public testing::WithParamInterface<int> {};
 
-TEST_P(PreviewStages, ASecondPressEndsAUniverseInTheSameFrame) {
+TEST_P(PreviewStages, ASecondPressOrAWindowThatClosesEndsAUniverseInTheSameFrame) {
   Plan[GetParam()] = [this] { PressUniverse(); };
   PressUniverse();
   EXPECT_EQ(Frames, GetParam());
@@ -97,21 +97,16 @@ TEST_P(PreviewStages, ASecondPressEndsAUniverseInTheSameFrame) {
   EXPECT_FALSE(State->StopRun) << "only a window that closes stops for good";
   EXPECT_TRUE(State->NewRun);
   EXPECT_EQ(State->Screen.hDCDraw, nullptr);
-  Plan[GetParam() + 3] = [this] { PressBody(); };
-  PressBody();
-  EXPECT_EQ(Frames, GetParam() + 3) << "the flags of the former run do not end the next one";
-}
-
-TEST_P(PreviewStages, AWindowThatClosesEndsAUniverseInTheSameFrameAndClosesAfterIt) {
+  Frames = 0;
   Plan[GetParam()] = [this] { EXPECT_TRUE(Switch.DelaysClose()); };
   PressUniverse();
-  EXPECT_EQ(Frames, GetParam());
+  EXPECT_EQ(Frames, GetParam()) << "the flags of the former run do not end the next one";
   EXPECT_EQ(End, PreviewEnd::Close);
   EXPECT_TRUE(State->StopRun);
   EXPECT_FALSE(Switch.DelaysClose()) << "now it may close";
 }
 
-INSTANTIATE_TEST_SUITE_P(Frames, PreviewStages, testing::Values(1, 5, 10, 11, 30, 31, 40, 41, 95));
+INSTANTIATE_TEST_SUITE_P(Frames, PreviewStages, testing::Values(1, 10, 11, 30, 31, 41, 95));
 
 TEST_F(PreviewTest, ThereIsOneRunAtATimeAndNoneInAProcessThatEnds) {
   PreviewEnd nested = PreviewEnd::Stopped;
@@ -196,7 +191,6 @@ TEST_F(PreviewTest, ABodyThatDoesNotExistShowsNothing) {
     Body.IsComposite = isComposite;
     PressBody();
     EXPECT_EQ(Frames, 0);
-    EXPECT_FALSE(Switch.IsOn());
   }
 }
 

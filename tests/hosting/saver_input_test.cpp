@@ -2,15 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace starfolds {
 namespace {
-
-/// The place that a new window is told of first.
-SaverInput InputWithPlaceKnown(bool mouseMoveOff, bool backG) {
-  SaverInput input(mouseMoveOff, backG);
-  EXPECT_FALSE(input.MouseMove(1000));
-  return input;
-}
 
 TEST(SaverInput, EndsOnKeysAndButtonsButNotAsABackground) {
   const SaverInput saver(true, false);
@@ -23,70 +18,43 @@ TEST(SaverInput, EndsOnKeysAndButtonsButNotAsABackground) {
   EXPECT_TRUE(background.DoubleClick());
 }
 
-TEST(SaverInput, EndsOnTheFourthMove) {
-  SaverInput input = InputWithPlaceKnown(false, false);
-  EXPECT_FALSE(input.MouseMove(1000.0));
-  EXPECT_FALSE(input.MouseMove(1003.0));
-  EXPECT_FALSE(input.MouseMove(1006.0));
-  EXPECT_TRUE(input.MouseMove(1009.9));
-}
-
-TEST(SaverInput, BeginsAnewWithTheMoveAfterAPause) {
-  SaverInput input = InputWithPlaceKnown(false, false);
-  for (int i = 0; i < 3; ++i) EXPECT_FALSE(input.MouseMove(1000.0));
-  for (int i = 0; i < 3; ++i) EXPECT_FALSE(input.MouseMove(1011.0));
-  EXPECT_TRUE(input.MouseMove(1012.0));
-}
-
-TEST(SaverInput, IsNeverEndedByOccasionalMoves) {
-  SaverInput input = InputWithPlaceKnown(false, false);
-  for (int i = 0; i < 50; ++i) EXPECT_FALSE(input.MouseMove(1000.0 + i * 4)) << i;
-}
-
-TEST(SaverInput, MeasuresTheTenSecondsFromTheRoundedFirstMove) {
-  // 1000.5 is stored as 1000 (halves go to even), 1000.6 as 1001.
-  SaverInput early = InputWithPlaceKnown(false, false);
-  EXPECT_FALSE(early.MouseMove(1000.5));
-  EXPECT_FALSE(early.MouseMove(1010.1));  // lapses
-  for (int i = 0; i < 2; ++i) EXPECT_FALSE(early.MouseMove(1010.2));
-  EXPECT_TRUE(early.MouseMove(1010.2));
-
-  SaverInput late = InputWithPlaceKnown(false, false);
-  EXPECT_FALSE(late.MouseMove(1000.6));
-  EXPECT_FALSE(late.MouseMove(1011.0));  // exactly ten seconds: still counts
-  EXPECT_FALSE(late.MouseMove(1011.0));
-  EXPECT_TRUE(late.MouseMove(1011.0));
-}
-
-TEST(SaverInput, KeepsTheCountOverMidnight) {
-  SaverInput input = InputWithPlaceKnown(false, false);
-  EXPECT_FALSE(input.MouseMove(86399.0));
-  EXPECT_FALSE(input.MouseMove(86399.5));
-  EXPECT_FALSE(input.MouseMove(100.0));
-  EXPECT_TRUE(input.MouseMove(40000.0));
+TEST(SaverInput, EndsOnTheFourthMoveWithinTenSeconds) {
+  struct Case {
+    const char* Why;
+    std::vector<double> Moves;  // when; the last one ends the saver, and no other does
+  };
+  const Case cases[] = {
+      {"the fourth", {1000, 1003, 1006, 1009.9}},
+      {"a pause begins anew", {1000, 1000, 1000, 1011, 1011, 1011, 1012}},
+      {"occasional ones never do", {1000, 1004, 1008, 1012, 1016, 1020, 1024, 1025, 1025, 1025}},
+      {"1000.5 counts as 1000", {1000.5, 1010.1, 1010.2, 1010.2, 1010.2}},
+      {"1000.6 counts as 1001, and ten seconds still count", {1000.6, 1011, 1011, 1011}},
+      {"the count stays over midnight", {86399, 86399.5, 100, 40000}},
+  };
+  for (const Case& c : cases) {
+    SaverInput saver(false, false);
+    EXPECT_FALSE(saver.MouseMove(1000)) << "the place that a new window is told of first";
+    for (std::size_t i = 0; i < c.Moves.size(); ++i) {
+      EXPECT_EQ(saver.MouseMove(c.Moves[i]), i + 1 == c.Moves.size()) << c.Why << ", move " << i;
+    }
+  }
 }
 
 TEST(SaverInput, IgnoresThePointerAfterARefusedEndUntilTheTimeIsOver) {
-  SaverInput input = InputWithPlaceKnown(false, false);
-  for (int i = 0; i < 3; ++i) EXPECT_FALSE(input.MouseMove(1000.0));
-  EXPECT_TRUE(input.MouseMove(1001.0));
-  for (int i = 0; i < 20; ++i) EXPECT_FALSE(input.MouseMove(1005.0));
+  SaverInput input(false, false);
+  for (int i = 0; i < 4; ++i) EXPECT_FALSE(input.MouseMove(1000));
+  EXPECT_TRUE(input.MouseMove(1001));
+  for (int i = 0; i < 20; ++i) EXPECT_FALSE(input.MouseMove(1005));
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(input.MouseMove(1010.1));
   EXPECT_TRUE(input.MouseMove(1010.2));
 }
 
-TEST(SaverInput, DoesNotCountTheFirstPlace) {
-  SaverInput input(false, false);
-  for (int i = 0; i < 4; ++i) EXPECT_FALSE(input.MouseMove(1000.0));
-  EXPECT_TRUE(input.MouseMove(1000.0));
-}
-
 TEST(SaverInput, NeverEndsOnMovesWhereTheyAreOffOrItIsABackground) {
-  SaverInput off = InputWithPlaceKnown(true, false);
-  SaverInput background = InputWithPlaceKnown(false, true);
+  SaverInput off(true, false);
+  SaverInput background(false, true);
   for (int i = 0; i < 50; ++i) {
-    EXPECT_FALSE(off.MouseMove(1000.0));
-    EXPECT_FALSE(background.MouseMove(1000.0));
+    EXPECT_FALSE(off.MouseMove(1000));
+    EXPECT_FALSE(background.MouseMove(1000));
   }
 }
 

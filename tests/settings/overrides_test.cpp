@@ -78,20 +78,12 @@ TEST_F(OverridesTest, ValuesToBeginWithAreSeenUntilTheyAreWritten) {
   records.Universe.Universe_Stars = 99;
   Stored.WritesUntilFull = 100;
   EXPECT_FALSE(SaveSettings(Tree, records));
+  EXPECT_TRUE(Stored == Before);
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 1111);
   Stored.WritesUntilFull = -1;
   EXPECT_TRUE(SaveSettings(Tree, records));
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 99);
   EXPECT_EQ(LoadSettings(Stored).Universe.Universe_Stars, 99);
-}
-
-/// A bulk that fails underneath fails, and leaves nothing behind.
-TEST_F(OverridesTest, SaveAllOrNothing) {
-  SettingsRecords records;
-  Stored.WritesUntilFull = 100;
-  EXPECT_FALSE(SaveSettings(Tree, records));
-  Stored.WritesUntilFull = -1;
-  EXPECT_TRUE(Stored == Before);
 }
 
 }  // namespace

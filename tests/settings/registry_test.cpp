@@ -61,10 +61,7 @@ TEST(Registry, AReadOnlyTreeIsFoundOutAndTold) {
   tree.Writable = false;  // the value of the test before is still there
   EXPECT_FALSE(RegistryWriteTest(tree, boxes));
   ASSERT_EQ(boxes.Log.size(), 1U);
-  EXPECT_EQ(boxes.Log[0].Style, BoxStyle::Exclamation);
-  EXPECT_EQ(boxes.Log[0].Caption, "Starfolds");
-  EXPECT_TRUE(boxes.Log[0].Text.starts_with(
-      "The Registry is read-only.\n\nThe Property settings cannot be saved.\nYou must change"));
+  EXPECT_TRUE(boxes.Log[0].Text.starts_with("The Registry is read-only.\n\nThe Property"));
 }
 
 class StubWindow : public PlacedWindow {

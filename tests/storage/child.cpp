@@ -1,26 +1,19 @@
 #include "storage/child.h"
 
 #include <gtest/gtest.h>
-#include <sched.h>
 #include <signal.h>
-#include <sys/mount.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <string>
 #include <thread>
 
 namespace starfolds {
 namespace {
 
 constexpr uid_t kNobody = 65534;
-
-void WriteLine(const char* path, const std::string& line) { std::ofstream(path) << line; }
 
 }  // namespace
 
@@ -66,27 +59,6 @@ bool SucceedsAsOrdinaryUser(const std::function<void()>& part) {
            part();
          })
       .Succeeded();
-}
-
-bool MountSmallDisk(const char* folder, std::size_t bytes) {
-  if (geteuid() == 0) {
-    if (unshare(CLONE_NEWNS) != 0) return false;
-  } else {
-    const std::string user = std::to_string(geteuid());
-    const std::string group = std::to_string(getegid());
-    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
-    WriteLine("/proc/self/setgroups", "deny");
-    WriteLine("/proc/self/uid_map", "0 " + user + " 1");
-    WriteLine("/proc/self/gid_map", "0 " + group + " 1");
-  }
-  return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-         mount("small", folder, "tmpfs", 0, ("size=" + std::to_string(bytes)).c_str()) == 0;
-}
-
-void LimitFileSize(std::size_t bytes) {
-  signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, RLIM_INFINITY};
-  setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 }  // namespace starfolds

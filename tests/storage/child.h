@@ -1,9 +1,8 @@
-// A second process for a test, and machines with faults to run it on.
+// A second process for a test.
 #pragma once
 
 #include <sys/types.h>
 
-#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -31,13 +30,5 @@ bool WaitForFile(const std::string& path);
 
 /// Runs a part of a test in a child as a user whose rights count; root has all of them.
 bool SucceedsAsOrdinaryUser(const std::function<void()>& part);
-
-// For use in a child.
-
-/// Puts a disk of that size over a folder, for this process only. False: the system forbids it.
-bool MountSmallDisk(const char* folder, std::size_t bytes);
-
-/// Lets no file become longer from now on.
-void LimitFileSize(std::size_t bytes);
 
 }  // namespace starfolds

