@@ -41,15 +41,27 @@ struct Stretch {
   int Begin, Length;
 };
 
-/// Where the links of a block stand.
-std::vector<Stretch> LinksOf(const QTextBlock& block) {
-  std::vector<Stretch> links;
+/// Where the parts of a block stand that have such a format.
+std::vector<Stretch> StretchesOf(const QTextBlock& block,
+                                 bool (*isSuch)(const QTextCharFormat& format)) {
+  std::vector<Stretch> found;
   for (auto part = block.begin(); !part.atEnd(); ++part) {
     const QTextFragment text = part.fragment();
-    if (text.charFormat().isAnchor()) links.push_back({text.position(), text.length()});
+    if (isSuch(text.charFormat())) found.push_back({text.position(), text.length()});
   }
-  return links;
+  return found;
 }
+
+std::vector<Stretch> LinksOf(const QTextBlock& block) {
+  return StretchesOf(block, [](const QTextCharFormat& format) { return format.isAnchor(); });
+}
+
+std::vector<Stretch> PicturesOf(const QTextBlock& block) {
+  return StretchesOf(block, [](const QTextCharFormat& format) { return format.isImageFormat(); });
+}
+
+/// Null where there is none of that name.
+QImage ReadPicture(const QString& name) { return QImageReader(kHelpFolder + name).read(); }
 
 }  // namespace
 
@@ -83,6 +95,7 @@ void HelpPage::LayOut() {
   page->setDocumentMargin(kMargin);
   page->setMarkdown(markdown_);
   StyleBlocks(*page);
+  StylePictures(*page);
   StyleTables(*page);
   setExtraSelections({});  // of the former page
   setDocument(page);
@@ -91,9 +104,11 @@ void HelpPage::LayOut() {
 
 /// The same page with other colours or lines of another length; what is read stays in view.
 void HelpPage::LayOutAnew() {
-  const int reading = cursorForPosition({}).position();
+  const bool isAtTop = verticalScrollBar()->value() == 0;
+  const int reading = cursorForPosition({kMargin, kMargin}).position();  // the edge is not text
   LayOut();
   MarkWords();
+  if (isAtTop) return verticalScrollBar()->setValue(0);
   QTextCursor cursor(document());
   cursor.setPosition(std::min(reading, document()->characterCount() - 1));
   ScrollTo(cursor, kMargin);
@@ -136,6 +151,24 @@ void HelpPage::StyleBlocks(QTextDocument& page) const {
       cursor.setPosition(begin);
       cursor.setPosition(begin + length, QTextCursor::KeepAnchor);
       cursor.mergeCharFormat(linkFormat);
+    }
+  }
+}
+
+/// A page that is not told the size of a picture takes its pixels for it, however dense they are.
+void HelpPage::StylePictures(QTextDocument& page) const {
+  for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+    for (const auto& [begin, length] : PicturesOf(block)) {
+      QTextCursor cursor(&page);
+      cursor.setPosition(begin);
+      cursor.setPosition(begin + length, QTextCursor::KeepAnchor);
+      QTextImageFormat format = cursor.charFormat().toImageFormat();
+      const QImage picture = ReadPicture(format.name());
+      if (picture.isNull()) continue;
+      const QSize size = ShownSize(picture);
+      format.setWidth(size.width());
+      format.setHeight(size.height());
+      cursor.setCharFormat(format);
     }
   }
 }
@@ -199,20 +232,23 @@ void HelpPage::ZoomBy(int steps) {
 
 void HelpPage::ResetZoom() { ZoomBy(-zoom_); }
 
-/// A picture whose name ends in "@2x" is made for dense screens. It is brought to the density of
-/// this one here, and to the length of a line: what draws the page would do it roughly.
+/// The size of a picture on the page: no longer than a line. One whose name ends in "@2x" is made
+/// for dense screens, twice as large as it is shown.
+QSize HelpPage::ShownSize(const QImage& picture) const {
+  const double room = lineWrapColumnOrWidth() - 2 * kMargin;
+  const QSizeF size = picture.deviceIndependentSize();
+  return (size * std::min(1.0, room / size.width())).toSize();
+}
+
+/// Brought to the density of this screen here: what draws the page would do it roughly.
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
   if (type != QTextDocument::ImageResource) return {};
-  QImage picture = QImageReader(kHelpFolder + name.path()).read();
+  QImage picture = ReadPicture(name.path());
   if (picture.isNull()) return {};
-  const double room = lineWrapColumnOrWidth() - 2 * kMargin;
-  const double width = std::floor(std::min(picture.width() / picture.devicePixelRatio(), room));
-  const double ratio = std::min(devicePixelRatioF(), picture.width() / width);
+  const double wanted = ShownSize(picture).width() * devicePixelRatioF();
+  const int width = std::min(static_cast<int>(std::lround(wanted)), picture.width());
   picture.setDevicePixelRatio(1);  // with another one, Qt 6.4 faults where it scales a palette
-  picture =
-      picture.scaledToWidth(static_cast<int>(std::lround(width * ratio)), Qt::SmoothTransformation);
-  picture.setDevicePixelRatio(ratio);
-  return picture;
+  return picture.scaledToWidth(width, Qt::SmoothTransformation);
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event) {

@@ -32,7 +32,9 @@ class HelpPage : public QTextBrowser {
   void LayOut();
   void LayOutAnew();
   void ScrollTo(const QTextCursor& place, int below);
+  QSize ShownSize(const QImage& picture) const;
   void StyleBlocks(QTextDocument& page) const;
+  void StylePictures(QTextDocument& page) const;
   void StyleTables(QTextDocument& page) const;
 
   QString markdown_;

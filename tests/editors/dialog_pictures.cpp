@@ -191,7 +191,10 @@ void TakeHelp(KeyValueTree& tree, DesktopServices& desktop, MessageBoxes& boxes,
   HelpWindow help(tree, desktop, boxes);
   help.ShowTopic(help::kMolecule);
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* viewer = qobject_cast<HelpViewer*>(window)) Take(*viewer, prefix + "help.png");
+    auto* viewer = qobject_cast<HelpViewer*>(window);
+    if (!viewer) continue;
+    viewer->resize(900, 640);
+    Take(*viewer, prefix + "help.png");
   }
 }
 
