@@ -53,10 +53,7 @@ RecordsKept::~RecordsKept() {
 void PreviewUniverse(Saver& saver, Surface& surface, const UniverseSettings& universeOnDialog,
                      std::uint64_t seed) {
   const RecordsKept kept(saver);
-  BodyPreview hues;
-  hues.HueStart = universeOnDialog.Universe_HW_Start;
-  hues.HueEnd = universeOnDialog.Universe_HW_End;
-  SetUpPreview(saver, surface, false, hues, seed);
+  SetUpPreview(saver, surface, false, PreviewIn(universeOnDialog, 0, false), seed);
   saver.Universe = universeOnDialog;
   saver.Visits = ParseVisitList(universeOnDialog.Universe_GS_Idx);
   UniverseRun(saver);

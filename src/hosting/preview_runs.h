@@ -41,7 +41,7 @@ struct BodyPreview {
   Integer HueEnd = 210;
 };
 
-/// The same for a body in a universe of these settings.
+/// What the settings of a universe say for the preview of one body in it.
 BodyPreview PreviewIn(const UniverseSettings& universe, int body, bool isComposite);
 
 /// Runs one body on `surface` until a flag says stop, at the pace of the screen whatever the

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QSysInfo>
 #include <QtGlobal>
+#include <algorithm>
 
 #include "hosting/dialog_parts.h"
 #include "settings/product.h"
