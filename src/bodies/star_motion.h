@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 #include "bodies/plotters.h"
 #include "bodies/run_arrays.h"
@@ -41,9 +42,14 @@ inline void AttractStar(StarState& star, const StarMotion& motion) {
   DriftStar(star);
 }
 
+/// Counts a frame of the star's age, up to the largest Long.
+inline void AgeStar(StarState& star) {
+  if (star.StarAge < std::numeric_limits<Long>::max()) ++star.StarAge;
+}
+
 /// Ages the star, so that with trails, where every star ages by itself, a wave ages twice as fast.
 inline void WaveStar(StarState& star, const StarMotion& motion) {
-  ++star.StarAge;
+  AgeStar(star);
   star.StarX += star.StarVX;
   star.StarVY += motion.WavePhaseStep;
   const double decay = motion.WaveDecay;
@@ -111,16 +117,16 @@ inline void ProjectView(const Lens& lens, const View& view, Long& x, Long& y) {
 inline void PlotView(Surface::Pen& pen, const Lens& lens, const View& view, TrailPlace& trail,
                      Colour colour) {
   const double f = lens.Focal / view.Depth;
-  const std::int64_t x = RoundHalfEven(view.X * f + lens.CentreX);
-  const std::int64_t y = RoundHalfEven(view.Y * f + lens.CentreY);
-  if (pen.Holds(static_cast<std::uint64_t>(x), static_cast<std::uint64_t>(y))) [[likely]] {
-    trail.TrailX = static_cast<Long>(x);
-    trail.TrailY = static_cast<Long>(y);
-    pen.SetPixelWithin(trail.TrailX, trail.TrailY, colour);
-    return;
+  const double x = view.X * f + lens.CentreX;
+  const double y = view.Y * f + lens.CentreY;
+  // One test of the range for both axes: far below it, both places fit a Long.
+  if (std::abs(x) + std::abs(y) < 0x1p30) [[likely]] {
+    trail.TrailX = static_cast<Long>(std::llrint(x));
+    trail.TrailY = static_cast<Long>(std::llrint(y));
+  } else {
+    AssignRounded(trail.TrailX, x);
+    AssignRounded(trail.TrailY, y);
   }
-  if (Fits<Long>(x)) trail.TrailX = static_cast<Long>(x);
-  if (Fits<Long>(y)) trail.TrailY = static_cast<Long>(y);
   pen.SetPixelV(trail.TrailX, trail.TrailY, colour);
 }
 

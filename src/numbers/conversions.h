@@ -13,11 +13,16 @@ namespace starfolds {
 
 /// Nearest whole number, halves to even (the default rounding mode of the processor). Values that
 /// no 64-bit number holds, and NaN, give the lowest 64-bit number, which fits no narrower word.
-inline std::int64_t RoundHalfEven(double value) { return std::llrint(value); }
+/// The range is tested first: what `llrint` returns outside of it differs between processors, and
+/// between a constant and a variable.
+inline std::int64_t RoundHalfEven(double value) {
+  if (!(std::abs(value) < 0x1p63)) return std::numeric_limits<std::int64_t>::min();
+  return std::llrint(value);
+}
 
-/// Largest whole number not above `value`, in the same 64-bit form and with the same answer for
-/// what does not fit.
-inline std::int64_t FloorToWhole(double value) { return std::llrint(std::floor(value)); }
+/// Largest whole number not above `value`; the lowest 64-bit number for NaN and for values that do
+/// not fit.
+inline std::int64_t FloorToWhole(double value) { return RoundHalfEven(std::floor(value)); }
 
 template <class Word>
 constexpr bool Fits(std::int64_t value) {

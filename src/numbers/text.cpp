@@ -36,19 +36,37 @@ std::size_t NumberLength(std::string_view text) {
   return at;
 }
 
-/// The value of a text of which every character belongs to the grammar above.
+/// The power of ten of the first digit that is not 0: 0 for "7.5", -2 for "0.05", 3 for "2e3".
+/// `text` is an unsigned number of the grammar above with at least one such digit. Exponents that
+/// no 64-bit number holds are clamped to a quarter of its range.
+std::int64_t PowerOfTen(std::string_view text) {
+  const std::size_t mark = text.find_first_of("eE");
+  const std::string_view mantissa = text.substr(0, mark);
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t first = mantissa.find_first_of("123456789");
+  const auto digits = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first);
+  const std::int64_t power = digits > 0 ? digits - 1 : digits;
+  if (mark == std::string_view::npos) return power;
+  std::string_view exponent = text.substr(mark + 1);
+  if (exponent.front() == '+') exponent.remove_prefix(1);
+  constexpr std::int64_t limit = std::numeric_limits<std::int64_t>::max() / 4;
+  std::int64_t shift = exponent.front() == '-' ? -limit : limit;
+  std::from_chars(exponent.data(), exponent.data() + exponent.size(), shift);
+  return power + std::clamp(shift, -limit, limit);
+}
+
+/// The value of a text of which every character belongs to the grammar above. Magnitudes beyond
+/// the range of double give the largest double, those below it 0.
 double NumberValue(std::string_view text) {
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc::result_out_of_range) return value;
-  // from_chars leaves the value alone out of range: a negative exponent means too small.
-  const std::size_t exponent = text.find_first_of("eE");
-  const bool tiny =
-      exponent != std::string_view::npos && text.substr(exponent + 1).starts_with('-');
-  if (tiny) return 0;
+  // Out of range, from_chars does not say in which direction.
+  const bool negative = text.front() == '-';
+  if (PowerOfTen(text.substr(negative ? 1 : 0)) < 0) return 0;
   const double largest = std::numeric_limits<double>::max();
-  return text.front() == '-' ? -largest : largest;
+  return negative ? -largest : largest;
 }
 
 }  // namespace

@@ -10,8 +10,8 @@
 namespace starfolds {
 
 /// The value of the longest number at the start of the text; blanks anywhere before or inside it
-/// do not count ("1 2.5x" is 12.5). Text that starts with no number gives 0. Magnitudes beyond
-/// double's range give the largest double.
+/// do not count ("1 2.5x" is 12.5). Text that starts with no number gives 0. Magnitudes above
+/// double's range give the largest double, those below it 0.
 double LenientNumber(std::string_view text);
 
 /// Whether the whole text is one number: optional blanks around it, a sign, digits, a point, an

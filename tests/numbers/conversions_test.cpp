@@ -21,6 +21,17 @@ TEST(Conversions, RoundsHalvesToEven) {
   }
 }
 
+TEST(Conversions, WhatNo64BitNumberHoldsIsTheLowestOne) {
+  constexpr std::int64_t lowest = std::numeric_limits<std::int64_t>::min();
+  // As constants, which the compiler folds, and as values that it cannot know.
+  EXPECT_EQ(RoundHalfEven(1e300), lowest);
+  EXPECT_EQ(FloorToWhole(kInfinity), lowest);
+  for (volatile double value : {0x1p63, -0x1p63, 1e300, -1e300, kInfinity, std::nan("")}) {
+    EXPECT_EQ(RoundHalfEven(value), lowest) << value;
+    EXPECT_EQ(FloorToWhole(value), lowest) << value;
+  }
+}
+
 TEST(Conversions, AValueThatDoesNotFitLeavesTheFormerOne) {
   for (const double value : {32767.5, -32769.0, 1e300, -1e300, kInfinity, std::nan("")}) {
     Integer target = 7;
