@@ -37,6 +37,11 @@ struct Display {
 };
 
 struct Saver {
+  Saver() = default;
+  /// Not copyable: `Tree` may point to `StandIn` of the same value.
+  Saver(const Saver&) = delete;
+  Saver& operator=(const Saver&) = delete;
+
   /// What the user has stored: the truth between runs. Set before the first one, outlives all.
   KeyValueTree* Tree = nullptr;
   /// Takes the place of an empty tree that cannot be written.

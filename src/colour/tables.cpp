@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "colour/saver.h"
 #include "numbers/conversions.h"
@@ -36,13 +37,19 @@ Colour HueSector(int hue, int base, Full full, Rising rising, Falling falling, i
   return 0;
 }
 
+/// The distance of a star from the rim of its body, as a share of the body's radius. Infinite for a
+/// body of radius 0, whose nested levels end at the core.
+double RimDistance(const PreparedProfile& run, double x, double y, double z) {
+  if (run.RunMaxRadius == 0) return std::numeric_limits<double>::infinity();
+  return std::abs(1 - std::sqrt(std::abs(x * x + y * y + z * z)) / run.RunMaxRadius);
+}
+
 /// Hue by `Starfold_ColorComp`, in degrees and not yet within the circle.
 double SeedHue(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
                int offset) {
   const PreparedProfile& run = saver.Prepared[prof];
   const double wheel = run.HueWheel;
-  const double distance =
-      std::abs(1 - std::sqrt(std::abs(x * x + y * y + z * z)) / run.RunMaxRadius);
+  const double distance = RimDistance(run, x, y, z);
   switch (saver.Profiles[prof].Starfold_ColorComp) {
     case 0: return rv * static_cast<double>(run.RunColorTenth) * 10 + wheel;
     case 1: return std::sqrt(rv * static_cast<double>(run.RunColorTenth) * 1000) + wheel;

@@ -197,6 +197,13 @@ TEST_F(SeedColorTest, EachRuleHasItsHue) {
   EXPECT_EQ(HueAt(2, 30), 60) << "nine radii beyond the rim, 1620 degrees on";
 }
 
+TEST_F(SeedColorTest, ABodyOfRadiusZeroKeepsTheFormerHue) {
+  First().Starfold_Radius = 300;
+  First().Starfold_StdLevels = 3;
+  First().Starfold_StdLevDRad = -150;
+  for (const Integer rule : {Integer{2}, Integer{3}}) EXPECT_EQ(HueAt(rule, 1), 7);
+}
+
 TEST_F(SeedColorTest, BlackStarsKeepTheirHue) {
   EXPECT_EQ(HueAt(4, 1), 7);
   EXPECT_EQ(SeedColor(*Process, 0, 1, 0, 0, 0, 0, 0, {7, 99}).StarColor, 0U);
