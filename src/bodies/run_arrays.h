@@ -48,11 +48,17 @@ struct TrailPlace {
   Long TrailX = 0, TrailY = 0;
 };
 
+/// The largest product of a run's star count and its trail length, so that the index of a trail
+/// place fits an Integer.
+inline constexpr Integer kMostTrailPlaces = 30000;
+
 /// Per star; the trails hold `trail` places per star, as a ring that all stars share the head of.
 struct StarArrays {
   std::vector<StarState> Star;
   std::vector<FlareState> Flare;
   std::vector<TrailPlace> Trail;
+  /// The last frame left its hue work to the next one (only without trails).
+  bool HueWorkDue = false;
 
   StarArrays(std::size_t stars, std::size_t trail)
       : Star(stars), Flare(stars), Trail(stars * trail) {}

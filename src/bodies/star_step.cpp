@@ -1,5 +1,6 @@
 #include "bodies/star_step.h"
 
+#include <cassert>
 #include <cmath>
 
 #include "bodies/comets.h"
@@ -36,6 +37,11 @@ bool CountShellDown(const FrameScene& scene, std::size_t i) {
   return false;
 }
 
+/// The hue work that the last frame left for a star.
+void DoHueWork(const FrameScene& scene, StarState& star) {
+  if (scene.Run.Stars.HueWorkDue) AdvanceStarHue(scene.Process, star);
+}
+
 void StepFlareWithoutTrail(const FrameScene& scene, std::size_t i) {
   StarState& star = scene.Run.Stars.Star[i];
   EraseFlare(scene, i);
@@ -61,6 +67,7 @@ Long SharedFrame(const FrameScene& scene, const StarState& star) {
 /// Notes for each level of the starfolds what its stars share in this frame.
 void FillFrames(const FrameScene& scene) {
   StarfoldArrays& folds = scene.Run.Folds;
+  const bool hueWorkDue = scene.Run.Stars.HueWorkDue;
   for (std::size_t home = 0; home < folds.StarfoldProf.size(); ++home) {
     const Integer entry = folds.StarfoldProf[home];
     if (IsComposite(entry)) continue;
@@ -71,7 +78,8 @@ void FillFrames(const FrameScene& scene) {
           run.Star.LevelCos[level],
           run.Star.LevelSin[level],
           &run.Star,
-          run.Star.HueCycleOn ? scene.Process.Colours.Profile[entry].HueTable.data() : nullptr,
+          hueWorkDue && run.Star.HueCycleOn ? scene.Process.Colours.Profile[entry].HueTable.data()
+                                            : nullptr,
           run.Star.HWheelInc,
           run.Star.AxisPlane};
     }
@@ -82,10 +90,8 @@ void FillFrames(const FrameScene& scene) {
 void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   StarArrays& stars = scene.Run.Stars;
   StarState& star = stars.Star[i];
-  if (star.InFlare()) {
-    StepFlareWithoutTrail(scene, i);
-    return AdvanceStarHue(scene.Process, star);
-  }
+  DoHueWork(scene, star);
+  if (star.InFlare()) return StepFlareWithoutTrail(scene, i);
   Surface::Pen pen(*scene.Process.Screen.hDCDraw);
   TrailPlace& trail = stars.Trail[i];
   pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
@@ -96,11 +102,14 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
     PlotView(pen, Lens(scene.Process.Screen), view, trail, star.StarColor);
   }
   star.StarFrame = SharedFrame(scene, star);
-  AdvanceStarHue(scene.Process, star);
 }
 
 /// The loop of the common case. A settled star costs two pixels, and what it shares with the rest
 /// of its body is made ready once a frame.
+///
+/// The hue work of a frame follows its re-seeding, which reads the hues that stars had before. A
+/// second pass over all stars would cost as much as this one, so each star does the hue work of the
+/// last frame just before it is drawn.
 void StepStarsWithoutTrails(const FrameScene& scene) {
   FillFrames(scene);
   StarState* const stars = scene.Run.Stars.Star.data();
@@ -115,13 +124,15 @@ void StepStarsWithoutTrails(const FrameScene& scene) {
       StepStarTheLongWay(scene, i);
       continue;
     }
+    assert(star.StarFrame == SharedFrame(scene, star) && "set anew with StarProf and StarHome");
     pen.SetPixelV(trails[i].TrailX, trails[i].TrailY, 0);
     const BodyFrame& frame = frames[star.StarFrame];
+    if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);
     MoveStar(star, *frame.Motion);
     const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
     if (view.InFront()) PlotView(pen, lens, view, trails[i], star.StarColor);
-    if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);
   }
+  scene.Run.Stars.HueWorkDue = true;
 }
 
 /// A nova or pulsar with trails; the profile of a star that is re-seeded here is drawn once more.
@@ -153,7 +164,7 @@ void StepStarsWithTrails(const FrameScene& scene, const TourPlace& place, double
   for (std::size_t i = 0; i < stars.Star.size(); ++i, slot += length) {
     StarState& star = stars.Star[i];
     TrailPlace& trail = stars.Trail[slot];
-    ++star.StarAge;
+    AgeStar(star);
     if (star.InFlare()) [[unlikely]] {
       EraseFlare(scene, i);
       if (star.StarNewLeft > 0) --star.StarNewLeft;
@@ -206,7 +217,6 @@ void RecycleStars(const FrameScene& scene, const TourPlace& place, const Recycli
       scene.Process.Screen.hDCDraw->SetPixelV(stars.Trail[j].TrailX, stars.Trail[j].TrailY, 0);
       star.StarHome = ChooseHome(scene, place, recycling.CrossFade);
       ReseedStar(scene, j);
-      AdvanceStarHue(scene.Process, star);
     } else if (star.StarAge > trail && star.StarWait == 0) {
       star.StarWait = static_cast<Integer>(trail + 1);
     }
@@ -258,6 +268,11 @@ Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double cross
 
 void AdvanceStarHues(const Saver& saver, StarArrays& stars) {
   for (StarState& star : stars.Star) AdvanceStarHue(saver, star);
+}
+
+void FinishHueWork(const Saver& saver, StarArrays& stars) {
+  if (stars.HueWorkDue) AdvanceStarHues(saver, stars);
+  stars.HueWorkDue = false;
 }
 
 void StarStep(const FrameScene& scene, const TourPlace& place) {

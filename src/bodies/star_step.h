@@ -16,7 +16,8 @@ struct TourPlace {
 };
 
 /// Erases, moves and plots all stars, steps the comets (only where gravity is exactly 0), re-seeds
-/// the frame's quota of stars and moves the hues on.
+/// the frame's quota of stars and moves the hues on. Without trails the hues move at the start of
+/// the next `StarStep`, before anything reads them.
 void StarStep(const FrameScene& scene, const TourPlace& place);
 
 /// How the frame's re-seeding goes: its rate, and the weights by which the stars follow the eye.
@@ -30,10 +31,14 @@ Recycling NewQuota(const FrameScene& scene, const TourPlace& place);
 /// One draw.
 int RecycleCount(Long quota, Rnd& random);
 
-/// The starfold that a re-seeded star goes to: one to three draws.
+/// The starfold that a re-seeded star goes to: one or two draws.
 Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double crossFade);
 
 /// Moves the hue of every star whose profile cycles, and looks its colour up anew.
 void AdvanceStarHues(const Saver& saver, StarArrays& stars);
+
+/// Does the hue work that the last `StarStep` left to the next one. To be called before anything
+/// but `StarStep` reads or moves the hues.
+void FinishHueWork(const Saver& saver, StarArrays& stars);
 
 }  // namespace starfolds

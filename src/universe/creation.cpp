@@ -209,7 +209,7 @@ class BirthFrame {
 
   void LiveOn(std::size_t i, std::size_t ring) {
     StarState& star = stars_.Star[i];
-    ++star.StarAge;
+    AgeStar(star);
     Wipe(ring);
     const StarMotion& motion =
         scene_.Process.Prepared[static_cast<std::size_t>(star.StarProf)].Star;
@@ -285,6 +285,7 @@ void CreateUniverse(UniverseScene& scene) {
   AssignRounded(birth.MinFlightFrames, universe.Universe_ESteps * 0.25);
   birth.CreationDamp = universe.Universe_Damping;
 
+  FinishHueWork(saver, scene.Run.Stars);
   InitBodiesAlike(saver, scene.Run.Slots, universe.Universe_Starfold, scene.TourProfile);
   SetUpExpansion(saver, scene.Shape, scene.TourProfile);
   SeedFlight(scene, birth);

@@ -44,7 +44,7 @@ void PumpOneTick(Saver& saver) {
   do {
     saver.Events->PumpEvents();
     if (saver.Events->TickCount() == begin) saver.Events->WaitForEvents(1);
-  } while (saver.Events->TickCount() == begin);
+  } while (!saver.StopRun && saver.Events->TickCount() == begin);
 }
 
 }  // namespace starfolds

@@ -13,7 +13,7 @@ bool FramePace(Saver& saver);
 /// Stores the time of the frame's start.
 void StampFrame(Saver& saver);
 
-/// Yields to the window system until the clock has moved on.
+/// Yields to the window system until the clock has moved on or the run must stop.
 void PumpOneTick(Saver& saver);
 
 }  // namespace starfolds

@@ -15,9 +15,9 @@ constexpr Integer kNoTour = 32000;  // a tour step beyond all steps: comets alwa
 
 void EnterSettings(UniverseSettings& universe, Long stars, Integer trail, Single scale) {
   AssignRounded(universe.Universe_Stars, stars * static_cast<double>(scale));
+  universe.Universe_Stars = ClampTo<Integer>(universe.Universe_Stars, 1, kMostTrailPlaces);
   universe.Universe_Starfold = 1;
-  universe.Universe_STrail =
-      std::min<Integer>(trail, Integer{30000} / std::max<Integer>(universe.Universe_Stars, 1));
+  universe.Universe_STrail = ClampTo<Integer>(trail, 1, kMostTrailPlaces / universe.Universe_Stars);
   universe.Universe_NewPctStEx = 0;
 }
 

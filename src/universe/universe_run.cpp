@@ -185,7 +185,7 @@ void ClearAway(UniverseTour& tour) {
 void EnterUniverseSettings(UniverseSettings& universe) {
   ClampUniverse(universe);
   universe.Universe_STrail =
-      std::min<Integer>(universe.Universe_STrail, Integer{30000} / universe.Universe_Stars);
+      std::min<Integer>(universe.Universe_STrail, kMostTrailPlaces / universe.Universe_Stars);
   universe.Universe_Expand = static_cast<Single>(universe.Universe_Expand * 0.001);
   universe.Universe_Damping =
       static_cast<Single>((1 - static_cast<double>(universe.Universe_Damping)) * 0.5 + 0.5);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <set>
 
 #include "scenes/scenes.h"
@@ -175,6 +176,7 @@ TEST(StarStepTest, HuesMoveOnceAFrame) {
     std::vector<Single> before;
     for (const StarState& star : stage.Run->Stars.Star) before.push_back(star.StarHue);
     for (int frame = 0; frame < 40; ++frame) stage.Step();
+    FinishHueWork(*stage.Process, stage.Run->Stars);
     for (std::size_t i = 0; i < before.size(); ++i) {
       const StarState& star = stage.Run->Stars.Star[i];
       EXPECT_EQ(star.StarHue, std::fmod(before[i] + 10, 360)) << "trail " << trail;
@@ -190,9 +192,32 @@ TEST(StarStepTest, ARecycledStarsHueMovesInTheFrameThatSeedsIt) {
     settings.Profiles[0].Starfold_HWheelInc = 0.25F;
   });
   stage.Step();
+  FinishHueWork(*stage.Process, stage.Run->Stars);
   for (const StarState& star : stage.Run->Stars.Star) {
     EXPECT_EQ(star.StarHue - std::floor(star.StarHue), 0.25F) << "seeded hues are whole";
   }
+}
+
+TEST(StarStepTest, TheOldestAgeStays) {
+  BodyStage stage(320, 200, 10, 4, Quiet);
+  constexpr Long oldest = std::numeric_limits<Long>::max();
+  for (StarState& star : stage.Run->Stars.Star) star.StarAge = oldest;
+  stage.Step();
+  for (const StarState& star : stage.Run->Stars.Star) EXPECT_EQ(star.StarAge, oldest);
+}
+
+TEST(StarStepTest, AStarThatKeepsItsHueIsRecycledBeforeTheHueMoves) {
+  BodyStage stage(320, 200, 10, 1, [](SettingsRecords& settings) {
+    Quiet(settings);
+    settings.Profiles[0].Starfold_NewFreq = 9999;
+    settings.Profiles[0].Starfold_HWheelInc = 0.75F;
+    // Nested levels that end at the core: there is no hue for a star, so each keeps its own.
+    settings.Profiles[0].Starfold_StdLevels = 3;
+    settings.Profiles[0].Starfold_StdLevDRad = -150;
+  });
+  stage.Step();
+  FinishHueWork(*stage.Process, stage.Run->Stars);
+  for (const StarState& star : stage.Run->Stars.Star) EXPECT_EQ(star.StarHue, 0.75F);
 }
 
 }  // namespace

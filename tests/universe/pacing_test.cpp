@@ -76,5 +76,15 @@ TEST_F(Pacing, OneTickPassesInPumpOneTick) {
   EXPECT_EQ(Clock.TickCount(), before + 1);
 }
 
+TEST_F(Pacing, AStoppedClockDoesNotHoldUpTheEnd) {
+  class StoppedClock : public CountingPump {
+    Long TickCount() override { return 5; }
+  } clock;
+  clock.OnPump = [&] { Process().StopRun = clock.Pumps == 3; };
+  Process().Events = &clock;
+  PumpOneTick(Process());
+  EXPECT_EQ(clock.Pumps, 3);
+}
+
 }  // namespace
 }  // namespace starfolds

@@ -40,6 +40,13 @@ TEST_F(SingleBody, CountsAreScaledAndTheTrailFitsTheStars) {
   EXPECT_EQ(Stage.Process->Universe.Universe_STrail, 30000 / 3200);
 }
 
+TEST_F(SingleBody, CountsOfZeroBecomeOne) {
+  Stage.StopAfter(3);
+  Run(0, false, 0, 0, 0, false, 1);
+  EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 1);
+  EXPECT_EQ(Stage.Process->Universe.Universe_STrail, 1);
+}
+
 TEST_F(SingleBody, ACompositeShowsTheStarsOfAllItsMembers) {
   CompositeProfile& composite = Stage.Settings().Composites[2];
   composite.CompFold_Count = 2;
