@@ -50,7 +50,7 @@ void MeasureStep(benchmark::State& state, FoldStyle style, Integer trail) {
   scenes::BodyStage stage = FactoryBody(row, kStars, trail);
   for (int frame = 0; frame < kSettling; ++frame) {
     stage.Step();
-    StepNebulaRibbonsAlike(*stage.Process, stage.Run->Slots, 0);
+    StepNebulaRibbons(*stage.Process, stage.Run->Slots, stage.Run->Folds.StarfoldProf);
   }
   stage.Process->Profiles[0].Starfold_NewFreq = 0;
   const StarArrays settled = stage.Run->Stars;
@@ -121,7 +121,7 @@ void AmbientStars(benchmark::State& state) {
   AmbientArrays stars(static_cast<std::size_t>(universe.Universe_AmStar),
                       static_cast<std::size_t>(universe.Universe_AmFrames));
   BuildAmbRamp(stars);
-  ExpansionShape shape;
+  BodySlots shape;
   SetUpExpansion(*stage.Process, shape, 0);
   const AmbientScene scene{*stage.Process, stars, shape};
   const TourPoint eye{0, 0, -universe.Universe_DstCen};

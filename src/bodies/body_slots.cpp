@@ -1,8 +1,7 @@
 #include "bodies/body_slots.h"
 
-#include "bodies/ifs.h"
-#include "bodies/ribbon.h"
 #include "bodies/seed_point.h"
+#include "bodies/styles.h"
 #include "colour/saver.h"
 #include "numbers/conversions.h"
 
@@ -25,25 +24,9 @@ void ClearSlots(Saver& saver, BodySlots& slots, std::size_t count) {
   ResetRunningValues(saver);
 }
 
-/// Styles that place their stars from the profile alone need nothing of a slot.
 void InitBodySlot(Saver& saver, BodySlots& slots, int prof, std::size_t slot) {
   const Body body(saver, prof);
-  switch (body.Set.Style()) {
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs:
-      SetUpIfsBody(slots.Ifs[slot], body);
-      // Only the first slot's running point starts at a vertex; the others come in from the origin.
-      slots.Ifs[0].IfsPoint = slots.Ifs[slot].IfsVertex[0];
-      return;
-    case FoldStyle::Nebula: return SetUpRibbon(slots.Ribbon, slot, body);
-    case FoldStyle::Standard:
-    case FoldStyle::Quasar:
-    case FoldStyle::Graviton:
-    case FoldStyle::Starwave:
-    case FoldStyle::Molecule: return;
-  }
+  RoutinesOf(body.Set.Style()).SetUpSlot(slots, slot, body);
 }
 
 int MemberOf(const CompositeProfile& composite, int i) {
@@ -56,11 +39,6 @@ void InitCompositeSlot(Saver& saver, BodySlots& slots, const CompositeProfile& c
   for (int i = composite.MemberCount(); i-- > 0;) {
     InitBodySlot(saver, slots, MemberOf(composite, i), slot);
   }
-}
-
-void StepRibbon(Saver& saver, RibbonSlot& slot, Integer prof) {
-  const Body body(saver, prof);
-  if (body.Set.Style() == FoldStyle::Nebula) MorphRibbon(slot, body);
 }
 
 }  // namespace
@@ -104,12 +82,9 @@ Integer ResolveProfile(const Saver& saver, Integer entry) {
 
 void StepNebulaRibbons(Saver& saver, BodySlots& slots, std::span<const Integer> assignment) {
   for (std::size_t slot = 0; slot < assignment.size(); ++slot) {
-    StepRibbon(saver, slots.Ribbon[slot], ResolveProfile(saver, assignment[slot]));
+    const Body body(saver, ResolveProfile(saver, assignment[slot]));
+    RoutinesOf(body.Set.Style()).StepSlot(slots, slot, body);
   }
-}
-
-void StepNebulaRibbonsAlike(Saver& saver, BodySlots& slots, Integer profile) {
-  for (RibbonSlot& slot : slots.Ribbon) StepRibbon(saver, slot, profile);
 }
 
 }  // namespace starfolds

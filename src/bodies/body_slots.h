@@ -57,9 +57,7 @@ Integer PickProfile(Saver& saver, Integer entry);
 /// The one profile that stands for a whole starfold: the entry, or the composite's first member.
 Integer ResolveProfile(const Saver& saver, Integer entry);
 
-/// One frame of all ribbons.
+/// Steps the slots of all starfolds by one frame; only the ribbons of nebulae change.
 void StepNebulaRibbons(Saver& saver, BodySlots& slots, std::span<const Integer> assignment);
-/// The same while every slot holds `profile`.
-void StepNebulaRibbonsAlike(Saver& saver, BodySlots& slots, Integer profile);
 
 }  // namespace starfolds

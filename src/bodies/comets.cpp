@@ -2,11 +2,8 @@
 
 #include <cmath>
 
-#include "bodies/ifs.h"
-#include "bodies/molecule.h"
-#include "bodies/radial.h"
-#include "bodies/ribbon.h"
 #include "bodies/seed_point.h"
+#include "bodies/styles.h"
 
 namespace starfolds {
 namespace {
@@ -22,47 +19,30 @@ struct NucleusView {
 struct CometScene {
   const FrameScene& Frame;
   const Body Of;
-  RibbonSlot& Ribbon;
+  const StyleRoutines& Style;
   std::size_t Fold;
   Integer Prof;
   Integer SegIdx;
 
   CometArrays& Comets() const { return Frame.Run.Comets; }
+  BodySlots& Slots() const { return Frame.Run.Slots; }
   Rnd& Random() const { return Frame.Process.Random; }
   Surface& Canvas() const { return *Frame.Process.Screen.hDCDraw; }
 };
 
-/// The nucleus is seeded like a star of the body; where the body's stars do not orbit, it still
-/// does, as a Standard star.
 void SeedNucleus(const CometScene& scene, CometHead& head) {
   SeedPoint point;
   point.X = head.CometX;
   point.Y = head.CometY;
   point.Z = head.CometZ;
-  const Body& body = scene.Of;
-  switch (body.Set.Style()) {
-    case FoldStyle::Standard:
-    case FoldStyle::Quasar:
-    case FoldStyle::Graviton:
-    case FoldStyle::Starwave:
-      SeedRadial(point, body, body.Run.RunCometOrbit, body.Run.SpinPhase);
-      break;
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs: SeedIfs(point, body, scene.Frame.Run.Slots.Ifs[scene.Fold]); break;
-    case FoldStyle::Nebula:
-      SeedRibbon(point, body, scene.Ribbon);
-      head.CometPhase = point.RibbonPos;
-      break;
-    case FoldStyle::Molecule: SeedMolecule(point, body, false); break;
-  }
+  scene.Style.SeedNucleus(point, scene.Of, scene.Slots(), scene.Fold);
   head.CometX = point.X;
   head.CometY = point.Y;
   head.CometZ = point.Z;
   head.CometSpinCos = point.SpinCos;
   head.CometSpinSin = point.SpinSin;
   head.CometLevel = point.Level;
+  head.CometPhase = point.RibbonPos;
 }
 
 NucleusView ViewNucleus(const CometScene& scene, const CometHead& head) {
@@ -125,26 +105,6 @@ void LaunchComet(const CometScene& scene) {
   }
 }
 
-void MoveNucleus(const CometScene& scene, CometHead& head) {
-  if (scene.Of.Set.Style() == FoldStyle::Nebula) {
-    const int points = scene.Of.Set.Starfold_CP_Points;
-    double phase = static_cast<double>(head.CometPhase) + scene.Of.Run.RunCometOrbit;
-    if (phase >= points) phase = std::fmod(phase, points);
-    head.CometPhase = static_cast<Single>(phase);
-    const Point3 place = RibbonPoint(scene.Ribbon, points, head.CometPhase);
-    head.CometX = place.X;
-    head.CometY = place.Y;
-    head.CometZ = place.Z;
-    return;
-  }
-  const double c = head.CometSpinCos;
-  const double s = head.CometSpinSin;
-  const double x = head.CometX;
-  const double z = head.CometZ;
-  head.CometX = static_cast<Single>(x * c - s * z);
-  head.CometZ = static_cast<Single>(z * c + s * x);
-}
-
 /// The star flies on, and shows while it is young.
 void FlyStar(const CometScene& scene, std::size_t j) {
   CometArrays& comets = scene.Comets();
@@ -179,7 +139,7 @@ void StepCometStar(const CometScene& scene, CometHead& head, std::size_t j,
 void StepComet(const CometScene& scene, std::size_t comet) {
   CometArrays& comets = scene.Comets();
   CometHead& head = comets.Heads[comet];
-  MoveNucleus(scene, head);
+  scene.Style.MoveNucleus(head, scene.Of, scene.Slots(), scene.Fold);
   const NucleusView nucleus = ViewNucleus(scene, head);
   const SlotRange slots = SlotsOf(scene, comet);
   for (std::size_t j = slots.Begin; j < slots.End; ++j) {
@@ -194,7 +154,11 @@ void StepComet(const CometScene& scene, std::size_t comet) {
 }  // namespace
 
 void CometStep(const FrameScene& frame, std::size_t fold, Integer prof, Integer segIdx) {
-  const CometScene scene{frame, Body(frame.Process, prof), frame.Run.Slots.Ribbon[fold], fold, prof,
+  const CometScene scene{frame,
+                         Body(frame.Process, prof),
+                         RoutinesOf(frame.Process.Profiles[prof].Style()),
+                         fold,
+                         prof,
                          segIdx};
   LaunchComet(scene);
   for (int c = 0; c < frame.Run.Comets.CometCount; ++c) {

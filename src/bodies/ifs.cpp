@@ -147,24 +147,18 @@ void IterateRecords(IfsSlot& slot, const Body& body) {
                 turned.Z + static_cast<double>(target.Z));
 }
 
-void Iterate(IfsSlot& slot, const Body& body) {
-  switch (body.Set.Style()) {
-    case FoldStyle::IfsPoint: return IteratePoint(slot, body);
-    case FoldStyle::IfsWireframe: return IterateWireframe(slot, body);
-    case FoldStyle::UserIfs:
-      if (body.Set.Starfold_IFS_Points > 0) return IterateRecords(slot, body);
-      return IterateFractal(slot, body);
-    default: return IterateFractal(slot, body);
-  }
+/// Places a star at the running iterate.
+void PlaceAtIterate(SeedPoint& point, const Body& body, const IfsSlot& slot) {
+  SpinRigidly(point, body.Run);
+  SweepWithBody(point, body.Run, slot.IfsPoint.X, slot.IfsPoint.Z);
+  point.Y = slot.IfsPoint.Y;
 }
 
 }  // namespace
 
-void SetUpIfsBody(IfsSlot& slot, const Body& body) {
-  if (body.Set.Style() == FoldStyle::IfsPoint) {
-    slot.IfsVertex[0] = FreshPoint(body);
-    return;
-  }
+void SetUpIfsPoint(IfsSlot& slot, const Body& body) { slot.IfsVertex[0] = FreshPoint(body); }
+
+void SetUpIfsFigure(IfsSlot& slot, const Body& body) {
   slot.IfsVertex.fill({});
   const double R = body.Run.RunRadius;
   const double G = body.Set.Starfold_GHW_Ratio;
@@ -179,11 +173,25 @@ void SetUpIfsBody(IfsSlot& slot, const Body& body) {
   }
 }
 
-void SeedIfs(SeedPoint& point, const Body& body, IfsSlot& slot) {
-  Iterate(slot, body);
-  SpinRigidly(point, body.Run);
-  SweepWithBody(point, body.Run, slot.IfsPoint.X, slot.IfsPoint.Z);
-  point.Y = slot.IfsPoint.Y;
+void SeedIfsPoint(SeedPoint& point, const Body& body, IfsSlot& slot) {
+  IteratePoint(slot, body);
+  PlaceAtIterate(point, body, slot);
+}
+
+void SeedIfsWireframe(SeedPoint& point, const Body& body, IfsSlot& slot) {
+  IterateWireframe(slot, body);
+  PlaceAtIterate(point, body, slot);
+}
+
+void SeedIfsFractal(SeedPoint& point, const Body& body, IfsSlot& slot) {
+  IterateFractal(slot, body);
+  PlaceAtIterate(point, body, slot);
+}
+
+void SeedUserIfs(SeedPoint& point, const Body& body, IfsSlot& slot) {
+  if (body.Set.Starfold_IFS_Points == 0) return SeedIfsFractal(point, body, slot);
+  IterateRecords(slot, body);
+  PlaceAtIterate(point, body, slot);
 }
 
 }  // namespace starfolds

@@ -1,10 +1,6 @@
 #include "bodies/seed_star.h"
 
-#include "bodies/emitters.h"
-#include "bodies/ifs.h"
-#include "bodies/molecule.h"
-#include "bodies/radial.h"
-#include "bodies/ribbon.h"
+#include "bodies/styles.h"
 
 namespace starfolds {
 namespace {
@@ -36,21 +32,6 @@ void StorePoint(StarState& star, const SeedPoint& point) {
 
 }  // namespace
 
-void SeedByStyle(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot) {
-  switch (body.Set.Style()) {
-    case FoldStyle::Standard: return SeedRadial(point, body, body.Run.RunSpin, body.Run.SpinPhase);
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs: return SeedIfs(point, body, slots.Ifs[slot]);
-    case FoldStyle::Nebula: return SeedRibbon(point, body, slots.Ribbon[slot]);
-    case FoldStyle::Quasar: return SeedQuasar(point, body);
-    case FoldStyle::Graviton: return SeedGraviton(point, body);
-    case FoldStyle::Starwave: return SeedStarwave(point, body);
-    case FoldStyle::Molecule: return SeedMolecule(point, body, true);
-  }
-}
-
 void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) {
   StarState& star = stars.Star[i];
   star.StarAge = 0;
@@ -62,7 +43,9 @@ void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) 
 
   const int prof = star.StarProf;
   SeedPoint point = PointOf(star);
-  SeedByStyle(point, Body(saver, prof), slots, static_cast<std::size_t>(star.StarHome));
+  const Body body(saver, prof);
+  RoutinesOf(body.Set.Style())
+      .SeedStar(point, body, slots, static_cast<std::size_t>(star.StarHome));
   StorePoint(star, point);
 
   const StarTint tint = SeedColor(saver, prof, point.X, point.Y, point.Z, point.RotationStep,

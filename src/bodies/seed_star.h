@@ -6,9 +6,6 @@
 
 namespace starfolds {
 
-/// The generator that a run's body of `style` uses for its stars.
-void SeedByStyle(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
-
 /// Places star `i` anew in the starfold `StarHome[i]`, as a star of `StarProf[i]`: position,
 /// velocity, spin, level, hue and colour. Age, wait and flares become 0.
 void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i);

@@ -81,11 +81,11 @@ void PrepareRates(PreparedProfile& run, const StarfoldProfile& profile, RandomFa
 
 void PrepareMotion(PreparedProfile& run, const StarfoldProfile& profile) {
   StarMotion& star = run.Star;
-  star.RunMotion = MotionOf(profile.Style());
+  const StyleFacts& style = FactsOf(profile.Style());
+  star.RunMotion = style.RunMotion;
   star.AxisPlane = profile.Starfold_AxisPlane != 0;
   star.HWheelInc = profile.Starfold_HWheelInc;
-  const double forceUnit = profile.Style() == FoldStyle::Quasar ? 0.01 : 0.0001;
-  star.RunForce = static_cast<Single>(profile.Starfold_QG_Force * forceUnit);
+  star.RunForce = static_cast<Single>(profile.Starfold_QG_Force * style.ForceUnit);
   AssignRounded(star.WaveDecay, profile.Starfold_RadBFill);
   star.WaveAmplitude = static_cast<Single>(static_cast<double>(profile.Starfold_GHW_Ratio) *
                                            profile.Starfold_Radius * 0.01);
@@ -106,7 +106,7 @@ double TiltStep(const StarfoldProfile& profile, int level, int levels) {
 }
 
 void PrepareLevels(PreparedProfile& run, StarfoldProfile& profile) {
-  const bool nested = profile.Style() == FoldStyle::Standard;
+  const bool nested = FactsOf(profile.Style()).NestedLevels;
   run.RunLevels = nested ? ClampTo<Integer>(profile.Starfold_StdLevels, 1, kMaxLevels) : Integer{1};
   profile.Starfold_StdLevels = run.RunLevels;
   run.RunLevelStep = static_cast<Single>(profile.Starfold_StdLevDRad * 0.01);
@@ -190,22 +190,6 @@ Single WithinTurn(double angle) {
 }
 
 }  // namespace
-
-Motion MotionOf(FoldStyle style) {
-  switch (style) {
-    case FoldStyle::Nebula:
-    case FoldStyle::Quasar: return Motion::Drift;
-    case FoldStyle::Graviton: return Motion::Attract;
-    case FoldStyle::Starwave: return Motion::Wave;
-    case FoldStyle::Standard:
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs:
-    case FoldStyle::Molecule: break;
-  }
-  return Motion::Rotate;
-}
 
 void PrepareProfiles(Saver& saver) {
   const AdvancedSettings advanced = LoadAdvancedFromRegistry(*saver.Tree);

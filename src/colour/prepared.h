@@ -6,13 +6,9 @@
 #include <array>
 
 #include "settings/records.h"
+#include "settings/styles.h"
 
 namespace starfolds {
-
-/// How a star of a style moves in a frame.
-enum class Motion : Integer { Rotate, Drift, Attract, Wave };
-
-Motion MotionOf(FoldStyle style);
 
 /// What the star loop reads for every star, kept together in two cache lines.
 struct alignas(64) StarMotion {

@@ -62,6 +62,15 @@ double SeedHue(Saver& saver, int prof, double x, double y, double z, Single rv, 
   }
 }
 
+bool StyleCyclesHues(const StarfoldProfile& profile) {
+  switch (FactsOf(profile.Style()).Hues) {
+    case HueCycling::Always: return true;
+    case HueCycling::IfNebulaAdvances: return profile.Starfold_CP_AdvHW > 0;
+    case HueCycling::Never: break;
+  }
+  return false;
+}
+
 }  // namespace
 
 Colour PackRgb(int red, int green, int blue) {
@@ -201,10 +210,7 @@ void BuildPulsarTables(Saver& saver) {
 void MarkHueCycling(Saver& saver) {
   for (int p = 0; p < kProfileCount; ++p) {
     const StarfoldProfile& profile = saver.Profiles[p];
-    const bool nebula = profile.Style() == FoldStyle::Nebula;
-    const bool wave = profile.Style() == FoldStyle::Starwave;
-    const bool styleCycles = nebula ? profile.Starfold_CP_AdvHW > 0 : !wave;
-    saver.Prepared[p].Star.HueCycleOn = profile.Starfold_ColorComp != 4 && styleCycles;
+    saver.Prepared[p].Star.HueCycleOn = profile.Starfold_ColorComp != 4 && StyleCyclesHues(profile);
   }
 }
 

@@ -15,7 +15,6 @@ namespace starfolds {
 namespace {
 
 constexpr NumberRange kPercents{NumberKind::AsInteger, 0, 9999};
-constexpr Styles kIfsStyles{1, 2, 3, 8};
 constexpr Colour kWarning = 0xFFFF00;
 constexpr int kLabelGap = 3;         // logical pixels between a label and its control
 constexpr int kGroupGap = 5;         // and what comes to that between two of them
@@ -272,7 +271,7 @@ std::vector<Integer> CompositeEditor::Members() const {
 bool CompositeEditor::MixesIfs() const {
   const std::vector<Integer> members = Members();
   const auto isIfs = [this](Integer member) {
-    return kIfsStyles.Has(model_.Profiles()[member].Starfold_FoldStyle);
+    return FactsOf(model_.Profiles()[member].Style()).IsIfs;
   };
   return std::count_if(members.begin(), members.end(), isIfs) >= 2;
 }

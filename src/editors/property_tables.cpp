@@ -1,5 +1,7 @@
 #include "editors/property_tables.h"
 
+#include <array>
+
 #include "numbers/text.h"
 
 namespace starfolds {
@@ -44,58 +46,54 @@ constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
     "Starfold Motion, Shape and Color Properties", "New, Nova and Pulsar Star Properties",
     "Comet and Color Properties"};
 
-constexpr Styles kAll{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
-constexpr Styles kBelow8{0, 1, 2, 3, 4, 5, 6, 7};
-
 constexpr StarfoldRow kStarfoldRows[] = {
-    {0, "Starfold_Radius", {}, AsLong, SP::Shape, 0, kAll},
-    {1, "Starfold_Rotation", {}, AsLong, SP::Shape, 0, kAll},
-    {2, "Starfold_Distance", {}, AsLong, SP::Shape, 1, kAll},
-    {3, "Starfold_RadSegs", "Starfold_CP_Points", AsInteger, SP::Shape, 2, kBelow8},
-    {4, "Starfold_RadFill", "Starfold_CP_Steps", AsInteger, SP::Shape, 2, kBelow8},
-    {5, "Starfold_RadBands", "Starfold_CP_B_Pts", AsInteger, SP::Shape, 3,
-     Styles{0, 1, 2, 4, 5, 6, 7}},
-    {6, "Starfold_RadBFill", "Starfold_CP_B_Exp", AsInteger, SP::Shape, 3, Styles{0, 4, 5, 6, 7}},
-    {9, "Starfold_StdLevels", {}, AsInteger, SP::Shape, 90, Styles{0}},
-    {8, "Starfold_QG_Force", {}, AsSingle, SP::Shape, 90, Styles{5, 6}},
-    {90, "Starfold_GHW_Ratio", {}, AsSingle, SP::Shape, 90, kBelow8},
-    {91, "Starfold_RadiusExp", {}, AsSingle, SP::Shape, 91, Styles{0, 1, 4, 5, 6, 7}},
-    {92, "Starfold_HeightExp", {}, AsSingle, SP::Shape, 92, Styles{0, 1, 4, 5, 6}},
-    {93, "Starfold_AngleTilt", "Starfold_CP_B_Spd", AsSingle, SP::Shape, 93, kAll},
-    {94, "Starfold_AngleTInc", {}, AsSingle, SP::Shape, 94, kAll},
-    {95, "Starfold_HueStart", {}, AsInteger, SP::Shape, 96, Styles{0, 1, 5, 6}},
-    {96, "Starfold_HWheelInc", {}, AsSingle, SP::Shape, 96, Styles{0, 1, 5, 6}},
-    {7, "Starfold_ColorMult", {}, AsLong, SP::Shape, 7, kAll},
-    {10, "Starfold_NewFreq", {}, AsInteger, SP::Flares, 10, kAll},
-    {11, "Starfold_NewFrames", {}, AsInteger, SP::Flares, 11, kAll},
-    {12, "Starfold_NewExtMult", {}, AsInteger, SP::Flares, 12, kAll},
-    {20, "Starfold_NovaFreq", {}, AsInteger, SP::Flares, 20, kAll},
-    {21, "Starfold_NovaFrames", {}, AsInteger, SP::Flares, 21, kAll},
-    {22, "Starfold_NovaExtMult", {}, AsInteger, SP::Flares, 22, kAll},
-    {30, "Starfold_PulsarFreq", {}, AsInteger, SP::Flares, 30, kAll},
-    {31, "Starfold_PulsarDepth", {}, AsInteger, SP::Flares, 31, kAll},
-    {32, "Starfold_PulsarCycles", {}, AsInteger, SP::Flares, 32, kAll},
-    {33, "Starfold_PulsarFrames", {}, AsInteger, SP::Flares, 33, kAll},
-    {34, "Starfold_PulsarMinExt", {}, AsInteger, SP::Flares, 34, kAll},
-    {35, "Starfold_PulsarMaxExt", {}, AsInteger, SP::Flares, 35, kAll},
-    {40, "Starfold_CometFreq", {}, AsInteger, SP::Comets, 40, kAll},
-    {41, "Starfold_CometStars", {}, AsInteger, SP::Comets, 41, kAll},
-    {42, "Starfold_CometOrbit", {}, AsInteger, SP::Comets, 42, kAll},
-    {43, "Starfold_CometSpeed", {}, AsInteger, SP::Comets, 43, kAll},
-    {44, "Starfold_CometSWind", {}, AsInteger, SP::Comets, 44, kAll},
-    {45, "Starfold_CometCPersist", {}, AsSingle, SP::Comets, 45, kAll},
-    {46, "Starfold_CometSPersist", {}, AsSingle, SP::Comets, 46, kAll},
-    {47, "Starfold_HWC_Start", {}, AsInteger, SP::Comets, 47, kAll},
-    {48, "Starfold_HWC_End", {}, AsInteger, SP::Comets, 48, kAll},
-    {49, "Starfold_HWC_Inc", {}, AsSingle, SP::Comets, 49, kAll},
+    {0, "Starfold_Radius", {}, AsLong, SP::Shape, 0},
+    {1, "Starfold_Rotation", {}, AsLong, SP::Shape, 0},
+    {2, "Starfold_Distance", {}, AsLong, SP::Shape, 1},
+    {3, "Starfold_RadSegs", "Starfold_CP_Points", AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {4, "Starfold_RadFill", "Starfold_CP_Steps", AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {5, "Starfold_RadBands", "Starfold_CP_B_Pts", AsInteger, SP::Shape, 3, StyleBox::Bands},
+    {6, "Starfold_RadBFill", "Starfold_CP_B_Exp", AsInteger, SP::Shape, 3, StyleBox::BandFill},
+    {9, "Starfold_StdLevels", {}, AsInteger, SP::Shape, 90, StyleBox::Levels},
+    {8, "Starfold_QG_Force", {}, AsSingle, SP::Shape, 90, StyleBox::Force},
+    {90, "Starfold_GHW_Ratio", {}, AsSingle, SP::Shape, 90, StyleBox::Ratio},
+    {91, "Starfold_RadiusExp", {}, AsSingle, SP::Shape, 91, StyleBox::RadiusExponent},
+    {92, "Starfold_HeightExp", {}, AsSingle, SP::Shape, 92, StyleBox::HeightExponent},
+    {93, "Starfold_AngleTilt", "Starfold_CP_B_Spd", AsSingle, SP::Shape, 93},
+    {94, "Starfold_AngleTInc", {}, AsSingle, SP::Shape, 94},
+    {95, "Starfold_HueStart", {}, AsInteger, SP::Shape, 96, StyleBox::HueWheel},
+    {96, "Starfold_HWheelInc", {}, AsSingle, SP::Shape, 96, StyleBox::HueWheel},
+    {7, "Starfold_ColorMult", {}, AsLong, SP::Shape, 7},
+    {10, "Starfold_NewFreq", {}, AsInteger, SP::Flares, 10},
+    {11, "Starfold_NewFrames", {}, AsInteger, SP::Flares, 11},
+    {12, "Starfold_NewExtMult", {}, AsInteger, SP::Flares, 12},
+    {20, "Starfold_NovaFreq", {}, AsInteger, SP::Flares, 20},
+    {21, "Starfold_NovaFrames", {}, AsInteger, SP::Flares, 21},
+    {22, "Starfold_NovaExtMult", {}, AsInteger, SP::Flares, 22},
+    {30, "Starfold_PulsarFreq", {}, AsInteger, SP::Flares, 30},
+    {31, "Starfold_PulsarDepth", {}, AsInteger, SP::Flares, 31},
+    {32, "Starfold_PulsarCycles", {}, AsInteger, SP::Flares, 32},
+    {33, "Starfold_PulsarFrames", {}, AsInteger, SP::Flares, 33},
+    {34, "Starfold_PulsarMinExt", {}, AsInteger, SP::Flares, 34},
+    {35, "Starfold_PulsarMaxExt", {}, AsInteger, SP::Flares, 35},
+    {40, "Starfold_CometFreq", {}, AsInteger, SP::Comets, 40},
+    {41, "Starfold_CometStars", {}, AsInteger, SP::Comets, 41},
+    {42, "Starfold_CometOrbit", {}, AsInteger, SP::Comets, 42},
+    {43, "Starfold_CometSpeed", {}, AsInteger, SP::Comets, 43},
+    {44, "Starfold_CometSWind", {}, AsInteger, SP::Comets, 44},
+    {45, "Starfold_CometCPersist", {}, AsSingle, SP::Comets, 45},
+    {46, "Starfold_CometSPersist", {}, AsSingle, SP::Comets, 46},
+    {47, "Starfold_HWC_Start", {}, AsInteger, SP::Comets, 47},
+    {48, "Starfold_HWC_End", {}, AsInteger, SP::Comets, 48},
+    {49, "Starfold_HWC_Inc", {}, AsSingle, SP::Comets, 49},
 };
 
 constexpr StarfoldRow kPixHueRows[] = {
-    {0, "Starfold_HueRed", {}, AsInteger, SP::Comets, 0, kAll},
-    {1, "Starfold_HueGrn", {}, AsInteger, SP::Comets, 1, kAll},
-    {2, "Starfold_HueBlu", {}, AsInteger, SP::Comets, 2, kAll},
-    {3, "Starfold_HueBase", {}, AsInteger, SP::Comets, 3, kAll},
-    {4, "Starfold_HueBlend", {}, AsInteger, SP::Comets, 4, kAll},
+    {0, "Starfold_HueRed", {}, AsInteger, SP::Comets, 0},
+    {1, "Starfold_HueGrn", {}, AsInteger, SP::Comets, 1},
+    {2, "Starfold_HueBlu", {}, AsInteger, SP::Comets, 2},
+    {3, "Starfold_HueBase", {}, AsInteger, SP::Comets, 3},
+    {4, "Starfold_HueBlend", {}, AsInteger, SP::Comets, 4},
 };
 
 /// The captions that all styles share but for those below.
@@ -117,42 +115,6 @@ constexpr Caption kCaptions[] = {
     {7, "Color Multiplier (0 - 30000):"},
 };
 
-struct StyleCaption {
-  int Style;
-  int Label;
-  std::string_view Text;
-};
-constexpr StyleCaption kStyleCaptions[] = {
-    {0, 90, "Levels (1-10), H/W Ratio (0.0 - 99.9):"},
-    {1, 2, "Points (1 - 99), Scale % (0 - 100):"},
-    {1, 3, "Rotation Angle Degrees (0 - 360):"},
-    {2, 2, "Vertices (4 - 10), Scale % (0 - 100):"},
-    {2, 3, "Linear Iteration Levels (1 - 99):"},
-    {3, 2, "Points (4 - 10), Scale % (0 - 100):"},
-    {4, 2, "C-Points (1 - 20), Steps (0 - 9999):"},
-    {4, 3, "Bias Points (1 - 99), Span (0 - 100):"},
-    {4, 91, "Expansion from Spline Path (0.0 - 99.9):"},
-    {4, 92, "Solar Wind Magnitude (0.0 - 99.9):"},
-    {4, 93, "Bias Point Travel Speed (0 - 999):"},
-    {5, 90, "Quasar Speed, H/W Ratio (0.0 - 99.9):"},
-    {6, 90, "Gravity Force, H/W Ratio (0.0 - 99.9):"},
-    {7, 0, "Expansion, Rotation (1, 0 - 30000):"},
-    {7, 3, "Waves (1 - 99), Persist (0 - 999):"},
-    {7, 91, "Particle Wave Angle Increment (0.0 - 99.9):"},
-};
-
-constexpr std::string_view kStyles[kStyleCount] = {
-    "Standard:  Stellar Rotation about Axis",
-    "I.F.S.:  Single Point Attractor",
-    "I.F.S.:  Nested Geometric Wireframe",
-    "I.F.S.:  Space Filling Fractal",
-    "Nebula:  Particle Ribbons",
-    "Quasar:  Stars emitted from Core",
-    "Graviton:  Stars reflected through Core",
-    "Starwave:  Attenuated Particle Waves",
-    "User Defined:  Iterated Function Systems",
-    "User Defined:  Molecular Structures",
-};
 constexpr std::string_view kPlanes[] = {"Y-Z", "X-Z"};
 constexpr std::string_view kColorRules[] = {
     "Rotational Velocity", "Rotational Velocity (Square Root)", "Distance from Core",
@@ -191,6 +153,10 @@ std::string_view StarfoldPageName(int page) { return kStarfoldPages[page]; }
 std::span<const StarfoldRow> StarfoldRows() { return kStarfoldRows; }
 std::span<const StarfoldRow> PixHueRows() { return kPixHueRows; }
 
+bool IsShown(const StarfoldRow& row, int style) {
+  return !row.Group || FactsOf(static_cast<Integer>(style)).Boxes.Has(*row.Group);
+}
+
 const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style) {
   const bool nebula = style == static_cast<int>(FoldStyle::Nebula) && !row.NebulaName.empty();
   return *FindField(ProfileFields(), nebula ? row.NebulaName : row.Name);
@@ -204,8 +170,8 @@ NumberRange RangeOf(const StarfoldRow& row, int style) {
 }
 
 std::string LabelOf(int label, int style) {
-  for (const StyleCaption& caption : kStyleCaptions) {
-    if (caption.Style == style && caption.Label == label) return std::string(caption.Text);
+  for (const StyleCaption& caption : FactsOf(static_cast<Integer>(style)).Captions) {
+    if (caption.Label == label) return std::string(caption.Text);
   }
   for (const Caption& caption : kCaptions) {
     if (caption.Label == label) return std::string(caption.Text);
@@ -213,19 +179,14 @@ std::string LabelOf(int label, int style) {
   return LabelFromField(label);
 }
 
-std::string_view BodyEditorCaption(int style) {
-  return style == static_cast<int>(FoldStyle::Molecule)
-             ? "User Defined Molecular Structure..."
-             : "User Defined Iterated Function System...";
+std::span<const std::string_view> StyleNames() {
+  static const auto kNames = [] {
+    std::array<std::string_view, kStyleCount> names;
+    for (Integer style = 0; style < kStyleCount; ++style) names[style] = FactsOf(style).Name;
+    return names;
+  }();
+  return kNames;
 }
-
-std::string_view OtherColorCaption(int style) {
-  return style == static_cast<int>(FoldStyle::Nebula)
-             ? "Nebula Hue Wheel Cycling Offset  (0 - 30000):"
-             : "Atomic Sphere Color Blending  (0 - 30000):";
-}
-
-std::span<const std::string_view> StyleNames() { return kStyles; }
 std::span<const std::string_view> PlaneNames() { return kPlanes; }
 std::span<const std::string_view> ColorRuleNames() { return kColorRules; }
 std::span<const std::string_view> ShapeNames() { return kShapes; }

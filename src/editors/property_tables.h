@@ -2,12 +2,13 @@
 // on which page, and what a style of body shows and calls it. No row is wired by hand.
 #pragma once
 
-#include <array>
+#include <optional>
 #include <span>
 #include <string_view>
 
 #include "editors/number_box.h"
 #include "settings/fields.h"
+#include "settings/styles.h"
 
 namespace starfolds {
 
@@ -54,9 +55,10 @@ struct StarfoldRow {
   std::string_view NebulaName;  // of the setting that style 4 edits here; empty: the same
   NumberKind Kind;
   StarfoldPage Page;
-  int Label;  // of `lblStarfold`; rows with one label stand in one line
-  Styles Shown;
+  int Label;                           // of `lblStarfold`; rows with one label stand in one line
+  std::optional<StyleBox> Group = {};  // shown for the styles that have this group; else for all
 };
+bool IsShown(const StarfoldRow& row, int style);
 std::span<const StarfoldRow> StarfoldRows();
 std::span<const StarfoldRow> PixHueRows();
 
@@ -66,17 +68,6 @@ NumberRange RangeOf(const StarfoldRow& row, int style);
 
 /// The caption of `lblStarfold(label)` for a style.
 std::string LabelOf(int label, int style);
-
-// What is shown beside the boxes.
-inline constexpr Styles kStylesWithShape{0, 1, 5, 6};  // cboFoldProfile, picFoldProfile
-inline constexpr Styles kStylesWithBodyEditor{8, 9};   // cmdIFS_Chem
-inline constexpr Styles kStylesWithSpline{4};          // chkCP_Closed, chkCP_AdvHW
-inline constexpr Styles kStylesWithColorRule{0, 1, 2, 3, 5, 6, 7, 8};  // cboFoldColor
-inline constexpr Styles kStylesWithLevels{0};                          // cmdFoldLevels
-
-/// Captions of `cmdIFS_Chem` and `lblOtherColorCycles`.
-std::string_view BodyEditorCaption(int style);
-std::string_view OtherColorCaption(int style);
 
 // --- The lists ---
 

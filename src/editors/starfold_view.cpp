@@ -18,8 +18,6 @@ constexpr QSize kShapeSize{120, 60};
 constexpr QSize kHueSize{220, 22};
 constexpr Integer kDefaultColorRule = 3;
 // What the styles without a choice of colour rule have.
-constexpr Integer kNebulaColorRule = 5;
-constexpr Integer kMoleculeColorRule = 6;
 
 // The lines that have a control beside their boxes.
 constexpr int kDistanceLabel = 1;
@@ -99,31 +97,31 @@ StarfoldProfile StarfoldView::Page() const {
 }
 
 void StarfoldView::ApplyStyle(int style) {
+  const StyleFacts& facts = FactsOf(static_cast<Integer>(style));
   for (const Line& line : lines_) {
     bool any = false;
     for (const StarfoldRow* row : line.Rows) {
       NumberBox* box = boxes_[row];
       box->SetRange(RangeOf(*row, style));
-      box->setVisible(row->Shown.Has(style));
-      any = any || row->Shown.Has(style);
+      box->setVisible(IsShown(*row, style));
+      any = any || IsShown(*row, style);
     }
     line.Text->setText(Escaped(LabelOf(line.Label, style)));
     line.Text->setVisible(any);
     if (line.Label == kColorLabel) {
-      const bool hasRule = kStylesWithColorRule.Has(style);
-      if (!hasRule) line.Text->setText(Escaped(OtherColorCaption(style)));
-      line.Text->setObjectName(hasRule ? "lblStarfold_7" : "lblOtherColorCycles");
+      if (facts.OwnColorRule) line.Text->setText(Escaped(facts.OwnColorCaption));
+      line.Text->setObjectName(facts.OwnColorRule ? "lblOtherColorCycles" : "lblStarfold_7");
     }
   }
-  const auto show = [style](const Styles& styles, std::initializer_list<QWidget*> widgets) {
-    for (QWidget* widget : widgets) widget->setVisible(styles.Has(style));
+  const auto show = [&facts](StyleBox group, std::initializer_list<QWidget*> widgets) {
+    for (QWidget* widget : widgets) widget->setVisible(facts.Boxes.Has(group));
   };
-  show(kStylesWithShape, {cboFoldProfile_, picFoldProfile_, lblFoldProfile_});
-  show(kStylesWithBodyEditor, {cmdIFS_Chem_});
-  show(kStylesWithSpline, {chkCP_Closed_, chkCP_AdvHW_});
-  show(kStylesWithColorRule, {cboFoldColor_, lblFoldColor_});
-  show(kStylesWithLevels, {cmdFoldLevels_});
-  cmdIFS_Chem_->setText(Escaped(BodyEditorCaption(style)));
+  show(StyleBox::Shape, {cboFoldProfile_, picFoldProfile_, lblFoldProfile_});
+  show(StyleBox::BodyEditor, {cmdIFS_Chem_});
+  show(StyleBox::Spline, {chkCP_Closed_, chkCP_AdvHW_});
+  show(StyleBox::ColorRule, {cboFoldColor_, lblFoldColor_});
+  show(StyleBox::Levels, {cmdFoldLevels_});
+  cmdIFS_Chem_->setText(Escaped(facts.BodyEditorCaption));
 }
 
 /// A row without points or atoms leaves the profile's own alone.
@@ -286,7 +284,7 @@ void StarfoldView::LoadBoxes() {
 void StarfoldView::StoreBoxes(StarfoldProfile& profile, Numbers numbers) const {
   const int style = Style();
   for (const auto& [row, box] : boxes_) {
-    if (!row->Shown.Has(style)) continue;
+    if (!IsShown(*row, style)) continue;
     const bool held = numbers == Numbers::Held;
     const std::string text = held ? ClampedText(box->Text(), RangeOf(*row, style)) : box->Text();
     SetFieldNumber(profile, FieldOf(*row, style), LenientNumber(text));
@@ -298,8 +296,7 @@ void StarfoldView::StoreBoxes(StarfoldProfile& profile, Numbers numbers) const {
   profile.Starfold_CP_AdvHW = chkCP_AdvHW_->isChecked() ? 1 : 0;
   const int rule = cboFoldColor_->currentIndex();
   if (rule >= 0) profile.Starfold_ColorComp = static_cast<Integer>(rule);
-  if (profile.Style() == FoldStyle::Nebula) profile.Starfold_ColorComp = kNebulaColorRule;
-  if (profile.Style() == FoldStyle::Molecule) profile.Starfold_ColorComp = kMoleculeColorRule;
+  if (const auto& own = FactsOf(profile.Style()).OwnColorRule) profile.Starfold_ColorComp = *own;
 }
 
 /// Numbers are kept as they stand, even if the new style will not have them: what is out of range

@@ -1,9 +1,12 @@
+#include <array>
+
 #include "settings/factory_rows.h"
+#include "settings/records.h"
 
 namespace starfolds {
 namespace {
 
-constexpr std::string_view kComposites4x[] = {
+constexpr std::array<std::string_view, kCompositeCount> kComposites4x{{
     "Nested Rings + Comet Core, 30, 4, 48, 45, 46, 47,",
     "Turbines + Nested Horns, 20, 2, 2, 49,",
     "Turbine + Shell + Spines, 15, 3, 2, 38, 16,",
@@ -20,9 +23,10 @@ constexpr std::string_view kComposites4x[] = {
     "Quasar and Gravity Cell, 5, 2, 29, 31,",
     "Hyperbolic Lattice, 15, 2, 37, 38,",
     "Multiple Gravity Cells, 5, 2, 32, 31,",
-};
+}};
+static_assert(!kComposites4x.back().empty(), "there are fewer rows than kCompositeCount");
 
-constexpr std::string_view kComposites20[] = {
+constexpr std::array<std::string_view, kCompositeCount> kComposites20{{
     "Nested Rings / Solid Core, 15, 6, 26, 21, 22, 23, 24, 25,",
     "Spine Disk Shell, 15, 2, 11, 12,",
     "Hourglass in Shell, 15, 2, 8, 12,",
@@ -39,7 +43,8 @@ constexpr std::string_view kComposites20[] = {
     "Sphere Rings / Shells, 10, 7, 17, 7, 12, 27, 28, 29, 30,",
     "Sphere Rings / Bottle Axis, 15, 5, 31, 27, 28, 29, 30",
     "Sphere Rings / Ornament, 10, 5, 3, 27, 28, 29, 30,",
-};
+}};
+static_assert(!kComposites20.back().empty(), "there are fewer rows than kCompositeCount");
 
 }  // namespace
 

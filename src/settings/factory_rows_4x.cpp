@@ -1,9 +1,12 @@
+#include <array>
+
 #include "settings/factory_rows.h"
+#include "settings/records.h"
 
 namespace starfolds {
 namespace {
 
-constexpr FactoryProfile kProfiles4x[] = {
+constexpr std::array<FactoryProfile, kProfileCount> kProfiles4x{{
     {"Standard Starfold", 30,
      "300, 500, 400, 0, 0, 1, 100, 1, 100, 1800, 0.3, 1.15, 2, 170, 0, 240, 0.005, 3, 0, "
      "125, 16, 100, 600, 30, 600, 40, 100, 1, 99, 2000, 20, 4, 0, 0, 0, "
@@ -266,7 +269,8 @@ constexpr FactoryProfile kProfiles4x[] = {
      "500, 8, 500, 200, 30, 3400, 0, 100, 1, 40, 500, 5000, 0, 0, 0, 0, "
      "400, 60, 220, 210, 850, 0.9975, 0.95, 340, 300, 0, 100, 100, 100, 0, 60, "
      "8, 500, 1, 100, 0, 1, 0, 0, 3, 200, 1, 1, 0, 0, 0, 0, 0, 0,"},
-};
+}};
+static_assert(!kProfiles4x.back().Name.empty(), "there are fewer rows than kProfileCount");
 
 }  // namespace
 

@@ -1,9 +1,12 @@
+#include <array>
+
+#include "settings/factory.h"
 #include "settings/factory_rows.h"
 
 namespace starfolds {
 namespace {
 
-constexpr FactoryTheme kThemes[] = {
+constexpr std::array<FactoryTheme, kThemeCount> kThemes{{
     {"Classical (14.3 Billion Years Ago...)",
      "5000, 100, 1, 2500, 300, 0.99, 0.01, 165, 210, 20, 51, 1250, 85, 160, "
      "2, 3, 4000, 1, 0, 0, 1, 300, 0.998, 0.1, 30, 1000, 0, 1,"},
@@ -28,7 +31,8 @@ constexpr FactoryTheme kThemes[] = {
     {"Starfolds in Motion:  Gravity On",
      "4000, 20, 1, 3500, 300, 0.99, 0.05, 360, 240, 20, 0, 2000, 0, 300, "
      "1, 0, 8000, 0, 0, 0, 0, 200, 0.999, 0.07, 50, 1000, 125000, 1,"},
-};
+}};
+static_assert(!kThemes.back().Name.empty(), "there are fewer themes than kThemeCount");
 
 constexpr std::string_view kClassicalTheme20 =
     "2500, 100, 2, 3000, 300, 0.985, 0.015, 180, 225, 30, 0, 400, 70, 250, "

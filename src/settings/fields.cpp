@@ -133,7 +133,7 @@ const Field<P> kProfileFields[] = {
      "Starfold Angular Tilt Increment"},
     {"Starfold_ColorMult", &P::Starfold_ColorMult, Fixed, 0, 30000, "Starfold Color Multiplier"},
     {"Starfold_HWheelInc", &P::Starfold_HWheelInc, Fixed, 0, 360, "Starfold Hue Wheel Increment"},
-    {"Starfold_FoldStyle", &P::Starfold_FoldStyle, Fixed, 0, 9, "Starfold Style"},
+    {"Starfold_FoldStyle", &P::Starfold_FoldStyle, Fixed, 0, kStyleCount - 1, "Starfold Style"},
     {"Starfold_AxisPlane", &P::Starfold_AxisPlane, Fixed, 0, 1, "Starfold Axial Plane of Rotation"},
     {"Starfold_ColorComp", &P::Starfold_ColorComp, Fixed, 0, 6, "Starfold Color Computation Index"},
     {"Starfold_HueStart", &P::Starfold_HueStart, Fixed, 0, 359, "Starfold Hue Wheel Start"},
@@ -214,23 +214,6 @@ const Field<AtomPoint> kAtomPointFields[] = {
 /// Characters of the on-screen message.
 constexpr std::size_t kLongestMessage = 100;
 
-/// The style table: one row a style, in the order of the four style rules.
-struct StyleRow {
-  Limits Segs, Fill, Bands, BFill;
-};
-constexpr StyleRow kStyleRows[kStyleCount] = {
-    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Standard
-    {{1, 99}, {0, 100}, {0, 360}, {0, 100}},  // single point attractor
-    {{4, 10}, {0, 100}, {1, 99}, {0, 100}},   // nested wireframe
-    {{4, 10}, {0, 100}, {0, 100}, {0, 100}},  // space-filling fractal
-    {{1, 20}, {0, 9999}, {1, 99}, {0, 100}},  // Nebula
-    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Quasar
-    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // Graviton
-    {{1, 99}, {0, 100}, {1, 99}, {0, 999}},   // Starwave
-    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // user-defined IFS
-    {{1, 99}, {0, 100}, {1, 99}, {0, 100}},   // molecular structure
-};
-
 template <class Word>
 void ClampNumber(Word& value, Limits limits, bool wholeNumber) {
   if constexpr (std::is_same_v<Word, Single>) {
@@ -304,12 +287,12 @@ std::span<const Field<AtomRecord>> AtomCenterFields() { return kAtomCenterFields
 std::span<const Field<AtomPoint>> AtomPointFields() { return kAtomPointFields; }
 
 Limits StyleLimits(RangeRule rule, Integer style) {
-  const StyleRow& row = kStyleRows[ClampTo<int>(style, 0, kStyleCount - 1)];
+  const StyleFacts& facts = FactsOf(style);
   switch (rule) {
-    case RadSegs: return row.Segs;
-    case RadFill: return row.Fill;
-    case RadBands: return row.Bands;
-    case RadBFill: return row.BFill;
+    case RadSegs: return facts.RadSegs;
+    case RadFill: return facts.RadFill;
+    case RadBands: return facts.RadBands;
+    case RadBFill: return facts.RadBFill;
     case None:
     case Fixed: break;
   }

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "settings/records.h"
+#include "settings/styles.h"
 
 namespace starfolds {
 
@@ -69,12 +70,7 @@ const Field<Record>* FindField(std::span<const Field<Record>> fields, std::strin
   return nullptr;
 }
 
-struct Limits {
-  double Low = 0;
-  double High = 0;
-};
-
-/// The limits of `rule` for a profile of `style` (held to 0..9); rule is one of the four style
+/// The limits of `rule` for a profile of `style` (clamped to 0..9); `rule` is one of the four style
 /// rules.
 Limits StyleLimits(RangeRule rule, Integer style);
 

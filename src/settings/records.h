@@ -34,8 +34,9 @@ enum class FoldStyle : Integer {
   Starwave,
   UserIfs,
   Molecule,
+  Count,  // the number of styles
 };
-inline constexpr int kStyleCount = 10;
+inline constexpr int kStyleCount = static_cast<int>(FoldStyle::Count);
 
 /// `Universe_Profile` beyond the 50 profiles.
 inline constexpr Integer kCycleRandomly = 50;

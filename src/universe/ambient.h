@@ -14,7 +14,7 @@ enum class AmbientMode : Integer { Growing = 0, Finished = 1 };
 struct AmbientScene {
   Saver& Process;
   AmbientArrays& Stars;
-  ExpansionShape& Shape;
+  BodySlots& Shape;
 };
 
 /// Builds the grey ramp of the flash: white, then a quarter cosine from 255 toward 88.

@@ -16,7 +16,7 @@ struct Expansion {
 struct UniverseScene {
   Saver& Process;
   RunArrays& Run;
-  ExpansionShape Shape = {};
+  BodySlots Shape = {};
   Expansion Growth = {};
   Integer TourProfile = -1;  // the profile that shapes the blast; -1 before the first universe
 };

@@ -2,54 +2,22 @@
 
 #include <cmath>
 
-#include "bodies/ifs.h"
-#include "bodies/molecule.h"
-#include "bodies/radial.h"
-#include "bodies/ribbon.h"
+#include "bodies/styles.h"
 
 namespace starfolds {
-namespace {
 
-SeedPoint RawPoint(const Body& body, ExpansionShape& shape) {
-  SeedPoint point;
-  switch (body.Set.Style()) {
-    case FoldStyle::Standard:
-    case FoldStyle::Quasar:
-    case FoldStyle::Graviton:
-    case FoldStyle::Starwave: SeedRadial(point, body, body.Run.RunSpin, 0); break;
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs: SeedIfs(point, body, shape.Ifs); break;
-    case FoldStyle::Nebula: SeedRibbon(point, body, shape.Ribbon); break;
-    case FoldStyle::Molecule: SeedMolecule(point, body, true); break;
-  }
-  return point;
-}
-
-}  // namespace
-
-void SetUpExpansion(Saver& saver, ExpansionShape& shape, Integer prof) {
-  shape = {};
+void SetUpExpansion(Saver& saver, BodySlots& shape, Integer prof) {
+  shape.Ifs.assign(1, {});
+  shape.Ribbon.assign(1, {});
   const Body body(saver, prof);
-  switch (body.Set.Style()) {
-    case FoldStyle::IfsPoint:
-    case FoldStyle::IfsWireframe:
-    case FoldStyle::IfsFractal:
-    case FoldStyle::UserIfs: return SetUpIfsBody(shape.Ifs, body);
-    case FoldStyle::Nebula: return SetUpStillRibbon(shape.Ribbon, body);
-    case FoldStyle::Standard:
-    case FoldStyle::Quasar:
-    case FoldStyle::Graviton:
-    case FoldStyle::Starwave:
-    case FoldStyle::Molecule: return;
-  }
+  RoutinesOf(body.Set.Style()).SetUpBlast(shape, 0, body);
 }
 
-ExpansionVector SeedExpansionVector(Saver& saver, ExpansionShape& shape, Integer prof, Single scale,
+ExpansionVector SeedExpansionVector(Saver& saver, BodySlots& shape, Integer prof, Single scale,
                                     Single ratio, ExpansionMode mode) {
   const Body body(saver, prof);
-  const SeedPoint raw = RawPoint(body, shape);
+  SeedPoint raw;
+  RoutinesOf(body.Set.Style()).SeedBlast(raw, body, shape, 0);
   const double f = saver.Universe.Universe_Expand / static_cast<double>(body.Run.RunRadius);
   const double x = static_cast<Single>(raw.X * f);
   const double y = static_cast<Single>(raw.Y * f);

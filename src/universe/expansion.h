@@ -14,14 +14,9 @@ enum class ExpansionMode : Integer {
   Finished = 2,  // the same place, at rest
 };
 
-/// The generators' own state for the blast, apart from that of the bodies.
-struct ExpansionShape {
-  IfsSlot Ifs;        // `CreationVert`
-  RibbonSlot Ribbon;  // `CreationCtrl`
-};
-
-/// Prepares the shape for the style of profile `prof`.
-void SetUpExpansion(Saver& saver, ExpansionShape& shape, Integer prof);
+/// Prepares the one slot of `shape`, the generators' state for the blast, for the style of profile
+/// `prof`.
+void SetUpExpansion(Saver& saver, BodySlots& shape, Integer prof);
 
 struct ExpansionVector {
   Single X = 0, Y = 0, Z = 0;
@@ -30,7 +25,7 @@ struct ExpansionVector {
 
 /// One point of the shape, normalised so that the rim of the body has the length of the universe's
 /// expansion, and tilted by the profile's first tilt.
-ExpansionVector SeedExpansionVector(Saver& saver, ExpansionShape& shape, Integer prof, Single scale,
+ExpansionVector SeedExpansionVector(Saver& saver, BodySlots& shape, Integer prof, Single scale,
                                     Single ratio, ExpansionMode mode);
 
 }  // namespace starfolds

@@ -192,7 +192,7 @@ TEST(Comets, TheNucleusOfANebulaRunsAlongItsRibbon) {
   const CometHead& head = stage.LaunchOne();
   double phase = head.CometPhase;
   for (int frame = 0; frame < 120; ++frame) {  // more than twice round
-    StepNebulaRibbonsAlike(*stage.Process, stage.Run->Slots, 0);
+    StepNebulaRibbons(*stage.Process, stage.Run->Slots, stage.Run->Folds.StarfoldProf);
     stage.StepComets();
     ExpectPoint({head.CometX, head.CometY, head.CometZ},
                 RibbonPoint(stage.Run->Slots.Ribbon[0], 5, head.CometPhase));

@@ -67,7 +67,7 @@ TEST_F(Graviton, TheFallFromRestKeepsItsEnergy) {
   SetUpSlots();
   SeedPoint seed;
   seed.VX = seed.VY = seed.VZ = 9;  // of its former life
-  SeedByStyle(seed, TheBody(), Slots, 0);
+  SeedAsStar(seed);
   StarState star = StateOf(seed);
   star.StarX = 2;
   star.StarY = -1;

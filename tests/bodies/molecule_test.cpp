@@ -175,7 +175,7 @@ TEST_F(Molecule, WithoutAtomsAStarStaysAsItIs) {
   SeedPoint star;
   star.X = star.Y = star.Z = 5;
   Draws({0.5F});
-  SeedByStyle(star, TheBody(), Slots, 0);
+  SeedAsStar(star);
   EXPECT_EQ(Random().ScriptedDrawsLeft(), 1U);
   ExpectPoint(PlaceOf(star), {5, 5, 5}, 0);
 }

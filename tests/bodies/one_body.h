@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "bodies/seed_star.h"
+#include "bodies/styles.h"
 #include "scenes/scenes.h"
 
 namespace starfolds {
@@ -47,8 +47,11 @@ class OneBody : public ::testing::Test {
 
   SeedPoint Seed(std::size_t slot = 0) {
     SeedPoint point;
-    SeedByStyle(point, TheBody(), Slots, slot);
+    SeedAsStar(point, slot);
     return point;
+  }
+  void SeedAsStar(SeedPoint& point, std::size_t slot = 0) {
+    RoutinesOf(Set().Style()).SeedStar(point, TheBody(), Slots, slot);
   }
 
   /// Fixes the next draws.

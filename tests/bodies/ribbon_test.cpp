@@ -131,7 +131,7 @@ TEST_F(Ribbon, ALaterSlotBeginsOnTheFirstOnesKeys) {
   SetUpSlots(2);
   const RibbonSlot& second = Slots.Ribbon[1];
   ExpectPoint(second.Ribbon[0], Slots.Ribbon[0].Ribbon[0], 0);
-  StepNebulaRibbonsAlike(Process(), Slots, 0);
+  StepNebulaRibbons(Process(), Slots, std::vector<Integer>(Slots.Ribbon.size()));
   EXPECT_GT(Distance(second.Ribbon[0], Slots.Ribbon[0].Ribbon[0]), 0) << "its own from now on";
 }
 

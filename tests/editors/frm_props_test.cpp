@@ -116,7 +116,7 @@ TEST_F(FrmPropsTest, EveryStarfoldRowOfEveryStyleReachesItsSetting) {
     The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
     for (const bool hue : {false, true}) {
       for (const StarfoldRow& row : hue ? PixHueRows() : StarfoldRows()) {
-        if (!row.Shown.Has(style)) continue;
+        if (!IsShown(row, style)) continue;
         const std::string box = (hue ? "txtPixHue_" : "txtStarfold_") + std::to_string(row.Index);
         Enter(box, "99999999");
         EXPECT_EQ(Edit(box).text().toStdString(), Shortest(RangeOf(row, style).High)) << box;
@@ -127,7 +127,7 @@ TEST_F(FrmPropsTest, EveryStarfoldRowOfEveryStyleReachesItsSetting) {
     const StarfoldProfile stored = LoadSettings(Tree).Profiles[7];
     EXPECT_EQ(stored.Starfold_FoldStyle, style);
     for (const StarfoldRow& row : StarfoldRows()) {
-      if (!row.Shown.Has(style)) continue;
+      if (!IsShown(row, style)) continue;
       const Field<StarfoldProfile>& field = FieldOf(row, style);
       EXPECT_EQ(FieldText(stored, field), Shortest(RangeOf(row, style).High)) << field.Name;
     }

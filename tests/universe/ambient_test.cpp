@@ -37,7 +37,7 @@ class Ambient : public ::testing::Test {
 
   scenes::Stage Stage;
   std::unique_ptr<AmbientArrays> Stars;
-  ExpansionShape Shape;
+  BodySlots Shape;
 };
 
 TEST_F(Ambient, AStarThatAlwaysSurvivesCoolsToBlackInItsPlace) {
