@@ -115,8 +115,8 @@ void CometStars(benchmark::State& state) {
 void AmbientStars(benchmark::State& state) {
   scenes::Stage stage(1920, 1080);
   stage.Read();
-  UniverseSettings& universe = stage.Process->Universe;
-  EnterUniverseSettings(universe);
+  const UniverseSettings& universe = stage.Process->Universe;
+  const PreparedUniverse& run = stage.Process->RunUniverse = PrepareUniverse(universe);
   PrepareProfiles(*stage.Process);
   AmbientArrays stars(static_cast<std::size_t>(universe.Universe_AmStar),
                       static_cast<std::size_t>(universe.Universe_AmFrames));
@@ -124,8 +124,8 @@ void AmbientStars(benchmark::State& state) {
   BodySlots shape;
   SetUpExpansion(*stage.Process, shape, 0);
   const AmbientScene scene{*stage.Process, stars, shape};
-  const TourPoint eye{0, 0, -universe.Universe_DstCen};
-  const Single radius = universe.Universe_Expand * universe.Universe_ESteps / 2;
+  const TourPoint eye{0, 0, -run.RunDstCen};
+  const Single radius = run.RunExpand * universe.Universe_ESteps / 2;
   SeedAmbientStars(scene, 0, 0);
   const auto step = [&] { StepAmbientStars(scene, eye, radius, 0, AmbientMode::Finished, 0); };
   for (int frame = 0; frame < 10 * kSettling; ++frame) step();

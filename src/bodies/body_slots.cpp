@@ -26,7 +26,7 @@ void ClearSlots(Saver& saver, BodySlots& slots, std::size_t count) {
 
 void InitBodySlot(Saver& saver, BodySlots& slots, int prof, std::size_t slot) {
   const Body body(saver, prof);
-  RoutinesOf(body.Set.Style()).SetUpSlot(slots, slot, body);
+  RoutinesOf(body.Profile.Style()).SetUpSlot(slots, slot, body);
 }
 
 int MemberOf(const CompositeProfile& composite, int i) {
@@ -83,7 +83,7 @@ Integer ResolveProfile(const Saver& saver, Integer entry) {
 void StepNebulaRibbons(Saver& saver, BodySlots& slots, std::span<const Integer> assignment) {
   for (std::size_t slot = 0; slot < assignment.size(); ++slot) {
     const Body body(saver, ResolveProfile(saver, assignment[slot]));
-    RoutinesOf(body.Set.Style()).StepSlot(slots, slot, body);
+    RoutinesOf(body.Profile.Style()).StepSlot(slots, slot, body);
   }
 }
 

@@ -24,8 +24,8 @@ struct CometScene {
   Integer Prof;
   Integer SegIdx;
 
-  CometArrays& Comets() const { return Frame.Run.Comets; }
-  BodySlots& Slots() const { return Frame.Run.Slots; }
+  CometArrays& Comets() const { return Frame.Arrays.Comets; }
+  BodySlots& Slots() const { return Frame.Arrays.Slots; }
   Rnd& Random() const { return Frame.Process.Random; }
   Surface& Canvas() const { return *Frame.Process.Screen.hDCDraw; }
 };
@@ -46,7 +46,7 @@ void SeedNucleus(const CometScene& scene, CometHead& head) {
 }
 
 NucleusView ViewNucleus(const CometScene& scene, const CometHead& head) {
-  const StarMotion& motion = scene.Of.Run.Star;
+  const StarMotion& motion = scene.Of.Prepared.Star;
   const double c = motion.LevelCos[head.CometLevel];
   const double s = motion.LevelSin[head.CometLevel];
   const double x = head.CometX;
@@ -56,7 +56,7 @@ NucleusView ViewNucleus(const CometScene& scene, const CometHead& head) {
   const double across = s * z - y * c;
   const double u = motion.AxisPlane ? across : x;
   const double v = motion.AxisPlane ? x : across;
-  const double wind = scene.Of.Run.RunCometWind / (std::sqrt(w * w + v * v + u * u) + 1e-09);
+  const double wind = scene.Of.Prepared.RunCometWind / (std::sqrt(w * w + v * v + u * u) + 1e-09);
   return {u, v, w, wind};
 }
 
@@ -64,7 +64,7 @@ NucleusView ViewNucleus(const CometScene& scene, const CometHead& head) {
 void ShedStar(const CometScene& scene, std::size_t j, const NucleusView& nucleus) {
   CometArrays& comets = scene.Comets();
   Single vx = 0, vy = 0, vz = 0;
-  ScatterDirection(vx, vy, vz, scene.Of.Run.RunCometSpeed, scene.Random());
+  ScatterDirection(vx, vy, vz, scene.Of.Prepared.RunCometSpeed, scene.Random());
   comets.CometStarVX[j] = static_cast<Single>(vx + nucleus.U * nucleus.Wind);
   comets.CometStarVY[j] = static_cast<Single>(vy + nucleus.V * nucleus.Wind);
   comets.CometStarVZ[j] = static_cast<Single>(vz + nucleus.W * nucleus.Wind);
@@ -81,7 +81,7 @@ struct SlotRange {
 
 SlotRange SlotsOf(const CometScene& scene, std::size_t comet) {
   const auto stars =
-      static_cast<std::size_t>(std::max<Integer>(scene.Of.Set.Starfold_CometStars, 0));
+      static_cast<std::size_t>(std::max<Integer>(scene.Of.Profile.Starfold_CometStars, 0));
   return {std::min<std::size_t>(comet * stars, kCometStars),
           std::min<std::size_t>((comet + 1) * stars, kCometStars)};
 }
@@ -93,7 +93,8 @@ void LaunchComet(const CometScene& scene) {
   const Single chance = scene.Random()();
   CometHead& head = comets.Heads[k];
   const bool free = !head.CometLive && head.CometLeft == 0;
-  if (!(chance < scene.Of.Run.RunCometChance) || scene.SegIdx < kFirstShedding || !free) return;
+  if (!(chance < scene.Of.Prepared.RunCometChance) || scene.SegIdx < kFirstShedding || !free)
+    return;
   head.CometLive = true;
   SeedNucleus(scene, head);
   const NucleusView nucleus = ViewNucleus(scene, head);
@@ -111,7 +112,7 @@ void FlyStar(const CometScene& scene, std::size_t j) {
   comets.CometStarX[j] += comets.CometStarVX[j];
   comets.CometStarY[j] += comets.CometStarVY[j];
   comets.CometStarZ[j] += comets.CometStarVZ[j];
-  const RelPlace& home = scene.Frame.Run.Folds.StarfoldRel[scene.Fold];
+  const RelPlace& home = scene.Frame.Arrays.Folds.StarfoldRel[scene.Fold];
   const View view{comets.CometStarX[j] + home.X, comets.CometStarY[j] + home.Y,
                   comets.CometStarZ[j] + home.Z};
   if (!view.InFront()) return;
@@ -130,7 +131,7 @@ void StepCometStar(const CometScene& scene, CometHead& head, std::size_t j,
   CometArrays& comets = scene.Comets();
   scene.Canvas().SetPixelV(comets.CometStarScrX[j], comets.CometStarScrY[j], 0);
   const Single draw = scene.Random()();
-  if (draw < scene.Of.Set.Starfold_CometSPersist) return FlyStar(scene, j);
+  if (draw < scene.Of.Profile.Starfold_CometSPersist) return FlyStar(scene, j);
   if (head.CometLive) return ShedStar(scene, j, nucleus);
   comets.CometStarLive[j] = false;
   --head.CometLeft;
@@ -146,7 +147,7 @@ void StepComet(const CometScene& scene, std::size_t comet) {
     if (comets.CometStarLive[j]) StepCometStar(scene, head, j, nucleus);
   }
   const Single draw = scene.Random()();
-  if (scene.SegIdx < kFirstShedding || scene.Of.Set.Starfold_CometCPersist < draw) {
+  if (scene.SegIdx < kFirstShedding || scene.Of.Profile.Starfold_CometCPersist < draw) {
     head.CometLive = false;
   }
 }
@@ -161,8 +162,8 @@ void CometStep(const FrameScene& frame, std::size_t fold, Integer prof, Integer 
                          prof,
                          segIdx};
   LaunchComet(scene);
-  for (int c = 0; c < frame.Run.Comets.CometCount; ++c) {
-    if (frame.Run.Comets.Heads[c].CometLeft > 0) StepComet(scene, static_cast<std::size_t>(c));
+  for (int c = 0; c < frame.Arrays.Comets.CometCount; ++c) {
+    if (frame.Arrays.Comets.Heads[c].CometLeft > 0) StepComet(scene, static_cast<std::size_t>(c));
   }
 }
 

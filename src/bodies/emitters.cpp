@@ -7,21 +7,21 @@
 namespace starfolds {
 
 void SeedQuasar(SeedPoint& point, const Body& body) {
-  SeedRadial(point, body, body.Run.RunSpin, body.Run.SweepPhase);
-  const double force = body.Run.Star.RunForce;
+  SeedRadial(point, body, body.Prepared.RunSpin, body.Prepared.SweepPhase);
+  const double force = body.Prepared.Star.RunForce;
   point.VX = static_cast<Single>(force * point.X);
   point.VY = static_cast<Single>(force * point.Y);
   point.VZ = static_cast<Single>(force * point.Z);
 }
 
 void SeedGraviton(SeedPoint& point, const Body& body) {
-  SeedRadial(point, body, body.Run.RunSpin, body.Run.SweepPhase);
+  SeedRadial(point, body, body.Prepared.RunSpin, body.Prepared.SweepPhase);
   point.VX = point.VY = point.VZ = 0;
 }
 
 void SeedStarwave(SeedPoint& point, const Body& body) {
-  const StarfoldProfile& set = body.Set;
-  const PreparedProfile& run = body.Run;
+  const StarfoldProfile& set = body.Profile;
+  const PreparedProfile& run = body.Prepared;
   const double waves = std::max<Integer>(set.Starfold_RadBands, 1);
   const double a = body.Random();
   const double b = body.Random();

@@ -6,8 +6,8 @@
 namespace starfolds {
 namespace {
 
-StarState& StateOf(const FrameScene& scene, std::size_t i) { return scene.Run.Stars.Star[i]; }
-FlareState& FlareOf(const FrameScene& scene, std::size_t i) { return scene.Run.Stars.Flare[i]; }
+StarState& StateOf(const FrameScene& scene, std::size_t i) { return scene.Arrays.Stars.Star[i]; }
+FlareState& FlareOf(const FrameScene& scene, std::size_t i) { return scene.Arrays.Stars.Flare[i]; }
 
 const ProfileColours& ColoursOf(const FrameScene& scene, const StarState& star) {
   return scene.Process.Colours.Profile[static_cast<std::size_t>(star.StarProf)];
@@ -18,7 +18,7 @@ const PreparedProfile& PreparedOf(const FrameScene& scene, const StarState& star
 }
 
 View ViewOf(const FrameScene& scene, const StarState& star) {
-  return ViewStar(star, PreparedOf(scene, star).Star, scene.Run.Folds);
+  return ViewStar(star, PreparedOf(scene, star).Star, scene.Arrays.Folds);
 }
 
 void NoteView(FlareState& flare, const View& view) {
@@ -28,11 +28,11 @@ void NoteView(FlareState& flare, const View& view) {
 }
 
 Colour NewStarColour(const FrameScene& scene, const StarState& star) {
-  return ColoursOf(scene, star).NewColors[static_cast<std::size_t>(star.StarNewLeft)];
+  return ColoursOf(scene, star).NewColors[static_cast<std::size_t>(star.StarFlareLeft)];
 }
 
 Colour NovaColour(const FrameScene& scene, const StarState& star, const FlareState& flare) {
-  return ColoursOf(scene, star).NovaRamp[NovaRow(flare.StarFlareFrames, star.StarNovaLeft)];
+  return ColoursOf(scene, star).NovaRamp[NovaRow(flare.StarFlareFrames, star.StarFlareLeft)];
 }
 
 /// Draws, or in black erases, what the star shows as from the arrays.
@@ -40,14 +40,14 @@ void DrawNewStar(const FrameScene& scene, std::size_t i, Colour colour) {
   const FlareState& flare = FlareOf(scene, i);
   if (!(flare.StarFlareZ > kNearDepth)) return;
   PlotNew(scene.Process.Screen, flare.StarFlareX, flare.StarFlareY, flare.StarFlareZ,
-          StateOf(scene, i).StarNewLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
+          StateOf(scene, i).StarFlareLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
 }
 
 void DrawNova(const FrameScene& scene, std::size_t i, Colour colour) {
   const FlareState& flare = FlareOf(scene, i);
   if (!(flare.StarViewZ > kNearDepth)) return;
   PlotNova(scene.Process.Screen, flare.StarViewX, flare.StarViewY, flare.StarViewZ,
-           StateOf(scene, i).StarNovaLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
+           StateOf(scene, i).StarFlareLeft, flare.StarFlareFrames, flare.StarFlareExt, colour);
 }
 
 enum class Ink { Colour, Black };
@@ -57,7 +57,7 @@ void DrawPulsar(const FrameScene& scene, std::size_t i, Ink ink) {
   if (!(flare.StarViewZ > kNearDepth)) return;
   const StarState& star = StateOf(scene, i);
   const StarfoldProfile& profile = scene.Process.Profiles[static_cast<std::size_t>(star.StarProf)];
-  const int phase = star.StarPulsarLeft % std::max<int>(profile.Starfold_PulsarFrames, 1);
+  const int phase = star.StarFlareLeft % std::max<int>(profile.Starfold_PulsarFrames, 1);
   const ProfileColours& colours = ColoursOf(scene, star);
   PlotPulsar(scene.Process.Screen, flare.StarViewX, flare.StarViewY, flare.StarViewZ,
              colours.PulsarExtents[phase], profile.Starfold_PulsarShape,
@@ -67,8 +67,8 @@ void DrawPulsar(const FrameScene& scene, std::size_t i, Ink ink) {
 
 void BeginPulsar(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
   StarState& star = StateOf(scene, i);
-  star.StarPulsarLeft =
-      ProductOr(star.StarPulsarLeft, profile.Starfold_PulsarCycles, profile.Starfold_PulsarFrames);
+  star.StarFlare = FlareKind::Pulsar;
+  star.StarFlareLeft = ProductOr(0, profile.Starfold_PulsarCycles, profile.Starfold_PulsarFrames);
   FlareOf(scene, i).StarFlareFrames = profile.Starfold_PulsarFrames;
   NoteView(FlareOf(scene, i), ViewOf(scene, star));
 }
@@ -76,16 +76,18 @@ void BeginPulsar(const FrameScene& scene, std::size_t i, const StarfoldProfile& 
 void BeginNova(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
   StarState& star = StateOf(scene, i);
   FlareState& flare = FlareOf(scene, i);
-  star.StarNovaLeft = flare.StarFlareFrames = profile.Starfold_NovaFrames;
+  star.StarFlare = FlareKind::Nova;
+  star.StarFlareLeft = flare.StarFlareFrames = profile.Starfold_NovaFrames;
   flare.StarFlareExt = PreparedOf(scene, star).RunNovaExt;
   NoteView(flare, ViewOf(scene, star));
-  if (star.StarNovaLeft > 0) DrawNova(scene, i, NovaColour(scene, star, flare));
+  if (star.InFlare()) DrawNova(scene, i, NovaColour(scene, star, flare));
 }
 
 void BeginNewStar(const FrameScene& scene, std::size_t i, const StarfoldProfile& profile) {
   StarState& star = StateOf(scene, i);
   FlareState& flare = FlareOf(scene, i);
-  star.StarNewLeft = flare.StarFlareFrames = profile.Starfold_NewFrames;
+  star.StarFlare = FlareKind::NewStar;
+  star.StarFlareLeft = flare.StarFlareFrames = profile.Starfold_NewFrames;
   flare.StarFlareExt = PreparedOf(scene, star).RunNewExt;
   PlaceAndDrawNewStar(scene, i, ViewOf(scene, star));
 }
@@ -100,17 +102,17 @@ int NovaRow(Integer frames, Integer left) {
 
 void EraseFlare(const FrameScene& scene, std::size_t i) {
   const StarState& star = StateOf(scene, i);
-  if (star.StarNewLeft > 0) return DrawNewStar(scene, i, 0);
-  if (star.StarNovaLeft > 0) return DrawNova(scene, i, 0);
+  if (star.StarFlare == FlareKind::NewStar) return DrawNewStar(scene, i, 0);
+  if (star.StarFlare == FlareKind::Nova) return DrawNova(scene, i, 0);
   DrawPulsar(scene, i, Ink::Black);
 }
 
-void MoveAndDrawShell(const FrameScene& scene, std::size_t i) {
+void MoveAndDrawFlare(const FrameScene& scene, std::size_t i) {
   StarState& star = StateOf(scene, i);
   FlareState& flare = FlareOf(scene, i);
   MoveStar(star, PreparedOf(scene, star).Star);
   NoteView(flare, ViewOf(scene, star));
-  if (star.StarNovaLeft > 0) return DrawNova(scene, i, NovaColour(scene, star, flare));
+  if (star.StarFlare == FlareKind::Nova) return DrawNova(scene, i, NovaColour(scene, star, flare));
   DrawPulsar(scene, i, Ink::Colour);
 }
 
@@ -120,15 +122,15 @@ void PlaceAndDrawNewStar(const FrameScene& scene, std::size_t i, const View& vie
   flare.StarFlareZ = static_cast<Single>(view.Depth);
   if (!view.InFront()) return;
   ProjectView(Lens(scene.Process.Screen), view, flare.StarFlareX, flare.StarFlareY);
-  if (star.StarNewLeft > 0) DrawNewStar(scene, i, NewStarColour(scene, star));
+  if (star.InFlare()) DrawNewStar(scene, i, NewStarColour(scene, star));
 }
 
 void ReseedStar(const FrameScene& scene, std::size_t i) {
   Saver& saver = scene.Process;
   StarState& star = StateOf(scene, i);
-  const Integer entry = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)];
-  star.StarProf = scene.SingleBody == 1 ? entry : PickProfile(saver, entry);
-  SeedStar(saver, scene.Run.Stars, scene.Run.Slots, i);
+  const Integer entry = scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)];
+  star.StarProf = scene.Kind == RunKind::SingleProfile ? entry : PickProfile(saver, entry);
+  SeedStar(saver, scene.Arrays.Stars, scene.Arrays.Slots, i);
 
   const StarfoldProfile& profile = saver.Profiles[static_cast<std::size_t>(star.StarProf)];
   const PreparedProfile& run = PreparedOf(scene, star);

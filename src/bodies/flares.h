@@ -7,12 +7,14 @@
 
 namespace starfolds {
 
+/// What a run shows.
+enum class RunKind { Universe, SingleProfile, SingleComposite };
+
 /// What a frame's routines share.
 struct FrameScene {
   Saver& Process;
-  RunArrays& Run;
-  /// 0 in a universe, 1 in a run of one plain profile, 2 in that of a composite.
-  Integer SingleBody = 0;
+  RunArrays& Arrays;
+  RunKind Kind = RunKind::Universe;
 };
 
 /// Seeds star `i` anew in the starfold `StarHome[i]` and rolls its flare: a pulsar, a nova or a new
@@ -27,10 +29,11 @@ int NovaRow(Integer frames, Integer left);
 /// Erases a new star, a nova or a pulsar where it was last drawn.
 void EraseFlare(const FrameScene& scene, std::size_t i);
 
-/// Moves a nova or pulsar, notes its view and draws it where it is in front of the eye.
-void MoveAndDrawShell(const FrameScene& scene, std::size_t i);
+/// Moves a nova or pulsar, stores its place relative to the eye, and draws it if it is in front of
+/// the eye.
+void MoveAndDrawFlare(const FrameScene& scene, std::size_t i);
 
-/// Notes a new star's depth and, where it is in front of the eye, its screen position; draws it.
+/// Stores a new star's depth and, if it is in front of the eye, its screen position; draws it.
 void PlaceAndDrawNewStar(const FrameScene& scene, std::size_t i, const View& view);
 
 }  // namespace starfolds

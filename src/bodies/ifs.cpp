@@ -22,8 +22,8 @@ Point3 Toward(const Point3& from, const Point3& to, double f) {
 
 /// A fresh point of the single point attractor: on the body's shape, at any angle.
 Point3 FreshPoint(const Body& body) {
-  const StarfoldProfile& set = body.Set;
-  const PreparedProfile& run = body.Run;
+  const StarfoldProfile& set = body.Profile;
+  const PreparedProfile& run = body.Prepared;
   Rnd& random = body.Random;
   const double fraction = std::pow(static_cast<double>(random()), set.Starfold_RadiusExp);
   const double r = fraction * run.RunRadius + 1e-09;
@@ -86,7 +86,7 @@ constexpr Figure kFigures[] = {
 
 void IteratePoint(IfsSlot& slot, const Body& body) {
   Point3& p = slot.IfsPoint;
-  const PreparedProfile& run = body.Run;
+  const PreparedProfile& run = body.Prepared;
   if (slot.IfsStep == 0) {
     p = FreshPoint(body);
   } else {
@@ -96,25 +96,25 @@ void IteratePoint(IfsSlot& slot, const Body& body) {
                   p.Y * static_cast<double>(run.RunSegFill),
                   x * run.RunBandSin + z * run.RunBandCos);
   }
-  const int cycle = std::max<int>(body.Set.Starfold_RadSegs, 1);
+  const int cycle = std::max<int>(body.Profile.Starfold_RadSegs, 1);
   slot.IfsStep = static_cast<Integer>((slot.IfsStep + 1) % cycle);
 }
 
 void IterateWireframe(IfsSlot& slot, const Body& body) {
-  const int n = body.Run.IfsVertexCount;
+  const int n = body.Prepared.IfsVertexCount;
   Point3 before;  // the origin, if there is no iteration at all
   Point3 q = slot.IfsVertex[DrawBelow(body.Random, n)];
-  for (int i = 0; i < body.Set.Starfold_RadBands; ++i) {
+  for (int i = 0; i < body.Profile.Starfold_RadBands; ++i) {
     before = q;
-    q = Toward(q, slot.IfsVertex[DrawBelow(body.Random, n)], body.Run.RunSegFill);
+    q = Toward(q, slot.IfsVertex[DrawBelow(body.Random, n)], body.Prepared.RunSegFill);
   }
   const double t = body.Random();
   slot.IfsPoint = Toward(before, q, t + t);
 }
 
 void IterateFractal(IfsSlot& slot, const Body& body) {
-  const int pick = DrawBelow(body.Random, body.Run.IfsVertexCount);
-  slot.IfsPoint = Toward(slot.IfsPoint, slot.IfsVertex[pick], body.Run.RunSegFill);
+  const int pick = DrawBelow(body.Random, body.Prepared.IfsVertexCount);
+  slot.IfsPoint = Toward(slot.IfsPoint, slot.IfsVertex[pick], body.Prepared.RunSegFill);
 }
 
 /// Turns the offset of a point from its attractor about one axis.
@@ -128,29 +128,29 @@ Point3 TurnAbout(const Point3& d, Integer axis, double c, double s) {
 }
 
 void IterateRecords(IfsSlot& slot, const Body& body) {
-  const int count = ClampTo<int>(body.Set.Starfold_IFS_Points, 0, kMaxIfsPoints);
-  const int draw = DrawBelow(body.Random, body.Run.RunIfs[count - 1].Sum);
+  const int count = ClampTo<int>(body.Profile.Starfold_IFS_Points, 0, kMaxIfsPoints);
+  const int draw = DrawBelow(body.Random, body.Prepared.RunIfs[count - 1].Sum);
   int pick = 0;
-  while (pick < count && draw >= body.Run.RunIfs[pick].Sum) ++pick;
+  while (pick < count && draw >= body.Prepared.RunIfs[pick].Sum) ++pick;
   if (pick == count) return;
-  const RunIfsPoint& record = body.Run.RunIfs[pick];
+  const RunIfsPoint& record = body.Prepared.RunIfs[pick];
   const Point3 target{record.X, record.Y, record.Z};
   Point3& p = slot.IfsPoint;
   p = Toward(p, target, record.Scale);
-  if (body.Set.IFS.Points[pick].IFS_Angle <= 0) return;
+  if (body.Profile.IFS.Points[pick].IFS_Angle <= 0) return;
   const Point3 offset =
       MakePoint(p.X - static_cast<double>(target.X), p.Y - static_cast<double>(target.Y),
                 p.Z - static_cast<double>(target.Z));
   const Point3 turned =
-      TurnAbout(offset, body.Set.IFS.Points[pick].IFS_Axis, record.Cos, record.Sin);
+      TurnAbout(offset, body.Profile.IFS.Points[pick].IFS_Axis, record.Cos, record.Sin);
   p = MakePoint(turned.X + static_cast<double>(target.X), turned.Y + static_cast<double>(target.Y),
                 turned.Z + static_cast<double>(target.Z));
 }
 
 /// Places a star at the running iterate.
 void PlaceAtIterate(SeedPoint& point, const Body& body, const IfsSlot& slot) {
-  SpinRigidly(point, body.Run);
-  SweepWithBody(point, body.Run, slot.IfsPoint.X, slot.IfsPoint.Z);
+  SpinRigidly(point, body.Prepared);
+  SweepWithBody(point, body.Prepared, slot.IfsPoint.X, slot.IfsPoint.Z);
   point.Y = slot.IfsPoint.Y;
 }
 
@@ -160,9 +160,9 @@ void SetUpIfsPoint(IfsSlot& slot, const Body& body) { slot.IfsVertex[0] = FreshP
 
 void SetUpIfsFigure(IfsSlot& slot, const Body& body) {
   slot.IfsVertex.fill({});
-  const double R = body.Run.RunRadius;
-  const double G = body.Set.Starfold_GHW_Ratio;
-  const int count = body.Run.IfsVertexCount;
+  const double R = body.Prepared.RunRadius;
+  const double G = body.Profile.Starfold_GHW_Ratio;
+  const int count = body.Prepared.IfsVertexCount;
   if (count >= 2 && count <= 5) return Pyramid(slot, count, R, G);
   for (const Figure& figure : kFigures) {
     if (figure.Count != count) continue;
@@ -189,7 +189,7 @@ void SeedIfsFractal(SeedPoint& point, const Body& body, IfsSlot& slot) {
 }
 
 void SeedUserIfs(SeedPoint& point, const Body& body, IfsSlot& slot) {
-  if (body.Set.Starfold_IFS_Points == 0) return SeedIfsFractal(point, body, slot);
+  if (body.Profile.Starfold_IFS_Points == 0) return SeedIfsFractal(point, body, slot);
   IterateRecords(slot, body);
   PlaceAtIterate(point, body, slot);
 }

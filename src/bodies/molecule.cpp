@@ -35,7 +35,7 @@ struct Place {
 /// One axis of a structure's point: which of its lengths, with which sign.
 enum Length : signed char { O, R, H, C, E, T };  // none, radius, half, cube, edge, third
 
-struct ShellGroup {
+struct PointGroup {
   Length X, Y, Z;
 };
 
@@ -52,31 +52,31 @@ double LengthOf(const RunAtom& atom, Length length) {
 }
 
 // Each group stands for all choices of signs of its lengths that are not 0.
-constexpr ShellGroup kSixPoint[] = {{R, O, O}, {O, R, O}, {O, O, R}};
-constexpr ShellGroup kEightPoint[] = {{R, R, R}};
-constexpr ShellGroup kShell18[] = {{R, O, O}, {O, R, O}, {O, O, R},
-                                   {E, E, O}, {E, O, E}, {O, E, E}};
-constexpr ShellGroup kShell26[] = {{R, O, O}, {O, R, O}, {O, O, R}, {E, E, O},
-                                   {E, O, E}, {O, E, E}, {C, C, C}};
-constexpr ShellGroup kShell38[] = {{R, O, O}, {O, R, O}, {O, O, R}, {C, C, C}, {T, H, O},
-                                   {H, T, O}, {T, O, H}, {H, O, T}, {O, T, H}, {O, H, T}};
+constexpr PointGroup kSixPoint[] = {{R, O, O}, {O, R, O}, {O, O, R}};
+constexpr PointGroup kEightPoint[] = {{R, R, R}};
+constexpr PointGroup k18Points[] = {{R, O, O}, {O, R, O}, {O, O, R},
+                                    {E, E, O}, {E, O, E}, {O, E, E}};
+constexpr PointGroup k26Points[] = {{R, O, O}, {O, R, O}, {O, O, R}, {E, E, O},
+                                    {E, O, E}, {O, E, E}, {C, C, C}};
+constexpr PointGroup k38Points[] = {{R, O, O}, {O, R, O}, {O, O, R}, {C, C, C}, {T, H, O},
+                                    {H, T, O}, {T, O, H}, {H, O, T}, {O, T, H}, {O, H, T}};
 
-std::span<const ShellGroup> ShellOf(Integer structure) {
+std::span<const PointGroup> GroupsOf(Integer structure) {
   switch (structure) {
     case 1: return kSixPoint;
     case 2: return kEightPoint;
-    case 3: return kShell18;
-    case 4: return kShell26;
-    case 5: return kShell38;
+    case 3: return k18Points;
+    case 4: return k26Points;
+    case 5: return k38Points;
     default: return {};
   }
 }
 
 /// Adds point number `pick` of a shell: the groups in order, and in a group the signs as the bits
 /// of a count.
-void AddShellPoint(Place& place, const RunAtom& atom, std::span<const ShellGroup> groups,
+void AddGroupPoint(Place& place, const RunAtom& atom, std::span<const PointGroup> groups,
                    int pick) {
-  for (const ShellGroup& group : groups) {
+  for (const PointGroup& group : groups) {
     const int axes = (group.X != O) + (group.Y != O) + (group.Z != O);
     const int points = 1 << axes;
     if (pick >= points) {
@@ -203,9 +203,9 @@ void AddStructurePoint(Place& place, const RunAtom& atom, const AtomPoint& set, 
     case 10: return AddOctamatrixPoint(place, edge, spacing, random);
     case 11: return AddHexamatrixPoint(place, edge, spacing, random);
     default: {
-      const auto shell = ShellOf(set.Atom_Structure);
+      const auto shell = GroupsOf(set.Atom_Structure);
       if (shell.empty()) return;
-      return AddShellPoint(place, atom, shell, DrawBelow(random, atom.RunAtomStars));
+      return AddGroupPoint(place, atom, shell, DrawBelow(random, atom.RunAtomStars));
     }
   }
 }
@@ -217,14 +217,14 @@ int TriangleNumber(int n) { return n * (n + 1) / 2; }
 int HexNumber(int n) { return 1 + 3 * n * (n - 1); }
 
 void SeedMolecule(SeedPoint& point, const Body& body, bool jitter) {
-  const int atoms = ClampTo<int>(body.Set.Starfold_Atoms, 0, kMaxAtoms);
+  const int atoms = ClampTo<int>(body.Profile.Starfold_Atoms, 0, kMaxAtoms);
   if (atoms == 0) return;
-  const auto& prepared = body.Run.RunAtoms;
+  const auto& prepared = body.Prepared.RunAtoms;
   const int draw = DrawBelow(body.Random, prepared[atoms - 1].Sum);
   int pick = 0;
   while (pick + 1 < atoms && draw >= prepared[pick].Sum) ++pick;
   const RunAtom& atom = prepared[pick];
-  const AtomPoint& set = body.Set.Atom.Atoms[pick];
+  const AtomPoint& set = body.Profile.Atom.Atoms[pick];
 
   Point3 cloud;
   if (atom.Offset > 0 && jitter) {
@@ -235,8 +235,8 @@ void SeedMolecule(SeedPoint& point, const Body& body, bool jitter) {
 
   point.HueOffset = ElementInfo(set.Atom_Element).Color;
   point.Y = static_cast<Single>(place.Y);
-  SpinRigidly(point, body.Run);
-  SweepWithBody(point, body.Run, place.X, place.Z);
+  SpinRigidly(point, body.Prepared);
+  SweepWithBody(point, body.Prepared, place.X, place.Z);
 }
 
 }  // namespace starfolds

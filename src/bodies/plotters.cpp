@@ -79,9 +79,9 @@ constexpr FlareShape kPulsarShapes[] = {
 
 /// Draws rings about one centre. Places far off the screen are held at the limits of a Long, where
 /// nothing shows.
-class Pen {
+class FlarePen {
  public:
-  Pen(Surface& surface, double x, double y, double unit, Colour colour)
+  FlarePen(Surface& surface, double x, double y, double unit, Colour colour)
       : surface_(surface),
         x_(RoundedToLimits<Long>(x)),
         y_(RoundedToLimits<Long>(y)),
@@ -138,8 +138,8 @@ struct Flare {
 
   void DrawSlice(double depth, std::span<const Ring> rings) const {
     const double f = Screen.FocalPixels / depth;
-    Pen pen(*Screen.hDCDraw, ViewX * f + Screen.CenterX, ViewY * f + Screen.CenterY, UnitAt(depth),
-            Tint);
+    FlarePen pen(*Screen.hDCDraw, ViewX * f + Screen.CenterX, ViewY * f + Screen.CenterY,
+                 UnitAt(depth), Tint);
     pen.Draw(rings);
   }
 
@@ -160,7 +160,7 @@ struct Flare {
 void PlotNew(const Display& screen, Long x, Long y, Single depth, Integer left, Integer frames,
              Single extent, Colour colour) {
   const double unit = static_cast<double>(screen.FocalLength) / depth * extent * left / frames;
-  Pen pen(*screen.hDCDraw, x, y, unit, colour);
+  FlarePen pen(*screen.hDCDraw, x, y, unit, colour);
   pen.Draw(kCore);
   const std::int64_t size = RoundHalfEven(unit * 32);
   if (size < 1) return;

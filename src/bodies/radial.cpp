@@ -54,8 +54,8 @@ Single ShapeHeight(Integer shape, double r, double R, double Rsq, Rnd& random) {
 }
 
 void SeedRadial(SeedPoint& point, const Body& body, Single rate, Single phase) {
-  const StarfoldProfile& set = body.Set;
-  const PreparedProfile& run = body.Run;
+  const StarfoldProfile& set = body.Profile;
+  const PreparedProfile& run = body.Prepared;
   Rnd& random = body.Random;
   const double bands = std::max<Integer>(set.Starfold_RadBands, 1);
 

@@ -9,22 +9,22 @@ namespace starfolds {
 namespace {
 
 /// Control points of the profile and the three that overlap them.
-int PointsWithOverlap(const Body& body) { return body.Set.Starfold_CP_Points + 3; }
+int PointsWithOverlap(const Body& body) { return body.Profile.Starfold_CP_Points + 3; }
 
 /// Whether point `i` has keys of its own: all of an open ribbon's, but not the three copies that
 /// close a loop.
 bool HasKeys(const Body& body, int i) {
-  return body.Set.Starfold_CP_Close == 0 || i < body.Set.Starfold_CP_Points;
+  return body.Profile.Starfold_CP_Close == 0 || i < body.Profile.Starfold_CP_Points;
 }
 
 /// A random place in a box of twice the radius, flattened by the height to width ratio.
 Point3 DrawKey(const Body& body) {
-  const double width = static_cast<double>(body.Run.RunRadius) + body.Run.RunRadius;
+  const double width = static_cast<double>(body.Prepared.RunRadius) + body.Prepared.RunRadius;
   const double x = body.Random() - 0.5;
   const double y = body.Random() - 0.5;
   const double z = body.Random() - 0.5;
   return {static_cast<Single>(x * width),
-          static_cast<Single>(y * width * body.Set.Starfold_GHW_Ratio),
+          static_cast<Single>(y * width * body.Profile.Starfold_GHW_Ratio),
           static_cast<Single>(z * width)};
 }
 
@@ -39,7 +39,7 @@ void PlacePoints(RibbonSlot& slot, const RibbonSlot& keys, const Body& body, dou
   const auto& key = keys.RibbonKey;
   for (int i = 0; i < PointsWithOverlap(body); ++i) {
     slot.Ribbon[i] = HasKeys(body, i) ? SplineOf(f, key[0][i], key[1][i], key[2][i], key[3][i])
-                                      : slot.Ribbon[i - body.Set.Starfold_CP_Points];
+                                      : slot.Ribbon[i - body.Profile.Starfold_CP_Points];
   }
 }
 
@@ -53,11 +53,11 @@ void ShiftKeys(RibbonSlot& slot, const Body& body) {
 
 /// Turns all keys by one frame's spin, in the X-Z or the Y-Z plane.
 void TurnKeys(RibbonSlot& slot, const Body& body) {
-  const double c = body.Run.RunSpinCos;
-  const double s = body.Run.RunSpinSin;
+  const double c = body.Prepared.RunSpinCos;
+  const double s = body.Prepared.RunSpinSin;
   for (auto& keys : slot.RibbonKey) {
     for (int i = 0; i < PointsWithOverlap(body); ++i) {
-      Single& first = body.Set.Starfold_AxisPlane == 0 ? keys[i].X : keys[i].Y;
+      Single& first = body.Profile.Starfold_AxisPlane == 0 ? keys[i].X : keys[i].Y;
       const double a = first;
       const double z = keys[i].Z;
       first = static_cast<Single>(a * c - z * s);
@@ -80,12 +80,12 @@ void SetUpRibbon(std::vector<RibbonSlot>& slots, std::size_t index, const Body& 
 void SetUpStillRibbon(RibbonSlot& slot, const Body& body) {
   for (int i = 0; i < PointsWithOverlap(body); ++i) {
     slot.Ribbon[i] =
-        HasKeys(body, i) ? DrawKey(body) : slot.Ribbon[i - body.Set.Starfold_CP_Points];
+        HasKeys(body, i) ? DrawKey(body) : slot.Ribbon[i - body.Profile.Starfold_CP_Points];
   }
 }
 
 void MorphRibbon(RibbonSlot& slot, const Body& body) {
-  const Integer steps = body.Set.Starfold_CP_Steps;
+  const Integer steps = body.Profile.Starfold_CP_Steps;
   if (steps > 0) slot.RibbonMorph = static_cast<Single>(slot.RibbonMorph + 1.0 / steps);
   if (slot.RibbonMorph >= 1) {
     slot.RibbonMorph -= 1;
@@ -103,9 +103,9 @@ Point3 RibbonPoint(const RibbonSlot& slot, int controlPoints, double place) {
 }
 
 void SeedRibbon(SeedPoint& point, const Body& body, const RibbonSlot& slot) {
-  PreparedProfile& run = body.Run;
-  const int points = body.Set.Starfold_CP_Points;
-  const double biases = std::max<Integer>(body.Set.Starfold_CP_B_Pts, 1);
+  PreparedProfile& run = body.Prepared;
+  const int points = body.Profile.Starfold_CP_Points;
+  const double biases = std::max<Integer>(body.Profile.Starfold_CP_B_Pts, 1);
   const double phase = static_cast<double>(run.RibbonPhase) + run.RunBiasSpeed;
   run.RibbonPhase = static_cast<Single>(phase >= points ? phase - points : phase);
 
@@ -118,7 +118,8 @@ void SeedRibbon(SeedPoint& point, const Body& body, const RibbonSlot& slot) {
   const double s = points * u + run.RibbonPhase;
 
   const Point3 place = RibbonPoint(slot, points, s);
-  ScatterDirection(point.VX, point.VY, point.VZ, body.Set.Starfold_RadiusExp * 0.001, body.Random);
+  ScatterDirection(point.VX, point.VY, point.VZ, body.Profile.Starfold_RadiusExp * 0.001,
+                   body.Random);
   point.X = place.X;
   point.Y = place.Y;
   point.Z = place.Z;

@@ -15,6 +15,10 @@
 
 namespace starfolds {
 
+/// The kinds of flare. A new star becomes a plain one at the end; a nova and a pulsar are
+/// re-seeded.
+enum class FlareKind : Integer { None, NewStar, Nova, Pulsar };
+
 /// What the star loop reads and writes of a star in every frame: one cache line.
 struct alignas(64) StarState {
   // Place in the body's frame, of which Y is the axis; X and Z turn together.
@@ -24,13 +28,14 @@ struct alignas(64) StarState {
   Single StarHue = 0;  // degrees
   Colour StarColor = 0;
   Integer StarProf = 0, StarHome = 0, StarLevel = 0;
-  Integer StarNewLeft = 0, StarNovaLeft = 0, StarPulsarLeft = 0;  // at most one is above 0
-  Integer StarWait = 0;  // frames until a star that waits for its trail is re-seeded
+  FlareKind StarFlare = FlareKind::None;
+  Integer StarFlareLeft = 0;  // frames left of the flare; 0: the star is plain
+  Integer StarWait = 0;       // frames until a star that waits for its trail is re-seeded
   Single StarVX = 0, StarVY = 0, StarVZ = 0;  // per frame; StarVY is a wave star's phase
   Long StarAge = 0;                           // frames since it was seeded
   Long StarFrame = 0;                         // the `BodyFrame` of a settled star; 0: it has none
 
-  bool InFlare() const { return (StarNewLeft | StarNovaLeft | StarPulsarLeft) != 0; }
+  bool InFlare() const { return StarFlareLeft != 0; }
 };
 static_assert(sizeof(StarState) == 64);
 
@@ -47,10 +52,6 @@ struct FlareState {
 struct TrailPlace {
   Long TrailX = 0, TrailY = 0;
 };
-
-/// The largest product of a run's star count and its trail length, so that the index of a trail
-/// place fits an Integer.
-inline constexpr Integer kMostTrailPlaces = 30000;
 
 /// Per star; the trails hold `trail` places per star, as a ring that all stars share the head of.
 struct StarArrays {
@@ -172,10 +173,10 @@ struct RunArrays {
   BodySlots Slots;
   Integer TrailHead = 0;  // the ring place that all stars overwrite this frame
 
-  /// Sized by the clamped settings of the run; a run of a single body has no ambient stars.
-  RunArrays(const UniverseSettings& universe, Integer folds, Integer ambientStars)
-      : Stars(static_cast<std::size_t>(universe.Universe_Stars),
-              static_cast<std::size_t>(universe.Universe_STrail)),
+  /// Sized by the clamped settings of the run and `trail` places per star; a run of a single body
+  /// has no ambient stars.
+  RunArrays(const UniverseSettings& universe, Integer trail, Integer folds, Integer ambientStars)
+      : Stars(static_cast<std::size_t>(universe.Universe_Stars), static_cast<std::size_t>(trail)),
         Folds(static_cast<std::size_t>(folds)),
         Ambient(static_cast<std::size_t>(ambientStars),
                 ambientStars > 0 ? static_cast<std::size_t>(universe.Universe_AmFrames) : 0) {}

@@ -23,12 +23,12 @@ struct SeedPoint {
 
 /// One profile with its prepared values.
 struct Body {
-  const StarfoldProfile& Set;
-  PreparedProfile& Run;
+  const StarfoldProfile& Profile;
+  PreparedProfile& Prepared;
   Rnd& Random;
 
   Body(Saver& saver, int prof)
-      : Set(saver.Profiles[prof]), Run(saver.Prepared[prof]), Random(saver.Random) {}
+      : Profile(saver.Profiles[prof]), Prepared(saver.Prepared[prof]), Random(saver.Random) {}
 };
 
 /// floor(draw * count), a whole number from 0 to count - 1.

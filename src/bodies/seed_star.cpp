@@ -36,20 +36,25 @@ void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) 
   StarState& star = stars.Star[i];
   star.StarAge = 0;
   star.StarWait = 0;
-  star.StarNewLeft = 0;
-  star.StarNovaLeft = 0;
-  star.StarPulsarLeft = 0;
+  star.StarFlare = FlareKind::None;
+  star.StarFlareLeft = 0;
   star.StarFrame = 0;
 
   const int prof = star.StarProf;
   SeedPoint point = PointOf(star);
   const Body body(saver, prof);
-  RoutinesOf(body.Set.Style())
+  RoutinesOf(body.Profile.Style())
       .SeedStar(point, body, slots, static_cast<std::size_t>(star.StarHome));
   StorePoint(star, point);
 
-  const StarTint tint = SeedColor(saver, prof, point.X, point.Y, point.Z, point.RotationStep,
-                                  point.Span, point.HueOffset, {star.StarHue, star.StarColor});
+  const StarTint tint = SeedColor(saver, prof,
+                                  {.X = point.X,
+                                   .Y = point.Y,
+                                   .Z = point.Z,
+                                   .RotationStep = point.RotationStep,
+                                   .Span = point.Span,
+                                   .HueOffset = point.HueOffset,
+                                   .Former = {star.StarHue, star.StarColor}});
   star.StarHue = tint.StarHue;
   star.StarColor = tint.StarColor;
 }

@@ -28,46 +28,45 @@ void AdvanceStarHue(const Saver& saver, StarState& star) {
 }
 
 /// Counts a nova or pulsar down. At its end the star is re-seeded and the answer is false.
-bool CountShellDown(const FrameScene& scene, std::size_t i) {
-  StarState& star = scene.Run.Stars.Star[i];
-  Integer& left = star.StarNovaLeft > 0 ? star.StarNovaLeft : star.StarPulsarLeft;
-  --left;
-  if (left > 0) return true;
+bool CountFlareDown(const FrameScene& scene, std::size_t i) {
+  StarState& star = scene.Arrays.Stars.Star[i];
+  if (--star.StarFlareLeft > 0) return true;
   ReseedStar(scene, i);
   return false;
 }
 
 /// The hue work that the last frame left for a star.
 void DoHueWork(const FrameScene& scene, StarState& star) {
-  if (scene.Run.Stars.HueWorkDue) AdvanceStarHue(scene.Process, star);
+  if (scene.Arrays.Stars.HueWorkDue) AdvanceStarHue(scene.Process, star);
 }
 
 void StepFlareWithoutTrail(const FrameScene& scene, std::size_t i) {
-  StarState& star = scene.Run.Stars.Star[i];
+  StarState& star = scene.Arrays.Stars.Star[i];
   EraseFlare(scene, i);
-  if (star.StarNewLeft == 0) {
-    if (CountShellDown(scene, i)) MoveAndDrawShell(scene, i);
+  if (star.StarFlare != FlareKind::NewStar) {
+    if (CountFlareDown(scene, i)) MoveAndDrawFlare(scene, i);
     return;
   }
   // At 0 it is a plain star from the next frame on, and its first erase falls on a stale place.
-  if (--star.StarNewLeft == 0) return;
+  if (--star.StarFlareLeft == 0) return;
   const StarMotion& motion = MotionOfStar(scene, star);
   MoveStar(star, motion);
-  PlaceAndDrawNewStar(scene, i, ViewStar(star, motion, scene.Run.Folds));
+  PlaceAndDrawNewStar(scene, i, ViewStar(star, motion, scene.Arrays.Folds));
 }
 
 /// The frame of reference that a settled star can share with others; 0 where its body is a
 /// composite and holds stars of several profiles.
 Long SharedFrame(const FrameScene& scene, const StarState& star) {
   const Integer home = star.StarHome;
-  const bool shared = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(home)] == star.StarProf;
+  const bool shared =
+      scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(home)] == star.StarProf;
   return shared ? home * kMaxLevels + star.StarLevel + 1 : 0;
 }
 
 /// Notes for each level of the starfolds what its stars share in this frame.
 void FillFrames(const FrameScene& scene) {
-  StarfoldArrays& folds = scene.Run.Folds;
-  const bool hueWorkDue = scene.Run.Stars.HueWorkDue;
+  StarfoldArrays& folds = scene.Arrays.Folds;
+  const bool hueWorkDue = scene.Arrays.Stars.HueWorkDue;
   for (std::size_t home = 0; home < folds.StarfoldProf.size(); ++home) {
     const Integer entry = folds.StarfoldProf[home];
     if (IsComposite(entry)) continue;
@@ -88,7 +87,7 @@ void FillFrames(const FrameScene& scene) {
 
 /// A star in flare, one of a composite, or one that was seeded in the last frame.
 void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
-  StarArrays& stars = scene.Run.Stars;
+  StarArrays& stars = scene.Arrays.Stars;
   StarState& star = stars.Star[i];
   DoHueWork(scene, star);
   if (star.InFlare()) return StepFlareWithoutTrail(scene, i);
@@ -97,7 +96,7 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
   const StarMotion& motion = MotionOfStar(scene, star);
   MoveStar(star, motion);
-  const View view = ViewStar(star, motion, scene.Run.Folds);
+  const View view = ViewStar(star, motion, scene.Arrays.Folds);
   if (view.InFront()) {
     PlotView(pen, Lens(scene.Process.Screen), view, trail, star.StarColor);
   }
@@ -112,12 +111,12 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
 /// last frame just before it is drawn.
 void StepStarsWithoutTrails(const FrameScene& scene) {
   FillFrames(scene);
-  StarState* const stars = scene.Run.Stars.Star.data();
-  TrailPlace* const trails = scene.Run.Stars.Trail.data();
-  const BodyFrame* const frames = scene.Run.Folds.Frames.data();
+  StarState* const stars = scene.Arrays.Stars.Star.data();
+  TrailPlace* const trails = scene.Arrays.Stars.Trail.data();
+  const BodyFrame* const frames = scene.Arrays.Folds.Frames.data();
   Surface::Pen pen(*scene.Process.Screen.hDCDraw);
   const Lens lens(scene.Process.Screen);
-  const std::size_t count = scene.Run.Stars.Star.size();
+  const std::size_t count = scene.Arrays.Stars.Star.size();
   for (std::size_t i = 0; i < count; ++i) {
     StarState& star = stars[i];
     if (star.StarFrame == 0) [[unlikely]] {
@@ -132,20 +131,20 @@ void StepStarsWithoutTrails(const FrameScene& scene) {
     const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
     if (view.InFront()) PlotView(pen, lens, view, trails[i], star.StarColor);
   }
-  scene.Run.Stars.HueWorkDue = true;
+  scene.Arrays.Stars.HueWorkDue = true;
 }
 
 /// A nova or pulsar with trails; the profile of a star that is re-seeded here is drawn once more.
-void StepShellWithTrail(const FrameScene& scene, std::size_t i) {
-  if (CountShellDown(scene, i)) return MoveAndDrawShell(scene, i);
-  StarState& star = scene.Run.Stars.Star[i];
+void StepFlareWithTrail(const FrameScene& scene, std::size_t i) {
+  if (CountFlareDown(scene, i)) return MoveAndDrawFlare(scene, i);
+  StarState& star = scene.Arrays.Stars.Star[i];
   star.StarProf = PickProfile(
-      scene.Process, scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)]);
+      scene.Process, scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)]);
 }
 
 /// A star that waits for its trail to drain neither moves nor shows. True while that is so.
 bool StepWaiting(const FrameScene& scene, const TourPlace& place, double crossFade, std::size_t i) {
-  StarState& star = scene.Run.Stars.Star[i];
+  StarState& star = scene.Arrays.Stars.Star[i];
   if (star.StarWait == 0) return false;
   if (--star.StarWait == 0) {
     star.StarHome = ChooseHome(scene, place, crossFade);
@@ -155,31 +154,31 @@ bool StepWaiting(const FrameScene& scene, const TourPlace& place, double crossFa
 }
 
 void StepStarsWithTrails(const FrameScene& scene, const TourPlace& place, double crossFade) {
-  StarArrays& stars = scene.Run.Stars;
-  const StarfoldArrays& folds = scene.Run.Folds;
+  StarArrays& stars = scene.Arrays.Stars;
+  const StarfoldArrays& folds = scene.Arrays.Folds;
   Surface::Pen pen(*scene.Process.Screen.hDCDraw);
   const Lens lens(scene.Process.Screen);
-  const auto length = static_cast<std::size_t>(scene.Process.Universe.Universe_STrail);
-  auto slot = static_cast<std::size_t>(scene.Run.TrailHead);
+  const auto length = static_cast<std::size_t>(scene.Process.RunUniverse.RunTrail);
+  auto slot = static_cast<std::size_t>(scene.Arrays.TrailHead);
   for (std::size_t i = 0; i < stars.Star.size(); ++i, slot += length) {
     StarState& star = stars.Star[i];
     TrailPlace& trail = stars.Trail[slot];
     AgeStar(star);
     if (star.InFlare()) [[unlikely]] {
       EraseFlare(scene, i);
-      if (star.StarNewLeft > 0) --star.StarNewLeft;
+      if (star.StarFlare == FlareKind::NewStar) --star.StarFlareLeft;
     } else {
       pen.SetPixelV(trail.TrailX, trail.TrailY, 0);
     }
     if (StepWaiting(scene, place, crossFade, i)) continue;
-    if (star.StarNovaLeft > 0 || star.StarPulsarLeft > 0) {
-      StepShellWithTrail(scene, i);
+    if (star.InFlare() && star.StarFlare != FlareKind::NewStar) {
+      StepFlareWithTrail(scene, i);
       continue;
     }
     const StarMotion& motion = MotionOfStar(scene, star);
     MoveStar(star, motion);
     const View view = ViewStar(star, motion, folds);
-    if (star.StarNewLeft > 0) {
+    if (star.InFlare()) {
       PlaceAndDrawNewStar(scene, i, view);
     } else if (view.InFront()) {
       PlotView(pen, lens, view, trail, star.StarColor);
@@ -190,23 +189,23 @@ void StepStarsWithTrails(const FrameScene& scene, const TourPlace& place, double
 /// The starfold whose comets live in this frame. During the first step of a visit they stay with
 /// the one just left, and in the pull-out with the one visited last.
 std::size_t CometFold(const FrameScene& scene, const TourPlace& place) {
-  if (scene.SingleBody != 0) return 0;
-  const bool leaving = place.TourOn && place.SegIdx < 2 && place.VisitIdx > 0;
-  const int visit = leaving ? place.VisitIdx - 1 : place.VisitIdx;
+  if (scene.Kind != RunKind::Universe) return 0;
+  const bool leaves = place.TourOn && place.LeavesFormer();
+  const int visit = leaves ? place.VisitIdx - 1 : place.VisitIdx;
   const int visits =
       std::min(scene.Process.Universe.Universe_Starfold, scene.Process.Universe.Universe_Recycle);
   return static_cast<std::size_t>(std::min(visit, visits - 1));
 }
 
 void StepComets(const FrameScene& scene, const TourPlace& place) {
-  if (scene.Process.Universe.Universe_GravForce != 0) return;
-  CometStep(scene, CometFold(scene, place), place.VisitProf, place.SegIdx);
+  if (scene.Process.RunUniverse.RunGravForce != 0) return;
+  CometStep(scene, CometFold(scene, place), place.CometProf, place.SegIdx);
 }
 
 /// Stars drawn at random go to a new home. A draw that hits a flaring or waiting star is lost.
 void RecycleStars(const FrameScene& scene, const TourPlace& place, const Recycling& recycling) {
-  StarArrays& stars = scene.Run.Stars;
-  const Integer trail = scene.Process.Universe.Universe_STrail;
+  StarArrays& stars = scene.Arrays.Stars;
+  const Integer trail = scene.Process.RunUniverse.RunTrail;
   const int count = RecycleCount(recycling.Quota, scene.Process.Random);
   for (int n = 0; n < count; ++n) {
     const auto j = static_cast<std::size_t>(
@@ -229,15 +228,15 @@ Recycling NewQuota(const FrameScene& scene, const TourPlace& place) {
   const Saver& saver = scene.Process;
   const double everywhere = saver.Universe.Universe_NewFreq;
   const auto rateOf = [&](int visit) -> double {
-    const Integer entry = scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(visit)];
+    const Integer entry = scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(visit)];
     return saver.Profiles[ResolveProfile(saver, entry)].Starfold_NewFreq;
   };
   const double crossFade = (std::cos(place.SplineT * static_cast<double>(kPi)) + 1) * 0.5;
   const int pastApproach = place.SegIdx - saver.Universe.Universe_GPCtrl;
   double quota = everywhere;
-  if (scene.SingleBody == 1) {
+  if (scene.Kind == RunKind::SingleProfile) {
     quota = rateOf(place.VisitIdx);
-  } else if (place.SegIdx == 1 && place.VisitIdx >= 1) {
+  } else if (place.LeavesFormer()) {
     quota = (rateOf(place.VisitIdx - 1) - everywhere) * crossFade + everywhere;
   } else if (pastApproach > 0 && place.TourOn) {
     const double own = rateOf(place.VisitIdx);
@@ -259,10 +258,8 @@ Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double cross
   };
   if (!place.TourOn) return anywhere();
   const Single r = random();
-  if (r >= universe.Universe_NewPctStEx) return anywhere();
-  const bool leaving =
-      place.SegIdx <= universe.Universe_GPCtrl && place.SegIdx == 1 && place.VisitIdx >= 1;
-  if (!leaving) return place.VisitIdx;
+  if (r >= scene.Process.RunUniverse.RunNewShare) return anywhere();
+  if (!place.LeavesFormer()) return place.VisitIdx;
   return crossFade <= random() ? place.VisitIdx : static_cast<Integer>(place.VisitIdx - 1);
 }
 
@@ -277,7 +274,7 @@ void FinishHueWork(const Saver& saver, StarArrays& stars) {
 
 void StarStep(const FrameScene& scene, const TourPlace& place) {
   const Recycling recycling = NewQuota(scene, place);
-  const Integer trail = scene.Process.Universe.Universe_STrail;
+  const Integer trail = scene.Process.RunUniverse.RunTrail;
   if (trail == 1) {
     StepStarsWithoutTrails(scene);
     StepComets(scene, place);
@@ -286,10 +283,10 @@ void StarStep(const FrameScene& scene, const TourPlace& place) {
   } else {
     StepStarsWithTrails(scene, place, recycling.CrossFade);
     StepComets(scene, place);
-    scene.Run.TrailHead = static_cast<Integer>((scene.Run.TrailHead + 1) % trail);
+    scene.Arrays.TrailHead = static_cast<Integer>((scene.Arrays.TrailHead + 1) % trail);
     RecycleStars(scene, place, recycling);
     DriftCometHues(scene.Process);
-    AdvanceStarHues(scene.Process, scene.Run.Stars);
+    AdvanceStarHues(scene.Process, scene.Arrays.Stars);
   }
 }
 

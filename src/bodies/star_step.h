@@ -6,13 +6,16 @@
 
 namespace starfolds {
 
-/// Where the tour stands in this frame.
+/// Where the tour is in this frame.
 struct TourPlace {
   Integer VisitIdx = 0;   // the starfold under visit
-  Integer VisitProf = 0;  // the profile that the comets obey
+  Integer CometProf = 0;  // the profile that the comets obey
   Integer SegIdx = 1;     // control step of the visit, from 1
   Single SplineT = 0;     // progress within it, 0 to 1
   bool TourOn = false;
+
+  /// The first step of a visit, which leads away from the starfold visited before.
+  bool LeavesFormer() const { return SegIdx == 1 && VisitIdx >= 1; }
 };
 
 /// Erases, moves and plots all stars, steps the comets (only where gravity is exactly 0), re-seeds

@@ -16,16 +16,16 @@ void SetUpNothing(BodySlots&, std::size_t, const Body&) {}
 void StepNothing(BodySlots&, std::size_t, const Body&) {}
 
 void SeedStandardStar(SeedPoint& point, const Body& body, BodySlots&, std::size_t) {
-  SeedRadial(point, body, body.Run.RunSpin, body.Run.SpinPhase);
+  SeedRadial(point, body, body.Prepared.RunSpin, body.Prepared.SpinPhase);
 }
 
 /// Where the stars of a body do not orbit, its comets still do, as in a Standard body.
 void SeedOrbitingNucleus(SeedPoint& point, const Body& body, BodySlots&, std::size_t) {
-  SeedRadial(point, body, body.Run.RunCometOrbit, body.Run.SpinPhase);
+  SeedRadial(point, body, body.Prepared.RunCometOrbit, body.Prepared.SpinPhase);
 }
 
 void SeedRadialBlast(SeedPoint& point, const Body& body, BodySlots&, std::size_t) {
-  SeedRadial(point, body, body.Run.RunSpin, 0);
+  SeedRadial(point, body, body.Prepared.RunSpin, 0);
 }
 
 void MoveOrbitingNucleus(CometHead& head, const Body&, const BodySlots&, std::size_t) {
@@ -73,8 +73,8 @@ void SeedNebulaStar(SeedPoint& point, const Body& body, BodySlots& slots, std::s
 
 void MoveNebulaNucleus(CometHead& head, const Body& body, const BodySlots& slots,
                        std::size_t slot) {
-  const int points = body.Set.Starfold_CP_Points;
-  double phase = static_cast<double>(head.CometPhase) + body.Run.RunCometOrbit;
+  const int points = body.Profile.Starfold_CP_Points;
+  double phase = static_cast<double>(head.CometPhase) + body.Prepared.RunCometOrbit;
   if (phase >= points) phase = std::fmod(phase, points);
   head.CometPhase = static_cast<Single>(phase);
   const Point3 place = RibbonPoint(slots.Ribbon[slot], points, head.CometPhase);

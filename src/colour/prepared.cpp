@@ -141,6 +141,12 @@ void PrepareIfs(PreparedProfile& run, const StarfoldProfile& profile) {
   }
 }
 
+// Coordinates of the points of an atom's structure, for a symmetry radius of 1. They are six-digit
+// constants, and the pictures depend on them.
+constexpr double kCubeCorner = 0.594603;  // near the corner of a cube, a bit outside of the sphere
+constexpr double kEdgeMiddle = 0.707106;  // 1 / sqrt(2), between two axes
+constexpr double kSineOf60 = 0.866025;    // sqrt(3) / 2, the sine of a sixth of a turn
+
 void PrepareAtoms(PreparedProfile& run, const StarfoldProfile& profile) {
   const double tenth = run.RunRadius * 0.1;
   const AtomRecord& record = profile.Atom;
@@ -155,9 +161,9 @@ void PrepareAtoms(PreparedProfile& run, const StarfoldProfile& profile) {
     const double radius = atom.Atom_Radius * 0.01 * tenth;
     prepared.Radius = static_cast<Single>(radius);
     prepared.RadiusHalf = static_cast<Single>(radius * 0.5);
-    prepared.RadiusCube = static_cast<Single>(radius * 0.594603);
-    prepared.RadiusEdge = static_cast<Single>(radius * 0.707106);
-    prepared.RadiusThird = static_cast<Single>(radius * 0.866025);
+    prepared.RadiusCube = static_cast<Single>(radius * kCubeCorner);
+    prepared.RadiusEdge = static_cast<Single>(radius * kEdgeMiddle);
+    prepared.RadiusThird = static_cast<Single>(radius * kSineOf60);
     prepared.RunAtomStars = AtomPoints(atom.Atom_Structure);
     sum += prepared.RunAtomStars;
     prepared.Sum = sum;
@@ -190,6 +196,21 @@ Single WithinTurn(double angle) {
 }
 
 }  // namespace
+
+PreparedUniverse PrepareUniverse(const UniverseSettings& universe) {
+  const Integer mostTrail =
+      kMostTrailPlaces / ClampTo<Integer>(universe.Universe_Stars, 1, kMostTrailPlaces);
+  return {
+      .RunTrail = ClampTo<Integer>(universe.Universe_STrail, 1, mostTrail),
+      .RunExpand = static_cast<Single>(universe.Universe_Expand * 0.001),
+      .RunDamping =
+          static_cast<Single>((1 - static_cast<double>(universe.Universe_Damping)) * 0.5 + 0.5),
+      .RunNewShare = static_cast<Single>(universe.Universe_NewPctStEx * 0.01),
+      .RunDstCen = static_cast<Single>(universe.Universe_DstCen * 0.01),
+      .RunAmMaxExt = static_cast<Single>(universe.Universe_AmMaxExt * 0.01),
+      .RunGravForce = static_cast<Single>(universe.Universe_GravForce * 1e-07),
+  };
+}
 
 void PrepareProfiles(Saver& saver) {
   const AdvancedSettings advanced = LoadAdvancedFromRegistry(*saver.Tree);

@@ -49,13 +49,14 @@ struct Saver {
 
   // The records of the run, copied from the tree when its host is set up and clamped ...
   AdvancedSettings Advanced;
-  // ... and anew for each run by `ReadUniverseSettings`; the run clamps and scales them in place.
+  // ... and anew for each run by `ReadUniverseSettings`; the run clamps them in place.
   UniverseSettings Universe;
   ProfileArray Profiles;
   CompositeArray Composites;
   VisitList Visits;
 
   PreparedArray Prepared;
+  PreparedUniverse RunUniverse;
   MemberSums MemberSum{};
   ColourTables Colours;
   Display Screen;

@@ -39,25 +39,27 @@ Colour HueSector(int hue, int base, Full full, Rising rising, Falling falling, i
 
 /// The distance of a star from the rim of its body, as a share of the body's radius. Infinite for a
 /// body of radius 0, whose nested levels end at the core.
-double RimDistance(const PreparedProfile& run, double x, double y, double z) {
+double RimDistance(const PreparedProfile& run, const SeededStar& star) {
   if (run.RunMaxRadius == 0) return std::numeric_limits<double>::infinity();
-  return std::abs(1 - std::sqrt(std::abs(x * x + y * y + z * z)) / run.RunMaxRadius);
+  const double square = star.X * star.X + star.Y * star.Y + star.Z * star.Z;
+  return std::abs(1 - std::sqrt(std::abs(square)) / run.RunMaxRadius);
 }
 
 /// Hue by `Starfold_ColorComp`, in degrees and not yet within the circle.
-double SeedHue(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
-               int offset) {
+double SeedHue(Saver& saver, int prof, const SeededStar& star) {
   const PreparedProfile& run = saver.Prepared[prof];
   const double wheel = run.HueWheel;
-  const double distance = RimDistance(run, x, y, z);
+  const double distance = RimDistance(run, star);
   switch (saver.Profiles[prof].Starfold_ColorComp) {
-    case 0: return rv * static_cast<double>(run.RunColorTenth) * 10 + wheel;
-    case 1: return std::sqrt(rv * static_cast<double>(run.RunColorTenth) * 1000) + wheel;
+    case 0: return star.RotationStep * static_cast<double>(run.RunColorTenth) * 10 + wheel;
+    case 1:
+      return std::sqrt(star.RotationStep * static_cast<double>(run.RunColorTenth) * 1000) + wheel;
     case 2: return distance * run.RunColorTenth + wheel;
     case 3: return distance * distance * run.RunColorTenth + wheel;
-    case 5: return span * static_cast<double>(run.RunColorThousandth) * 360 + wheel;
+    case 5: return star.Span * static_cast<double>(run.RunColorThousandth) * 360 + wheel;
     case 6:
-      return wheel + offset + saver.Random() * static_cast<double>(run.RunColorThousandth) * 10;
+      return wheel + star.HueOffset +
+             saver.Random() * static_cast<double>(run.RunColorThousandth) * 10;
     default: return wheel;
   }
 }
@@ -230,13 +232,12 @@ void DriftCometHues(Saver& saver) {
   }
 }
 
-StarTint SeedColor(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
-                   int offset, StarTint former) {
-  if (saver.Profiles[prof].Starfold_ColorComp == 4) return {former.StarHue, 0};
-  const double hue = SeedHue(saver, prof, x, y, z, rv, span, offset);
-  Long whole = RoundedOr(RoundedOr(Long{0}, former.StarHue), hue);
-  whole = WrapHue(whole);
-  return {static_cast<Single>(whole), saver.Colours.Profile[prof].HueTable[whole]};
+StarTint SeedColor(Saver& saver, int prof, const SeededStar& star) {
+  if (saver.Profiles[prof].Starfold_ColorComp == 4) return {star.Former.StarHue, 0};
+  const double hue = SeedHue(saver, prof, star);
+  const Long whole = RoundedOr(RoundedOr(Long{0}, star.Former.StarHue), hue);
+  const int wrapped = WrapHue(whole);
+  return {static_cast<Single>(wrapped), saver.Colours.Profile[prof].HueTable[wrapped]};
 }
 
 }  // namespace starfolds

@@ -67,16 +67,22 @@ void MarkHueCycling(Saver& saver);
 /// Moves each profile's comet hues by `Starfold_HWC_Inc` degrees per frame.
 void DriftCometHues(Saver& saver);
 
-/// The colour rules of `Starfold_ColorComp`.
+/// The hue and the colour of a star.
 struct StarTint {
-  Single StarHue;
+  Single StarHue;  // degrees
   Colour StarColor;
 };
 
-/// The hue and the colour of a newly seeded star at (x, y, z) of its body. `rv` is its rotation
-/// step, `span` its place along a ribbon, `offset` the hue that a generator gave it; `former` is
-/// what it had (black stars keep their hue).
-StarTint SeedColor(Saver& saver, int prof, double x, double y, double z, Single rv, Single span,
-                   int offset, StarTint former);
+/// What the colour rules (`Starfold_ColorComp`) read of a newly seeded star.
+struct SeededStar {
+  double X = 0, Y = 0, Z = 0;  // in the body's own frame
+  Single RotationStep = 0;     // radians per frame
+  Single Span = 0;             // place along a ribbon, 0 to 1
+  int HueOffset = 0;           // degrees, from the generator
+  StarTint Former{};           // a black star keeps its hue, and one whose hue does not fit
+};
+
+/// The hue and the colour of a newly seeded star of profile `prof`. Rule 6 draws a random number.
+StarTint SeedColor(Saver& saver, int prof, const SeededStar& star);
 
 }  // namespace starfolds

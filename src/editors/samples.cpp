@@ -156,8 +156,8 @@ class BodyStudio {
  private:
   std::vector<LitPixel> Shoot(Single zoom, double stars) {
     SetupPreviewSurface(*saver_, canvas_, true, zoom, kSeed);
-    SingleBodyRun(*saver_, 0, true, kFrames,
-                  ClampTo<Long>(RoundedToLimits<Long>(stars), 10, kMostStars), 1, false, 1);
+    SingleBodyRun(*saver_, {.Stars = ClampTo<Long>(RoundedToLimits<Long>(stars), 10, kMostStars),
+                            .FrameLimit = kFrames});
     return LitPixels(canvas_);
   }
 

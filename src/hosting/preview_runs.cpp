@@ -30,8 +30,10 @@ void RunOneBody(Saver& saver, Surface& surface, bool fixedView, const BodyPrevie
   if (preview.Body < 0 || preview.Body >= bodies) return;
   const RecordsKept kept(saver);
   SetUpPreview(saver, surface, fixedView, preview, seed);
-  SingleBodyRun(saver, preview.Body, false, 0, ClampTo<Long>(preview.Stars, 10, 30000),
-                static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999)), preview.IsComposite, 1);
+  SingleBodyRun(saver, {.Body = preview.Body,
+                        .IsComposite = preview.IsComposite,
+                        .Stars = ClampTo<Long>(preview.Stars, 10, 30000),
+                        .Trail = static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999))});
   saver.Screen.hDCDraw = nullptr;
 }
 

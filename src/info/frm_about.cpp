@@ -147,7 +147,11 @@ void FrmAbout::Run() {
       Surface& surface = picAbout_->BeginRun();
       SetupPreviewSurface(*running_, surface, true, kZoom, around_.Seed());
       lblBody_->setText(Shown(running_->Composites[body].CompFoldName));
-      SingleBodyRun(*running_, body, true, kFrames, kStars, 1, true, kScale);
+      SingleBodyRun(*running_, {.Body = body,
+                                .IsComposite = true,
+                                .Stars = kStars,
+                                .StarScale = kScale,
+                                .FrameLimit = kFrames});
       body = static_cast<Integer>((body + 1) % kCompositeCount);
     }
     running_->Screen.hDCDraw = nullptr;

@@ -14,11 +14,11 @@ namespace starfolds {
 namespace {
 
 void RunBody(Saver& saver, Integer body, bool isComposite) {
-  const Long stars = ClampTo<Long>(saver.Universe.Universe_Stars, 10, 30000);
-  const Integer trail = ClampTo<Integer>(saver.Universe.Universe_STrail, 1, 999);
-  constexpr bool limitFrames = false;  // the recording surface counts them
-  constexpr Single allStars = 1;
-  SingleBodyRun(saver, body, limitFrames, 0, stars, trail, isComposite, allStars);
+  // The recording surface counts the frames and ends the run.
+  SingleBodyRun(saver, {.Body = body,
+                        .IsComposite = isComposite,
+                        .Stars = ClampTo<Long>(saver.Universe.Universe_Stars, 10, 30000),
+                        .Trail = ClampTo<Integer>(saver.Universe.Universe_STrail, 1, 999)});
 }
 
 void RunEffect(Saver& saver, const RenderOptions& options) {

@@ -21,7 +21,7 @@ void EraseAmbientStar(const AmbientScene& scene, std::size_t i) {
   }
   if (stars.AmbDepth[i] > kNearDepth) {
     PlotNew(screen, stars.AmbScrX[i], stars.AmbScrY[i], stars.AmbDepth[i], stars.AmbLeft[i],
-            universe.Universe_AmFrames, universe.Universe_AmMaxExt, 0);
+            universe.Universe_AmFrames, scene.Process.RunUniverse.RunAmMaxExt, 0);
   }
   --stars.AmbLeft[i];
 }
@@ -53,7 +53,7 @@ void DrawAmbientStar(const AmbientScene& scene, std::size_t i, const TourPoint& 
   if (stars.AmbLeft[i] > 0) {
     const int frame = universe.Universe_AmFrames - stars.AmbLeft[i];
     PlotNew(screen, stars.AmbScrX[i], stars.AmbScrY[i], stars.AmbDepth[i], stars.AmbLeft[i],
-            universe.Universe_AmFrames, universe.Universe_AmMaxExt,
+            universe.Universe_AmFrames, scene.Process.RunUniverse.RunAmMaxExt,
             stars.AmbRamp[static_cast<std::size_t>(frame)]);
   } else if (stars.AmbColorAge[i] < kFlareSteps) {
     const auto step = static_cast<std::size_t>(RoundHalfEven(stars.AmbColorAge[i]));

@@ -95,7 +95,7 @@ void SeedFlight(UniverseScene& scene, Birth& birth) {
 /// Chooses what each starfold is, and gives it the path of one random star.
 void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
   Saver& saver = scene.Process;
-  StarfoldArrays& folds = scene.Run.Folds;
+  StarfoldArrays& folds = scene.Arrays.Folds;
   const UniverseSettings& universe = saver.Universe;
   const Shares shares(saver);
   int cursor = 0;
@@ -116,8 +116,8 @@ void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
 
 /// Starfolds ride outward; the eye stands on the -Z side of the core.
 void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
-  StarfoldArrays& folds = scene.Run.Folds;
-  const Single distance = scene.Process.Universe.Universe_DstCen;
+  StarfoldArrays& folds = scene.Arrays.Folds;
+  const Single distance = scene.Process.RunUniverse.RunDstCen;
   for (std::size_t i = 0; i < folds.StarfoldX.size(); ++i) {
     FoldVelocity& velocity = birth.Folds[i];
     folds.StarfoldX[i] += velocity.FoldVX;
@@ -133,12 +133,12 @@ void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
 /// Puts a star into a random starfold.
 void SettleStar(UniverseScene& scene, std::size_t i) {
   Saver& saver = scene.Process;
-  StarArrays& stars = scene.Run.Stars;
+  StarArrays& stars = scene.Arrays.Stars;
   const int home = DrawBelow(saver.Random, saver.Universe.Universe_Starfold);
   stars.Star[i].StarHome = static_cast<Integer>(home);
   stars.Star[i].StarProf =
-      PickProfile(saver, scene.Run.Folds.StarfoldProf[static_cast<std::size_t>(home)]);
-  SeedStar(saver, stars, scene.Run.Slots, i);
+      PickProfile(saver, scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(home)]);
+  SeedStar(saver, stars, scene.Arrays.Slots, i);
 }
 
 /// One frame of the stars in creation.
@@ -147,10 +147,10 @@ class BirthFrame {
   BirthFrame(UniverseScene& scene, Birth& birth, int frame)
       : scene_(scene),
         birth_(birth),
-        stars_(scene.Run.Stars),
+        stars_(scene.Arrays.Stars),
         pen_(*scene.Process.Screen.hDCDraw),
         lens_(scene.Process.Screen),
-        trail_(scene.Process.Universe.Universe_STrail),
+        trail_(scene.Process.RunUniverse.RunTrail),
         frame_(frame) {
     const double step = static_cast<double>(kFlareSteps) / scene.Process.Universe.Universe_ESteps;
     flightColor_ =
@@ -161,7 +161,7 @@ class BirthFrame {
     for (std::size_t i = 0; i < birth_.Stars.size(); ++i) {
       BirthStar& star = birth_.Stars[i];
       const std::size_t ring =
-          i * static_cast<std::size_t>(trail_) + static_cast<std::size_t>(scene_.Run.TrailHead);
+          i * static_cast<std::size_t>(trail_) + static_cast<std::size_t>(scene_.Arrays.TrailHead);
       switch (star.State) {
         case BirthState::Flying: FlyOn(star, ring); break;
         case BirthState::Wiping: WipeOn(star, i, ring); break;
@@ -195,7 +195,7 @@ class BirthFrame {
     star.BirthX += star.BirthVX;
     star.BirthY += star.BirthVY;
     star.BirthZ += star.BirthVZ;
-    const double depth = static_cast<double>(universe.Universe_DstCen) + star.BirthZ;
+    const double depth = static_cast<double>(scene_.Process.RunUniverse.RunDstCen) + star.BirthZ;
     Plot(ring, {star.BirthX, star.BirthY, depth}, flightColor_);
   }
 
@@ -214,7 +214,7 @@ class BirthFrame {
     const StarMotion& motion =
         scene_.Process.Prepared[static_cast<std::size_t>(star.StarProf)].Star;
     MoveStar(star, motion);
-    Plot(ring, ViewStar(star, motion, scene_.Run.Folds), star.StarColor);
+    Plot(ring, ViewStar(star, motion, scene_.Arrays.Folds), star.StarColor);
   }
 
   UniverseScene& scene_;
@@ -228,9 +228,9 @@ class BirthFrame {
 };
 
 void GrowAmbientStars(UniverseScene& scene, const Birth& birth) {
-  AmbientArrays& ambient = scene.Run.Ambient;
+  AmbientArrays& ambient = scene.Arrays.Ambient;
   StepAmbientStars({scene.Process, ambient, scene.Shape},
-                   {0, 0, -scene.Process.Universe.Universe_DstCen}, scene.Growth.ExpandTotal,
+                   {0, 0, -scene.Process.RunUniverse.RunDstCen}, scene.Growth.ExpandTotal,
                    scene.Growth.ExpandStep, AmbientMode::Growing, scene.TourProfile);
   if (!(birth.CreationDamp > 0)) return;
   for (std::size_t i = 0; i < ambient.AmbVX.size(); ++i) {
@@ -246,8 +246,9 @@ void RampDamping(const UniverseScene& scene, Birth& birth, int frame) {
   const double rampBegin = universe.Universe_ESteps * 0.75;
   if (!(frame > rampBegin)) return;
   const double progress = (frame - rampBegin) / (universe.Universe_ESteps * (1 - 0.75));
-  birth.CreationDamp = static_cast<Single>(static_cast<double>(universe.Universe_Damping) *
-                                           std::cos(progress * static_cast<double>(kHalfPi)));
+  birth.CreationDamp =
+      static_cast<Single>(static_cast<double>(scene.Process.RunUniverse.RunDamping) *
+                          std::cos(progress * static_cast<double>(kHalfPi)));
 }
 
 /// One frame. False: the run must stop.
@@ -257,14 +258,14 @@ bool CreationFrame(UniverseScene& scene, Birth& birth, int frame) {
   MoveStarfolds(scene, birth);
   AdvanceAngles(saver);
   BirthFrame(scene, birth, frame).StepStars();
-  AdvanceStarHues(saver, scene.Run.Stars);
+  AdvanceStarHues(saver, scene.Arrays.Stars);
   scene.Growth.ExpandTotal += scene.Growth.ExpandStep;
   GrowAmbientStars(scene, birth);
   scene.Growth.ExpandStep *= birth.CreationDamp;
-  StepNebulaRibbons(saver, scene.Run.Slots, scene.Run.Folds.StarfoldProf);
+  StepNebulaRibbons(saver, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
   RampDamping(scene, birth, frame);
-  scene.Run.TrailHead =
-      static_cast<Integer>((scene.Run.TrailHead + 1) % saver.Universe.Universe_STrail);
+  scene.Arrays.TrailHead =
+      static_cast<Integer>((scene.Arrays.TrailHead + 1) % saver.RunUniverse.RunTrail);
   if (FramePace(saver)) return false;
   if (saver.Mode == RunMode::Preview && frame == 0) PumpOneTick(saver);
   return true;
@@ -281,24 +282,24 @@ void StopAmbientStars(AmbientArrays& ambient) {
 void CreateUniverse(UniverseScene& scene) {
   Saver& saver = scene.Process;
   const UniverseSettings& universe = saver.Universe;
-  Birth birth(scene.Run.Stars.Star.size(), scene.Run.Folds.StarfoldX.size());
+  Birth birth(scene.Arrays.Stars.Star.size(), scene.Arrays.Folds.StarfoldX.size());
   AssignRounded(birth.MinFlightFrames, universe.Universe_ESteps * 0.25);
-  birth.CreationDamp = universe.Universe_Damping;
+  birth.CreationDamp = saver.RunUniverse.RunDamping;
 
-  FinishHueWork(saver, scene.Run.Stars);
-  InitBodiesAlike(saver, scene.Run.Slots, universe.Universe_Starfold, scene.TourProfile);
+  FinishHueWork(saver, scene.Arrays.Stars);
+  InitBodiesAlike(saver, scene.Arrays.Slots, universe.Universe_Starfold, scene.TourProfile);
   SetUpExpansion(saver, scene.Shape, scene.TourProfile);
   SeedFlight(scene, birth);
-  SeedAmbientStars({saver, scene.Run.Ambient, scene.Shape}, scene.TourProfile,
+  SeedAmbientStars({saver, scene.Arrays.Ambient, scene.Shape}, scene.TourProfile,
                    scene.Growth.ExpandStep);
   ChooseStarfolds(scene, birth);
-  InitBodies(saver, scene.Run.Slots, scene.Run.Folds.StarfoldProf);
+  InitBodies(saver, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
 
   for (int frame = 0; frame < universe.Universe_ESteps; ++frame) {
     if (!CreationFrame(scene, birth, frame)) return;
     if (saver.NewRun) break;
   }
-  StopAmbientStars(scene.Run.Ambient);
+  StopAmbientStars(scene.Arrays.Ambient);
   for (std::size_t i = 0; i < birth.Stars.size(); ++i) {
     if (birth.Stars[i].State != BirthState::Settled) SettleStar(scene, i);
   }

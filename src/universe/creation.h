@@ -15,7 +15,7 @@ struct Expansion {
 /// What creation, tour and pull-out of one run share.
 struct UniverseScene {
   Saver& Process;
-  RunArrays& Run;
+  RunArrays& Arrays;
   BodySlots Shape = {};
   Expansion Growth = {};
   Integer TourProfile = -1;  // the profile that shapes the blast; -1 before the first universe

@@ -10,24 +10,24 @@ void SetUpExpansion(Saver& saver, BodySlots& shape, Integer prof) {
   shape.Ifs.assign(1, {});
   shape.Ribbon.assign(1, {});
   const Body body(saver, prof);
-  RoutinesOf(body.Set.Style()).SetUpBlast(shape, 0, body);
+  RoutinesOf(body.Profile.Style()).SetUpBlast(shape, 0, body);
 }
 
 ExpansionVector SeedExpansionVector(Saver& saver, BodySlots& shape, Integer prof, Single scale,
                                     Single ratio, ExpansionMode mode) {
   const Body body(saver, prof);
   SeedPoint raw;
-  RoutinesOf(body.Set.Style()).SeedBlast(raw, body, shape, 0);
-  const double f = saver.Universe.Universe_Expand / static_cast<double>(body.Run.RunRadius);
+  RoutinesOf(body.Profile.Style()).SeedBlast(raw, body, shape, 0);
+  const double f = saver.RunUniverse.RunExpand / static_cast<double>(body.Prepared.RunRadius);
   const double x = static_cast<Single>(raw.X * f);
   const double y = static_cast<Single>(raw.Y * f);
   const double z = static_cast<Single>(raw.Z * f);
 
-  const double tilt = -static_cast<double>(body.Run.RunTilt);
+  const double tilt = -static_cast<double>(body.Prepared.RunTilt);
   const double c = std::cos(tilt);
   const double s = std::sin(tilt);
   const double u = s * z - c * y;
-  const bool plane = body.Run.Star.AxisPlane;
+  const bool plane = body.Prepared.Star.AxisPlane;
   ExpansionVector point;
   point.VX = static_cast<Single>(plane ? u : x);
   point.VY = static_cast<Single>(plane ? x : u);

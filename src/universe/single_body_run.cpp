@@ -13,57 +13,60 @@ namespace {
 
 constexpr Integer kNoTour = 32000;  // a tour step beyond all steps: comets always live
 
-void EnterSettings(UniverseSettings& universe, Long stars, Integer trail, Single scale) {
-  AssignRounded(universe.Universe_Stars, stars * static_cast<double>(scale));
+void EnterSettings(Saver& saver, const SingleBodyPlan& plan) {
+  UniverseSettings& universe = saver.Universe;
+  AssignRounded(universe.Universe_Stars, plan.Stars * static_cast<double>(plan.StarScale));
   universe.Universe_Stars = ClampTo<Integer>(universe.Universe_Stars, 1, kMostTrailPlaces);
   universe.Universe_Starfold = 1;
-  universe.Universe_STrail = ClampTo<Integer>(trail, 1, kMostTrailPlaces / universe.Universe_Stars);
-  universe.Universe_NewPctStEx = 0;
+  universe.Universe_STrail = plan.Trail;
+  saver.RunUniverse = PrepareUniverse(universe);
+  saver.RunUniverse.RunNewShare = 0;
 }
 
-void SeedBody(const FrameScene& scene, Integer body, bool isComposite) {
+void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
   Saver& saver = scene.Process;
-  StarArrays& stars = scene.Run.Stars;
-  const CompositeProfile* composite = isComposite ? &saver.Composites[body] : nullptr;
+  StarArrays& stars = scene.Arrays.Stars;
+  const CompositeProfile* composite = plan.IsComposite ? &saver.Composites[plan.Body] : nullptr;
   for (std::size_t i = 0; i < stars.Star.size(); ++i) {
     stars.Star[i].StarHome = 0;
-    stars.Star[i].StarProf = body;
+    stars.Star[i].StarProf = plan.Body;
     if (composite) {
       const int member = DrawBelow(saver.Random, composite->MemberCount());
       stars.Star[i].StarProf =
           ClampTo<Integer>(composite->CompFold_Type[member], 0, kProfileCount - 1);
     }
-    SeedStar(saver, stars, scene.Run.Slots, i);
+    SeedStar(saver, stars, scene.Arrays.Slots, i);
   }
 }
 
 }  // namespace
 
-void SingleBodyRun(Saver& saver, Integer body, bool limitFrames, Integer frameLimit, Long stars,
-                   Integer trail, bool isComposite, Single scale) {
-  EnterSettings(saver.Universe, stars, trail, scale);
-  RunArrays run(saver.Universe, 1, 0);
+void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan) {
+  EnterSettings(saver, plan);
+  RunArrays arrays(saver.Universe, saver.RunUniverse.RunTrail, 1, 0);
   PrepareProfiles(saver);
-  const Integer entry = isComposite ? static_cast<Integer>(body + kFirstComposite) : body;
+  const Integer entry =
+      plan.IsComposite ? static_cast<Integer>(plan.Body + kFirstComposite) : plan.Body;
   const Integer visited = ResolveProfile(saver, entry);
-  run.Folds.StarfoldProf[0] = entry;
-  run.Folds.StarfoldRel[0] = {0, 0, saver.Prepared[visited].RunDistance};
-  run.Comets.CometCount = CometRoom(saver.Profiles[visited].Starfold_CometStars);
-  InitBodies(saver, run.Slots, run.Folds.StarfoldProf);
+  arrays.Folds.StarfoldProf[0] = entry;
+  arrays.Folds.StarfoldRel[0] = {0, 0, saver.Prepared[visited].RunDistance};
+  arrays.Comets.CometCount = CometRoom(saver.Profiles[visited].Starfold_CometStars);
+  InitBodies(saver, arrays.Slots, arrays.Folds.StarfoldProf);
 
-  const FrameScene scene{saver, run, Integer{isComposite ? Integer{2} : Integer{1}}};
-  SeedBody(scene, body, isComposite);
+  const FrameScene scene{saver, arrays,
+                         plan.IsComposite ? RunKind::SingleComposite : RunKind::SingleProfile};
+  SeedBody(scene, plan);
   MarkHueCycling(saver);
   BuildPulsarTables(saver);
   BuildNewStarRamp(saver);
 
-  const TourPlace place{0, visited, kNoTour, 0, false};
+  const TourPlace place{.CometProf = visited, .SegIdx = kNoTour};
   Integer frames = 0;
   while (true) {
     AdvanceAngles(saver);
     StarStep(scene, place);
-    StepNebulaRibbons(saver, run.Slots, run.Folds.StarfoldProf);
-    if (limitFrames && ++frames >= frameLimit) return;
+    StepNebulaRibbons(saver, arrays.Slots, arrays.Folds.StarfoldProf);
+    if (plan.FrameLimit && ++frames >= *plan.FrameLimit) return;
     if (FramePace(saver)) return;
     if (saver.NewRun) {
       saver.NewRun = false;

@@ -1,15 +1,23 @@
-// `SingleBodyRun`: the small sister of `UniverseRun`. One body, straight ahead of an eye that does
-// not move.
+// `SingleBodyRun`: `UniverseRun` cut down to one body, straight ahead of an eye that does not move.
 #pragma once
+
+#include <optional>
 
 #include "colour/saver.h"
 
 namespace starfolds {
 
-/// Runs profile `body` (0 to 49), or composite `body` (0 to 15) if `isComposite`, until a flag says
-/// stop or, if `limitFrames`, for `frameLimit` frames. `stars` times `scale` is the star count,
-/// clamped to 1 to 30000; `trail` is clamped to 1 to what 30000 trail places leave for each star.
-void SingleBodyRun(Saver& saver, Integer body, bool limitFrames, Integer frameLimit, Long stars,
-                   Integer trail, bool isComposite, Single scale);
+struct SingleBodyPlan {
+  Integer Body = 0;  // profile 0 to 49, or composite 0 to 15 if `IsComposite`
+  bool IsComposite = false;
+  Long Stars = 5000;  // times `StarScale`, clamped to 1 to 30000
+  Single StarScale = 1;
+  Integer Trail = 1;  // pixels per star; shortened if there is no room for all of them
+  std::optional<Integer> FrameLimit = {};  // without one the run goes on until a flag says stop
+};
+
+/// Runs one body on `Screen.hDCDraw` until a flag says stop or the frames are over. Changes the
+/// star count, starfold count and trail of `Universe`. `NewRun` is cleared if it ended the run.
+void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan);
 
 }  // namespace starfolds

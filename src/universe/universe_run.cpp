@@ -25,7 +25,7 @@ struct UniverseTour {
   Integer GravTick = 0;
 
   Saver& Process() { return Scene.Process; }
-  FrameScene Frame() { return {Scene.Process, Scene.Run, 0}; }
+  FrameScene Frame() { return {Scene.Process, Scene.Arrays}; }
 };
 
 Integer NextTourProfile(Saver& saver, Integer former) {
@@ -37,7 +37,7 @@ Integer NextTourProfile(Saver& saver, Integer former) {
   return static_cast<Integer>((former + 1) % kProfileCount);
 }
 
-TourPoint Viewpoint(const Saver& saver) { return {0, 0, -saver.Universe.Universe_DstCen}; }
+TourPoint Viewpoint(const Saver& saver) { return {0, 0, -saver.RunUniverse.RunDstCen}; }
 
 TourPoint FoldPlace(const StarfoldArrays& folds, Integer i) {
   const auto fold = static_cast<std::size_t>(i);
@@ -45,10 +45,11 @@ TourPoint FoldPlace(const StarfoldArrays& folds, Integer i) {
 }
 
 void StepGravityOfFrame(UniverseTour& tour) {
-  const UniverseSettings& universe = tour.Process().Universe;
-  if (!(universe.Universe_GravForce > 0)) return;
-  tour.GravTick = static_cast<Integer>((tour.GravTick + 1) % universe.Universe_GravFrame);
-  StepGravity(tour.Scene.Run.Folds, universe.Universe_GravForce, tour.GravTick == 0);
+  const Saver& saver = tour.Process();
+  const Single force = saver.RunUniverse.RunGravForce;
+  if (!(force > 0)) return;
+  tour.GravTick = static_cast<Integer>((tour.GravTick + 1) % saver.Universe.Universe_GravFrame);
+  StepGravity(tour.Scene.Arrays.Folds, force, tour.GravTick == 0);
 }
 
 void PlaceStarfoldsToEye(StarfoldArrays& folds, const TourPoint& eye) {
@@ -60,7 +61,7 @@ void PlaceStarfoldsToEye(StarfoldArrays& folds, const TourPoint& eye) {
 
 void StepAmbientOfFrame(UniverseTour& tour) {
   UniverseScene& scene = tour.Scene;
-  StepAmbientStars({scene.Process, scene.Run.Ambient, scene.Shape}, tour.Eye,
+  StepAmbientStars({scene.Process, scene.Arrays.Ambient, scene.Shape}, tour.Eye,
                    scene.Growth.ExpandTotal, scene.Growth.ExpandStep, AmbientMode::Finished,
                    scene.TourProfile);
 }
@@ -68,7 +69,7 @@ void StepAmbientOfFrame(UniverseTour& tour) {
 /// One frame of a visit. False: the run must end.
 bool TourFrame(UniverseTour& tour) {
   Saver& saver = tour.Process();
-  RunArrays& run = tour.Scene.Run;
+  RunArrays& run = tour.Scene.Arrays;
   tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
   StampFrame(saver);
   if (!saver.Universe.Universe_Tour) tour.Eye = Viewpoint(saver);
@@ -90,7 +91,7 @@ bool TourFrame(UniverseTour& tour) {
 bool PullOutFrame(UniverseTour& tour) {
   Saver& saver = tour.Process();
   tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
-  PlaceStarfoldsToEye(tour.Scene.Run.Folds, tour.Eye);
+  PlaceStarfoldsToEye(tour.Scene.Arrays.Folds, tour.Eye);
   AdvanceAngles(saver);
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
@@ -112,7 +113,7 @@ bool ControlStep(UniverseTour& tour, FrameRoutine frame) {
 
 bool VisitStarfold(UniverseTour& tour, Integer visit) {
   Saver& saver = tour.Process();
-  const StarfoldArrays& folds = tour.Scene.Run.Folds;
+  const StarfoldArrays& folds = tour.Scene.Arrays.Folds;
   const int approach = saver.Universe.Universe_GPCtrl;
   const int closeIn = saver.Universe.Universe_GCCtrl;
   tour.Place.VisitIdx = visit;
@@ -124,9 +125,9 @@ bool VisitStarfold(UniverseTour& tour, Integer visit) {
                                   closeIn));
     if (segment == 2) {
       tour.CometProf = tour.VisitProf;
-      ResetComets(saver, tour.Scene.Run.Comets, visit, tour.VisitProf);
+      ResetComets(saver, tour.Scene.Arrays.Comets, visit, tour.VisitProf);
     }
-    tour.Place.VisitProf = tour.CometProf;
+    tour.Place.CometProf = tour.CometProf;
     if (!ControlStep(tour, TourFrame)) return false;
   }
   return true;
@@ -148,8 +149,8 @@ bool PullOut(UniverseTour& tour) {
 bool Create(UniverseTour& tour) {
   Saver& saver = tour.Process();
   tour.Scene.TourProfile = NextTourProfile(saver, tour.Scene.TourProfile);
-  tour.Scene.Run.TrailHead = 0;
-  tour.Scene.Growth = {saver.Universe.Universe_Expand, 0};
+  tour.Scene.Arrays.TrailHead = 0;
+  tour.Scene.Growth = {saver.RunUniverse.RunExpand, 0};
   for (int p = 0; p < kProfileCount; ++p) {
     saver.Prepared[p].HueWheel = saver.Profiles[p].Starfold_HueStart;
   }
@@ -163,7 +164,7 @@ bool Create(UniverseTour& tour) {
 }
 
 bool VisitAll(UniverseTour& tour) {
-  StarfoldArrays& folds = tour.Scene.Run.Folds;
+  StarfoldArrays& folds = tour.Scene.Arrays.Folds;
   std::fill(folds.StarfoldVX.begin(), folds.StarfoldVX.end(), Single{0});
   std::fill(folds.StarfoldVY.begin(), folds.StarfoldVY.end(), Single{0});
   std::fill(folds.StarfoldVZ.begin(), folds.StarfoldVZ.end(), Single{0});
@@ -176,28 +177,17 @@ bool VisitAll(UniverseTour& tour) {
 }
 
 void ClearAway(UniverseTour& tour) {
-  ResetComets(tour.Process(), tour.Scene.Run.Comets, tour.VisitCount, tour.VisitProf);
+  ResetComets(tour.Process(), tour.Scene.Arrays.Comets, tour.VisitCount, tour.VisitProf);
   tour.Process().Screen.hDCDraw->Clear();
 }
 
 }  // namespace
 
-void EnterUniverseSettings(UniverseSettings& universe) {
-  ClampUniverse(universe);
-  universe.Universe_STrail =
-      std::min<Integer>(universe.Universe_STrail, kMostTrailPlaces / universe.Universe_Stars);
-  universe.Universe_Expand = static_cast<Single>(universe.Universe_Expand * 0.001);
-  universe.Universe_Damping =
-      static_cast<Single>((1 - static_cast<double>(universe.Universe_Damping)) * 0.5 + 0.5);
-  universe.Universe_NewPctStEx = static_cast<Single>(universe.Universe_NewPctStEx * 0.01);
-  universe.Universe_DstCen = static_cast<Single>(universe.Universe_DstCen * 0.01);
-  universe.Universe_AmMaxExt = static_cast<Single>(universe.Universe_AmMaxExt * 0.01);
-  universe.Universe_GravForce = static_cast<Single>(universe.Universe_GravForce * 1e-07);
-}
-
 void UniverseRun(Saver& saver) {
-  EnterUniverseSettings(saver.Universe);
-  RunArrays run(saver.Universe, saver.Universe.Universe_Starfold, saver.Universe.Universe_AmStar);
+  ClampUniverse(saver.Universe);
+  saver.RunUniverse = PrepareUniverse(saver.Universe);
+  RunArrays run(saver.Universe, saver.RunUniverse.RunTrail, saver.Universe.Universe_Starfold,
+                saver.Universe.Universe_AmStar);
   UniverseTour tour{.Scene = {saver, run}};
   PrepareProfiles(saver);
   tour.VisitCount = std::min(saver.Universe.Universe_Starfold, saver.Universe.Universe_Recycle);

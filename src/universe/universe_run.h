@@ -6,11 +6,8 @@
 namespace starfolds {
 
 /// Runs universes, one after the other, on `Screen.hDCDraw` until a flag says stop. The settings of
-/// the run must have been read (`ReadUniverseSettings`); they are clamped and scaled in place, so
-/// every run needs a fresh read. `NewRun` is cleared where it ended the run; `StopRun` stays set.
+/// the run must have been read (`ReadUniverseSettings`); they are clamped in place. `NewRun` is
+/// cleared if it ended the run; `StopRun` stays set.
 void UniverseRun(Saver& saver);
-
-/// The clamps and unit conversions at the start of a run.
-void EnterUniverseSettings(UniverseSettings& universe);
 
 }  // namespace starfolds

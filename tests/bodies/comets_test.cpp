@@ -121,10 +121,10 @@ TEST(Comets, GravityFreezesThem) {
   CometStage stage;
   stage.StepComets(50);
   const auto places = stage.Comets().CometStarX;
-  stage.Process->Universe.Universe_GravForce = 0.001F;
+  stage.Process->RunUniverse.RunGravForce = 0.001F;
   stage.Step();
   EXPECT_EQ(stage.Comets().CometStarX, places);
-  stage.Process->Universe.Universe_GravForce = 0;
+  stage.Process->RunUniverse.RunGravForce = 0;
   stage.Step();
   EXPECT_NE(stage.Comets().CometStarX, places) << "and thaw";
 }

@@ -64,14 +64,14 @@ class Tour : public ::testing::Test {
     universe.Universe_Starfold = 2;
     universe.Universe_NewFreq = 1000;
     universe.Universe_GPCtrl = 2;
-    universe.Universe_NewPctStEx = 0.5F;
-    Stage_.Run = std::make_unique<RunArrays>(universe, Integer{2}, Integer{0});
+    Stage_.Process->RunUniverse.RunNewShare = 0.5F;
+    Stage_.Run = std::make_unique<RunArrays>(universe, Integer{1}, Integer{2}, Integer{0});
     Stage_.Run->Folds.StarfoldProf = {0, 1};
     Stage_.Process->Profiles[0].Starfold_NewFreq = 200;
     Stage_.Process->Profiles[1].Starfold_NewFreq = 600;
   }
 
-  FrameScene Scene() { return {*Stage_.Process, *Stage_.Run, 0}; }
+  FrameScene Scene() { return {*Stage_.Process, *Stage_.Run}; }
   Long Quota(Integer visit, Integer segment, Single t, bool tourOn = true) {
     return NewQuota(Scene(), {visit, 0, segment, t, tourOn}).Quota;
   }

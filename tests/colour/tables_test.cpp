@@ -183,7 +183,7 @@ class SeedColorTest : public FlareTables {
     PrepareProfiles(*Process);
     BuildHueWheels(*Process);
     Process->Prepared[0].HueWheel = 240;
-    return SeedColor(*Process, 0, x, 0, 0, rv, span, offset, {7, 99}).StarHue;
+    return SeedColor(*Process, 0, {x, 0, 0, rv, span, offset, {7, 99}}).StarHue;
   }
 };
 
@@ -206,7 +206,7 @@ TEST_F(SeedColorTest, ABodyOfRadiusZeroKeepsTheFormerHue) {
 
 TEST_F(SeedColorTest, BlackStarsKeepTheirHue) {
   EXPECT_EQ(HueAt(4, 1), 7);
-  EXPECT_EQ(SeedColor(*Process, 0, 1, 0, 0, 0, 0, 0, {7, 99}).StarColor, 0U);
+  EXPECT_EQ(SeedColor(*Process, 0, {.X = 1, .Former = {7, 99}}).StarColor, 0U);
 }
 
 TEST_F(SeedColorTest, MoleculesAddTheHueOfTheElement) {

@@ -180,7 +180,7 @@ TEST_F(PreviewTest, ABodyIsShownWithTheStarsAndTheTrailOnTheDialog) {
     PressBody();
     EXPECT_EQ(End, PreviewEnd::Stopped);
     EXPECT_EQ(State->Universe.Universe_Stars, row.Stars);
-    EXPECT_EQ(State->Universe.Universe_STrail, row.Trail);
+    EXPECT_EQ(State->RunUniverse.RunTrail, row.Trail);
     EXPECT_GT(LitPixels(), 5U) << row.Stars;
   }
 }

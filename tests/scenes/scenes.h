@@ -75,7 +75,9 @@ class BodyStage : public Stage {
     Read();
     PrepareProfiles(*Process);
     Process->Universe.Universe_Starfold = 1;
-    Run = std::make_unique<RunArrays>(Process->Universe, Integer{1}, Integer{0});
+    Process->RunUniverse = PrepareUniverse(Process->Universe);
+    Run = std::make_unique<RunArrays>(Process->Universe, Process->RunUniverse.RunTrail, Integer{1},
+                                      Integer{0});
     Run->Folds.StarfoldRel[0] = {0, 0, Process->Prepared[0].RunDistance};
     InitBodies(*Process, Run->Slots, Run->Folds.StarfoldProf);
     for (std::size_t i = 0; i < Run->Stars.Star.size(); ++i) {
@@ -86,7 +88,7 @@ class BodyStage : public Stage {
     BuildNewStarRamp(*Process);
   }
 
-  FrameScene Frame() { return {*Process, *Run, 1}; }
+  FrameScene Frame() { return {*Process, *Run, RunKind::SingleProfile}; }
 
   void Step() {
     AdvanceAngles(*Process);

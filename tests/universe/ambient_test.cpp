@@ -18,8 +18,7 @@ class Ambient : public ::testing::Test {
     Stage.Read();
     universe.Universe_AmStar = stars;
     universe.Universe_AmFrames = frames;
-    universe.Universe_Expand = 2.5F;
-    universe.Universe_AmMaxExt = 10;
+    Stage.Process->RunUniverse = {.RunExpand = 2.5F, .RunAmMaxExt = 10};
     PrepareProfiles(*Stage.Process);
     for (int p = 0; p < kProfileCount; ++p) {
       ResetAngles(Stage.Process->Prepared[p], Stage.Process->Profiles[p]);

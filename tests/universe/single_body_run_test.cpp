@@ -11,40 +11,39 @@ namespace {
 
 class SingleBody : public ::testing::Test {
  protected:
-  void Run(Integer body, bool limit, Integer frames, Long stars, Integer trail, bool composite,
-           Single scale) {
+  void Run(const SingleBodyPlan& plan) {
     Stage.Read();
-    SingleBodyRun(*Stage.Process, body, limit, frames, stars, trail, composite, scale);
+    SingleBodyRun(*Stage.Process, plan);
   }
   scenes::Stage Stage{160, 120};
 };
 
 TEST_F(SingleBody, StopsAfterItsFrames) {
   Stage.Canvas.OnFrame = [this] { ++Stage.FramesShown; };
-  Run(0, true, 400, 50, 1, false, 1);
+  Run({.Stars = 50, .FrameLimit = 400});
   EXPECT_EQ(Stage.FramesShown, 399) << "the last frame ends the run before it is paced";
   EXPECT_FALSE(Stage.Process->StopRun);
 }
 
 TEST_F(SingleBody, NewRunEndsItAtTheNextFrameAndIsCleared) {
   Stage.Canvas.OnFrame = [this] { Stage.Process->NewRun = ++Stage.FramesShown == 5; };
-  Run(0, false, 0, 50, 1, false, 1);
+  Run({.Stars = 50});
   EXPECT_EQ(Stage.FramesShown, 5);
   EXPECT_FALSE(Stage.Process->NewRun);
 }
 
 TEST_F(SingleBody, CountsAreScaledAndTheTrailFitsTheStars) {
   Stage.StopAfter(1);
-  Run(0, false, 0, 4000, 99, false, 0.8F);
+  Run({.Stars = 4000, .StarScale = 0.8F, .Trail = 99});
   EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 3200);
-  EXPECT_EQ(Stage.Process->Universe.Universe_STrail, 30000 / 3200);
+  EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 30000 / 3200);
 }
 
 TEST_F(SingleBody, CountsOfZeroBecomeOne) {
   Stage.StopAfter(3);
-  Run(0, false, 0, 0, 0, false, 1);
+  Run({.Stars = 0, .Trail = 0});
   EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 1);
-  EXPECT_EQ(Stage.Process->Universe.Universe_STrail, 1);
+  EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 1);
 }
 
 TEST_F(SingleBody, ACompositeShowsTheStarsOfAllItsMembers) {
@@ -59,7 +58,7 @@ TEST_F(SingleBody, ACompositeShowsTheStarsOfAllItsMembers) {
     Stage.Settings().Profiles[member].Starfold_CometFreq = 0;
   }
   Stage.StopAfter(2);
-  Run(2, false, 0, 800, 1, true, 1);
+  Run({.Body = 2, .IsComposite = true, .Stars = 800});
   int red = 0;
   int green = 0;
   for (const Colour colour : Stage.Canvas.Pixels()) {

@@ -66,38 +66,6 @@ void MakeColourful(SettingsRecords& settings) {
   settings.Composites[1].CompFoldPct = 5;  // one without a member
 }
 
-TEST(EnterSettings, ClampsThenConvertsUnits) {
-  UniverseSettings universe;
-  universe.Universe_Stars = 7;
-  universe.Universe_Starfold = 5000;
-  universe.Universe_Profile = 60;
-  universe.Universe_Expand = -3;
-  universe.Universe_Damping = 0.5F;
-  universe.Universe_NewPctStEx = 34.5F;
-  universe.Universe_AmMaxExt = 20000;
-  universe.Universe_GravForce = 1e9F;
-  EnterUniverseSettings(universe);
-  EXPECT_EQ(universe.Universe_Stars, 10);
-  EXPECT_EQ(universe.Universe_Starfold, 999);
-  EXPECT_EQ(universe.Universe_Profile, 51);
-  EXPECT_EQ(universe.Universe_Expand, 0);
-  EXPECT_FLOAT_EQ(universe.Universe_Damping, 0.75F);
-  EXPECT_FLOAT_EQ(universe.Universe_NewPctStEx, 0.34F) << "34.5 rounds to even";
-  EXPECT_FLOAT_EQ(universe.Universe_AmMaxExt, 99.99F);
-  EXPECT_NEAR(universe.Universe_GravForce, 0.0999999, 1e-8);
-}
-
-TEST(EnterSettings, TheTrailsOfAllStarsFitSixteenBits) {
-  for (const auto& [stars, trail] :
-       {std::pair{30000, 1}, std::pair{10000, 3}, std::pair{400, 75}}) {
-    UniverseSettings universe;
-    universe.Universe_Stars = static_cast<Integer>(stars);
-    universe.Universe_STrail = 99;
-    EnterUniverseSettings(universe);
-    EXPECT_EQ(universe.Universe_STrail, trail) << stars;
-  }
-}
-
 TEST(SmallPreview, TakesFewerStars) {
   Stage stage;
   stage.Settings().Universe.Universe_Stars = 30;
