@@ -116,8 +116,8 @@ void AmbientStars(benchmark::State& state) {
   scenes::Stage stage(1920, 1080);
   stage.Read();
   const UniverseSettings& universe = stage.Process->Universe;
-  const PreparedUniverse& run = stage.Process->RunUniverse = PrepareUniverse(universe);
-  PrepareProfiles(*stage.Process);
+  PrepareRun(*stage.Process);
+  const PreparedUniverse& run = stage.Process->RunUniverse;
   AmbientArrays stars(static_cast<std::size_t>(universe.Universe_AmStar),
                       static_cast<std::size_t>(universe.Universe_AmFrames));
   BuildAmbRamp(stars);

@@ -47,14 +47,15 @@ void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) 
       .SeedStar(point, body, slots, static_cast<std::size_t>(star.StarHome));
   StorePoint(star, point);
 
-  const StarTint tint = SeedColor(saver, prof,
+  const StarTint tint = SeedColor(body.Profile, body.Prepared, saver.Colours.Profile[prof],
                                   {.X = point.X,
                                    .Y = point.Y,
                                    .Z = point.Z,
                                    .RotationStep = point.RotationStep,
                                    .Span = point.Span,
                                    .HueOffset = point.HueOffset,
-                                   .Former = {star.StarHue, star.StarColor}});
+                                   .Former = {star.StarHue, star.StarColor}},
+                                  saver.Random);
   star.StarHue = tint.StarHue;
   star.StarColor = tint.StarColor;
 }

@@ -279,13 +279,13 @@ void StarStep(const FrameScene& scene, const TourPlace& place) {
     StepStarsWithoutTrails(scene);
     StepComets(scene, place);
     RecycleStars(scene, place, recycling);
-    DriftCometHues(scene.Process);
+    DriftCometHues(scene.Process.Colours, scene.Process.Prepared, scene.Process.Profiles);
   } else {
     StepStarsWithTrails(scene, place, recycling.CrossFade);
     StepComets(scene, place);
     scene.Arrays.TrailHead = static_cast<Integer>((scene.Arrays.TrailHead + 1) % trail);
     RecycleStars(scene, place, recycling);
-    DriftCometHues(scene.Process);
+    DriftCometHues(scene.Process.Colours, scene.Process.Prepared, scene.Process.Profiles);
     AdvanceStarHues(scene.Process, scene.Arrays.Stars);
   }
 }

@@ -3,9 +3,8 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "colour/saver.h"
 #include "numbers/conversions.h"
-#include "settings/storage.h"
+#include "settings/fields.h"
 
 namespace starfolds {
 namespace {
@@ -27,13 +26,13 @@ struct RandomFactors {
   Single Speed = 1;
 };
 
-RandomFactors DrawFactors(Saver& saver, const AdvancedSettings& advanced) {
+RandomFactors DrawFactors(const AdvancedSettings& advanced, Rnd& random) {
   if (!advanced.Adv_Randomize) return {};
   const int magnitude = ClampTo<int>(advanced.Adv_RandomMag, 1, 100);
   const int exponent = ClampTo<int>(advanced.Adv_RandomExp, 1, 100);
   RandomFactors factors;
-  factors.Size = RandomFactor(saver.Random, magnitude, exponent);
-  factors.Speed = RandomFactor(saver.Random, magnitude, exponent);
+  factors.Size = RandomFactor(random, magnitude, exponent);
+  factors.Speed = RandomFactor(random, magnitude, exponent);
   return factors;
 }
 
@@ -79,11 +78,21 @@ void PrepareRates(PreparedProfile& run, const StarfoldProfile& profile, RandomFa
   run.RibbonPhase = 0;
 }
 
+bool StyleCyclesHues(const StarfoldProfile& profile) {
+  switch (FactsOf(profile.Style()).Hues) {
+    case HueCycling::Always: return true;
+    case HueCycling::IfNebulaAdvances: return profile.Starfold_CP_AdvHW > 0;
+    case HueCycling::Never: break;
+  }
+  return false;
+}
+
 void PrepareMotion(PreparedProfile& run, const StarfoldProfile& profile) {
   StarMotion& star = run.Star;
   const StyleFacts& style = FactsOf(profile.Style());
   star.RunMotion = style.RunMotion;
   star.AxisPlane = profile.Starfold_AxisPlane != 0;
+  star.HueCycleOn = profile.Starfold_ColorComp != 4 && StyleCyclesHues(profile);
   star.HWheelInc = profile.Starfold_HWheelInc;
   star.RunForce = static_cast<Single>(profile.Starfold_QG_Force * style.ForceUnit);
   AssignRounded(star.WaveDecay, profile.Starfold_RadBFill);
@@ -170,18 +179,6 @@ void PrepareAtoms(PreparedProfile& run, const StarfoldProfile& profile) {
   }
 }
 
-void PrepareComposites(Saver& saver) {
-  for (int k = 0; k < kCompositeCount; ++k) {
-    const CompositeProfile& composite = saver.Composites[k];
-    Integer sum = 0;
-    for (int i = 0; i < composite.MemberCount(); ++i) {
-      const int member = ClampTo<int>(composite.CompFold_Type[i], 0, kProfileCount - 1);
-      sum = static_cast<Integer>(sum + saver.Prepared[member].RunLevels);
-      saver.MemberSum[k][i] = sum;
-    }
-  }
-}
-
 /// Sets the angle of one level, in radians.
 void SetLevelTilt(PreparedProfile& run, int level, Single angle) {
   StarMotion& star = run.Star;
@@ -212,12 +209,12 @@ PreparedUniverse PrepareUniverse(const UniverseSettings& universe) {
   };
 }
 
-void PrepareProfiles(Saver& saver) {
-  const AdvancedSettings advanced = LoadAdvancedFromRegistry(*saver.Tree);
+void PrepareProfiles(PreparedArray& prepared, ProfileArray& profiles,
+                     const AdvancedSettings& advanced, Rnd& random) {
   for (int p = 0; p < kProfileCount; ++p) {
-    StarfoldProfile& profile = saver.Profiles[p];
-    PreparedProfile& run = saver.Prepared[p];
-    const RandomFactors factors = DrawFactors(saver, advanced);
+    StarfoldProfile& profile = profiles[p];
+    PreparedProfile& run = prepared[p];
+    const RandomFactors factors = DrawFactors(advanced, random);
     PrepareBody(run, profile, factors);
     PrepareRates(run, profile, factors);
     PrepareMotion(run, profile);
@@ -225,7 +222,17 @@ void PrepareProfiles(Saver& saver) {
     PrepareIfs(run, profile);
     PrepareAtoms(run, profile);
   }
-  PrepareComposites(saver);
+}
+
+void SumMembers(MemberSums& sums, const CompositeArray& composites, const PreparedArray& prepared) {
+  for (int k = 0; k < kCompositeCount; ++k) {
+    Integer sum = 0;
+    for (int i = 0; i < composites[k].MemberCount(); ++i) {
+      const int member = ClampTo<int>(composites[k].CompFold_Type[i], 0, kProfileCount - 1);
+      sum = static_cast<Integer>(sum + prepared[member].RunLevels);
+      sums[k][i] = sum;
+    }
+  }
 }
 
 void ResetAngles(PreparedProfile& run, const StarfoldProfile& profile) {
@@ -237,8 +244,8 @@ void ResetAngles(PreparedProfile& run, const StarfoldProfile& profile) {
   run.HueWheel = profile.Starfold_HueStart;
 }
 
-void AdvanceAngles(Saver& saver) {
-  for (PreparedProfile& run : saver.Prepared) {
+void AdvanceAngles(PreparedArray& prepared) {
+  for (PreparedProfile& run : prepared) {
     for (int level = 0; level < run.RunLevels; ++level) {
       const double step = run.LevelTiltStep[level];
       if (step == 0) continue;  // a body that does not tumble keeps its cosine and sine

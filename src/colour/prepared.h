@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "numbers/rnd.h"
 #include "settings/records.h"
 #include "settings/styles.h"
 
@@ -119,15 +120,17 @@ using PreparedArray = std::array<PreparedProfile, kProfileCount>;
 /// Per composite, the running sum of its members' `RunLevels`, in member order.
 using MemberSums = std::array<std::array<Integer, kMaxMembers>, kCompositeCount>;
 
-struct Saver;
+/// Derives all prepared values of all profiles, varied at random as `advanced` says (four draws a
+/// profile if it does). To be called before any star is seeded. Writes `RunLevels` over
+/// `Starfold_StdLevels` of the records in memory.
+void PrepareProfiles(PreparedArray& prepared, ProfileArray& profiles,
+                     const AdvancedSettings& advanced, Rnd& random);
 
-/// Derives all prepared values of all profiles and composites, with their randomisation. To be
-/// called after the settings are in the records and before any star is seeded. Writes `RunLevels`
-/// over `Starfold_StdLevels` of the records in memory.
-void PrepareProfiles(Saver& saver);
+/// Sums the levels of the composites' members. To be called after `PrepareProfiles`.
+void SumMembers(MemberSums& sums, const CompositeArray& composites, const PreparedArray& prepared);
 
 /// Steps tilts, hue wheels and phases of all profiles by one frame.
-void AdvanceAngles(Saver& saver);
+void AdvanceAngles(PreparedArray& prepared);
 
 /// Sets tilts and phases of one profile back to where a run begins.
 void ResetAngles(PreparedProfile& run, const StarfoldProfile& profile);

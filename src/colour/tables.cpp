@@ -4,7 +4,6 @@
 #include <cmath>
 #include <limits>
 
-#include "colour/saver.h"
 #include "numbers/conversions.h"
 
 namespace starfolds {
@@ -46,11 +45,11 @@ double RimDistance(const PreparedProfile& run, const SeededStar& star) {
 }
 
 /// Hue by `Starfold_ColorComp`, in degrees and not yet within the circle.
-double SeedHue(Saver& saver, int prof, const SeededStar& star) {
-  const PreparedProfile& run = saver.Prepared[prof];
+double SeedHue(const StarfoldProfile& profile, const PreparedProfile& run, const SeededStar& star,
+               Rnd& random) {
   const double wheel = run.HueWheel;
   const double distance = RimDistance(run, star);
-  switch (saver.Profiles[prof].Starfold_ColorComp) {
+  switch (profile.Starfold_ColorComp) {
     case 0: return star.RotationStep * static_cast<double>(run.RunColorTenth) * 10 + wheel;
     case 1:
       return std::sqrt(star.RotationStep * static_cast<double>(run.RunColorTenth) * 1000) + wheel;
@@ -58,19 +57,9 @@ double SeedHue(Saver& saver, int prof, const SeededStar& star) {
     case 3: return distance * distance * run.RunColorTenth + wheel;
     case 5: return star.Span * static_cast<double>(run.RunColorThousandth) * 360 + wheel;
     case 6:
-      return wheel + star.HueOffset +
-             saver.Random() * static_cast<double>(run.RunColorThousandth) * 10;
+      return wheel + star.HueOffset + random() * static_cast<double>(run.RunColorThousandth) * 10;
     default: return wheel;
   }
-}
-
-bool StyleCyclesHues(const StarfoldProfile& profile) {
-  switch (FactsOf(profile.Style()).Hues) {
-    case HueCycling::Always: return true;
-    case HueCycling::IfNebulaAdvances: return profile.Starfold_CP_AdvHW > 0;
-    case HueCycling::Never: break;
-  }
-  return false;
 }
 
 }  // namespace
@@ -137,25 +126,26 @@ void BuildFlareTable(FlareTable& table, int startHue, int endHue) {
   }
 }
 
-void BuildHueWheels(Saver& saver) {
+void BuildHueWheels(ColourTables& tables, const ProfileArray& profiles) {
   for (int p = 0; p < kProfileCount; ++p) {
-    BuildHueWheel(saver.Colours.Profile[p].HueTable, saver.Profiles[p]);
+    BuildHueWheel(tables.Profile[p].HueTable, profiles[p]);
   }
 }
 
-void BuildFlareTables(Saver& saver, int universeStart, int universeEnd) {
-  BuildFlareTable(saver.Colours.UniverseFlare, universeStart, universeEnd);
+void BuildFlareTables(ColourTables& tables, const ProfileArray& profiles, int universeStart,
+                      int universeEnd) {
+  BuildFlareTable(tables.UniverseFlare, universeStart, universeEnd);
   for (int p = 0; p < kProfileCount; ++p) {
-    const StarfoldProfile& profile = saver.Profiles[p];
-    BuildFlareTable(saver.Colours.Profile[p].NovaRamp, profile.Starfold_HWC_Start,
+    const StarfoldProfile& profile = profiles[p];
+    BuildFlareTable(tables.Profile[p].NovaRamp, profile.Starfold_HWC_Start,
                     profile.Starfold_HWC_End);
   }
 }
 
-void BuildNewStarRamp(Saver& saver) {
+void BuildNewStarRamp(ColourTables& tables, ProfileArray& profiles) {
   for (int p = 0; p < kProfileCount; ++p) {
-    StarfoldProfile& profile = saver.Profiles[p];
-    auto& ramp = saver.Colours.Profile[p].NewColors;
+    StarfoldProfile& profile = profiles[p];
+    auto& ramp = tables.Profile[p].NewColors;
     ramp.fill(0);
     profile.Starfold_NewFrames = ClampTo<Integer>(profile.Starfold_NewFrames, 0, 99);
     const int frames = profile.Starfold_NewFrames;
@@ -172,11 +162,11 @@ void BuildNewStarRamp(Saver& saver) {
   }
 }
 
-void BuildPulsarTables(Saver& saver) {
+void BuildPulsarTables(ColourTables& tables, ProfileArray& profiles) {
   constexpr double threeQuarters = 4.71238911151886;  // the sine runs from -1 up and back
   for (int p = 0; p < kProfileCount; ++p) {
-    StarfoldProfile& profile = saver.Profiles[p];
-    ProfileColours& colours = saver.Colours.Profile[p];
+    StarfoldProfile& profile = profiles[p];
+    ProfileColours& colours = tables.Profile[p];
     colours.PulsarColors.fill(0);
     colours.PulsarExtents.fill(0);
     profile.Starfold_PulsarFrames = ClampTo<Integer>(profile.Starfold_PulsarFrames, 0, 99);
@@ -209,17 +199,10 @@ void BuildPulsarTables(Saver& saver) {
   }
 }
 
-void MarkHueCycling(Saver& saver) {
+void DriftCometHues(ColourTables& tables, PreparedArray& prepared, const ProfileArray& profiles) {
   for (int p = 0; p < kProfileCount; ++p) {
-    const StarfoldProfile& profile = saver.Profiles[p];
-    saver.Prepared[p].Star.HueCycleOn = profile.Starfold_ColorComp != 4 && StyleCyclesHues(profile);
-  }
-}
-
-void DriftCometHues(Saver& saver) {
-  for (int p = 0; p < kProfileCount; ++p) {
-    PreparedProfile& run = saver.Prepared[p];
-    run.RunHwcAcc += saver.Profiles[p].Starfold_HWC_Inc;
+    PreparedProfile& run = prepared[p];
+    run.RunHwcAcc += profiles[p].Starfold_HWC_Inc;
     if (!(run.RunHwcAcc > 1)) continue;
     run.RunHwcAcc = 0;
     ++run.RunHwcStart;
@@ -228,16 +211,17 @@ void DriftCometHues(Saver& saver) {
       run.RunHwcStart -= 1080;
       run.RunHwcEnd -= 1080;
     }
-    BuildFlareTable(saver.Colours.Profile[p].NovaRamp, run.RunHwcStart, run.RunHwcEnd);
+    BuildFlareTable(tables.Profile[p].NovaRamp, run.RunHwcStart, run.RunHwcEnd);
   }
 }
 
-StarTint SeedColor(Saver& saver, int prof, const SeededStar& star) {
-  if (saver.Profiles[prof].Starfold_ColorComp == 4) return {star.Former.StarHue, 0};
-  const double hue = SeedHue(saver, prof, star);
+StarTint SeedColor(const StarfoldProfile& profile, const PreparedProfile& run,
+                   const ProfileColours& colours, const SeededStar& star, Rnd& random) {
+  if (profile.Starfold_ColorComp == 4) return {star.Former.StarHue, 0};
+  const double hue = SeedHue(profile, run, star, random);
   const Long whole = RoundedOr(RoundedOr(Long{0}, star.Former.StarHue), hue);
   const int wrapped = WrapHue(whole);
-  return {static_cast<Single>(wrapped), saver.Colours.Profile[prof].HueTable[wrapped]};
+  return {static_cast<Single>(wrapped), colours.HueTable[wrapped]};
 }
 
 }  // namespace starfolds

@@ -5,6 +5,8 @@
 #include <array>
 #include <cmath>
 
+#include "colour/prepared.h"
+#include "numbers/rnd.h"
 #include "platform/surface.h"
 #include "settings/records.h"
 
@@ -53,19 +55,18 @@ void BuildHueWheel(std::array<Colour, 361>& table, const StarfoldProfile& profil
 
 void BuildFlareTable(FlareTable& table, int startHue, int endHue);
 
-struct Saver;
-
-void BuildHueWheels(Saver& saver);
-/// `UniverseFlare` between the two hues, and each profile's `NovaRamp` between its comet hues.
-void BuildFlareTables(Saver& saver, int universeStart, int universeEnd);
+/// The hue table of each profile.
+void BuildHueWheels(ColourTables& tables, const ProfileArray& profiles);
+/// `UniverseFlare` between the two hues (degrees), and each profile's `NovaRamp` between its comet
+/// hues.
+void BuildFlareTables(ColourTables& tables, const ProfileArray& profiles, int universeStart,
+                      int universeEnd);
 /// Clamps `Starfold_NewFrames` in the records to 0..99.
-void BuildNewStarRamp(Saver& saver);
+void BuildNewStarRamp(ColourTables& tables, ProfileArray& profiles);
 /// Clamps `Starfold_PulsarFrames` in the records to 0..99.
-void BuildPulsarTables(Saver& saver);
-/// Decides for each profile whether the hues of its stars cycle.
-void MarkHueCycling(Saver& saver);
-/// Moves each profile's comet hues by `Starfold_HWC_Inc` degrees per frame.
-void DriftCometHues(Saver& saver);
+void BuildPulsarTables(ColourTables& tables, ProfileArray& profiles);
+/// Moves each profile's comet hues by one frame, `Starfold_HWC_Inc` degrees.
+void DriftCometHues(ColourTables& tables, PreparedArray& prepared, const ProfileArray& profiles);
 
 /// The hue and the colour of a star.
 struct StarTint {
@@ -82,7 +83,8 @@ struct SeededStar {
   StarTint Former{};           // a black star keeps its hue, and one whose hue does not fit
 };
 
-/// The hue and the colour of a newly seeded star of profile `prof`. Rule 6 draws a random number.
-StarTint SeedColor(Saver& saver, int prof, const SeededStar& star);
+/// The hue and the colour of a newly seeded star of a profile. Rule 6 draws a random number.
+StarTint SeedColor(const StarfoldProfile& profile, const PreparedProfile& run,
+                   const ProfileColours& colours, const SeededStar& star, Rnd& random);
 
 }  // namespace starfolds

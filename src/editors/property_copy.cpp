@@ -146,8 +146,9 @@ void PropertyCopy::CopyPropertyToAllProfiles() {
   }
   if (!CopyProperty(*row, Value(), model_.Profiles())) return;
   Saver& process = model_.Process;
-  BuildFlareTables(process, process.Universe.Universe_HW_Start, process.Universe.Universe_HW_End);
-  BuildHueWheels(process);
+  BuildFlareTables(process.Colours, process.Profiles, process.Universe.Universe_HW_Start,
+                   process.Universe.Universe_HW_End);
+  BuildHueWheels(process.Colours, process.Profiles);
   emit Copied();
 }
 

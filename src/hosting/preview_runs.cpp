@@ -19,9 +19,10 @@ void SetUpPreview(Saver& saver, Surface& surface, bool fixedView, const BodyPrev
   SetupPreviewSurface(saver, surface, fixedView, 1, seed);
   for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
   for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
-  BuildFlareTables(saver, ClampTo<Integer>(preview.HueStart, 0, kHighestHue),
+  BuildFlareTables(saver.Colours, saver.Profiles,
+                   ClampTo<Integer>(preview.HueStart, 0, kHighestHue),
                    ClampTo<Integer>(preview.HueEnd, 0, kHighestHue));
-  BuildHueWheels(saver);
+  BuildHueWheels(saver.Colours, saver.Profiles);
 }
 
 void RunOneBody(Saver& saver, Surface& surface, bool fixedView, const BodyPreview& preview,

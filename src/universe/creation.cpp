@@ -256,7 +256,7 @@ bool CreationFrame(UniverseScene& scene, Birth& birth, int frame) {
   Saver& saver = scene.Process;
   StampFrame(saver);
   MoveStarfolds(scene, birth);
-  AdvanceAngles(saver);
+  AdvanceAngles(saver.Prepared);
   BirthFrame(scene, birth, frame).StepStars();
   AdvanceStarHues(saver, scene.Arrays.Stars);
   scene.Growth.ExpandTotal += scene.Growth.ExpandStep;

@@ -63,8 +63,9 @@ void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool sma
   }
   for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
   for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
-  BuildFlareTables(saver, saver.Universe.Universe_HW_Start, saver.Universe.Universe_HW_End);
-  BuildHueWheels(saver);
+  BuildFlareTables(saver.Colours, saver.Profiles, saver.Universe.Universe_HW_Start,
+                   saver.Universe.Universe_HW_End);
+  BuildHueWheels(saver.Colours, saver.Profiles);
 }
 
 }  // namespace starfolds

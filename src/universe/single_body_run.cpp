@@ -5,6 +5,7 @@
 #include "bodies/comets.h"
 #include "bodies/seed_star.h"
 #include "bodies/star_step.h"
+#include "colour/prepare_run.h"
 #include "numbers/conversions.h"
 #include "universe/pacing.h"
 
@@ -13,14 +14,11 @@ namespace {
 
 constexpr Integer kNoTour = 32000;  // a tour step beyond all steps: comets always live
 
-void EnterSettings(Saver& saver, const SingleBodyPlan& plan) {
-  UniverseSettings& universe = saver.Universe;
+void EnterSettings(UniverseSettings& universe, const SingleBodyPlan& plan) {
   AssignRounded(universe.Universe_Stars, plan.Stars * static_cast<double>(plan.StarScale));
   universe.Universe_Stars = ClampTo<Integer>(universe.Universe_Stars, 1, kMostTrailPlaces);
   universe.Universe_Starfold = 1;
   universe.Universe_STrail = plan.Trail;
-  saver.RunUniverse = PrepareUniverse(universe);
-  saver.RunUniverse.RunNewShare = 0;
 }
 
 void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
@@ -42,9 +40,10 @@ void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
 }  // namespace
 
 void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan) {
-  EnterSettings(saver, plan);
+  EnterSettings(saver.Universe, plan);
+  PrepareRun(saver);
+  saver.RunUniverse.RunNewShare = 0;  // re-seeded stars stay in the one body anyway
   RunArrays arrays(saver.Universe, saver.RunUniverse.RunTrail, 1, 0);
-  PrepareProfiles(saver);
   const Integer entry =
       plan.IsComposite ? static_cast<Integer>(plan.Body + kFirstComposite) : plan.Body;
   const Integer visited = ResolveProfile(saver, entry);
@@ -56,14 +55,11 @@ void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan) {
   const FrameScene scene{saver, arrays,
                          plan.IsComposite ? RunKind::SingleComposite : RunKind::SingleProfile};
   SeedBody(scene, plan);
-  MarkHueCycling(saver);
-  BuildPulsarTables(saver);
-  BuildNewStarRamp(saver);
 
   const TourPlace place{.CometProf = visited, .SegIdx = kNoTour};
   Integer frames = 0;
   while (true) {
-    AdvanceAngles(saver);
+    AdvanceAngles(saver.Prepared);
     StarStep(scene, place);
     StepNebulaRibbons(saver, arrays.Slots, arrays.Folds.StarfoldProf);
     if (plan.FrameLimit && ++frames >= *plan.FrameLimit) return;

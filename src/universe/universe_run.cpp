@@ -4,6 +4,7 @@
 
 #include "bodies/comets.h"
 #include "bodies/star_step.h"
+#include "colour/prepare_run.h"
 #include "universe/ambient.h"
 #include "universe/creation.h"
 #include "universe/gravity.h"
@@ -75,7 +76,7 @@ bool TourFrame(UniverseTour& tour) {
   if (!saver.Universe.Universe_Tour) tour.Eye = Viewpoint(saver);
   StepGravityOfFrame(tour);
   PlaceStarfoldsToEye(run.Folds, tour.Eye);
-  AdvanceAngles(saver);
+  AdvanceAngles(saver.Prepared);
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
   StepNebulaRibbons(saver, run.Slots, run.Folds.StarfoldProf);
@@ -92,7 +93,7 @@ bool PullOutFrame(UniverseTour& tour) {
   Saver& saver = tour.Process();
   tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
   PlaceStarfoldsToEye(tour.Scene.Arrays.Folds, tour.Eye);
-  AdvanceAngles(saver);
+  AdvanceAngles(saver.Prepared);
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
   return !FramePace(saver);
@@ -185,16 +186,12 @@ void ClearAway(UniverseTour& tour) {
 
 void UniverseRun(Saver& saver) {
   ClampUniverse(saver.Universe);
-  saver.RunUniverse = PrepareUniverse(saver.Universe);
+  PrepareRun(saver);
   RunArrays run(saver.Universe, saver.RunUniverse.RunTrail, saver.Universe.Universe_Starfold,
                 saver.Universe.Universe_AmStar);
   UniverseTour tour{.Scene = {saver, run}};
-  PrepareProfiles(saver);
   tour.VisitCount = std::min(saver.Universe.Universe_Starfold, saver.Universe.Universe_Recycle);
   BuildAmbRamp(run.Ambient);
-  MarkHueCycling(saver);
-  BuildPulsarTables(saver);
-  BuildNewStarRamp(saver);
 
   while (Create(tour) && VisitAll(tour) && PullOut(tour)) ClearAway(tour);
 }

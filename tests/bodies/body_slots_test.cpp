@@ -20,7 +20,7 @@ class BodySlotsTest : public OneBody {
   }
 
   void Init(const std::vector<Integer>& assignment) {
-    PrepareProfiles(Process());
+    PrepareRun(Process());
     InitBodies(Process(), Slots, assignment);
   }
   void InitComposite(const std::vector<Integer>& members) {
@@ -59,7 +59,7 @@ TEST_F(BodySlotsTest, ARunBeginsWithClearSlotsAndAnglesAndCountsInRange) {
   const PreparedProfile& run = Process().Prepared[2];
   EXPECT_EQ(run.IfsVertexCount, 10);
   EXPECT_EQ(set.Starfold_CP_Points, 20);
-  AdvanceAngles(Process());
+  AdvanceAngles(Process().Prepared);
   Slots.Ifs[1].IfsStep = 3;
   Slots.Ribbon[1].RibbonMorph = 0.5F;
   Init({2, 2});

@@ -47,7 +47,7 @@ TEST_F(Quasar, ArmsTurnWithTheSweepOfTheBody) {
   for (const FoldStyle style : {FoldStyle::Quasar, FoldStyle::Graviton}) {
     Set().Starfold_FoldStyle = static_cast<Integer>(style);
     SetUpSlots();
-    for (int frame = 0; frame < 25; ++frame) AdvanceAngles(Process());
+    for (int frame = 0; frame < 25; ++frame) AdvanceAngles(Process().Prepared);
     const double sweep = 25 * 8 * 0.01;
     for (int i = 0; i < 50; ++i) {
       const SeedPoint star = Seed();

@@ -229,7 +229,7 @@ TEST_F(Ifs, AStarComesInWhereTheTurningBodyStands) {
     carried.StarSpinSin = early.SpinSin;
     Slots = before;
     for (int frame = 0; frame < 100; ++frame) {
-      AdvanceAngles(Process());
+      AdvanceAngles(Process().Prepared);
       RotateStar(carried);
     }
     Random().Seed(11);

@@ -41,7 +41,7 @@ class OneBody : public ::testing::Test {
 
   /// Prepares the profile and sets up `count` slots with it.
   void SetUpSlots(int count = 1) {
-    PrepareProfiles(Process());
+    PrepareRun(Process());
     InitBodiesAlike(Process(), Slots, count, 0);
   }
 

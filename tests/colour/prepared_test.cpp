@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "colour/saver.h"
+#include "colour/prepare_run.h"
 #include "settings/storage.h"
 
 namespace starfolds {
@@ -35,7 +35,7 @@ TEST_F(Prepared, UnitsAreConvertedOnce) {
   First().Starfold_Radius = 250;
   First().Starfold_Rotation = 2000;
   First().Starfold_RadSegs = 8;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   EXPECT_FLOAT_EQ(Run().RunRadius, 2.5F);
   EXPECT_FLOAT_EQ(Run().RunRadiusSq, 6.25F);
   EXPECT_FLOAT_EQ(Run().RunRadiusTenth, 0.025F);
@@ -51,7 +51,7 @@ TEST_F(Prepared, OnlyTheStandardStyleHasLevels) {
   First().Starfold_StdLevDRad = 200;
   Process->Profiles[1].Starfold_StdLevels = 4;
   Process->Profiles[1].Starfold_FoldStyle = 5;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   EXPECT_EQ(Run().RunLevels, 4);
   EXPECT_FLOAT_EQ(Run().RunMaxRadius, 9.0F) << "three steps of 2 beyond the radius of 3";
   EXPECT_EQ(Process->Prepared[1].RunLevels, 1);
@@ -63,7 +63,7 @@ TEST_F(Prepared, TiltStepsTaperAndAlternate) {
   First().Starfold_AngleTInc = 8;
   First().Starfold_StdLevB_A1 = 1;
   First().Starfold_StdLevB_A0 = 1;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   const double expected[] = {8, -6, 4, -2};
   for (int i = 0; i < 4; ++i) EXPECT_NEAR(Run().LevelTiltStep[i], expected[i] * kDegree, 1e-5) << i;
 }
@@ -72,7 +72,7 @@ TEST_F(Prepared, ATiltBeyondHalfATurnTapersBackward) {
   First().Starfold_StdLevels = 2;
   First().Starfold_AngleTInc = 352;
   First().Starfold_StdLevB_A1 = 1;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   EXPECT_NEAR(Run().LevelTiltStep[0], 352 * kDegree, 1e-5);
   EXPECT_NEAR(Run().LevelTiltStep[1], 356 * kDegree, 1e-5) << "half of eight degrees back";
 }
@@ -82,7 +82,7 @@ TEST_F(Prepared, ARandomFactorMultipliesOrDivides) {
   // Profile 0: size times 1 + 0.25 * 4, speed by 1 + 1/16 * 4.
   const std::array<Single, 4> draws{0.5F, 0.1F, 0.25F, 0.9F};
   Process->Random.Script(draws);
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   EXPECT_FLOAT_EQ(Run().RunRadius, 3.0F * 2);
   EXPECT_FLOAT_EQ(Run().RunDistance, 4.0F * 2);
   EXPECT_FLOAT_EQ(Run().RunSpin, 0.0005F / 1.25F);
@@ -99,7 +99,7 @@ TEST_F(Prepared, RecordsAreMeasuredFromTheirCentreInTenthsOfTheRadius) {
   First().IFS.Points[0].IFS_Scale = 33;
   First().IFS.Points[0].IFS_RelPct = 4;
   First().IFS.Points[1].IFS_RelPct = 2;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   EXPECT_FLOAT_EQ(Run().RunIfs[0].X, 10.0F) << "(15 - 5) tenths of 10";
   EXPECT_FLOAT_EQ(Run().RunIfs[1].X, -5.0F);
   EXPECT_FLOAT_EQ(Run().RunIfs[0].Scale, 0.33F);
@@ -111,10 +111,10 @@ TEST_F(Prepared, AnglesAdvanceAndComeRound) {
   First().Starfold_AngleTInc = 2;
   First().Starfold_HueStart = 359;
   First().Starfold_HWheelInc = 1.5F;
-  PrepareProfiles(*Process);
+  PrepareRun(*Process);
   ResetAngles(Run(), First());
   EXPECT_NEAR(Run().Star.LevelCos[0], std::cos(359 * kDegree), 1e-5);
-  AdvanceAngles(*Process);
+  AdvanceAngles(Process->Prepared);
   EXPECT_NEAR(Run().LevelTilt[0], 1 * kDegree, 1e-5);
   EXPECT_NEAR(Run().Star.LevelSin[0], std::sin(1 * kDegree), 1e-5);
   EXPECT_NEAR(Run().HueWheel, 0.5, 1e-4);

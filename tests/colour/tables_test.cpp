@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "colour/saver.h"
+#include "colour/prepare_run.h"
 
 namespace starfolds {
 namespace {
@@ -105,12 +105,16 @@ class FlareTables : public ::testing::Test {
   std::unique_ptr<Saver> Process = std::make_unique<Saver>();
   StarfoldProfile& First() { return Process->Profiles[0]; }
   ProfileColours& Colours() { return Process->Colours.Profile[0]; }
+  void Drift() { DriftCometHues(Process->Colours, Process->Prepared, Process->Profiles); }
+  StarTint Seed(const SeededStar& star) {
+    return SeedColor(First(), Process->Prepared[0], Colours(), star, Process->Random);
+  }
   int Level(int left) { return ChannelsOf(Colours().NewColors[left]).Red; }
 };
 
 TEST_F(FlareTables, ANewStarFlaresUpAndSinksToGrey) {
   First().Starfold_NewFrames = 40;
-  BuildNewStarRamp(*Process);
+  BuildNewStarRamp(Process->Colours, Process->Profiles);
   EXPECT_EQ(Level(30), 255) << "after the first quarter";
   EXPECT_EQ(Level(0), 80);
   for (int left = 31; left <= 40; ++left) EXPECT_LE(Level(left), Level(left - 1)) << left;
@@ -122,7 +126,7 @@ TEST_F(FlareTables, ANewStarFlaresUpAndSinksToGrey) {
 TEST_F(FlareTables, AShortNewStarHasOnlyTheFallingPart) {
   First().Starfold_NewFrames = 1;
   Process->Profiles[1].Starfold_NewFrames = 500;
-  BuildNewStarRamp(*Process);
+  BuildNewStarRamp(Process->Colours, Process->Profiles);
   EXPECT_EQ(Level(1), 255);
   EXPECT_EQ(Level(0), 80);
   EXPECT_EQ(Process->Profiles[1].Starfold_NewFrames, 99) << "clamped in the record";
@@ -132,7 +136,7 @@ TEST_F(FlareTables, APulsarBreathesBetweenItsExtents) {
   First().Starfold_PulsarFrames = 40;
   First().Starfold_PulsarMinExt = 100;
   First().Starfold_PulsarMaxExt = 900;
-  BuildPulsarTables(*Process);
+  BuildPulsarTables(Process->Colours, Process->Profiles);
   EXPECT_NEAR(Colours().PulsarExtents[0], 0.1, 1e-5);
   EXPECT_NEAR(Colours().PulsarExtents[20], 0.9, 1e-5);
   EXPECT_NEAR(Colours().PulsarExtents[10], 0.5, 1e-4);
@@ -145,13 +149,13 @@ TEST_F(FlareTables, CometHuesDriftOnlyWhereTheyAreTold) {
   First().Starfold_HWC_Inc = 0.5F;
   First().Starfold_HWC_Start = 20;
   First().Starfold_HWC_End = 60;
-  PrepareProfiles(*Process);
-  BuildFlareTables(*Process, 0, 0);
+  PrepareRun(*Process);
+  BuildFlareTables(Process->Colours, Process->Profiles, 0, 0);
   const FlareTable before = Colours().NovaRamp;
   const FlareTable other = Process->Colours.Profile[1].NovaRamp;
-  for (int frame = 0; frame < 2; ++frame) DriftCometHues(*Process);
+  for (int frame = 0; frame < 2; ++frame) Drift();
   EXPECT_EQ(Colours().NovaRamp, before) << "a sum of exactly 1 is not beyond it";
-  DriftCometHues(*Process);
+  Drift();
   FlareTable shifted{};
   BuildFlareTable(shifted, 21, 61);
   EXPECT_EQ(Colours().NovaRamp, shifted);
@@ -169,7 +173,7 @@ TEST_F(FlareTables, HuesCycleByStyleAndColourRule) {
     First().Starfold_FoldStyle = static_cast<Integer>(c.Style);
     First().Starfold_ColorComp = static_cast<Integer>(c.ColorComp);
     First().Starfold_CP_AdvHW = static_cast<Integer>(c.AdvHW);
-    MarkHueCycling(*Process);
+    PrepareRun(*Process);
     EXPECT_EQ(Process->Prepared[0].Star.HueCycleOn, c.Cycles) << c.Style << " " << c.ColorComp;
   }
 }
@@ -180,10 +184,10 @@ class SeedColorTest : public FlareTables {
   Single HueAt(Integer rule, double x, Single rv = 0, Single span = 0, int offset = 0) {
     First().Starfold_ColorComp = rule;
     First().Starfold_ColorMult = 1800;
-    PrepareProfiles(*Process);
-    BuildHueWheels(*Process);
+    PrepareRun(*Process);
+    BuildHueWheels(Process->Colours, Process->Profiles);
     Process->Prepared[0].HueWheel = 240;
-    return SeedColor(*Process, 0, {x, 0, 0, rv, span, offset, {7, 99}}).StarHue;
+    return Seed({x, 0, 0, rv, span, offset, {7, 99}}).StarHue;
   }
 };
 
@@ -206,7 +210,7 @@ TEST_F(SeedColorTest, ABodyOfRadiusZeroKeepsTheFormerHue) {
 
 TEST_F(SeedColorTest, BlackStarsKeepTheirHue) {
   EXPECT_EQ(HueAt(4, 1), 7);
-  EXPECT_EQ(SeedColor(*Process, 0, {.X = 1, .Former = {7, 99}}).StarColor, 0U);
+  EXPECT_EQ(Seed({.X = 1, .Former = {7, 99}}).StarColor, 0U);
 }
 
 TEST_F(SeedColorTest, MoleculesAddTheHueOfTheElement) {

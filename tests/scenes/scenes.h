@@ -8,7 +8,7 @@
 
 #include "bodies/seed_star.h"
 #include "bodies/star_step.h"
-#include "colour/saver.h"
+#include "colour/prepare_run.h"
 #include "settings/storage.h"
 #include "universe/host_surface.h"
 
@@ -73,9 +73,8 @@ class BodyStage : public Stage {
     Settings().Universe.Universe_STrail = trail;
     if (change) change(Settings());
     Read();
-    PrepareProfiles(*Process);
     Process->Universe.Universe_Starfold = 1;
-    Process->RunUniverse = PrepareUniverse(Process->Universe);
+    PrepareRun(*Process);
     Run = std::make_unique<RunArrays>(Process->Universe, Process->RunUniverse.RunTrail, Integer{1},
                                       Integer{0});
     Run->Folds.StarfoldRel[0] = {0, 0, Process->Prepared[0].RunDistance};
@@ -83,15 +82,12 @@ class BodyStage : public Stage {
     for (std::size_t i = 0; i < Run->Stars.Star.size(); ++i) {
       SeedStar(*Process, Run->Stars, Run->Slots, i);
     }
-    MarkHueCycling(*Process);
-    BuildPulsarTables(*Process);
-    BuildNewStarRamp(*Process);
   }
 
   FrameScene Frame() { return {*Process, *Run, RunKind::SingleProfile}; }
 
   void Step() {
-    AdvanceAngles(*Process);
+    AdvanceAngles(Process->Prepared);
     StarStep(Frame(), {0, 0, 32000, 0, false});
   }
 

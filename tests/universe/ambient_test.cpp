@@ -18,8 +18,8 @@ class Ambient : public ::testing::Test {
     Stage.Read();
     universe.Universe_AmStar = stars;
     universe.Universe_AmFrames = frames;
+    PrepareRun(*Stage.Process);
     Stage.Process->RunUniverse = {.RunExpand = 2.5F, .RunAmMaxExt = 10};
-    PrepareProfiles(*Stage.Process);
     for (int p = 0; p < kProfileCount; ++p) {
       ResetAngles(Stage.Process->Prepared[p], Stage.Process->Profiles[p]);
     }

@@ -28,13 +28,10 @@ class Creation : public ::testing::Test {
   void Create() {
     Stage.Read();
     Saver& saver = *Stage.Process;
-    saver.RunUniverse = PrepareUniverse(saver.Universe);
+    PrepareRun(saver);
     Run = std::make_unique<RunArrays>(saver.Universe, saver.RunUniverse.RunTrail,
                                       saver.Universe.Universe_Starfold,
                                       saver.Universe.Universe_AmStar);
-    PrepareProfiles(saver);
-    BuildPulsarTables(saver);
-    BuildNewStarRamp(saver);
     Scene = std::make_unique<UniverseScene>(UniverseScene{saver, *Run});
     Scene->TourProfile = 0;
     Scene->Growth = {saver.RunUniverse.RunExpand, 0};
