@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
-# Renders the pictures of the documents into docs/pictures/.
-# Usage: docs/pictures.sh PROGRAM   (the path of starfolds-render)
+# Renders the pictures of the documents into docs/pictures/, and the same frames for a dense screen
+# into FOLDER.
+# Usage: docs/pictures.sh PROGRAM FOLDER   (PROGRAM is the path of starfolds-render)
 set -euo pipefail
 program=$(realpath "$1")
+mkdir -p "$2"
+dense=$(realpath "$2")
 cd "$(dirname "${BASH_SOURCE[0]}")/pictures"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -21,7 +24,7 @@ picture() {
   local name=$1 frame=$2
   shift 2
   one "$name-1280x720.png" "$frame" "$@" --size 1280x720
-  one "$name-3840x2160.png" "$frame" "$@" --size 1920x1080 --scale 2
+  one "$dense/$name-3840x2160.png" "$frame" "$@" --size 1920x1080 --scale 2
 }
 
 # One universe with the default settings.

@@ -130,7 +130,7 @@ export XDG_RUNTIME_DIR
 # expect_one PROCESS...: waits until all the others have gone, and sets `one`.
 expect_one() {
   local tries process
-  for tries in $(seq 1 200); do
+  for _ in $(seq 1 200); do
     one=
     for process in "$@"; do
       case $(ps -o stat= -p "$process") in
@@ -147,7 +147,7 @@ expect_one() {
   fi
 }
 savers=
-for i in 1 2 3 4 5 6; do
+for _ in 1 2 3 4 5 6; do
   "$program" --saver &
   savers="$savers $!"
 done

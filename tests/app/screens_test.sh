@@ -25,7 +25,7 @@ expect_no_companion() {
   local what=$1 process tries
   shift
   for process in "$@"; do
-    for tries in $(seq 1 100); do
+    for _ in $(seq 1 100); do
       has_ended "$process" && break
       sleep 0.02
     done

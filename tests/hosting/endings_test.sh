@@ -9,7 +9,7 @@ host=$1
 place=400
 moves() {
   local i
-  for i in $(seq "$1"); do
+  for _ in $(seq "$1"); do
     place=$((place + 10))
     xdotool mousemove "$place" 300
     sleep 0.03
