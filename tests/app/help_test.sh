@@ -6,7 +6,7 @@ program=$1
 
 # wait_for_window TITLE-PATTERN: prints its number.
 wait_for_window() {
-  local tries found
+  local found
   for _ in $(seq 1 100); do
     found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1)
     [ -n "$found" ] && echo "$found" && return
@@ -17,7 +17,6 @@ wait_for_window() {
 
 # expect_title WINDOW TITLE WHAT
 expect_title() {
-  local tries
   for _ in $(seq 1 50); do
     [ "$(xdotool getwindowname "$1" 2>/dev/null)" = "$2" ] && return
     sleep 0.1

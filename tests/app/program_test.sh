@@ -129,7 +129,7 @@ XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_RUNTIME_DIR
 # expect_one PROCESS...: waits until all the others have gone, and sets `one`.
 expect_one() {
-  local tries process
+  local process
   for _ in $(seq 1 200); do
     one=
     for process in "$@"; do

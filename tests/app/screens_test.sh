@@ -22,7 +22,7 @@ wait_for_both() {
 
 # expect_no_companion WHAT PROCESS...: within two seconds none of these is left.
 expect_no_companion() {
-  local what=$1 process tries
+  local what=$1 process
   shift
   for process in "$@"; do
     for _ in $(seq 1 100); do

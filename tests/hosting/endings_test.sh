@@ -8,7 +8,6 @@ host=$1
 # Moves the pointer NUMBER times, to another place each time.
 place=400
 moves() {
-  local i
   for _ in $(seq "$1"); do
     place=$((place + 10))
     xdotool mousemove "$place" 300
