@@ -230,18 +230,17 @@ void FrmFileIo::SetFileTypes(const QString& fileTypes) {
 /// Where the user was last; the first time at the templates that came with the program. Who saves
 /// begins at home instead of there: these files are the program's.
 void FrmFileIo::EnterFirstFolder() {
-  const auto stored = [this](const char* key) {
-    return Shown(RegistryReadText(around_.Tree, sections::kTemplate, key));
-  };
-  const auto enter = [this](const QString& folder) {
-    return (open_ || folder != templates_) && EnterFolder(folder);
+  TreeBulk look = TreeBulk::Look(around_.Tree);
+  const QString drive = Shown(RegistryReadText(around_.Tree, sections::kTemplate, kDriveKey));
+  const QString folder = Shown(RegistryReadText(around_.Tree, sections::kTemplate, kFolderKey));
+  look.Commit();
+  const auto enter = [this](const QString& place) {
+    return (open_ || place != templates_) && EnterFolder(place);
   };
   if (!enter(templates_) && !EnterFolder(roots_.front().Path)) EnterFolder(QDir::rootPath());
-  const QString drive = stored(kDriveKey);
   for (const FolderRoot& root : roots_) {
     if (root.Path == drive) enter(drive);
   }
-  const QString folder = stored(kFolderKey);
   if (QDir::isAbsolutePath(folder)) enter(QDir::cleanPath(folder));
 }
 

@@ -19,7 +19,6 @@
 #include "hosting/web_page.h"
 #include "hosting/wheel_guard.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
 
 namespace starfolds {
 namespace {
@@ -61,16 +60,12 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
   setWindowTitle(kPropertiesCaption);
   // The application's window waits behind it, the help does not.
   setWindowModality(Qt::WindowModal);
-  LoadAllProfiles(*editing_->Tree, editing_->Profiles, RootSelector::CurrentUser);
-  LoadAllComposites(*editing_->Tree, editing_->Composites, RootSelector::CurrentUser);
   MakeCentre();
   MakeMenus();
   auto* helpHere = new QShortcut(QKeySequence::HelpContents, this);
   helpHere->setObjectName("helpHere");
   connect(helpHere, &QShortcut::activated, this,
           [this] { around_.HelpBook.ShowTopic(TopicHere()); });
-  universe_->RebuildProfileList();
-  universe_->Composites().Rebuild();
 }
 
 FrmProps::~FrmProps() = default;
@@ -89,8 +84,10 @@ void FrmProps::Open() {
   resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
   winId();  // a window that can have an owner before it is shown
   windowHandle()->setTransientParent(around_.Owner);
+  // Read before anything is asked: a safety copy takes what stands in the dialog.
+  const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
   ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
-  OpenProperties(settings_, *this);
+  OpenProperties(settings_, *this, stored);
 }
 
 /// A preview that is on ends first: its run stands on the stack above the dialog.
@@ -149,10 +146,9 @@ void FrmProps::MarkResetMenu(int menuIndex, bool marked) {
 
 ProgressPicture* FrmProps::Preview() { return picPreview_; }
 
-bool FrmProps::ShowWelcomeDialog() {
+bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
   return RunWelcome(
-      this, MakeWelcomePage(*editing_->Tree),
-      [this](ProgressPicture* picture) { SaveSafetyCopy(settings_, *this, picture); },
+      this, page, [this](ProgressPicture* picture) { SaveSafetyCopy(settings_, *this, picture); },
       around_.HelpBook);
 }
 

@@ -74,7 +74,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void SelectUniverseExtras(int position) override;
   void MarkResetMenu(int menuIndex, bool marked) override;
   ProgressPicture* Preview() override;
-  bool ShowWelcomeDialog() override;
+  bool ShowWelcomeDialog(const WelcomePage& page) override;
 
   // What the editors of a body ask of it.
   UniverseSettings UniverseOnDialog() const override { return universe_->Settings(); }

@@ -1,5 +1,7 @@
 #include "settings/property_flows.h"
 
+#include <memory>
+
 #include "numbers/text.h"
 #include "settings/first_run.h"
 #include "settings/product.h"
@@ -107,59 +109,18 @@ std::string ProductAndVersion() {
   return std::string(kProductName) + " " + std::string(kProductVersion);
 }
 
-/// Whether what the tree lacks is really missing there.
-bool CanBeRead(KeyValueTree& tree) {
-  TreeBulk look = TreeBulk::Look(tree);
-  HasMark(tree, kAnimationType);
-  return look.Commit();
-}
-
-/// A tree that is locked or cannot be read is not an empty one: taken for that, it would be
-/// overwritten with the factory's settings.
-void OpenWithoutSettings(PropertySettings& settings, PropertiesDialog& dialog) {
-  Warn(settings,
-       "The stored settings cannot be read.\n\n"
-       "The Properties show the defaults.  Accepting them replaces the stored settings.");
-  ShowUniverse(dialog, UniverseSettings());
+void ShowRecords(PropertySettings& settings, PropertiesDialog& dialog,
+                 const SettingsRecords& records) {
+  settings.Profiles = records.Profiles;
+  settings.Composites = records.Composites;
+  // The universe's profile is a position in the list of bodies, so the lists are filled first.
+  dialog.RebuildProfileList();
   dialog.RebuildCompositeLists();
+  ShowUniverse(dialog, records.Universe);
 }
 
-}  // namespace
-
-void DrawProgress(ProgressPicture* picture, int step, int total) {
-  if (picture) picture->FillFromLeft(picture->ScaleWidth() * step / total, kProgressColour);
-}
-
-WelcomePage MakeWelcomePage(KeyValueTree& tree) {
-  const std::string caption = "Welcome to " + ProductAndVersion() + ".";
-  if (HasMark(tree, kAnimationType)) return {caption, std::string(kUpgradeText), true, "Close"};
-  return {caption,
-          "Thank you for installing " + ProductAndVersion() + ".   " + std::string(kNewUserText),
-          false, "OK"};
-}
-
-void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog) {
-  if (!CanBeRead(settings.Tree)) return OpenWithoutSettings(settings, dialog);
-  if (!HasMark(settings.Tree, kResetSettings)) return ShowWelcome(settings, dialog);
-  if (!HasMark(settings.Tree, kAnimationType)) {
-    FactoryReset(settings, dialog, FactorySet::Starfolds4x);
-    SaveDialogToRegistry(settings, dialog);
-  }
-  LoadDialogFromRegistry(settings, dialog);
-}
-
-void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog) {
-  RegistryWrite(settings.Tree, sections::kGeneral, kResetSettings, Long{1});
-  const bool resetRequested = dialog.ShowWelcomeDialog();
-  if (!resetRequested && HasMark(settings.Tree, kAnimationType)) {
-    LoadDialogFromRegistry(settings, dialog);
-  } else {
-    FactoryReset(settings, dialog, FactorySet::Starfolds4x);
-  }
-}
-
-void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set) {
-  WriteAdvancedDefaults(settings.Tree);
+/// As `FactoryReset`, and leaves the tree alone.
+void ShowFactorySettings(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set) {
   LoadFactoryComposites(settings.Composites, set);
   dialog.ClearProfileList();
   for (int row = 0; row < kProfileCount; ++row) {
@@ -173,12 +134,63 @@ void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactoryS
   dialog.SelectUniverseExtras(0);
 }
 
-void LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
-  TreeBulk look = TreeBulk::Look(settings.Tree);
-  ShowUniverse(dialog, LoadUniverseFromRegistry(settings.Tree));
-  LoadAllComposites(settings.Tree, settings.Composites, RootSelector::CurrentUser);
-  look.Commit();
-  dialog.RebuildCompositeLists();
+}  // namespace
+
+void DrawProgress(ProgressPicture* picture, int step, int total) {
+  if (picture) picture->FillFromLeft(picture->ScaleWidth() * step / total, kProgressColour);
+}
+
+WelcomePage MakeWelcomePage(bool isUpgrade) {
+  const std::string caption = "Welcome to " + ProductAndVersion() + ".";
+  if (isUpgrade) return {caption, std::string(kUpgradeText), true, "Close"};
+  return {caption,
+          "Thank you for installing " + ProductAndVersion() + ".   " + std::string(kNewUserText),
+          false, "OK"};
+}
+
+StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
+  KeyValueTree& tree = settings.Tree;
+  TreeBulk look = TreeBulk::Look(tree);
+  StoredProperties stored{.Complete = HasMark(tree, kAnimationType),
+                          .WelcomeOffered = HasMark(tree, kResetSettings)};
+  const auto records = std::make_unique<SettingsRecords>(LoadSettings(tree));
+  stored.Readable = look.Commit();
+  if (stored.Readable) {
+    ShowRecords(settings, dialog, *records);
+  } else {
+    ShowFactorySettings(settings, dialog, FactorySet::Starfolds4x);
+  }
+  return stored;
+}
+
+/// A tree that cannot be read is not an empty one: taken for that, it would be overwritten with the
+/// factory's settings.
+void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
+                    const StoredProperties& stored) {
+  if (!stored.Readable) {
+    return Warn(settings,
+                "The stored settings cannot be read.\n\n"
+                "The Properties show the Factory Settings.  "
+                "Accepting them replaces the stored settings.");
+  }
+  if (!stored.WelcomeOffered) return ShowWelcome(settings, dialog, stored);
+  if (stored.Complete) return;
+  FactoryReset(settings, dialog, FactorySet::Starfolds4x);
+  SaveDialogToRegistry(settings, dialog);
+}
+
+void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog,
+                 const StoredProperties& stored) {
+  RegistryWrite(settings.Tree, sections::kGeneral, kResetSettings, Long{1});
+  const bool resetRequested = dialog.ShowWelcomeDialog(MakeWelcomePage(stored.Complete));
+  if (resetRequested || !stored.Complete) {
+    FactoryReset(settings, dialog, FactorySet::Starfolds4x);
+  }
+}
+
+void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set) {
+  WriteAdvancedDefaults(settings.Tree);
+  ShowFactorySettings(settings, dialog, set);
 }
 
 bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog) {

@@ -40,6 +40,14 @@ class ProgressPicture {
 /// A bar of `step` / `total` of the picture, if there is one.
 void DrawProgress(ProgressPicture* picture, int step, int total);
 
+/// What `frmWelcome` says.
+struct WelcomePage {
+  std::string Caption;
+  std::string Text;
+  bool OffersReset = false;  // cmdReset
+  std::string Dismiss;       // cmdDismiss
+};
+
 /// What the flows ask of `frmProps`.
 class PropertiesDialog {
  public:
@@ -69,30 +77,35 @@ class PropertiesDialog {
 
   /// Shows `frmWelcome` and waits until it is dismissed. True: its reset was asked for, and
   /// `SaveSafetyCopy` was called from it.
-  virtual bool ShowWelcomeDialog() = 0;
+  virtual bool ShowWelcomeDialog(const WelcomePage& page) = 0;
 };
 
-/// What `frmWelcome` says, by whether there are settings already.
-struct WelcomePage {
-  std::string Caption;
-  std::string Text;
-  bool OffersReset = false;  // cmdReset
-  std::string Dismiss;       // cmdDismiss
-};
-WelcomePage MakeWelcomePage(KeyValueTree& tree);
+/// For somebody who has settings of an earlier version, or for a new user.
+WelcomePage MakeWelcomePage(bool isUpgrade);
 
-/// The end of `frmProps`'s load, when its lists are filled.
-void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog);
+/// What the stored tree held when the dialog read it.
+struct StoredProperties {
+  bool Readable = false;        // if not, nothing is known of the others
+  bool Complete = false;        // has the mark `kAnimationType`
+  bool WelcomeOffered = false;  // has the mark `kResetSettings`
+};
+
+/// Reads the universe, the profiles and the composites from one state of the tree, and shows them
+/// in the dialog. A tree that is damaged, locked or forbidden leaves the factory's settings there.
+StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog);
+
+/// The end of `frmProps`'s load, when it shows what `LoadDialogFromRegistry` has found: says what
+/// has to be said, and resets a tree that is not complete.
+void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
+                    const StoredProperties& stored);
 
 /// Marks that the welcome was offered, shows it and does what the user decides.
-void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog);
+void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog,
+                 const StoredProperties& stored);
 
 /// Puts the factory's settings into the dialog and the records. The tree gets the advanced values
 /// only; the rest when the dialog is accepted.
 void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set);
-
-/// Puts the universe values and the composites from the tree into the dialog and the records.
-void LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog);
 
 /// Stores what the dialog and the records hold: all of it, or nothing. Where it cannot be stored
 /// the user is told so, and the result is false.

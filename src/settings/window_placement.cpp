@@ -40,11 +40,13 @@ void SaveWindowPlacement(const PlacedWindow& window, KeyValueTree& tree, std::st
 }
 
 void RestoreWindowPlacement(PlacedWindow& window, KeyValueTree& tree, std::string_view section) {
+  TreeBulk look = TreeBulk::Look(tree);
   const Integer stored = RegistryReadInteger(tree, section, "WindowState", -1);
+  const std::string size(Trimmed(RegistryReadText(tree, section, "WindowSize")));
+  look.Commit();
   if (stored == -1) return window.CentreOnScreen();
   const WindowState state = stored == 2 ? WindowState::Maximised : WindowState::Normal;
   window.ApplyState(state);
-  const std::string size(Trimmed(RegistryReadText(tree, section, "WindowSize")));
   if (size.empty() || state != WindowState::Normal) return;
   const WindowBounds bounds{FiveDigitsAt(size, 0), FiveDigitsAt(size, 1), FiveDigitsAt(size, 2),
                             FiveDigitsAt(size, 3)};

@@ -400,6 +400,16 @@ TEST_F(FrmPropsTest, AReadOnlyTreeIsToldAndTheDialogCloses) {
   EXPECT_FALSE(Dialog->IsOpen());
 }
 
+TEST_F(FrmPropsTest, ATreeThatCannotBeReadShowsTheFactorySettings) {
+  Store(RandomRecords(96).Make());
+  Tree.Readable = false;
+  Open();
+  EXPECT_TRUE(LastBox().starts_with("The stored settings cannot be read."));
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  EXPECT_EQ(The<QListWidget>("lstCompStarfold").count(), kCompositeCount);
+}
+
 TEST_F(FrmPropsTest, ExitEndsTheProcess) {
   StoreFactory();
   Open();
@@ -431,7 +441,12 @@ TEST_F(FrmPropsTest, WelcomesAnUpgradeWithASafetyCopy) {
   RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
   AnswerWelcome("cmdReset");
   Open();
-  EXPECT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
+  SettingsRecords saved;
+  TemplateFile file(Disk);
+  ASSERT_EQ(ReadTemplate(file, "/prog/propsave.sfd", saved), std::nullopt);
+  EXPECT_EQ(saved.Universe.Universe_GSteps, mine.Universe.Universe_GSteps);
+  EXPECT_EQ(saved.Universe.Universe_Profile, mine.Universe.Universe_Profile);
+  EXPECT_EQ(saved.Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName);
   EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
   EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName)
       << "until the dialog is accepted";

@@ -8,19 +8,14 @@
 #include <string>
 
 #include "editors/widgets.h"
-#include "settings/first_run.h"
-#include "settings/registry.h"
 
 namespace starfolds {
 namespace {
 
 class FrmWelcomeTest : public testing::Test {
  protected:
-  WelcomePage NewUser() { return MakeWelcomePage(tree_); }
-  WelcomePage Upgrade() {
-    RegistryWrite(tree_, sections::kGeneral, kAnimationType, Long{0});
-    return MakeWelcomePage(tree_);
-  }
+  static WelcomePage NewUser() { return MakeWelcomePage(false); }
+  static WelcomePage Upgrade() { return MakeWelcomePage(true); }
 
   static QPushButton& Button(FrmWelcome& dialog, const char* name) {
     return Part<QPushButton>(dialog, name);
@@ -46,9 +41,6 @@ class FrmWelcomeTest : public testing::Test {
   int Copies = 0;
   std::function<void(ProgressPicture&)> OnCopy;
   MemoryHelp HelpBook;
-
- private:
-  MemoryTree tree_;
 };
 
 TEST_F(FrmWelcomeTest, GreetsANewUserWithTheWholeText) {

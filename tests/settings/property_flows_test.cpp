@@ -33,7 +33,7 @@ class StubDialog : public PropertiesDialog {
   int Entries = 0;
   StubPicture Picture;
   std::function<bool()> OnWelcome = [] { return false; };
-  int Welcomes = 0;
+  std::vector<WelcomePage> Welcomes;
 
   std::string UniverseText(const Field<UniverseSettings>& field) const override {
     const auto found = Texts.find(field.Name);
@@ -58,8 +58,8 @@ class StubDialog : public PropertiesDialog {
     Log += "M" + std::to_string(menuIndex) + (marked ? "+" : "-");
   }
   ProgressPicture* Preview() override { return &Picture; }
-  bool ShowWelcomeDialog() override {
-    ++Welcomes;
+  bool ShowWelcomeDialog(const WelcomePage& page) override {
+    Welcomes.push_back(page);
     return OnWelcome();
   }
 };
@@ -69,6 +69,12 @@ class PropertyFlows : public testing::Test {
   void StoreComplete(SettingsRecords& records) {
     SaveSettings(Tree, records);
     RegistryWrite(Tree, "General", kAnimationType, Long{0});
+  }
+
+  void Open() {
+    const StoredProperties stored = LoadDialogFromRegistry(Settings, Dialog);
+    Dialog.Log.clear();
+    OpenProperties(Settings, Dialog, stored);
   }
 
   MemoryTree Tree;
@@ -84,25 +90,24 @@ class PropertyFlows : public testing::Test {
 constexpr char kResetLog[] = "P0T0T1E0";
 
 TEST_F(PropertyFlows, ANewUserIsWelcomedAndGetsTheFactorySettings) {
-  OpenProperties(Settings, Dialog);
-  EXPECT_EQ(Dialog.Welcomes, 1);
+  Open();
+  ASSERT_EQ(Dialog.Welcomes.size(), 1U);
   EXPECT_EQ(Dialog.Log, kResetLog);
   EXPECT_EQ(Dialog.Entries, 50);
   EXPECT_EQ(Edited.Profiles[0].UniFoldName, FactoryProfileName(0, FactorySet::Starfolds4x));
   EXPECT_TRUE(HasMark(Tree, kResetSettings));
   EXPECT_FALSE(HasMark(Tree, kAnimationType)) << "nothing is accepted yet";
   EXPECT_EQ(RegistryReadText(Tree, "Advanced", "FocalLength"), "1.0");
-  const WelcomePage page = MakeWelcomePage(Tree);
+  const WelcomePage& page = Dialog.Welcomes[0];
   EXPECT_EQ(page.Caption, "Welcome to Starfolds 4.1a.");
   EXPECT_TRUE(page.Text.starts_with("Thank you for installing Starfolds 4.1a.   You can use this"));
   EXPECT_FALSE(page.OffersReset);
   EXPECT_EQ(page.Dismiss, "OK");
 
   // Cancelled, and opened again: the reset is stored at once.
-  Dialog.Log.clear();
-  OpenProperties(Settings, Dialog);
-  EXPECT_EQ(Dialog.Welcomes, 1);
-  EXPECT_EQ(Dialog.Log, std::string(kResetLog) + "c");
+  Open();
+  EXPECT_EQ(Dialog.Welcomes.size(), 1U);
+  EXPECT_EQ(Dialog.Log, kResetLog);
   EXPECT_TRUE(HasMark(Tree, kAnimationType));
   EXPECT_EQ(LoadSettings(Tree).Profiles[3].UniFoldName, Edited.Profiles[3].UniFoldName);
 }
@@ -110,41 +115,41 @@ TEST_F(PropertyFlows, ANewUserIsWelcomedAndGetsTheFactorySettings) {
 TEST_F(PropertyFlows, AnUpgradeOffersAResetWithASafetyCopy) {
   SettingsRecords mine = RandomRecords(21).Make();
   StoreComplete(mine);
-  EXPECT_TRUE(MakeWelcomePage(Tree).OffersReset);
-  EXPECT_EQ(MakeWelcomePage(Tree).Dismiss, "Close");
   const MemoryTree before = Tree;
 
-  OpenProperties(Settings, Dialog);  // dismissed
-  EXPECT_EQ(Dialog.Log, "c");
+  Open();  // dismissed
+  ASSERT_EQ(Dialog.Welcomes.size(), 1U);
+  EXPECT_TRUE(Dialog.Welcomes[0].OffersReset);
+  EXPECT_EQ(Dialog.Welcomes[0].Dismiss, "Close");
+  EXPECT_EQ(Dialog.Log, "");
   EXPECT_EQ(Dialog.Texts["Universe_Stars"], NumberText(Long{mine.Universe.Universe_Stars}));
   EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
 
-  MemoryTree again = before;
-  PropertySettings settings{again, Edited.Profiles, Edited.Composites, Template,
-                            Disk,  Boxes,           "/prog",           "/home/u"};
-  LoadAllProfiles(again, Edited.Profiles, RootSelector::CurrentUser);
-  StubDialog dialog;
+  Tree = before;
+  Dialog.Texts.clear();
   StubPicture status;
-  dialog.OnWelcome = [&] {
-    SaveSafetyCopy(settings, dialog, &status);
+  Dialog.OnWelcome = [&] {
+    SaveSafetyCopy(Settings, Dialog, &status);
     return true;
   };
-  OpenProperties(settings, dialog);
-  EXPECT_EQ(dialog.Log, kResetLog);
+  Open();
+  EXPECT_EQ(Dialog.Log, kResetLog);
   EXPECT_EQ(status.Widths.size(), 66U);
   EXPECT_EQ(status.Widths.front(), 2);
   EXPECT_EQ(status.Widths.back(), 132);
-  ASSERT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
-  EXPECT_NE(Disk.Contents["/prog/propsave.sfd"].find(mine.Profiles[1].UniFoldName),
-            std::string::npos);
+  SettingsRecords saved;
+  ASSERT_EQ(ReadTemplate(Template, "/prog/propsave.sfd", saved), std::nullopt);
+  saved.Advanced.Adv_DispBackG = mine.Advanced.Adv_DispBackG;
+  saved.Advanced.Adv_PerfMult = mine.Advanced.Adv_PerfMult;
+  saved.Advanced.Adv_EffectFPC = mine.Advanced.Adv_EffectFPC;
+  EXPECT_EQ(Contents(saved), Contents(mine));
 }
 
 TEST_F(PropertyFlows, AcceptStoresAllAndOpenShowsIt) {
   SettingsRecords mine = RandomRecords(31).Make();
   StoreComplete(mine);
   RegistryWrite(Tree, "General", kResetSettings, Long{1});
-  OpenProperties(Settings, Dialog);
-  LoadAllProfiles(Tree, Edited.Profiles, RootSelector::CurrentUser);
+  Open();
   Dialog.Texts["Universe_Stars"] = "1 2 3 4 stars";
   Dialog.Texts["Universe_GS_Idx"] = "  5 6 ";
   Dialog.Texts["Universe_Expand"] = "none";
@@ -174,15 +179,44 @@ TEST_F(PropertyFlows, AcceptThatFailsKeepsWhatWasStoredAndSaysSo) {
   EXPECT_TRUE(Boxes.Log[1].Text.starts_with("The Registry is read-only."));
 }
 
-TEST_F(PropertyFlows, AnUnreadableTreeIsNotResetAtOpening) {
+TEST_F(PropertyFlows, AnUnreadableTreeShowsTheFactorySettingsAndStays) {
   SettingsRecords mine = RandomRecords(51).Make();
   StoreComplete(mine);
   const MemoryTree before = Tree;
   Tree.Readable = false;
-  OpenProperties(Settings, Dialog);
+  Open();
   EXPECT_EQ(Tree, before);
-  EXPECT_EQ(Dialog.Welcomes, 0);
-  EXPECT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_TRUE(Dialog.Welcomes.empty());
+  ASSERT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_NE(Boxes.Log[0].Text.find("show the Factory Settings"), std::string::npos);
+  EXPECT_EQ(Dialog.Texts["Universe_Stars"], "5000");
+  SettingsRecords factory;
+  LoadFactorySet(factory, FactorySet::Starfolds4x);
+  SettingsRecords shown;
+  shown.Profiles = Edited.Profiles;
+  shown.Composites = Edited.Composites;
+  EXPECT_EQ(Contents(shown), Contents(factory));
+}
+
+TEST_F(PropertyFlows, AReadThatFailsHalfwayShowsNothingOfTheTree) {
+  class HalfReadable : public MemoryTree {
+   public:
+    int ReadsUntilFault = -1;
+    std::optional<std::string> Read(Hive hive, std::string_view path,
+                                    std::string_view name) override {
+      if (ReadsUntilFault >= 0) Readable = ReadsUntilFault-- > 0;
+      return MemoryTree::Read(hive, path, name);
+    }
+  } tree;
+  SettingsRecords mine = RandomRecords(52).Make();
+  SaveSettings(tree, mine);
+  RegistryWrite(tree, "General", kAnimationType, Long{0});
+  tree.ReadsUntilFault = 2000;
+  PropertySettings settings{tree, Edited.Profiles, Edited.Composites, Template,
+                            Disk, Boxes,           "/prog",           "/home/u"};
+  EXPECT_FALSE(LoadDialogFromRegistry(settings, Dialog).Readable);
+  EXPECT_EQ(Edited.Profiles[2].UniFoldName, FactoryProfileName(2, FactorySet::Starfolds4x));
+  EXPECT_EQ(Edited.Profiles[49].UniFoldName, FactoryProfileName(49, FactorySet::Starfolds4x));
 }
 
 TEST_F(PropertyFlows, TheResetMenuAsksAndGoesByTheAnswer) {
