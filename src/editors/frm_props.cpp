@@ -321,7 +321,14 @@ void FrmProps::OpenStarfoldView(bool open) {
 void FrmProps::Accept() {
   if (inStarfoldView_) return OpenStarfoldView(false);
   universe_->ClampTextFields();  // the button's key leaves no box
-  SaveDialogToRegistry(settings_, *this);
+  while (!SaveDialogToRegistry(settings_, *this)) {
+    switch (AskAfterFailedSave(settings_)) {
+      case BoxAnswer::TryAgain: continue;
+      case BoxAnswer::SaveAsTemplate: return templates_.SaveAs();
+      case BoxAnswer::CloseWithoutSaving: close(); return;
+      default: return;
+    }
+  }
   close();
 }
 

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
+#include <vector>
 
 #include "editors/props_model.h"
 
@@ -15,18 +17,45 @@ QMessageBox::Icon IconOf(BoxStyle style) {
     case BoxStyle::Plain: break;
     case BoxStyle::YesNoCancelQuestion: return QMessageBox::Question;
     case BoxStyle::Information: return QMessageBox::Information;
-    case BoxStyle::Exclamation: return QMessageBox::Warning;
+    case BoxStyle::Exclamation:
+    case BoxStyle::SaveFailed: return QMessageBox::Warning;
   }
   return QMessageBox::NoIcon;
 }
 
-bool Asks(BoxStyle style) { return style == BoxStyle::YesNoCancelQuestion; }
+/// A button and its answer. The first one of a box has the focus.
+struct BoxButton {
+  QMessageBox::StandardButton Button;
+  BoxAnswer Answer;
+  const char* Text = nullptr;  // in place of the toolkit's
+};
 
-void AddButtons(QMessageBox& box, BoxStyle style) {
-  box.setStandardButtons(Asks(style) ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
-                                     : QMessageBox::StandardButtons(QMessageBox::Ok));
-  box.setDefaultButton(Asks(style) ? QMessageBox::Yes : QMessageBox::Ok);
-  box.setEscapeButton(Asks(style) ? QMessageBox::Cancel : QMessageBox::Ok);
+std::vector<BoxButton> ButtonsOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::YesNoCancelQuestion:
+      return {{QMessageBox::Yes, BoxAnswer::Yes},
+              {QMessageBox::No, BoxAnswer::No},
+              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+    case BoxStyle::SaveFailed:
+      return {{QMessageBox::Retry, BoxAnswer::TryAgain, "&Try Again"},
+              {QMessageBox::Save, BoxAnswer::SaveAsTemplate, "&Save as Template..."},
+              {QMessageBox::Discard, BoxAnswer::CloseWithoutSaving, "&Close without Saving"},
+              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+    case BoxStyle::Plain:
+    case BoxStyle::Information:
+    case BoxStyle::Exclamation: break;
+  }
+  return {{QMessageBox::Ok, BoxAnswer::Ok}};
+}
+
+/// Closing the box is its last button.
+void AddButtons(QMessageBox& box, const std::vector<BoxButton>& buttons) {
+  for (const BoxButton& each : buttons) {
+    QPushButton* button = box.addButton(each.Button);
+    if (each.Text) button->setText(each.Text);
+  }
+  box.setDefaultButton(buttons.front().Button);
+  box.setEscapeButton(buttons.back().Button);
 }
 
 /// Lines of usual length are not broken: some texts stand in columns.
@@ -38,13 +67,11 @@ void WidenToLines(QMessageBox& box) {
   }
 }
 
-BoxAnswer AnswerOf(int button, BoxStyle style) {
-  switch (button) {
-    case QMessageBox::Yes: return BoxAnswer::Yes;
-    case QMessageBox::No: return BoxAnswer::No;
-    case QMessageBox::Ok: return BoxAnswer::Ok;
-    default: return Asks(style) ? BoxAnswer::Cancel : BoxAnswer::Ok;
+BoxAnswer AnswerOf(int pressed, const std::vector<BoxButton>& buttons) {
+  for (const BoxButton& each : buttons) {
+    if (each.Button == pressed) return each.Answer;
   }
+  return buttons.back().Answer;
 }
 
 }  // namespace
@@ -57,9 +84,10 @@ BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
   box.setTextFormat(Qt::PlainText);  // a name or a path may hold anything
   box.setText(Shown(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  AddButtons(box, style);
+  const std::vector<BoxButton> buttons = ButtonsOf(style);
+  AddButtons(box, buttons);
   WidenToLines(box);
-  return AnswerOf(box.exec(), style);
+  return AnswerOf(box.exec(), buttons);
 }
 
 }  // namespace starfolds

@@ -36,6 +36,9 @@ class TemplateMenu : public QObject {
   /// Adds "Open", "Save" and "Save As".
   void AddTo(QMenu& file);
 
+  /// Asks for a name, and saves there.
+  void SaveAs() { Choose(false); }
+
   /// While it is disabled nothing can be dropped, either.
   void SetEnabled(bool enabled);
 
@@ -50,7 +53,6 @@ class TemplateMenu : public QObject {
  private:
   void Open() { Choose(true); }
   void Save();
-  void SaveAs() { Choose(false); }
   void Choose(bool open);
   void OpenDropped(const QString& path);
   void RunInPreview(bool open, const std::string& path);

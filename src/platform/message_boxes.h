@@ -15,16 +15,25 @@ enum class BoxStyle : Integer {
   YesNoCancelQuestion = 35,
   Information = 64,  // "OK"
   Exclamation = 48,  // "OK"
+  SaveFailed = 50,   // "Try Again", "Save as Template...", "Close without Saving", "Cancel"
 };
 
-enum class BoxAnswer : Integer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class BoxAnswer : Integer {
+  Ok = 1,
+  Cancel = 2,
+  TryAgain = 4,
+  Yes = 6,
+  No = 7,
+  SaveAsTemplate = 100,
+  CloseWithoutSaving = 101,
+};
 
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows a box and waits for its answer. Closing the box means "Cancel", or "OK" where that is
-  /// its only button.
+  /// Shows a box and waits for its answer. Closing the box means "OK" where that is its only
+  /// button, and otherwise "Cancel".
   virtual BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) = 0;
 };
 

@@ -207,6 +207,15 @@ bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog) 
   return false;
 }
 
+BoxAnswer AskAfterFailedSave(PropertySettings& settings) {
+  return settings.Boxes.Show(
+      "What you have set is not stored yet.  It is still in the dialog.\n\n"
+      "You can try to store it again, for instance after making room on the disk;\n"
+      "save it as a template in another folder, and open that later;\n"
+      "or close the dialog without saving.",
+      BoxStyle::SaveFailed, std::string(kProductName));
+}
+
 void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int menuIndex) {
   const std::string former = settings.Template.TemplateFileName;
   const ResetEntry entry = EntryOf(menuIndex);

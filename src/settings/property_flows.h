@@ -111,6 +111,10 @@ void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactoryS
 /// the user is told so, and the result is false.
 bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog);
 
+/// Asks what shall become of settings that could not be stored: "try again", "save as a template",
+/// "close", or "cancel", which leaves the dialog as it is.
+BoxAnswer AskAfterFailedSave(PropertySettings& settings);
+
 /// Entry 0 ("Starfolds 2.0") or 2 ("Starfolds 4.x") of the Edit menu's reset: asks, saves a safety
 /// copy if wanted, resets.
 void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int menuIndex);

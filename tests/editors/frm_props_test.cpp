@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <set>
 
+#include "editors/frm_file_io.h"
 #include "editors/frm_welcome.h"
 #include "numbers/text.h"
 #include "props_dialog.h"
@@ -391,13 +392,38 @@ TEST_F(FrmPropsTest, ResetsFromTheMenuAskFirst) {
   EXPECT_EQ(The<BodyList>("lstUniStarfold").count(), kProfileCount);
 }
 
-TEST_F(FrmPropsTest, AReadOnlyTreeIsToldAndTheDialogCloses) {
+TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
   StoreFactory();
   Open();
+  Enter("txtUni_0", "1234");
   Tree.Writable = false;
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::TryAgain, BoxAnswer::Ok, BoxAnswer::Cancel};
   Click("cmdAccept");
-  EXPECT_TRUE(LastBox().starts_with("The Registry is read-only."));
+  ASSERT_EQ(Boxes.Log.size(), 4U);
+  EXPECT_TRUE(Boxes.Log[2].Text.starts_with("The Registry is read-only."));
+  EXPECT_TRUE(Dialog->IsOpen());
+  EXPECT_EQ(Edit("txtUni_0").text(), "1234");
+
+  WhenShown<FrmFileIo>([](FrmFileIo& dialog) { dialog.reject(); });
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::SaveAsTemplate};
+  Click("cmdAccept");
+  EXPECT_TRUE(Dialog->IsOpen());
+
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::CloseWithoutSaving};
+  Click("cmdAccept");
   EXPECT_FALSE(Dialog->IsOpen());
+  Tree.Writable = true;
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
+
+  Open();
+  Enter("txtUni_0", "1234");
+  Tree.WritesUntilFull = 300;
+  Click("cmdAccept");
+  EXPECT_TRUE(Dialog->IsOpen()) << "a disk that fills up in the middle";
+  Tree.WritesUntilFull = -1;
+  Click("cmdAccept");
+  EXPECT_FALSE(Dialog->IsOpen());
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 1234);
 }
 
 TEST_F(FrmPropsTest, ATreeThatCannotBeReadShowsTheFactorySettings) {

@@ -40,6 +40,10 @@ TEST(QtMessageBoxes, AnswerByTheirButtonsKeysAndClosing) {
       {BoxStyle::Information, Click(QMessageBox::Ok), BoxAnswer::Ok},
       {BoxStyle::Exclamation, Key(Qt::Key_Escape), BoxAnswer::Ok},
       {BoxStyle::Plain, kClose, BoxAnswer::Ok},
+      {BoxStyle::SaveFailed, Key(Qt::Key_Return), BoxAnswer::TryAgain},
+      {BoxStyle::SaveFailed, Click(QMessageBox::Save), BoxAnswer::SaveAsTemplate},
+      {BoxStyle::SaveFailed, Click(QMessageBox::Discard), BoxAnswer::CloseWithoutSaving},
+      {BoxStyle::SaveFailed, Key(Qt::Key_Escape), BoxAnswer::Cancel},
   };
   QtMessageBoxes boxes;
   for (const Row& row : rows) {
