@@ -156,24 +156,19 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   saver->Platform = &platform;
   SqliteTree tree(OwnTreeFiles(), Say);
   MigrateMachineSettings(tree);
-  OverriddenTree overridden(tree);
-  saver->Tree = &tree;
-  if (!options.Changes.empty()) {
-    overridden.Override(options.Changes);
-    saver->Tree = &overridden;
-  }
+  BeginningTree edited(tree);
+  OverriddenTree overridden(edited);
+  overridden.Override(options.Changes);
+  saver->Tree = &overridden;
   stopSignals.Watch([&] {
     saver->QuitApp = true;
     saver->StopRun = true;
     CloseDialogs();
   });
 
-  AppWindows windows(*saver, options);
-  if (!options.Template.empty()) {
-    saver->Tree = &overridden;
-    if (!windows.BeginWithTemplate(options.Template, overridden.Beginning())) {
-      return windows.ExitCode();
-    }
+  AppWindows windows(*saver, options, edited);
+  if (!options.Template.empty() && !windows.BeginWithTemplate(options.Template, edited.Values())) {
+    return windows.ExitCode();
   }
   Run(*saver, options, windows);
   return windows.ExitCode();

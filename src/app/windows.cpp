@@ -16,6 +16,7 @@
 #include "info/frm_about.h"
 #include "info/frm_system_diag.h"
 #include "platform/console.h"
+#include "settings/overrides.h"
 #include "settings/product.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
@@ -30,11 +31,13 @@ constexpr int kExitWrongUse = 2;
 
 }  // namespace
 
-AppWindows::AppWindows(Saver& saver, const StartOptions& options)
+AppWindows::AppWindows(Saver& saver, const StartOptions& options, KeyValueTree& edited)
     : saver_(saver),
       options_(options),
+      ofRun_(*saver.Tree),
+      edited_(edited),
       seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }),
-      help_(*saver.Tree, *saver.Desktop, boxes_) {}
+      help_(edited, *saver.Desktop, boxes_) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -64,17 +67,18 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
   const auto showDiagnostics = [&](QWidget& over) {
     FrmSystemDiag(
-        {*saver_.Tree, *saver_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}},
-        &over)
+        {edited_, *saver_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}}, &over)
         .RunModal();
   };
   const auto showAbout = [&](QWidget& over) {
     FrmAbout({saver_, help_, STARFOLDS_VERSION, seed_}, &over).exec();
   };
-  FrmProps frmProps({saver_, boxes_, disk, help_,
+  FrmProps frmProps({saver_, edited_, boxes_, disk, help_,
                      QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
-                     STARFOLDS_HOME_PAGE, showDiagnostics, showAbout});
+                     STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
+                     ChangesInWords(options_.Changes)});
   frmProps.ShowModal();
+  saver_.Tree = &ofRun_;  // a run that had to do without it may be able to read it by now
 }
 
 void AppWindows::LoadFrmPreview() {

@@ -16,7 +16,9 @@ namespace starfolds {
 /// to end with `ExitCode`.
 class AppWindows : public StartActions {
  public:
-  AppWindows(Saver& saver, const StartOptions& options);
+  /// `edited` is what the dialogs read and store: the tree of the run without the settings of the
+  /// options. `saver.Tree` is the tree of the run.
+  AppWindows(Saver& saver, const StartOptions& options, KeyValueTree& edited);
 
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
@@ -41,6 +43,8 @@ class AppWindows : public StartActions {
 
   Saver& saver_;
   StartOptions options_;
+  KeyValueTree& ofRun_;
+  KeyValueTree& edited_;
   SeedSource seed_;
   QtMessageBoxes boxes_;
   HelpWindow help_;

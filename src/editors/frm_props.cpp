@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
@@ -43,13 +44,13 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
       events_(std::make_unique<WatchfulPump>(surroundings.Process, *editing_)),
       model_{*editing_, surroundings.Boxes, surroundings.HelpBook},
       template_(surroundings.Disk),
-      settings_{*surroundings.Process.Tree, editing_->Profiles,
+      settings_{surroundings.Tree,          editing_->Profiles,
                 editing_->Composites,       template_,
                 surroundings.Disk,          surroundings.Boxes,
                 surroundings.ProgramFolder, surroundings.UserFolder},
       templates_(MakeTemplateHost()) {
   const Saver& process = around_.Process;
-  editing_->Tree = process.Tree;
+  editing_->Tree = &around_.Tree;
   editing_->Events = events_.get();
   editing_->Desktop = process.Desktop;
   editing_->Mode = RunMode::ScreenSaver;
@@ -251,7 +252,8 @@ void FrmProps::MakeCentre() {
   auto* buttons = new QHBoxLayout;
   cmdAccept_ = MakeButton(tr(kAcceptSettings), "cmdAccept");
   cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
-  buttons->addStretch();
+  buttons->addWidget(MakeOverridesNote(), 9);
+  buttons->addStretch(1);
   buttons->addWidget(cmdAccept_);
   buttons->addWidget(cmdDismiss_);
   rows->addLayout(buttons);
@@ -280,6 +282,27 @@ void FrmProps::MakeCentre() {
     const bool isIfs = starfold_->Page().Style() == FoldStyle::UserIfs;
     isIfs ? RunEditor<FrmUserDefIfs>() : RunEditor<FrmMolecule>();
   });
+}
+
+/// What stands in the dialog is not what such a run shows.
+QWidget* FrmProps::MakeOverridesNote() {
+  constexpr std::size_t most = 3;  // that are named; the others are in the tool tip
+  const std::vector<std::string>& overrides = around_.Overrides;
+  auto* note = new QLabel;
+  note->setObjectName("lblOverrides");
+  note->setTextFormat(Qt::PlainText);
+  note->setWordWrap(true);
+  note->setVisible(!overrides.empty());
+  QStringList all;
+  for (const std::string& each : overrides) all.append(Shown(each));
+  QString named = all.mid(0, most).join(", ");
+  if (overrides.size() > most) named += tr(" and %1 more").arg(overrides.size() - most);
+  note->setText(
+      tr("Overridden in this run: %1.\nWhat you accept is stored, and holds in runs without "
+         "these options.")
+          .arg(named));
+  note->setToolTip("<p>" + all.join("\n").toHtmlEscaped().replace("\n", "<br>") + "</p>");
+  return note;
 }
 
 QWidget* FrmProps::MakePreviewPane() {

@@ -26,7 +26,8 @@ namespace starfolds {
 
 /// What the dialog needs of its surroundings. All of it outlives the dialog.
 struct PropsSurroundings {
-  Saver& Process;  // the state of the process: its tree, pump and flags
+  Saver& Process;      // the state of the process: its pump and flags
+  KeyValueTree& Tree;  // what is edited, without the settings that hold for this run alone
   MessageBoxes& Boxes;
   Files& Disk;
   Help& HelpBook;
@@ -38,6 +39,7 @@ struct PropsSurroundings {
   /// Windows of other floors, which open over the dialog and return when they are closed.
   std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
   std::function<void(QWidget& over)> ShowAbout = nullptr;
+  std::vector<std::string> Overrides = {};  // settings that hold for this run alone, in words
 };
 
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree
@@ -90,6 +92,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void ShowHomePage();
   void MakeCentre();
   QWidget* MakePreviewPane();
+  QWidget* MakeOverridesNote();
 
   void OpenStarfoldView(bool open);
   void Accept();

@@ -38,10 +38,72 @@ void CopyNamed(KeyValueTree& from, KeyValueTree& to, std::string_view name) {
   for (int i = 0; i < kProfileCount; ++i) CopyValue(from, to, ProfileSection(i), name);
 }
 
+/// A label of the dialogs without its range and its colon; the stored name where none is alone.
+std::string NameInWords(std::string_view setting) {
+  std::string_view label = setting;
+  if (const auto* field = FindField(UniverseFields(), setting)) label = field->Label;
+  if (const auto* field = FindField(AdvancedFields(), setting)) label = field->Label;
+  label = label.substr(0, label.find(" ("));
+  if (label.ends_with(':')) label.remove_suffix(1);
+  return std::string(label);
+}
+
 }  // namespace
 
+std::optional<std::string> LayeredTree::Read(Hive hive, std::string_view path,
+                                             std::string_view name) {
+  return below_.Read(hive, path, name);
+}
+
+bool LayeredTree::Write(Hive hive, std::string_view path, std::string_view name,
+                        std::string_view text) {
+  return below_.Write(hive, path, name, text);
+}
+
+bool LayeredTree::DeleteKey(Hive hive, std::string_view path) {
+  return below_.DeleteKey(hive, path);
+}
+
+bool LayeredTree::Begin(Access access) {
+  bulk_.reset(access == Access::Look ? new TreeBulk(TreeBulk::Look(below_))
+                                     : new TreeBulk(TreeBulk::Change(below_)));
+  return bulk_->Begun();
+}
+
+bool LayeredTree::End(bool keep) {
+  const bool ended = keep && bulk_->Commit();
+  bulk_.reset();
+  return ended;
+}
+
+std::optional<std::string> BeginningTree::Read(Hive hive, std::string_view path,
+                                               std::string_view name) {
+  if (auto text = values_.Read(hive, path, name)) return text;
+  return LayeredTree::Read(hive, path, name);
+}
+
+bool BeginningTree::Write(Hive hive, std::string_view path, std::string_view name,
+                          std::string_view text) {
+  if (!LayeredTree::Write(hive, path, name, text)) return false;
+  if (values_.Read(hive, path, name)) values_.Write(hive, path, name, text);
+  return true;
+}
+
+bool BeginningTree::Begin(Access access) {
+  valuesBulk_.reset(new TreeBulk(TreeBulk::Change(values_)));
+  return LayeredTree::Begin(access);
+}
+
+/// What could not be stored is not written here, either.
+bool BeginningTree::End(bool keep) {
+  const bool ended = LayeredTree::End(keep);
+  if (ended) valuesBulk_->Commit();
+  valuesBulk_.reset();
+  return ended;
+}
+
 /// The text that is stored for a value is the matter of those who save records.
-void OverriddenTree::Override(std::span<const std::pair<std::string, std::string>> changes) {
+void OverriddenTree::Override(std::span<const SettingChange> changes) {
   const auto records = std::make_unique<SettingsRecords>();
   // Only members that count are saved.
   for (CompositeProfile& composite : records->Composites) composite.CompFold_Count = kMaxMembers;
@@ -57,36 +119,18 @@ void OverriddenTree::Override(std::span<const std::pair<std::string, std::string
 std::optional<std::string> OverriddenTree::Read(Hive hive, std::string_view path,
                                                 std::string_view name) {
   if (auto text = overrides_.Read(hive, path, name)) return text;
-  if (auto text = beginning_.Read(hive, path, name)) return text;
-  return stored_.Read(hive, path, name);
+  return LayeredTree::Read(hive, path, name);
 }
 
-bool OverriddenTree::Write(Hive hive, std::string_view path, std::string_view name,
-                           std::string_view text) {
-  if (!stored_.Write(hive, path, name, text)) return false;
-  if (beginning_.Read(hive, path, name)) beginning_.Write(hive, path, name, text);
-  return true;
-}
-
-bool OverriddenTree::DeleteKey(Hive hive, std::string_view path) {
-  return stored_.DeleteKey(hive, path);
-}
-
-bool OverriddenTree::Begin(Access access) {
-  const auto begin = [access](KeyValueTree& tree) {
-    return new TreeBulk(access == Access::Look ? TreeBulk::Look(tree) : TreeBulk::Change(tree));
-  };
-  bulk_.reset(begin(stored_));
-  beginningBulk_.reset(begin(beginning_));
-  return bulk_->Begun();
-}
-
-bool OverriddenTree::End(bool keep) {
-  const bool stored = keep && bulk_->Commit();
-  bulk_.reset();
-  if (stored) beginningBulk_->Commit();
-  beginningBulk_.reset();
-  return stored;
+std::vector<std::string> ChangesInWords(std::span<const SettingChange> changes) {
+  std::vector<std::string> words;
+  for (auto change = changes.begin(); change != changes.end(); ++change) {
+    const bool changedAgain =
+        std::any_of(std::next(change), changes.end(),
+                    [&](const SettingChange& later) { return later.first == change->first; });
+    if (!changedAgain) words.push_back(NameInWords(change->first) + " = " + change->second);
+  }
+  return words;
 }
 
 }  // namespace starfolds

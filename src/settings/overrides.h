@@ -7,25 +7,19 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/key_value_tree.h"
 
 namespace starfolds {
 
-/// Lies over the stored tree. Whoever reads finds the overridden values in place of the stored
-/// ones; what is written goes to the stored tree, and is not seen while it is overridden. Between
-/// the two may lie values to begin with: they are seen until they are written.
-class OverriddenTree : public KeyValueTree {
+/// A setting by its name for `SetByName`, and its value.
+using SettingChange = std::pair<std::string, std::string>;
+
+/// Lies over another tree, which outlives it, and passes everything on.
+class LayeredTree : public KeyValueTree {
  public:
-  /// `stored` outlives this tree.
-  explicit OverriddenTree(KeyValueTree& stored) : stored_(stored) {}
-
-  /// Takes settings by the names of `SetByName`, each with its value. Those that are no good are
-  /// passed over.
-  void Override(std::span<const std::pair<std::string, std::string>> changes);
-
-  /// The values to begin with, to be filled before anybody reads.
-  KeyValueTree& Beginning() { return beginning_; }
+  explicit LayeredTree(KeyValueTree& below) : below_(below) {}
 
   std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
   bool Write(Hive hive, std::string_view path, std::string_view name,
@@ -37,12 +31,49 @@ class OverriddenTree : public KeyValueTree {
   bool End(bool keep) override;
 
  private:
-  KeyValueTree& stored_;
-  MemoryTree beginning_;
-  MemoryTree overrides_;
-  // Of the two trees that can be written, while there is one of this.
-  std::unique_ptr<TreeBulk> bulk_;
-  std::unique_ptr<TreeBulk> beginningBulk_;
+  KeyValueTree& below_;
+  std::unique_ptr<TreeBulk> bulk_;  // of the tree below, while there is one of this
 };
+
+/// Values to begin with, such as those of a template that a window shows: they are seen in place of
+/// the stored ones until they are written. The properties dialog edits this tree.
+class BeginningTree : public LayeredTree {
+ public:
+  using LayeredTree::LayeredTree;
+
+  /// To be filled before anybody reads.
+  KeyValueTree& Values() { return values_; }
+
+  std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
+  bool Write(Hive hive, std::string_view path, std::string_view name,
+             std::string_view text) override;
+
+ protected:
+  bool Begin(Access access) override;
+  bool End(bool keep) override;
+
+ private:
+  MemoryTree values_;
+  std::unique_ptr<TreeBulk> valuesBulk_;
+};
+
+/// Settings of one run, such as those of the command line: whoever reads finds them in place of the
+/// values below, and writes go past them.
+class OverriddenTree : public LayeredTree {
+ public:
+  using LayeredTree::LayeredTree;
+
+  /// Changes that are no good are passed over.
+  void Override(std::span<const SettingChange> changes);
+
+  std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
+
+ private:
+  MemoryTree overrides_;
+};
+
+/// The changes for people, such as "Stars in all the Starfolds = 123", in their order. Of several
+/// changes of one setting the last one counts.
+std::vector<std::string> ChangesInWords(std::span<const SettingChange> changes);
 
 }  // namespace starfolds

@@ -11,6 +11,7 @@
 #include "numbers/text.h"
 #include "props_dialog.h"
 #include "settings/first_run.h"
+#include "settings/overrides.h"
 #include "settings/random_records.h"
 #include "settings/templates.h"
 
@@ -434,6 +435,22 @@ TEST_F(FrmPropsTest, ATreeThatCannotBeReadShowsTheFactorySettings) {
   EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
   EXPECT_EQ(Edit("txtUni_0").text(), "5000");
   EXPECT_EQ(The<QListWidget>("lstCompStarfold").count(), kCompositeCount);
+}
+
+TEST_F(FrmPropsTest, SettingsOfTheRunAreToldAndNotStored) {
+  StoreFactory();
+  EXPECT_FALSE(Part<QLabel>(Open(), "lblOverrides").isVisible());
+  Click("cmdDismiss");
+  OverriddenTree ofRun(Tree);
+  const std::vector<SettingChange> changes(28, {"Universe_Stars", "123"});
+  ofRun.Override(changes);
+  Overrides = ChangesInWords(changes);
+  EXPECT_NE(Part<QLabel>(Open(), "lblOverrides").text().indexOf("Starfolds = 123."), -1);
+  EXPECT_TRUE(The<QLabel>("lblOverrides").isVisible());
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Click("cmdAccept");
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
+  EXPECT_EQ(LoadUniverseFromRegistry(ofRun).Universe_Stars, 123);
 }
 
 TEST_F(FrmPropsTest, ExitEndsTheProcess) {

@@ -34,9 +34,10 @@ class FrmPropsTest : public DialogTest {
   }
 
   FrmProps& Open() {
-    Dialog = std::make_unique<FrmProps>(PropsSurroundings{
-        *Process, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u", [] { return 1U; }, nullptr,
-        HomePage, [this](QWidget&) { ++Diagnostics; }, [this](QWidget&) { ++Abouts; }});
+    Dialog = std::make_unique<FrmProps>(
+        PropsSurroundings{*Process, *Process->Tree, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u",
+                          [] { return 1U; }, nullptr, HomePage, [this](QWidget&) { ++Diagnostics; },
+                          [this](QWidget&) { ++Abouts; }, Overrides});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
@@ -61,6 +62,7 @@ class FrmPropsTest : public DialogTest {
   Files* UsedFiles = &Disk;
   MemoryDesktop Desktop;
   std::string HomePage;
+  std::vector<std::string> Overrides;
   int Diagnostics = 0;
   int Abouts = 0;
   DialogPump Events;

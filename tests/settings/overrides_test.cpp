@@ -26,7 +26,8 @@ class OverridesTest : public testing::Test {
 
   MemoryTree Stored;
   MemoryTree Before;
-  OverriddenTree Tree{Stored};
+  BeginningTree Edited{Stored};
+  OverriddenTree Tree{Edited};
 };
 
 TEST_F(OverridesTest, HoldWhateverIsStored) {
@@ -64,13 +65,25 @@ TEST_F(OverridesTest, LetWritesThrough) {
   EXPECT_EQ(LoadSettings(Stored).Universe.Universe_Stars, 88);
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 5000);
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Starfold, 8);
+  EXPECT_EQ(LoadSettings(Edited).Universe.Universe_Stars, 88) << "what the dialog edits";
+}
+
+TEST_F(OverridesTest, AreToldInWords) {
+  const std::vector<SettingChange> changes = {{"Universe_Stars", "5"},
+                                              {"Adv_TimeDelay", "40"},
+                                              {"Starfold7/Starfold_Radius", "321"},
+                                              {"Universe_Stars", "6"}};
+  const std::vector<std::string> words = {"Frame delay in milliseconds = 40",
+                                          "Starfold7/Starfold_Radius = 321",
+                                          "Stars in all the Starfolds = 6"};
+  EXPECT_EQ(ChangesInWords(changes), words);
 }
 
 TEST_F(OverridesTest, ValuesToBeginWithAreSeenUntilTheyAreWritten) {
   SettingsRecords records;
   records.Universe.Universe_Stars = 1111;
   records.Universe.Universe_Starfold = 11;
-  SaveSettings(Tree.Beginning(), records);
+  SaveSettings(Edited.Values(), records);
   Override({{"Universe_Starfold", "22"}});
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 1111);
   EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Starfold, 22);
