@@ -16,18 +16,23 @@
 #include "info/frm_about.h"
 #include "info/frm_system_diag.h"
 #include "platform/console.h"
+#include "settings/former_settings.h"
 #include "settings/overrides.h"
 #include "settings/product.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "storage/storage_places.h"
-#include "universe/host_surface.h"
 
 namespace starfolds {
 namespace {
 
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
+
+/// Where the user's settings are stored.
+std::string UserFolder() {
+  return std::filesystem::path(OwnTreeFiles().User).parent_path().string();
+}
 
 }  // namespace
 
@@ -64,7 +69,6 @@ void AppWindows::ShowFrmAppExe() {
 /// The safety copy of the settings goes beside the program, or beside the user's own settings.
 void AppWindows::RunFrmProps(QWindow* owner) {
   DiskFiles disk;
-  const std::string userFolder = std::filesystem::path(OwnTreeFiles().User).parent_path().string();
   const auto showDiagnostics = [&](QWidget& over) {
     FrmSystemDiag(
         {edited_, *saver_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}}, &over)
@@ -74,8 +78,8 @@ void AppWindows::RunFrmProps(QWindow* owner) {
     FrmAbout({saver_, help_, STARFOLDS_VERSION, seed_}, &over).exec();
   };
   FrmProps frmProps({saver_, edited_, boxes_, disk, help_,
-                     QCoreApplication::applicationDirPath().toStdString(), userFolder, seed_, owner,
-                     STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
+                     QCoreApplication::applicationDirPath().toStdString(), UserFolder(), seed_,
+                     owner, STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
                      ChangesInWords(options_.Changes)});
   frmProps.ShowModal();
   saver_.Tree = &ofRun_;  // a run that had to do without it may be able to read it by now
@@ -97,16 +101,21 @@ void AppWindows::ShowInHost(Long hostWindow) {
            "there is no window " + std::to_string(hostWindow) + " to show anything in");
 }
 
-/// A template brings a universe and no bodies, so there have to be some. A file that cannot be read
-/// is most likely a typing error: nobody shall lose settings by that.
+/// A file that cannot be read is most likely a typing error, and a universe that cannot be stored
+/// would not be the one that is shown: nothing runs then.
 void AppWindows::LoadTemplate(const std::string& path) {
   DiskFiles disk;
   TemplateFile file(disk);
   if (const auto fault = file.Load(path)) {
     return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
   }
-  EnsureBodies(saver_);
-  ImportTemplate(file, path, *saver_.Tree, saver_.Profiles);
+  TemplateImport done =
+      ImportOverFormerSettings(file, path, edited_, saver_.Profiles, disk, UserFolder());
+  if (done.Fault) {
+    return Fail("cannot store the universe of \"" + path + "\": " + *done.Fault, kExitWrongUse);
+  }
+  done.FormerSettings = Harmless(done.FormerSettings);
+  Print(ImportNote(Harmless(path), done));
 }
 
 /// Who clicked on a file has no terminal to read a complaint from.

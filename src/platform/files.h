@@ -24,6 +24,9 @@ class Files {
   /// plain file, as a device or a pipe might never end.
   virtual FileContents Read(const std::string& path, std::size_t limit) = 0;
 
+  /// Whether there is anything of that name, even a link that leads nowhere.
+  virtual bool Exists(const std::string& path) = 0;
+
   /// Replaces the file, or makes it. Gives the reason where it cannot, and then what was there is
   /// untouched, even if the disk is full or the process is killed meanwhile.
   virtual std::optional<std::string> Replace(const std::string& path, std::string_view bytes) = 0;
@@ -40,6 +43,7 @@ class MemoryFiles : public Files {
   bool Full = false;
 
   FileContents Read(const std::string& path, std::size_t limit) override;
+  bool Exists(const std::string& path) override { return Contents.contains(path); }
   std::optional<std::string> Replace(const std::string& path, std::string_view bytes) override;
   bool CanWriteFolder(const std::string& folder) override;
 };

@@ -4,6 +4,7 @@
 
 #include "numbers/text.h"
 #include "settings/first_run.h"
+#include "settings/former_settings.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
@@ -134,6 +135,24 @@ void ShowFactorySettings(PropertySettings& settings, PropertiesDialog& dialog, F
   dialog.SelectUniverseExtras(0);
 }
 
+/// Gives a reason for the user where nothing was stored.
+std::optional<std::string> StoreDialog(PropertySettings& settings, const PropertiesDialog& dialog) {
+  TreeBulk change = TreeBulk::Change(settings.Tree);
+  if (settings.ReplacesUnread) {
+    const KeptCopy copy = KeepFormerSettings(settings.Tree, settings.Disk, settings.UserFolder);
+    if (!copy.Fault.empty()) {
+      return "The stored settings could not be kept in:\n" + copy.Path + "\n\n" + copy.Fault;
+    }
+  }
+  RegistryWrite(settings.Tree, sections::kGeneral, kAnimationType, Long{0});
+  SaveUniverseToRegistry(settings.Tree, UniverseOnDialog(dialog));
+  SaveAllProfiles(settings.Tree, settings.Profiles);
+  SaveAllComposites(settings.Tree, settings.Composites);
+  if (change.Commit()) return std::nullopt;
+  return "The Property settings cannot be saved.\n\n"
+         "The settings that were stored before are kept.";
+}
+
 }  // namespace
 
 void DrawProgress(ProgressPicture* picture, int step, int total) {
@@ -155,6 +174,7 @@ StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDi
                           .WelcomeOffered = HasMark(tree, kResetSettings)};
   const auto records = std::make_unique<SettingsRecords>(LoadSettings(tree));
   stored.Readable = look.Commit();
+  settings.ReplacesUnread = !stored.Readable;
   if (stored.Readable) {
     ShowRecords(settings, dialog, *records);
   } else {
@@ -171,7 +191,9 @@ void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
     return Warn(settings,
                 "The stored settings cannot be read.\n\n"
                 "The Properties show the Factory Settings.  "
-                "Accepting them replaces the stored settings.");
+                "Accepting them replaces the stored settings.\n"
+                "If those can be read by then, a copy of them is kept in:  " +
+                    settings.UserFolder);
   }
   if (!stored.WelcomeOffered) return ShowWelcome(settings, dialog, stored);
   if (stored.Complete) return;
@@ -195,16 +217,12 @@ void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactoryS
 
 bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
   if (!RegistryWriteTest(settings.Tree, settings.Boxes)) return false;
-  TreeBulk change = TreeBulk::Change(settings.Tree);
-  RegistryWrite(settings.Tree, sections::kGeneral, kAnimationType, Long{0});
-  SaveUniverseToRegistry(settings.Tree, UniverseOnDialog(dialog));
-  SaveAllProfiles(settings.Tree, settings.Profiles);
-  SaveAllComposites(settings.Tree, settings.Composites);
-  if (change.Commit()) return true;
-  Warn(settings,
-       "The Property settings cannot be saved.\n\n"
-       "The settings that were stored before are kept.");
-  return false;
+  if (const auto fault = StoreDialog(settings, dialog)) {
+    Warn(settings, *fault);
+    return false;
+  }
+  settings.ReplacesUnread = false;
+  return true;
 }
 
 BoxAnswer AskAfterFailedSave(PropertySettings& settings) {
@@ -254,12 +272,17 @@ std::optional<std::string> LoadTemplate(PropertySettings& settings, PropertiesDi
                                         ProgressPicture* picture) {
   TemplateFile& file = settings.Template;
   if (auto fault = file.Load()) return fault;
-  CopyAdvancedFromTemplate(file, settings.Tree);
+  const bool advancedStored = CopyAdvancedFromTemplate(file, settings.Tree);
   ShowUniverse(dialog, LoadUniverseFromTemplate(file));
   LoadBodiesFromTemplate(file, settings.Profiles, settings.Composites, ProgressOn(picture));
   dialog.RebuildProfileList();
   dialog.RebuildCompositeLists();
   file.ClearBuffer();
+  if (!advancedStored) {
+    Warn(settings,
+         "The Advanced Settings of the template cannot be stored.\n\nThose that were "
+         "stored before are kept.");
+  }
   return std::nullopt;
 }
 

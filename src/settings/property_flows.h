@@ -25,6 +25,7 @@ struct PropertySettings {
   MessageBoxes& Boxes;
   std::string ProgramFolder;
   std::string UserFolder;  // takes the safety copy where the program's folder cannot be written
+  bool ReplacesUnread = false;  // the tree could not be read when the dialog was opened
 };
 
 /// A picture that shows how far a load or save has come.

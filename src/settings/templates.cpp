@@ -150,6 +150,11 @@ void WriteAdmin(TemplateFile& file) {
   file.TemplateWrite(sections::kGeneral, kAnimationType, "0");
 }
 
+std::optional<std::string> StoredOrWhy(TreeBulk& change) {
+  if (change.Commit()) return std::nullopt;
+  return "Its settings cannot be stored";
+}
+
 }  // namespace
 
 std::string ProfileTemplateSection(int index) { return "UniFold" + std::to_string(index); }
@@ -175,13 +180,13 @@ void CopyAdvancedToTemplate(KeyValueTree& tree, TemplateFile& file) {
   look.Commit();
 }
 
-void CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree) {
+bool CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree) {
   TreeBulk change = TreeBulk::Change(tree);
   for (const Field<AdvancedSettings>& field : AdvancedFields()) {
     if (!field.Odd.InTemplate) continue;
     CopyTemplateToRegistry(file, tree, sections::kAdvanced, field.Name, DefaultText(field));
   }
-  change.Commit();
+  return change.Commit();
 }
 
 StarfoldProfile LoadProfileFromTemplate(TemplateFile& file, int index, std::string_view section) {
@@ -286,9 +291,8 @@ std::optional<std::string> StoreTemplate(TemplateFile& file, const std::string& 
   SaveAllComposites(tree, records->Composites);
   RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
   RegistryWrite(tree, sections::kGeneral, kResetSettings, Long{1});
-  change.Commit();
   file.ClearBuffer();
-  return std::nullopt;
+  return StoredOrWhy(change);
 }
 
 std::optional<std::string> ImportTemplate(TemplateFile& file, const std::string& path,
@@ -301,13 +305,13 @@ std::optional<std::string> ImportTemplate(TemplateFile& file, const std::string&
   for (const Field<UniverseSettings>& field : UniverseFields()) {
     CopyTemplateToRegistry(file, tree, sections::kUniverse, field.Name, DefaultText(field));
   }
-  change.Commit();
+  auto fault = StoredOrWhy(change);
   for (int i = 0; i < kProfileCount; ++i) {
     profiles[i] = LoadProfileFromTemplate(file, i, ProfileTemplateSection(i));
     ClampProfile(profiles[i]);
   }
   file.ClearBuffer();
-  return std::nullopt;
+  return fault;
 }
 
 }  // namespace starfolds

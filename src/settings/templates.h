@@ -29,7 +29,8 @@ void CopyTemplateToRegistry(TemplateFile& file, KeyValueTree& tree, std::string_
 
 /// The advanced values that templates hold, between the file and the user's tree.
 void CopyAdvancedToTemplate(KeyValueTree& tree, TemplateFile& file);
-void CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree);
+/// False: none of them was stored.
+bool CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree);
 
 /// One record, unclamped. Missing values are the defaults, but for weights and counts, which are 0.
 StarfoldProfile LoadProfileFromTemplate(TemplateFile& file, int index, std::string_view section);
@@ -59,14 +60,14 @@ std::optional<std::string> ReadTemplate(TemplateFile& file, const std::string& p
                                         SettingsRecords& records);
 
 /// Stores all of the template at `path` in a tree, as if its user had always had it. Gives a reason
-/// for the user where it cannot be read; then nothing is stored.
+/// for the user where it cannot be read or stored; then nothing is stored.
 std::optional<std::string> StoreTemplate(TemplateFile& file, const std::string& path,
                                          KeyValueTree& tree);
 
 /// The route of the command line: the template's universe and advanced values go to the user's tree
 /// as they are, its profiles to memory. Profiles and composites in the tree stay, so the run that
 /// follows shows the template's universe over the bodies that the user has. Gives a reason where
-/// the file cannot be read; then nothing is written. A tree that cannot be written is none.
+/// the file cannot be read or the values cannot be stored; then nothing is written.
 std::optional<std::string> ImportTemplate(TemplateFile& file, const std::string& path,
                                           KeyValueTree& tree, ProfileArray& profiles);
 

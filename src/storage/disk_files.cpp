@@ -203,6 +203,11 @@ FileContents DiskFiles::Read(const std::string& path, std::size_t limit) {
   return {std::move(bytes), {}};
 }
 
+bool DiskFiles::Exists(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0;
+}
+
 std::optional<std::string> DiskFiles::Replace(const std::string& path, std::string_view bytes) {
   const std::optional<fs::path> target = TargetOf(path);
   if (!target) return Reason(ELOOP);

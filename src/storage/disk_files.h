@@ -16,6 +16,7 @@ namespace starfolds {
 class DiskFiles : public Files {
  public:
   FileContents Read(const std::string& path, std::size_t limit) override;
+  bool Exists(const std::string& path) override;
   std::optional<std::string> Replace(const std::string& path, std::string_view bytes) override;
   bool CanWriteFolder(const std::string& folder) override;
 };

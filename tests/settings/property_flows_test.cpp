@@ -196,6 +196,16 @@ TEST_F(PropertyFlows, AnUnreadableTreeShowsTheFactorySettingsAndStays) {
   shown.Profiles = Edited.Profiles;
   shown.Composites = Edited.Composites;
   EXPECT_EQ(Contents(shown), Contents(factory));
+
+  // Whoever held the tree has let it go by the time the dialog is accepted.
+  Tree.Readable = true;
+  EXPECT_TRUE(SaveDialogToRegistry(Settings, Dialog));
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
+  SettingsRecords kept;
+  ASSERT_EQ(ReadTemplate(Template, "/home/u/former-settings-1.sfd", kept), std::nullopt);
+  EXPECT_EQ(kept.Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName);
+  EXPECT_TRUE(SaveDialogToRegistry(Settings, Dialog));
+  EXPECT_EQ(Disk.Contents.size(), 1U);
 }
 
 TEST_F(PropertyFlows, AReadThatFailsHalfwayShowsNothingOfTheTree) {

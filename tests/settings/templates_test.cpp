@@ -4,6 +4,7 @@
 
 #include "random_records.h"
 #include "settings/first_run.h"
+#include "settings/former_settings.h"
 
 namespace starfolds {
 namespace {
@@ -147,6 +148,58 @@ TEST_F(Templates, WhatIsNoTemplateIsRefusedAndChangesNothing) {
   }
   EXPECT_EQ(Contents(records), before);
   EXPECT_EQ(Tree.Size(), 0U);
+}
+
+TEST_F(Templates, AnImportKeepsACopyOfTheFormerSettings) {
+  const auto import = [&] {
+    ProfileArray profiles;
+    return ImportOverFormerSettings(File, "in.sfd", Tree, profiles, Disk, "/home/u");
+  };
+  Disk.Contents["in.sfd"] = "[Universe]\r\nUniverse_Stars=1111\r\n";
+  const TemplateImport first = import();
+  EXPECT_EQ(first.Fault, std::nullopt);
+  EXPECT_EQ(first.FormerSettings, "") << "the factory's settings need no copy";
+  EXPECT_EQ(LoadSettings(Tree).Universe.Universe_Stars, 1111);
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
+  EXPECT_TRUE(HasMark(Tree, kResetSettings)) << "no user of an earlier version";
+
+  SettingsRecords mine = RandomRecords(9).Make();
+  SaveSettings(Tree, mine);
+  Disk.Contents["/home/u/former-settings-1.sfd"] = "somebody's";
+  EXPECT_EQ(import().FormerSettings, "/home/u/former-settings-2.sfd");
+  EXPECT_NE(LoadSettings(Tree).Universe.Universe_GSteps, mine.Universe.Universe_GSteps);
+  EXPECT_EQ(import().FormerSettings, "/home/u/former-settings-3.sfd");
+  EXPECT_EQ(import().FormerSettings, "/home/u/former-settings-3.sfd") << "it holds them already";
+  EXPECT_EQ(Disk.Contents["/home/u/former-settings-1.sfd"], "somebody's");
+
+  MemoryTree again;
+  ASSERT_EQ(StoreTemplate(File, "/home/u/former-settings-2.sfd", again), std::nullopt);
+  SettingsRecords back = LoadSettings(again);
+  back.Advanced.Adv_DispBackG = mine.Advanced.Adv_DispBackG;
+  back.Advanced.Adv_PerfMult = mine.Advanced.Adv_PerfMult;
+  back.Advanced.Adv_EffectFPC = mine.Advanced.Adv_EffectFPC;
+  EXPECT_EQ(Contents(back), Contents(mine));
+}
+
+TEST_F(Templates, AnImportThatCannotBeStoredSaysSoAndChangesNothing) {
+  SettingsRecords mine = RandomRecords(10).Make();
+  SaveSettings(Tree, mine);
+  const MemoryTree before = Tree;
+  Disk.Contents["in.sfd"] = "[Universe]\r\nUniverse_Stars=1111\r\n";
+  ProfileArray profiles;
+  const auto fails = [&] {
+    return ImportOverFormerSettings(File, "in.sfd", Tree, profiles, Disk, "/home/u").Fault &&
+           Tree == before;
+  };
+  Disk.Full = true;
+  EXPECT_TRUE(fails()) << "the copy";
+  Disk.Full = false;
+  Tree.WritesUntilFull = 20;
+  EXPECT_TRUE(fails()) << "the values";
+  EXPECT_NE(ImportTemplate(File, "in.sfd", Tree, profiles), std::nullopt);
+  EXPECT_NE(StoreTemplate(File, "in.sfd", Tree), std::nullopt);
+  Tree.Writable = false;
+  EXPECT_TRUE(fails()) << "all of them";
 }
 
 TEST_F(Templates, AnImportBringsTheUniverseAndLeavesTheBodiesInTheTree) {
