@@ -456,9 +456,9 @@ VisitList ParseVisitList(std::string_view text) {
     text.remove_prefix(std::min(end + 1, text.size()));
     if (!IsNumeric(piece)) continue;
     const double number = LenientNumber(piece);
-    if (number > 0 && number <= kBodyCount) {
-      list.Bodies[list.Count++] = ClampTo<Integer>(RoundedToLimits<Integer>(number) - 1, 0, 65);
-    }
+    if (number <= 0 || number > kBodyCount) continue;
+    const auto body = RoundedToLimits<Integer>(number - 1);
+    if (body >= 0) list.Bodies[list.Count++] = body;
   }
   return list;
 }

@@ -119,8 +119,9 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
 std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
                                      std::string_view value);
 
-/// The bodies that `Universe_GS_Idx` names, 0-based, at most 64: the pieces between blanks that are
-/// numbers from 1 to 66. All other pieces are passed over.
+/// The bodies that `Universe_GS_Idx` names, 0-based, at most 64: of each piece between blanks that
+/// is a number above 0 and up to 66, the number less 1, rounded with halves to even. All other
+/// pieces, and those that round below 0, name no body and are passed over.
 struct VisitList {
   static constexpr int kRoom = 64;
   std::array<Integer, kRoom> Bodies{};

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "settings/factory.h"
+#include "settings/field_order.h"
 #include "settings/fields.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
@@ -27,8 +28,9 @@ void CopyPlainValues(KeyValueTree& tree) {
     CopyMachineValueToUser(tree, sections::kAdvanced, name,
                            DefaultText(*FindField(AdvancedFields(), name)));
   }
-  for (const Field<UniverseSettings>& field : UniverseFields()) {
-    CopyMachineValueToUser(tree, sections::kUniverse, field.Name, DefaultText(field));
+  static constexpr Moved listLast[] = {{"Universe_GS_Idx", "Universe_GravFrame"}};
+  for (const Field<UniverseSettings>* field : OrderOf(UniverseFields(), listLast)) {
+    CopyMachineValueToUser(tree, sections::kUniverse, field->Name, DefaultText(*field));
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "settings/field_order.h"
 #include "settings/fields.h"
 #include "settings/packing.h"
 
@@ -48,10 +49,13 @@ void ReadFields(const Section& from, std::span<const Field<Record>> fields, Reco
 }
 
 template <class Record>
+void WriteField(const Section& to, const Field<Record>& field, const Record& record) {
+  RegistryWrite(to.Tree, to.Name, field.Name, StorableText(FieldText(record, field)), to.Root);
+}
+
+template <class Record>
 void WriteFields(const Section& to, std::span<const Field<Record>> fields, const Record& record) {
-  for (const Field<Record>& field : fields) {
-    RegistryWrite(to.Tree, to.Name, field.Name, StorableText(FieldText(record, field)), to.Root);
-  }
+  for (const Field<Record>& field : fields) WriteField(to, field, record);
 }
 
 std::string MemberKey(int i) { return "CompFold_Type" + std::to_string(i); }
@@ -90,12 +94,11 @@ void WriteAtoms(const Section& to, const StarfoldProfile& profile) {
   PackAtoms(profile, PackedWriter(to));
 }
 
-/// The sub-keys are deleted in the machine's hive, not in the one that is written: points of a
-/// longer list before stay behind the new ones, where no reader looks.
-void DropSubkeys(KeyValueTree& tree, std::string_view section) {
-  for (const std::string_view sub : {kIfsSection, kAtomSection}) {
-    RegistryDeleteKey(tree, kAppName, section, sub.substr(1), RootSelector::LocalMachine);
-  }
+/// The sub-key is deleted in the machine's hive, not in the one that is written: points of a longer
+/// list before stay behind the new ones, where no reader looks.
+void DropSubkey(const Section& section, std::string_view sub) {
+  RegistryDeleteKey(section.Tree, kAppName, section.Name, sub.substr(1),
+                    RootSelector::LocalMachine);
 }
 
 }  // namespace
@@ -123,7 +126,8 @@ StarfoldProfile LoadProfileFromRegistry(KeyValueTree& tree, int index, std::stri
                                         RootSelector root) {
   StarfoldProfile profile;
   profile.UniFoldName = FormatProfileName(index);
-  ReadFields({tree, std::string(section), root}, ProfileFields(), profile);
+  const Section from{tree, std::string(section), root};
+  for (const Field<StarfoldProfile>* field : StoredProfileOrder()) ReadField(from, *field, profile);
   if (profile.Starfold_IFS_Points != 0) ReadIfs({tree, Below(section, kIfsSection), root}, profile);
   if (profile.Starfold_Atoms != 0) ReadAtoms({tree, Below(section, kAtomSection), root}, profile);
   return profile;
@@ -164,9 +168,16 @@ void SaveAdvancedToRegistry(KeyValueTree& tree, const AdvancedSettings& advanced
 
 void SaveProfileToRegistry(KeyValueTree& tree, const StarfoldProfile& profile,
                            std::string_view section) {
-  WriteFields({tree, std::string(section)}, ProfileFields(), profile);
-  DropSubkeys(tree, section);
+  const Section to{tree, std::string(section)};
+  const std::span order = StoredProfileOrder();
+  const std::span plain = order.first(order.size() - 2);
+  for (const Field<StarfoldProfile>* field : plain) WriteField(to, *field, profile);
+  // Each count stands before its list.
+  WriteField(to, *order[plain.size()], profile);
+  DropSubkey(to, kIfsSection);
   if (profile.Starfold_IFS_Points > 0) WriteIfs({tree, Below(section, kIfsSection)}, profile);
+  WriteField(to, *order[plain.size() + 1], profile);
+  DropSubkey(to, kAtomSection);
   if (profile.Starfold_Atoms > 0) WriteAtoms({tree, Below(section, kAtomSection)}, profile);
 }
 

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "numbers/utf8.h"
+#include "settings/packing.h"
+#include "settings/records.h"
 
 namespace starfolds {
 namespace {
@@ -35,6 +37,25 @@ std::string Writable(std::string_view value) {
   return text;
 }
 
+/// Whether the text is `prefix` and a number below `count`, written as templates have it.
+bool IsNumbered(std::string_view text, std::string_view prefix, int count) {
+  for (int i = 0; i < count; ++i) {
+    if (text == std::string(prefix) + std::to_string(i)) return true;
+  }
+  return false;
+}
+
+bool IsTemplateSection(std::string_view name) {
+  for (const char* plain : {"Admin", "General", "Advanced", "Universe"}) {
+    if (name == plain) return true;
+  }
+  const std::string_view record = name.substr(0, name.find('\\'));
+  const std::string_view below = name.substr(record.size());
+  const bool hasRoomBelow = below.empty() || below == kIfsSection || below == kAtomSection;
+  return (hasRoomBelow && IsNumbered(record, "UniFold", kProfileCount)) ||
+         IsNumbered(name, "CompFold", kCompositeCount);
+}
+
 }  // namespace
 
 TemplateText::TemplateText(std::string text) : text_(WithLineEnds(std::move(text)) + "[") {
@@ -44,6 +65,11 @@ TemplateText::TemplateText(std::string text) : text_(WithLineEnds(std::move(text
     if (close == std::string::npos || text_[close] == '[') continue;
     sections_.emplace(text_.substr(open + 1, close - open - 1), open);
   }
+}
+
+bool TemplateText::HasTemplateSection() const {
+  return std::any_of(sections_.begin(), sections_.end(),
+                     [](const auto& section) { return IsTemplateSection(section.first); });
 }
 
 void TemplateText::EnterSection(std::string_view section) const {
@@ -82,7 +108,7 @@ std::optional<std::string> TemplateFile::Load(const std::string& path) {
   refused_ = name;
   if (!contents.Bytes) return contents.Fault;
   buffer_.emplace(*std::move(contents.Bytes));
-  if (!buffer_->Has("Universe") && !buffer_->Has("Advanced") && !buffer_->Has("UniFold0")) {
+  if (!buffer_->HasTemplateSection()) {
     buffer_.reset();
     return "It holds no settings of a universe";
   }

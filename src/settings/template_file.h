@@ -34,8 +34,8 @@ class TemplateText {
   /// the key or the line's end is not found. Section and key hold no "[", "]" and "=".
   std::optional<std::string> Find(std::string_view section, std::string_view key) const;
 
-  /// Whether there is any section of that name.
-  bool Has(std::string_view section) const { return sections_.contains(std::string(section)); }
+  /// Whether there is any section that templates have, be it a single one.
+  bool HasTemplateSection() const;
 
  private:
   void EnterSection(std::string_view section) const;

@@ -1,12 +1,11 @@
 #include "settings/templates.h"
 
-#include <algorithm>
 #include <memory>
 #include <utility>
-#include <vector>
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "settings/field_order.h"
 #include "settings/fields.h"
 #include "settings/first_run.h"
 #include "settings/packing.h"
@@ -17,34 +16,11 @@
 namespace starfolds {
 namespace {
 
+/// What templates hold of an order, with some fields moved once more.
 template <class Record>
-using FieldOrder = std::vector<const Field<Record>*>;
-
-/// A field that does not stand where the record has it, but behind another one.
-struct Moved {
-  std::string_view Name;
-  std::string_view Behind;
-};
-
-/// The fields of a template, in its order: the record's, with some of them moved, one after the
-/// other.
-template <class Record>
-FieldOrder<Record> TemplateOrder(std::span<const Field<Record>> fields,
-                                 std::span<const Moved> moves) {
-  FieldOrder<Record> order;
-  for (const Field<Record>& field : fields) {
-    if (field.Odd.InTemplate) order.push_back(&field);
-  }
-  const auto place = [&](std::string_view name) {
-    return std::find_if(order.begin(), order.end(),
-                        [&](const Field<Record>* field) { return field->Name == name; });
-  };
-  for (const Moved& move : moves) {
-    const auto from = place(move.Name);
-    const Field<Record>* field = *from;
-    order.erase(from);
-    order.insert(std::next(place(move.Behind)), field);
-  }
+FieldOrder<Record> InTemplates(FieldOrder<Record> order, std::span<const Moved> moves) {
+  std::erase_if(order, [](const Field<Record>* field) { return !field->Odd.InTemplate; });
+  MoveFields(order, moves);
   return order;
 }
 
@@ -52,24 +28,16 @@ const FieldOrder<UniverseSettings>& UniverseOrder() {
   static constexpr Moved moves[] = {{"Universe_Profile", "Universe_GravFrame"},
                                     {"Universe_Tour", "Universe_GS_Idx"}};
   static const FieldOrder<UniverseSettings> order =
-      TemplateOrder(UniverseFields(), std::span<const Moved>(moves));
+      InTemplates(OrderOf(UniverseFields(), {}), moves);
   return order;
 }
 
 const FieldOrder<StarfoldProfile>& ProfileOrder() {
   static constexpr Moved moves[] = {{"_UniFoldPct", "_UniFoldName"},
-                                    {"Starfold_ColorMult", "Starfold_RadBFill"},
-                                    {"Starfold_StdLevels", "Starfold_QG_Force"},
-                                    {"Starfold_StdLevDRad", "Starfold_StdLevels"},
-                                    {"Starfold_StdLevHSca", "Starfold_StdLevDRad"},
-                                    {"Starfold_StdLevB_HS", "Starfold_StdLevHSca"},
-                                    {"Starfold_StdLevB_A0", "Starfold_StdLevB_HS"},
-                                    {"Starfold_StdLevB_A1", "Starfold_StdLevB_A0"},
                                     {"Starfold_PulsarShape", "Starfold_PulsarMaxExt"},
                                     {"Starfold_CP_Close", "Starfold_CP_B_Spd"},
                                     {"Starfold_CP_AdvHW", "Starfold_CP_Close"}};
-  static const FieldOrder<StarfoldProfile> order =
-      TemplateOrder(ProfileFields(), std::span<const Moved>(moves));
+  static const FieldOrder<StarfoldProfile> order = InTemplates(StoredProfileOrder(), moves);
   return order;
 }
 

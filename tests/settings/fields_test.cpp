@@ -139,9 +139,9 @@ TEST(SetByNameTest, FindsEverySettingAndSaysWhatItCannotFind) {
 
 TEST(VisitListTest, TakesTheNumbersOfBodiesAndPassesOverTheRest) {
   EXPECT_EQ(ParseVisitList("   ").Count, 0);
-  const VisitList list = ParseVisitList(" 1 x  66 67 0 -3 2.0 1e1 0.2");
-  ASSERT_EQ(list.Count, 5);
-  const Integer expected[] = {0, 65, 1, 9, 0};
+  const VisitList list = ParseVisitList(" 1 x  66 67 0 -3 2.0 1e1 0.2 0.4 0.5 1.5 2.5 65.6");
+  const Integer expected[] = {0, 65, 1, 9, 0, 0, 2, 65};
+  ASSERT_EQ(list.Count, std::ssize(expected));
   for (int i = 0; i < list.Count; ++i) EXPECT_EQ(list.Bodies[i], expected[i]) << i;
   std::string many;
   for (int i = 0; i < 500; ++i) many += "5 ";

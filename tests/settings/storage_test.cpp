@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "random_records.h"
 #include "settings/first_run.h"
 
@@ -166,6 +170,69 @@ TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
   RegistryWrite(tree, "Universe", "Universe_Stars", Long{888}, machine);
   MigrateMachineSettings(tree);
   EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 777);
+}
+
+/// Notes the names that are written to the user's hive, and the paths that are deleted.
+class NotedTree : public MemoryTree {
+ public:
+  std::vector<std::string> Notes;
+  bool Write(Hive hive, std::string_view path, std::string_view name,
+             std::string_view text) override {
+    if (hive == Hive::CurrentUser) Notes.emplace_back(name);
+    return MemoryTree::Write(hive, path, name, text);
+  }
+  bool DeleteKey(Hive hive, std::string_view path) override {
+    Notes.emplace_back(path.substr(path.rfind('\\')));
+    return MemoryTree::DeleteKey(hive, path);
+  }
+
+  /// Where a name was noted first.
+  std::ptrdiff_t Place(std::string_view name) const {
+    return std::find(Notes.begin(), Notes.end(), name) - Notes.begin();
+  }
+};
+
+TEST(Storage, AProfileIsWrittenInItsOrder) {
+  NotedTree tree;
+  StarfoldProfile profile;
+  profile.Starfold_IFS_Points = 1;
+  profile.Starfold_Atoms = 1;
+  SaveProfileToRegistry(tree, profile, ProfileSection(3));
+  EXPECT_EQ(tree.Place("Starfold_ColorMult"), tree.Place("Starfold_RadBFill") + 1);
+  EXPECT_EQ(tree.Place("Starfold_HueRed"), 2);
+  const std::vector<std::string> tail(tree.Notes.begin() + tree.Place("Starfold_QG_Force"),
+                                      tree.Notes.end());
+  const std::vector<std::string> expected = {"Starfold_QG_Force",
+                                             "Starfold_StdLevels",
+                                             "Starfold_StdLevDRad",
+                                             "Starfold_StdLevHSca",
+                                             "Starfold_StdLevB_HS",
+                                             "Starfold_StdLevB_A0",
+                                             "Starfold_StdLevB_A1",
+                                             "Starfold_IFS_Points",
+                                             "\\IFS",
+                                             "IFS_CenterX",
+                                             "IFS_CenterY",
+                                             "IFS_CenterZ",
+                                             "IFS_P0",
+                                             "Starfold_Atoms",
+                                             "\\ATOMIC",
+                                             "Atom_CenterX",
+                                             "Atom_CenterY",
+                                             "Atom_CenterZ",
+                                             "Atom_P00"};
+  EXPECT_EQ(tail, expected);
+}
+
+TEST(FirstRun, SettingsOfTheMachineArriveInTheirOrder) {
+  NotedTree tree;
+  RegistryWrite(tree, "General", kAnimationType, Long{0}, RootSelector::LocalMachine);
+  MigrateMachineSettings(tree);
+  EXPECT_EQ(tree.Place("WindowState"), 0);
+  EXPECT_EQ(tree.Place("FocalLength"), 2);
+  EXPECT_EQ(tree.Place("Universe_Stars"), 11);
+  EXPECT_EQ(tree.Place("_UniFoldPct"), tree.Place("Universe_GS_Idx") + 1);
+  EXPECT_EQ(tree.Notes.back(), kAnimationType);
 }
 
 TEST(FirstRun, AnEmptyTreeGetsTheFactorysBodiesAndStaysMarkedAsEmpty) {

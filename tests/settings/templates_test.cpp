@@ -125,6 +125,24 @@ TEST_F(Templates, WhatIsMissingIsADefaultOrZero) {
   EXPECT_EQ(records.Composites[4].MemberCount(), 0);
 }
 
+TEST_F(Templates, AnySingleSectionMakesATemplate) {
+  for (const char* section :
+       {"Advanced", "Universe", "UniFold7", "UniFold49\\IFS", "UniFold0\\ATOMIC", "CompFold15"}) {
+    Disk.Contents["one.sfd"] = "[" + std::string(section) + "]\n";
+    SettingsRecords records;
+    EXPECT_EQ(ReadTemplate(File, "one.sfd", records), std::nullopt) << section;
+  }
+  for (const char* section : {"UniFold50", "UniFold07", "CompFold16", "CompFold1\\IFS", "Other"}) {
+    Disk.Contents["one.sfd"] = "[" + std::string(section) + "]\n";
+    SettingsRecords records;
+    EXPECT_NE(ReadTemplate(File, "one.sfd", records), std::nullopt) << section;
+  }
+  const SettingsRecords records = Read("[UniFold7]\nStarfold_Radius=9\n");
+  EXPECT_EQ(records.Profiles[7].Starfold_Radius, 9);
+  EXPECT_EQ(records.Profiles[7].Starfold_Distance, 400);
+  EXPECT_EQ(records.Universe.Universe_Stars, 5000);
+}
+
 TEST_F(Templates, ASaveThatFailsLeavesTheFileAndTheNextOneIsWhole) {
   Disk.Contents["out.sfd"] = "former";
   Disk.Full = true;
