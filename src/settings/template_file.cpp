@@ -1,6 +1,7 @@
 #include "settings/template_file.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "numbers/utf8.h"
@@ -25,16 +26,90 @@ std::string WithLineEnds(std::string text) {
   return ended;
 }
 
-/// The format quotes nothing: a bracket in a value would hide all that stands behind it in its
-/// section, and a line break would cut it.
-std::string Writable(std::string_view value) {
+/// A line break in a value would cut it, and texts of one line have none.
+std::string InOneLine(std::string_view value) {
   std::string text(value);
   for (char& c : text) {
-    if (c == '[') c = '(';
-    if (c == ']') c = ')';
     if (c == '\r' || c == '\n' || c == '\0') c = ' ';
   }
   return text;
+}
+
+constexpr std::string_view kEscapesSection = "Escapes";
+constexpr char kEscape = '\\';
+
+/// What a character is written as behind a backslash.
+struct EscapedAs {
+  char Plain;
+  char Written;
+};
+constexpr EscapedAs kEscapes[] = {{'[', '('}, {']', ')'}, {'=', ':'}, {kEscape, kEscape}};
+
+/// The shortest key of a template, "IFS_P0".
+constexpr std::size_t kShortestKey = 6;
+
+bool IsKeyLetter(char c) {
+  return c == '_' || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+/// Whether the equals sign at `at` may end the text of a key, which a reader would find here.
+bool MayEndKey(std::string_view text, std::size_t at) {
+  std::size_t begin = at;
+  while (begin > 0 && IsKeyLetter(text[begin - 1])) --begin;
+  return at - begin >= kShortestKey;
+}
+
+/// Whether the character would mislead a reader. A backslash does so only before what would make
+/// an escape of it.
+bool NeedsEscape(std::string_view text, std::size_t at) {
+  switch (text[at]) {
+    case '[':
+    case ']': return true;
+    case '=': return MayEndKey(text, at);
+    case kEscape:
+      if (at + 1 == text.size()) return false;
+      return std::any_of(std::begin(kEscapes), std::end(kEscapes),
+                         [&](EscapedAs each) { return each.Written == text[at + 1]; }) ||
+             NeedsEscape(text, at + 1);
+    default: return false;
+  }
+}
+
+/// Whether the text has more than backslashes to escape. If no text has, they can stay as they are.
+bool Misleads(std::string_view text) {
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] != kEscape && NeedsEscape(text, at)) return true;
+  }
+  return false;
+}
+
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (!NeedsEscape(text, at)) {
+      escaped += text[at];
+      continue;
+    }
+    const auto* const as = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                        [&](EscapedAs each) { return each.Plain == text[at]; });
+    escaped += kEscape;
+    escaped += as->Written;
+  }
+  return escaped;
+}
+
+std::string Unescaped(std::string_view text) {
+  std::string plain;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const auto* const as =
+        text[at] != kEscape || at + 1 == text.size()
+            ? std::end(kEscapes)
+            : std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                           [&](EscapedAs each) { return each.Written == text[at + 1]; });
+    plain += as == std::end(kEscapes) ? text[at] : as->Plain;
+    if (as != std::end(kEscapes)) ++at;
+  }
+  return plain;
 }
 
 /// Whether the text is `prefix` and a number below `count`, written as templates have it.
@@ -65,6 +140,7 @@ TemplateText::TemplateText(std::string text) : text_(WithLineEnds(std::move(text
     if (close == std::string::npos || text_[close] == '[') continue;
     sections_.emplace(text_.substr(open + 1, close - open - 1), open);
   }
+  escaped_ = sections_.contains(std::string(kEscapesSection));
 }
 
 bool TemplateText::HasTemplateSection() const {
@@ -98,7 +174,8 @@ std::optional<std::string> TemplateText::Find(std::string_view section,
   const std::size_t end = section_.find(kLineEnd, begin);
   if (end == std::string_view::npos) return std::nullopt;
   const std::string_view value = section_.substr(begin, end - begin);
-  return IsUtf8(value) ? std::string(value) : FromWindows1252(value);
+  std::string text = IsUtf8(value) ? std::string(value) : FromWindows1252(value);
+  return escaped_ ? Unescaped(text) : text;
 }
 
 std::optional<std::string> TemplateFile::Load(const std::string& path) {
@@ -139,19 +216,29 @@ void TemplateFile::TemplateWrite(std::string_view section, std::string_view key,
     writing_ = true;
     outputPath_ = PathOr(path);
     output_.clear();
+    escapedOutput_.clear();
+    misleads_ = false;
   }
-  const auto line = [&](std::string_view text) { output_.append(text).append(kLineEnd); };
+  std::string head;
   if (section != section_) {
-    line({});
-    line("[" + std::string(section) + "]");
+    head.append(kLineEnd).append("[").append(section).append("]").append(kLineEnd);
     section_ = section;
   }
-  line(std::string(key) + "=" + Writable(value));
+  head.append(key).append("=");
+  const std::string text = InOneLine(value);
+  misleads_ = misleads_ || Misleads(text);
+  output_.append(head).append(text).append(kLineEnd);
+  escapedOutput_.append(head).append(Escaped(text)).append(kLineEnd);
 }
 
 std::optional<std::string> TemplateFile::CloseTemplate() {
   if (!writing_) return std::nullopt;
+  if (misleads_) {
+    TemplateWrite(kEscapesSection, "Character", "backslash");
+    std::swap(output_, escapedOutput_);
+  }
   writing_ = false;
+  escapedOutput_.clear();
   return files_.Replace(outputPath_, std::exchange(output_, {}));
 }
 

@@ -20,6 +20,11 @@ inline constexpr std::size_t kLargestTemplate = std::size_t{1} << 20;
 /// the wanted text stands. So a key is also found inside an earlier value or at the end of a longer
 /// key, a "[" anywhere ends a section, and a last line without a line break does not count.
 ///
+/// Values that would not survive that are escaped, with a backslash: "\(" is "[", "\)" is "]", "\:"
+/// is "=", "\\" is a backslash, and any other backslash stands for itself. So a reader that knows
+/// nothing of it finds all keys, and shows "\(" where a bracket was. Only a file with the section
+/// "Escapes" has any: others keep every backslash.
+///
 /// Sections and keys are looked up in an index of their brackets and equals signs, so that a load
 /// does not search the file once for every key; what is found is the same.
 class TemplateText {
@@ -43,6 +48,7 @@ class TemplateText {
   std::string text_;
   std::unordered_map<std::string, std::size_t> sections_;  // where the first of each begins
   // The section of the last lookup, as keys are asked for section by section.
+  bool escaped_ = false;
   mutable std::string entered_;
   mutable std::string_view section_;
   mutable std::vector<std::size_t> equals_;
@@ -90,7 +96,9 @@ class TemplateFile {
   bool writing_ = false;                // TemplateHandle
   std::string outputPath_;
   std::string output_;
-  std::string section_;  // TemplateSection: of the last value written
+  std::string escapedOutput_;  // the same with escapes
+  bool misleads_ = false;      // some value has to be escaped
+  std::string section_;        // TemplateSection: of the last value written
 };
 
 }  // namespace starfolds

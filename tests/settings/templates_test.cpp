@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "numbers/text.h"
 #include "random_records.h"
 #include "settings/first_run.h"
 #include "settings/former_settings.h"
@@ -101,9 +104,9 @@ TEST_F(Templates, AreWrittenInTheirForm) {
   EXPECT_TRUE(text.starts_with("\r\n[Admin]\r\nProduct=Starfolds\r\nVersion=4.1a\r\nCopyright="));
   EXPECT_TRUE(text.ends_with(
       "\r\n[CompFold15]\r\n_CompFoldName=< Composite Starfold 16 >\r\n_CompFoldPct=0\r\n"
-      "_CompFoldCount=1\r\nStarfoldIndex_0=7\r\n"));
+      "_CompFoldCount=1\r\nStarfoldIndex_0=7\r\n\r\n[Escapes]\r\nCharacter=backslash\r\n"));
   for (const char* piece :
-       {"\r\nFocalLength=1\r\n", "\r\n\r\n[UniFold0]\r\n_UniFoldName=A (b)  c\r\n",
+       {"\r\nFocalLength=1\r\n", "\r\n\r\n[UniFold0]\r\n_UniFoldName=A \\(b\\)  c\r\n",
         "Starfold_Atoms=0\r\n\r\n[UniFold0\\IFS]\r\nIFS_CenterX=0\r\n"}) {
     EXPECT_NE(text.find(piece), std::string::npos) << piece;
   }
@@ -123,6 +126,67 @@ TEST_F(Templates, WhatIsMissingIsADefaultOrZero) {
   EXPECT_EQ(records.Profiles[4].UniFoldName, "< Starfold Profile 5 >");
   EXPECT_EQ(records.Profiles[4].Starfold_Radius, 300);
   EXPECT_EQ(records.Composites[4].MemberCount(), 0);
+}
+
+/// As a reader finds a value that knows of no escapes.
+std::string FoundWithoutEscapes(const std::string& file, std::string_view section,
+                                std::string_view key) {
+  const std::string text = file + "[";
+  const std::size_t begin = text.find("[" + std::string(section) + "]");
+  const std::string cut = text.substr(begin, text.find('[', begin + 1) - begin);
+  const std::size_t value = cut.find(std::string(key) + "=") + key.size() + 1;
+  return cut.substr(value, cut.find("\r\n", value) - value);
+}
+
+TEST_F(Templates, TextsWithAnyCharactersComeBackAndHideNothing) {
+  std::vector<std::string> texts = {"[",
+                                    "]",
+                                    "A [b] c",
+                                    "\\(b\\)",
+                                    "\\",
+                                    "[\\",
+                                    "\\[",
+                                    "\\\\[\\\\\\]",
+                                    "[UniFold3]",
+                                    "[Escapes]",
+                                    "E=mc2",
+                                    "Starfold_Radius=7",
+                                    "\\:",
+                                    "[IFS_P0=]",
+                                    "C:\\(x86)\\[",
+                                    "\xC3\xA4[\xE2\x82\xAC]",
+                                    "[]=\\()::",
+                                    std::string(90, '\\') + "["};
+  std::mt19937 random(15);
+  for (int i = 0; i < 100; ++i) {
+    std::string text = "x";
+    for (int n = 0; n < 12; ++n) text += "[]()=:\\aZ_0 "[random() % 12];
+    texts.emplace_back(Trimmed(text));
+  }
+  for (const std::string& text : texts) {
+    SettingsRecords records;
+    records.Profiles[2].UniFoldName = text;
+    records.Profiles[2].Starfold_Radius = 4321;
+    records.Composites[3].CompFoldName = text;
+    records.Advanced.LockMessage = text;
+    ASSERT_EQ(Write(records), std::nullopt);
+    const std::string file = Disk.Contents["out.sfd"];
+    EXPECT_EQ(Contents(Read(file)), Contents(records)) << text;
+    EXPECT_EQ(FoundWithoutEscapes(file, "UniFold2", "Starfold_Radius"), "4321") << text;
+    EXPECT_EQ(FoundWithoutEscapes(file, "CompFold3", "_CompFoldPct"), "0") << text;
+    EXPECT_EQ(FoundWithoutEscapes(file, "Advanced", "Adv_FontSize"), "20") << text;
+  }
+}
+
+TEST_F(Templates, OnlyAFileThatSaysSoHasEscapes) {
+  const std::string profile = "[UniFold0]\r\n_UniFoldName=\\\\a\\(b\\)\r\n";
+  EXPECT_EQ(Read(profile).Profiles[0].UniFoldName, "\\\\a\\(b\\)");
+  EXPECT_EQ(Read(profile + "[Escapes]\r\n").Profiles[0].UniFoldName, "\\a[b]");
+  SettingsRecords records;
+  records.Profiles[0].UniFoldName = "\\\\a\\(b\\) E=mc2";
+  ASSERT_EQ(Write(records), std::nullopt);
+  EXPECT_EQ(Disk.Contents["out.sfd"].find("[Escapes]"), std::string::npos);
+  EXPECT_EQ(Contents(Read(Disk.Contents["out.sfd"])), Contents(records));
 }
 
 TEST_F(Templates, AnySingleSectionMakesATemplate) {
