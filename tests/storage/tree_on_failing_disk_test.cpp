@@ -25,6 +25,7 @@ struct Disk {
   int AccessesLeft = -1;  // negative: it does not fail
   bool Once = false;
   bool Failed = false;
+  bool DeletionsMayBeLost = false;  // with the power
 
   bool FailsNow() {
     if (AccessesLeft < 0 || (Failed && Once)) return false;
@@ -55,6 +56,7 @@ int Sync(sqlite3_file* file, int flags) {
 }
 
 int Delete(sqlite3_vfs*, const char* name, int sync) {
+  if (sync == 0) disk.DeletionsMayBeLost = true;
   return disk.FailsNow() ? SQLITE_IOERR_DELETE : disk.Real->xDelete(disk.Real, name, sync);
 }
 
@@ -95,6 +97,7 @@ class TreeOnFailingDisk : public testing::TestWithParam<Fault> {
     disk.AccessesLeft = accesses;
     disk.Once = GetParam() == Fault::Once;
     disk.Failed = false;
+    disk.DeletionsMayBeLost = false;
   }
 
   /// Succeeds again. Whether there was a fault since `FailAfter`.
@@ -119,6 +122,7 @@ TEST_P(TreeOnFailingDisk, ASaveIsStoredAsAWholeOrNotAtAll) {
       FailAfter(accesses);
       const bool saved = stored.Save(kNew, kValues);
       failed = Heal();
+      ASSERT_FALSE(!failed && disk.DeletionsMayBeLost);
       ASSERT_EQ(stored.Saved(kValues), saved ? kNew : before) << accesses;
       ASSERT_TRUE(stored.Complaints.empty()) << accesses;
     }
