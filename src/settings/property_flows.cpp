@@ -191,8 +191,7 @@ void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
     return Warn(settings,
                 "The stored settings cannot be read.\n\n"
                 "The Properties show the Factory Settings.  "
-                "Accepting them replaces the stored settings.\n"
-                "If those can be read by then, a copy of them is kept in:  " +
+                "Accepting them replaces the stored settings,\nwhich are kept in:  " +
                     settings.UserFolder);
   }
   if (!stored.WelcomeOffered) return ShowWelcome(settings, dialog, stored);
