@@ -23,8 +23,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ClampComposite(composite);
   ExpectClamped(composite, ClampComposite);
 
-  // Numbers that were read can be written and are read as the same. Names may hold a key.
-  profile.UniFoldName = composite.CompFoldName = "Name";
+  // What was read can be written and is read as the same. Names of several lines become one line.
+  for (std::string* name : {&profile.UniFoldName, &composite.CompFoldName}) {
+    for (char& c : *name) {
+      if (c == '\r' || c == '\n' || c == '\0') c = ' ';
+    }
+  }
   TemplateFile out(disk);
   out.TemplateFileName = "out.sfd";
   SaveProfileToTemplate(out, profile, "UniFold0");

@@ -427,16 +427,6 @@ TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
   EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 1234);
 }
 
-TEST_F(FrmPropsTest, ATreeThatCannotBeReadShowsTheFactorySettings) {
-  Store(RandomRecords(96).Make());
-  Tree.Readable = false;
-  Open();
-  EXPECT_TRUE(LastBox().starts_with("The stored settings cannot be read."));
-  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
-  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
-  EXPECT_EQ(The<QListWidget>("lstCompStarfold").count(), kCompositeCount);
-}
-
 TEST_F(FrmPropsTest, SettingsOfTheRunAreToldAndNotStored) {
   StoreFactory();
   EXPECT_FALSE(Part<QLabel>(Open(), "lblOverrides").isVisible());

@@ -208,27 +208,6 @@ TEST_F(PropertyFlows, AnUnreadableTreeShowsTheFactorySettingsAndStays) {
   EXPECT_EQ(Disk.Contents.size(), 1U);
 }
 
-TEST_F(PropertyFlows, AReadThatFailsHalfwayShowsNothingOfTheTree) {
-  class HalfReadable : public MemoryTree {
-   public:
-    int ReadsUntilFault = -1;
-    std::optional<std::string> Read(Hive hive, std::string_view path,
-                                    std::string_view name) override {
-      if (ReadsUntilFault >= 0) Readable = ReadsUntilFault-- > 0;
-      return MemoryTree::Read(hive, path, name);
-    }
-  } tree;
-  SettingsRecords mine = RandomRecords(52).Make();
-  SaveSettings(tree, mine);
-  RegistryWrite(tree, "General", kAnimationType, Long{0});
-  tree.ReadsUntilFault = 2000;
-  PropertySettings settings{tree, Edited.Profiles, Edited.Composites, Template,
-                            Disk, Boxes,           "/prog",           "/home/u"};
-  EXPECT_FALSE(LoadDialogFromRegistry(settings, Dialog).Readable);
-  EXPECT_EQ(Edited.Profiles[2].UniFoldName, FactoryProfileName(2, FactorySet::Starfolds4x));
-  EXPECT_EQ(Edited.Profiles[49].UniFoldName, FactoryProfileName(49, FactorySet::Starfolds4x));
-}
-
 TEST_F(PropertyFlows, TheResetMenuAsksAndGoesByTheAnswer) {
   Template.TemplateFileName = "mine.sfd";
   Boxes.Answers = {BoxAnswer::Cancel};
