@@ -37,7 +37,7 @@ expect() {
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 expect 0 'Usage: starfolds' '' --help
 expect 0 '^starfolds [0-9]' '' --version
-expect 2 '' "unknown option '--roots'" --roots
+expect 2 '' 'unknown option "--roots"' --roots
 expect 2 '' '--seed: takes a whole number' --saver --seed many
 expect 1 '' 'no desktop' --saver
 expect 1 '' 'no desktop' /S
@@ -101,7 +101,7 @@ if [ $? != 124 ] || ! grep -q 'cannot read "rings.sfd": No such file' "$errors";
 fi
 
 # A complaint is one line, and nothing in it commands the terminal.
-expect 2 '' "unknown option '--.\[31mred'" $'--\e[31mred'
+expect 2 '' 'unknown option "--.\[31mred"' $'--\e[31mred'
 if [ "$(wc -l <"$errors")" != 1 ] || grep -q $'\e' "$errors"; then
   echo "the complaint about a wild option is no plain line" >&2
   faults=$((faults + 1))
