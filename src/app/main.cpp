@@ -151,7 +151,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   saver->Events = &pump;
   saver->Desktop = desktop.get();
   saver->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say);
+  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || saver->QuitApp; });
   MigrateMachineSettings(tree);
   OverriddenTree overridden(tree);
   saver->Tree = &tree;
