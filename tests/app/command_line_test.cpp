@@ -14,7 +14,7 @@ namespace starfolds {
 namespace {
 
 constexpr int kPatience = 30'000;  // ms, for what must happen in the end
-constexpr int kRuns = -1;         // in place of an exit code: opens a window and goes on
+constexpr int kRuns = -1;          // in place of an exit code: opens a window and goes on
 
 const QStringList kNoDesktop{"DISPLAY=", "QT_QPA_PLATFORM="};
 const QStringList kOffscreen{"QT_QPA_PLATFORM=offscreen"};
