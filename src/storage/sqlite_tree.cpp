@@ -69,20 +69,22 @@ bool SqliteTree::DeleteKey(Hive hive, std::string_view path) {
 bool SqliteTree::Begin(Access access) {
   bulk_ = std::make_unique<Bulk>();
   const Kind kind = access == Access::Change ? Kind::Make : Kind::Look;
+  if (kind == Kind::Look) bulk_->User = &look_;
   for (int i = 0; i < kAttempts; ++i) {
-    bulk_->Worst = bulk_->User.Begin(user_, kind, LimitsFor(kind));
-    if (!MadeWayForNewFile(user_, bulk_->Worst, bulk_->User)) break;
+    bulk_->Worst = bulk_->User->Begin(user_, kind, LimitsFor(kind));
+    if (!MadeWayForNewFile(user_, bulk_->Worst, *bulk_->User)) break;
   }
-  NoteTrouble(user_, bulk_->User);
+  NoteTrouble(user_, *bulk_->User);
   return !IsFault(bulk_->Worst);
 }
 
 bool SqliteTree::End(bool keep) {
   const std::unique_ptr<Bulk> bulk = std::move(bulk_);
   TreeOutcome outcome = bulk->Worst;
-  if (keep && !IsFault(outcome)) outcome = bulk->User.Commit();
-  MadeWayForNewFile(user_, outcome, bulk->User);
-  NoteTrouble(user_, bulk->User);
+  if (keep && !IsFault(outcome)) outcome = bulk->User->Commit();
+  MadeWayForNewFile(user_, outcome, *bulk->User);
+  NoteTrouble(user_, *bulk->User);
+  EndLook(outcome);
   return keep && !IsFault(outcome);
 }
 
@@ -106,21 +108,38 @@ TreeTransaction& SqliteTree::MachineOfBulk() {
 
 /// A transaction for a single value.
 TreeOutcome SqliteTree::Once(const TreePlace& place, Kind kind, const Deed& deed) {
+  if (!bulk_ && kind == Kind::Look && &place == &user_) {
+    const TreeOutcome outcome = Try(look_, place, kind, deed);
+    EndLook(outcome);
+    return outcome;
+  }
   if (bulk_) bulk_->Machine.reset();  // it would be in the way of a change
   TreeOutcome outcome = Refused;
   for (int i = 0; i < kAttempts; ++i) {
     TreeTransaction transaction;
-    outcome = transaction.Begin(place, kind, LimitsFor(kind));
-    if (outcome == Done) outcome = deed(transaction);
-    if (outcome == Done && kind != Kind::Look) outcome = transaction.Commit();
-    NoteTrouble(place, transaction);
+    outcome = Try(transaction, place, kind, deed);
     if (!MadeWayForNewFile(place, outcome, transaction)) break;
   }
   return outcome;
 }
 
+TreeOutcome SqliteTree::Try(TreeTransaction& transaction, const TreePlace& place, Kind kind,
+                            const Deed& deed) {
+  TreeOutcome outcome = transaction.Begin(place, kind, LimitsFor(kind));
+  if (outcome == Done) outcome = deed(transaction);
+  if (outcome == Done && kind != Kind::Look) outcome = transaction.Commit();
+  NoteTrouble(place, transaction);
+  return outcome;
+}
+
+/// After a fault the file is opened anew for the next look.
+void SqliteTree::EndLook(TreeOutcome outcome) {
+  if (IsFault(outcome)) look_.Close();
+  look_.EndLook();
+}
+
 TreeOutcome SqliteTree::InBulk(const Deed& deed) {
-  const TreeOutcome outcome = deed(bulk_->User);
+  const TreeOutcome outcome = deed(*bulk_->User);
   bulk_->Worst = std::max(bulk_->Worst, outcome);
   return outcome;
 }
@@ -132,6 +151,7 @@ bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
   if (outcome != Damaged || transaction.Is() != Kind::Make) return false;
   const std::optional<FileIdentity> damaged = transaction.Identity();
   transaction.Close();
+  look_.Close();
   if (damaged) {
     const auto name = SetAside(place.File, *damaged, patience_.Look);
     if (name && complain_) {

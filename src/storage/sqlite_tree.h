@@ -24,10 +24,11 @@ struct TreePatience {
   std::chrono::milliseconds Rest{3000};
 };
 
-/// A file is open only while a value, or a bulk, is read or written. The first write makes it, and
-/// its folder. A file of the user's that turns out to be damaged when something is to be stored is
-/// set aside under another name, and the complaint says so in one line; then a new one is begun. A
-/// look that was given up is complained about as well: the file is locked or holds too much.
+/// A file is locked only while a value, or a bulk, is read or written. The user's file stays open
+/// for the next look, as a start looks several times. The first write makes the file, and its
+/// folder. A file of the user's that turns out to be damaged when something is to be stored is set
+/// aside under another name, and the complaint says so in one line; then a new one is begun. A look
+/// that was given up is complained about as well: the file is locked or holds too much.
 ///
 /// Bulks hold the user's hive. In a bulk, too, what is written to the machine's hive is stored at
 /// once, and what cannot be read there counts as missing: nobody shall be kept from his own
@@ -56,7 +57,8 @@ class SqliteTree : public KeyValueTree {
 
  private:
   struct Bulk {
-    TreeTransaction User;
+    TreeTransaction Change;
+    TreeTransaction* User = &Change;         // or the tree's look
     std::optional<TreeTransaction> Machine;  // only looked at, once something is read there
     TreeOutcome Worst = TreeOutcome::Done;
   };
@@ -66,6 +68,9 @@ class SqliteTree : public KeyValueTree {
   TreeTransaction& MachineOfBulk();
   TreeOutcome Once(const TreePlace& place, TreeTransaction::Kind kind, const Deed& deed);
   TreeOutcome InBulk(const Deed& deed);
+  TreeOutcome Try(TreeTransaction& transaction, const TreePlace& place, TreeTransaction::Kind kind,
+                  const Deed& deed);
+  void EndLook(TreeOutcome outcome);
   bool MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome, TreeTransaction& transaction);
 
   bool IsResting() const { return std::chrono::steady_clock::now() < restUntil_; }
@@ -77,6 +82,7 @@ class SqliteTree : public KeyValueTree {
   TreePatience patience_;
   GiveUp giveUp_;
   std::chrono::steady_clock::time_point restUntil_;
+  TreeTransaction look_;  // at the user's file, which stays open for the next one
   std::unique_ptr<Bulk> bulk_;
 };
 

@@ -146,16 +146,18 @@ int TreeTransaction::Run(const std::function<int()>& statement) {
 
 TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits limits) {
   using State = FoundFile::State;
-  Close();
+  // SQLite understands relative names otherwise: "" and ":memory:" are no files.
+  const bool hasPlace = place.File.starts_with('/');
+  const FoundFile found = hasPlace ? LookAtFile(place.File) : FoundFile{State::Missing, {}};
+  const bool isOpen = db_ && kind == Kind::Look && kind_ == Kind::Look &&
+                      found.Is == State::Plain && found.Identity == identity_;
+  if (!isOpen) Close();
   identity_.reset();
   kind_ = kind;
   limits_ = std::move(limits);
   trouble_ = TreeTrouble::None;
   waited_ = {};
   worked_ = 0;
-  // SQLite understands relative names otherwise: "" and ":memory:" are no files.
-  const bool hasPlace = place.File.starts_with('/');
-  const FoundFile found = hasPlace ? LookAtFile(place.File) : FoundFile{State::Missing, {}};
   if (found.Is == State::Missing && (kind != Kind::Make || !hasPlace)) {
     withoutFile_ = kind == Kind::Make ? Refused : Nothing;
     return withoutFile_;
@@ -169,7 +171,7 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits
   // SQLite makes a journal only where something changes. To store what is there already shall fail
   // as well: by that the program finds out whether it can store at all.
   if (kind != Kind::Look && !CanMakeFilesBeside(place.File)) return Refused;
-  TreeOutcome outcome = Open(place.File);
+  TreeOutcome outcome = isOpen ? Done : Open(place.File);
   if (outcome == Done) outcome = StartTransaction();
   if (outcome == Done) outcome = FindTable();
   if (outcome == Done && kind != Kind::Look) outcome = Check();
@@ -307,6 +309,22 @@ void TreeTransaction::Close() {
   db_ = nullptr;
   hasTable_ = false;
   withoutFile_ = Refused;
+}
+
+/// The pages that were read are not kept: the next look may be hours away, and what others write
+/// without SQLite would not be seen.
+void TreeTransaction::EndLook() {
+  sqlite3_reset(get_.get());
+  const bool isSound = db_ && trouble_ == TreeTrouble::None;
+  if (!isSound || (IsRunning() && Execute("COMMIT") != Done) || HasLog()) return Close();
+  sqlite3_db_release_memory(db_);
+}
+
+/// Whether a stranger has switched the file to a log. It cannot be switched back, which every
+/// change does, while anybody has it open.
+bool TreeTransaction::HasLog() const {
+  const char* const log = sqlite3_filename_wal(sqlite3_db_filename(db_, "main"));
+  return LookAtFile(log).Is != FoundFile::State::Missing;
 }
 
 TreeOutcome TreeTransaction::MayChange() const {

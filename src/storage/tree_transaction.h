@@ -55,7 +55,9 @@ class TreeTransaction {
   TreeTransaction(const TreeTransaction&) = delete;
   TreeTransaction& operator=(const TreeTransaction&) = delete;
 
-  /// Whatever comes of it, the calls below are allowed and harmless.
+  /// Whatever comes of it, the calls below are allowed and harmless. A file that the last look has
+  /// left open is not opened anew, if it still is the one of that place; so the places of all looks
+  /// have to be the same.
   TreeOutcome Begin(const TreePlace& place, Kind kind, TreeLimits limits);
 
   TreeOutcome Get(std::string_view path, std::string_view name, std::string& text);
@@ -65,6 +67,8 @@ class TreeTransaction {
 
   TreeOutcome Commit();
   void Close();
+  /// Gives the lock back, and leaves the file open for the next look.
+  void EndLook();
 
   Kind Is() const { return kind_; }
   /// Known after `Close` as well.
@@ -90,6 +94,7 @@ class TreeTransaction {
   TreeOutcome MakeTable();
   TreeOutcome MayChange() const;
   bool IsRunning() const;
+  bool HasLog() const;
 
   TreeOutcome Prepare(Statement& statement, const char* sql);
   TreeOutcome Execute(const char* sql);

@@ -60,6 +60,29 @@ TEST_F(TreeFile, AFileThatAStrangerHasSwitchedToALogWorks) {
   EXPECT_FALSE(fs::exists(File + "-wal"));
 }
 
+/// A start looks several times. What comes in between is seen all the same.
+TEST_F(TreeFile, StaysOpenBetweenLooksWithoutALock) {
+  const auto openings = [&] {
+    std::error_code gone;
+    std::ptrdiff_t count = 0;
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+      count += fs::read_symlink(entry.path(), gone) == File ? 1 : 0;
+    }
+    return count;
+  };
+  ASSERT_TRUE(Stored.Save("v", 2));
+  EXPECT_EQ(Stored.Saved(2), "v");
+  EXPECT_EQ(Stored.Read("0"), "v");
+  EXPECT_EQ(openings(), 1);
+  RunSql(File, "PRAGMA locking_mode = EXCLUSIVE; UPDATE tree SET text = 'w'");
+  EXPECT_EQ(Stored.Saved(2), "w");
+  fs::rename(File, File + "-away");
+  EXPECT_EQ(Stored.Saved(2), "");
+  ASSERT_TRUE(StoredTree(File).Save("fresh", 2));
+  EXPECT_EQ(Stored.Saved(2), "fresh");
+  EXPECT_EQ(openings(), 1);
+}
+
 TEST_F(TreeFile, WithoutAPlaceNothingIsStored) {
   for (const char* file : {"", ":memory:", "relative.db"}) {
     StoredTree nowhere(file);
