@@ -3,14 +3,15 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QWidget>
-#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/options.h"
+#include "app/toolkit_start.h"
 #include "app/windows.h"
+#include "command_line/options.h"
 #include "desktop/companions.h"
 #include "desktop/desktop_services_qt.h"
 #include "desktop/foreign_window.h"
@@ -20,6 +21,8 @@
 #include "platform/console.h"
 #include "settings/first_run.h"
 #include "settings/overrides.h"
+#include "settings/template_file.h"
+#include "storage/disk_files.h"
 #include "storage/sqlite_tree.h"
 
 namespace {
@@ -39,23 +42,6 @@ int Fail(const std::string& message, int exitCode) {
 int PrintAndEnd(const std::string& text) {
   return Print(text) ? 0 : Fail("cannot write to the standard output", kExitCannotDo);
 }
-
-/// The toolkit ends the process with a core dump where it finds no desktop.
-bool HasDesktop() {
-#if defined(__unix__) && !defined(__APPLE__)
-  const auto given = [](const char* name) { return !qEnvironmentVariableIsEmpty(name); };
-  return given("DISPLAY") || given("WAYLAND_DISPLAY") || given("QT_QPA_PLATFORM");
-#else
-  return true;
-#endif
-}
-
-/// Only the program's name: the toolkit would take some of the system's switches for its own.
-struct ToolkitArguments {
-  explicit ToolkitArguments(char* program) : Values{program, nullptr} {}
-  int Count = 1;
-  std::array<char*, 2> Values;
-};
 
 bool ShowsDialogs(const StartOptions& options) {
   switch (options.AskedFor) {
@@ -83,26 +69,30 @@ void RunCompanion(Saver& saver, StartActions& windows) {
   ShowEffect(saver, RunMode::ScreenSaver, windows);
 }
 
-/// A host names its window on the command line, or else in the environment. Returns what is wrong.
-std::optional<std::string> FindHostWindow(StartOptions& options) {
-  constexpr char variable[] = "XSCREENSAVER_WINDOW";
-  if (options.HostWindow) return std::nullopt;
-  const std::string named = qgetenv(variable).toStdString();
+constexpr const char* kHostVariable = "XSCREENSAVER_WINDOW";
+
+std::string NamedByHost() { return qgetenv(kHostVariable).toStdString(); }
+
+/// The host's window, from the command line or else from the environment.
+std::optional<Long> WindowOfHost(const StartOptions& options) {
+  return options.HostWindow ? options.HostWindow : WindowNumber(NamedByHost());
+}
+
+std::string WrongHostWindow() {
+  const std::string named = NamedByHost();
   if (named.empty()) {
-    return std::string("--root is for programs that host a screen saver, and ") + variable +
+    return std::string("--root is for programs that host a screen saver, and ") + kHostVariable +
            " names no window of one; --saver runs the screen saver without a host";
   }
-  options.HostWindow = WindowNumber(named);
-  if (options.HostWindow) return std::nullopt;
-  return std::string(variable) + " is '" + named +
+  return std::string(kHostVariable) + " is '" + named +
          "', which is no window of an X server; on Wayland no host can show a screen saver inside "
          "its own window";
 }
 
-/// Finds the window of a host and the window system that it is on. Returns what is wrong.
-std::optional<std::string> PrepareForHost(StartOptions& options) {
+/// Finds the window of a host and the window system that it is on.
+Fault PrepareForHost(const StartOptions& options) {
   if (options.AskedFor == Role::Guest) {
-    if (auto wrong = FindHostWindow(options)) return wrong;
+    if (!WindowOfHost(options)) return WrongHostWindow();
     if (ChooseForeignWindowSystem()) return std::nullopt;
     return "there is no X server to reach the window of the host (DISPLAY names none that answers)";
   }
@@ -111,6 +101,14 @@ std::optional<std::string> PrepareForHost(StartOptions& options) {
     ChooseForeignWindowSystem();
   }
   return std::nullopt;
+}
+
+/// A box that nobody sees would be waited for without end.
+Fault CheckTemplate(const StartOptions& options) {
+  if (options.Template.empty() || MessageBoxesAreSeen()) return std::nullopt;
+  DiskFiles disk;
+  const Fault fault = TemplateFile(disk).Load(options.Template);
+  return fault ? "cannot read " + Quoted(options.Template) + ": " + *fault : fault;
 }
 
 /// Each of them waits in a loop of its own, the last one opened inside the others'. What is closed
@@ -130,13 +128,13 @@ void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
     case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
     case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
     case Role::Window: return ShowEffect(saver, RunMode::Application, windows);
-    case Role::Guest: return windows.ShowInHost(*options.HostWindow);
+    case Role::Guest: return windows.ShowInHost(*WindowOfHost(options));
     default: return Main(saver, DescribeStart(options), windows);
   }
 }
 
 int RunOnDesktop(char* program, const StartOptions& options) {
-  if (!HasDesktop()) {
+  if (!NamesDesktop()) {
     return Fail("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
                 kExitCannotDo);
   }
@@ -144,8 +142,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   // The look of the user's desktop more than doubles the memory and the time of the start on some
   // of them, and a window full of stars shows nothing of it.
   QGuiApplication::setDesktopSettingsAware(ShowsDialogs(options));
-  ToolkitArguments arguments(program);
-  QApplication application(arguments.Count, arguments.Values.data());
+  const Toolkit toolkit(program);
   QtPump pump;
   const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
 
@@ -154,7 +151,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   saver->Events = &pump;
   saver->Desktop = desktop.get();
   saver->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say);
+  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || saver->QuitApp; });
   MigrateMachineSettings(tree);
   BeginningTree edited(tree);
   OverriddenTree overridden(edited);
@@ -179,7 +176,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
 int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   StartOptions options;
-  if (const auto wrong = ParseStartOptions(arguments, options)) {
+  if (const Fault wrong = ParseStartOptions(arguments, options)) {
     return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
   }
   switch (options.AskedFor) {
@@ -187,6 +184,7 @@ int main(int argc, char** argv) {
     case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
     default: break;
   }
-  if (const auto wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
+  if (const Fault wrong = CheckTemplate(options)) return Fail(*wrong, kExitWrongUse);
+  if (const Fault wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
   return RunOnDesktop(argv[0], options);
 }

@@ -1,280 +1,183 @@
 #include "app/options.h"
 
-#include <array>
-#include <charconv>
+#include <algorithm>
 #include <limits>
 #include <memory>
 
+#include "command_line/options.h"
 #include "settings/factory.h"
 #include "settings/fields.h"
 
 namespace starfolds {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Role>, 6> kRoles{{
-    {"--help", Role::Help},
-    {"--version", Role::Version},
-    {"--saver", Role::Saver},
-    {"--window", Role::Window},
-    {"--settings", Role::Settings},
-    {"--root", Role::Guest},
-}};
+constexpr int kMostScreens = 1000;  // more than any desktop has
+constexpr std::string_view kSwitchLetters = "sScCpPaA";
 
-/// Options that stand for one setting each. The dialogs of saver hosts tell options apart by their
-/// first word, so `--set` alone would not do for them.
-struct SettingOption {
-  std::string_view Name;
-  std::string_view Setting;
-  std::string_view Value;  // empty: behind the option
-};
-constexpr std::array<SettingOption, 9> kSettingOptions{{
-    {"--stars", "Universe_Stars", {}},
-    {"--starfolds", "Universe_Starfold", {}},
-    {"--visits", "Universe_Recycle", {}},
-    {"--trail", "Universe_STrail", {}},
-    {"--ambient", "Universe_AmStar", {}},
-    {"--gravity", "Universe_GravForce", {}},
-    {"--delay", "Adv_TimeDelay", {}},
-    {"--no-tour", "Universe_Tour", "0"},
-    {"--randomize", "Adv_Randomize", "1"},
-}};
+Fault ReadHostWindow(StartOptions& to, std::string_view text) {
+  to.AskedFor = Role::Guest;
+  to.HostWindow = WindowNumber(text);
+  if (to.HostWindow) return std::nullopt;
+  return "takes the number of a window, not " + Quoted(text);
+}
 
-/// More than any desktop has.
-constexpr int kMostScreens = 1000;
+Fault ReadScreen(StartOptions& to, std::string_view text) {
+  to.Screen = std::nullopt;
+  if (text == "all") return std::nullopt;
+  if (text == "primary") text = "1";
+  return TakeNumber(to.Screen, 1, kMostScreens)(text);
+}
 
-/// By which a saver on several screens starts its own kind; nothing for people.
-constexpr std::string_view kCompanionOption = "--companion";
-
-std::optional<Role> FindRole(std::string_view argument) {
-  for (const auto& [name, role] : kRoles) {
-    if (name == argument) return role;
+/// A theme is a set of changes; those of options behind it replace them.
+Fault ReadTheme(StartOptions& to, std::string_view text) {
+  int theme = 0;
+  if (Fault fault = TakeNumber(theme, 1, kThemeCount)(text)) return fault;
+  UniverseSettings universe;
+  LoadFactoryTheme(universe, theme, false);
+  for (const auto& field : UniverseFields()) {
+    to.Changes.emplace_back(field.Name, FieldText(universe, field));
   }
   return std::nullopt;
 }
 
-const SettingOption* FindSettingOption(std::string_view argument) {
-  for (const SettingOption& option : kSettingOptions) {
-    if (option.Name == argument) return &option;
-  }
-  return nullptr;
+/// The program's options, which store what is given in `to`. The dialogs of saver hosts tell
+/// options apart by their first word, so `--set` alone would not do for them.
+OptionTable TableFor(StartOptions& to) {
+  const auto asksFor = [&](Role role) { return TakeFixed(to.AskedFor, role); };
+  const auto sets = [&](const char* setting, const char* fixed = "") {
+    return TakeChange(to.Changes, setting, fixed);
+  };
+  const auto reads = [&](Fault (*read)(StartOptions&, std::string_view)) {
+    return [&to, read](std::string_view text) { return read(to, text); };
+  };
+  const auto readsSize = [&to](std::string_view text) {
+    to.Size.emplace();
+    return TakeSize(to.Size->Width, to.Size->Height)(text);
+  };
+  return {
+      Heading("What runs"),
+      {"--saver", "", "run the screen saver; any input ends it", asksFor(Role::Saver)},
+      {"--screens", "WHICH",
+       "with --saver: \"all\" screens, each with a universe of its own\n"
+       "(as without this option), the \"primary\" one, or one by its\nnumber from 1",
+       reads(ReadScreen)},
+      {"--window", "", "run the effect as an application", asksFor(Role::Window)},
+      {"FILE", "", "with --window: show this template, store nothing", TakeText(to.Template)},
+      {"--size", "WxH", "with --window: size of the window in pixels (1280x720)", readsSize},
+      {"--full-screen", "", "with --window: cover the screen", TakeFixed(to.FullScreen, true)},
+      {"--settings", "", "open the settings dialog", asksFor(Role::Settings)},
+      Heading(
+          "For programs that host a screen saver, on X11. Input and the end are their business"),
+      {"--root", "", "run inside the window that XSCREENSAVER_WINDOW names", asksFor(Role::Guest)},
+      {"--window-id", "N", "run inside window N (decimal, or 0x and hexadecimal)",
+       reads(ReadHostWindow)},
+      Heading("With --saver, --window, --root or --window-id, for this run only"),
+      {"--seed", "N", "show the universes of seed N", TakeNumber(to.Seed)},
+      {"--theme", "N", "universe theme 1 to 8; later options replace its values", reads(ReadTheme)},
+      {"--stars", "N", "stars in all the starfolds, 10 to 30000", sets("Universe_Stars")},
+      {"--starfolds", "N", "starfolds in a universe, 1 to 999", sets("Universe_Starfold")},
+      {"--visits", "N", "visits before the next universe, 1 to 999", sets("Universe_Recycle")},
+      {"--trail", "N", "length of the trails in pixels, 1 to 99", sets("Universe_STrail")},
+      {"--ambient", "N", "stars between the starfolds, 0 to 3000", sets("Universe_AmStar")},
+      {"--gravity", "N", "gravity between the starfolds, 0 to 999999", sets("Universe_GravForce")},
+      {"--no-tour", "", "watch the whole universe from one place", sets("Universe_Tour", "0")},
+      {"--randomize", "", "vary the bodies at random", sets("Adv_Randomize", "1")},
+      {"--delay", "N", "least time of a frame in ms, 0 to 999", sets("Adv_TimeDelay")},
+      {"--set", "NAME=N",
+       "any setting by its stored name, such as Universe_Stars=9000,\n"
+       "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500",
+       TakeChange(to.Changes)},
+      Heading("Information"),
+      {"-h,--help", "", "print this text", asksFor(Role::Help), true},
+      {"-V,--version", "", "print the version", asksFor(Role::Version), true},
+      // By which a saver on several screens starts its companions.
+      Heading(""),
+      {"--companion", "", "", TakeFixed(to.Companion, true)},
+  };
 }
 
-std::optional<std::uint64_t> WholeNumber(std::string_view text, int base = 10) {
-  std::uint64_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number, base);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return number;
+/// Without these checks such options would be ignored silently.
+Fault CheckTogether(const StartOptions& options) {
+  const Role role = options.AskedFor;
+  const bool runs = role == Role::Saver || role == Role::Window || role == Role::Guest;
+  if (!options.Template.empty() && role != Role::Window) {
+    return Quoted(options.Template) + ": a template goes with --window, or alone";
+  }
+  if (options.Seed && !runs) return "--seed goes with --saver, --window, --root or --window-id";
+  if (!options.Changes.empty() && !runs) {
+    return "settings go with --saver, --window, --root or --window-id";
+  }
+  if (options.Screen && role != Role::Saver) return "--screens goes with --saver";
+  if ((options.Size || options.FullScreen) && role != Role::Window) {
+    return "--size and --full-screen go with --window";
+  }
+  if (options.Size && options.FullScreen) return "--size and --full-screen exclude each other";
+  if (options.HostWindow && role != Role::Guest) return "--window-id goes alone or with --root";
+  return std::nullopt;
+}
+
+/// "/S", "/P:123", "/Cxyz" and so on, and no path such as "/srv/rings.sfd".
+bool IsSystemSwitch(std::string_view argument) {
+  return argument.size() >= 2 && argument[0] == '/' &&
+         kSwitchLetters.find(argument[1]) != std::string_view::npos &&
+         argument.find('/', 1) == std::string_view::npos;
+}
+
+/// "-c" and the like have never been switches of the system: such a command line runs the saver, as
+/// any other does that says nothing. A lone template may have a name that begins with a hyphen.
+bool LooksLikeOption(std::string_view argument) {
+  if (argument.starts_with("--")) return true;
+  if (argument.size() < 2 || argument[0] != '-' || argument.ends_with(".sfd")) return false;
+  return argument.size() > 2 || kSwitchLetters.find(argument[1]) == std::string_view::npos;
+}
+
+bool HasOptions(std::span<const std::string_view> arguments) {
+  return !arguments.empty() && !IsSystemSwitch(arguments.front()) &&
+         std::ranges::any_of(arguments, LooksLikeOption);
 }
 
 std::string Joined(std::span<const std::string_view> arguments) {
   std::string line;
-  for (const std::string_view argument : arguments) {
-    if (argument.data() != arguments.front().data()) line += ' ';
-    line += argument;
-  }
-  return line;
-}
-
-std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
-
-bool RunsEffect(Role role) {
-  return role == Role::Saver || role == Role::Window || role == Role::Guest;
-}
-
-using Fault = std::optional<std::string>;
-
-Fault TakeSeed(StartOptions& options, std::string_view text) {
-  options.Seed = WholeNumber(text);
-  if (options.Seed) return std::nullopt;
-  return "takes a whole number, not " + Quoted(text);
-}
-
-Fault TakeHostWindow(StartOptions& options, std::string_view text) {
-  options.AskedFor = Role::Guest;
-  options.HostWindow = WindowNumber(text);
-  if (options.HostWindow) return std::nullopt;
-  return "takes the number of a window, not " + Quoted(text);
-}
-
-/// "all" is no screen of its own. Returns what is wrong with the text.
-Fault TakeScreen(StartOptions& options, std::string_view text) {
-  options.Screen = std::nullopt;
-  if (text == "all") return std::nullopt;
-  const auto number = text == "primary" ? 1 : WholeNumber(text).value_or(0);
-  if (number < 1 || number > kMostScreens) {
-    return "takes 'all', 'primary' or a number from 1, not " + Quoted(text);
-  }
-  options.Screen = static_cast<int>(number);
-  return std::nullopt;
-}
-
-/// Sets the setting in records that nobody uses, to find out whether it can be set.
-Fault TakeChange(StartOptions& options, std::string_view name, std::string_view value) {
-  options.Changes.emplace_back(name, value);
-  return SetByName(*std::make_unique<SettingsRecords>(), name, value);
-}
-
-Fault TakeSetting(StartOptions& options, std::string_view text) {
-  const std::size_t equals = text.find('=');
-  if (equals == std::string_view::npos) return "takes Name=value, not " + Quoted(text);
-  return TakeChange(options, text.substr(0, equals), text.substr(equals + 1));
-}
-
-/// A theme is a set of changes; those of options behind it go over them.
-Fault TakeTheme(StartOptions& options, std::string_view text) {
-  const auto theme = WholeNumber(text);
-  if (!theme || *theme < 1 || *theme > kThemeCount) {
-    return "takes a whole number from 1 to " + std::to_string(kThemeCount) + ", not " +
-           Quoted(text);
-  }
-  UniverseSettings universe;
-  LoadFactoryTheme(universe, static_cast<int>(*theme), false);
-  for (const auto& field : UniverseFields()) {
-    options.Changes.emplace_back(field.Name, FieldText(universe, field));
-  }
-  return std::nullopt;
-}
-
-/// An option with a value behind it.
-struct ValueOption {
-  std::string_view Name;
-  Fault (*Take)(StartOptions&, std::string_view);
-};
-constexpr std::array<ValueOption, 5> kValueOptions{{
-    {"--seed", TakeSeed},
-    {"--screens", TakeScreen},
-    {"--window-id", TakeHostWindow},
-    {"--set", TakeSetting},
-    {"--theme", TakeTheme},
-}};
-
-const ValueOption* FindValueOption(std::string_view argument) {
-  for (const ValueOption& option : kValueOptions) {
-    if (option.Name == argument) return &option;
-  }
-  return nullptr;
-}
-
-/// Reads the option at the front of `rest`, and its value, and takes both off.
-Fault ReadOption(std::span<const std::string_view>& rest, StartOptions& options) {
-  const std::string_view name = rest.front();
-  rest = rest.subspan(1);
-  if (const auto role = FindRole(name)) {
-    options.AskedFor = *role;
-    return std::nullopt;
-  }
-  if (name == kCompanionOption) {
-    options.Companion = true;
-    return std::nullopt;
-  }
-  if (!name.starts_with("--") && options.Template.empty()) {
-    options.Template = name;
-    return std::nullopt;
-  }
-  const SettingOption* const setting = FindSettingOption(name);
-  if (setting != nullptr && !setting->Value.empty()) {
-    return TakeChange(options, setting->Setting, setting->Value);
-  }
-  const ValueOption* const option = FindValueOption(name);
-  if (setting == nullptr && option == nullptr) {
-    return "unknown option '" + std::string(name) + "'";
-  }
-  if (rest.empty()) return std::string(name) + " needs a value";
-  const std::string_view value = rest.front();
-  rest = rest.subspan(1);
-  const Fault fault = setting != nullptr ? TakeChange(options, setting->Setting, value)
-                                         : option->Take(options, value);
-  return fault ? std::string(name) + ": " + *fault : fault;
-}
-
-/// Where nothing runs, these would be dropped, and quietly.
-Fault CheckTogether(const StartOptions& options) {
-  const bool ofUse = RunsEffect(options.AskedFor);
-  if (options.Seed && !ofUse) return "--seed goes with --saver, --window, --root or --window-id";
-  if (!options.Changes.empty() && !ofUse) {
-    return "settings go with --saver, --window, --root or --window-id";
-  }
-  if (!options.Template.empty() && options.AskedFor != Role::Window) {
-    return "'" + options.Template + "': a template goes with --window, or alone";
-  }
-  if (options.Screen && options.AskedFor != Role::Saver) return "--screens goes with --saver";
-  if (options.HostWindow && options.AskedFor != Role::Guest) {
-    return "--window-id goes alone or with --root";
-  }
-  return std::nullopt;
-}
-
-Fault ReadOptions(std::span<const std::string_view> rest, StartOptions& options) {
-  while (!rest.empty()) {
-    if (Fault fault = ReadOption(rest, options)) return fault;
-  }
-  return CheckTogether(options);
+  for (const std::string_view argument : arguments) line.append(" ").append(argument);
+  return line.empty() ? line : line.substr(1);
 }
 
 }  // namespace
 
 std::optional<Long> WindowNumber(std::string_view text) {
   const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
-  const auto number = hexadecimal ? WholeNumber(text.substr(2), 16) : WholeNumber(text);
+  const auto number = hexadecimal ? WholeNumber<std::uint64_t>(text.substr(2), 16)
+                                  : WholeNumber<std::uint64_t>(text);
   if (!number || *number == 0 || *number > std::numeric_limits<Long>::max()) return std::nullopt;
   return static_cast<Long>(*number);
 }
 
-std::optional<std::string> ParseStartOptions(std::span<const std::string_view> arguments,
-                                             StartOptions& options) {
-  if (!arguments.empty() && arguments.front().starts_with("--")) {
-    options.Given.assign(arguments.begin(), arguments.end());
-    return ReadOptions(arguments, options);
+Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options) {
+  if (!HasOptions(arguments)) {
+    options.CommandLine = Joined(arguments);
+    return std::nullopt;
   }
-  options.CommandLine = Joined(arguments);
-  return std::nullopt;
+  options.Given.assign(arguments.begin(), arguments.end());
+  if (Fault fault = ReadOptions(TableFor(options), arguments)) return fault;
+  const bool informs = options.AskedFor == Role::Help || options.AskedFor == Role::Version;
+  return informs ? std::nullopt : CheckTogether(options);
 }
 
 std::string UsageText() {
-  return R"(Usage: starfolds [OPTION]... or starfolds [SWITCH]
+  StartOptions unused;
+  return R"(Usage: starfolds [OPTION]... [FILE] or starfolds [SWITCH]
 
 A screen saver that simulates a universe of starfolds.
-
-  --saver         run the screen saver; a key, a button or moving the pointer ends it
-  --window        run the effect as an application: Esc ends it, F5 begins anew
-  --window FILE   show the template FILE so, and store nothing of it
-  --settings      open the settings dialog
-  --screens WHICH with --saver: all screens, each with a universe of its own (as without this
-                  option), the primary one, or one by its number from 1
-  --help          print this text
-  --version       print the version
-
-For programs that host a screen saver, on X11. Input and the end are their business:
-
-  --root          run the effect inside the window that XSCREENSAVER_WINDOW names
-  --window-id N   run it inside window N (decimal, or 0x and hexadecimal) instead
-
-With --saver, --window, --root or --window-id:
-
-  --seed N        show the universes of seed N
-  --theme N       universe theme 1 to 8; options behind it go over it
-  --stars N       stars in all the starfolds, 10 to 30000
-  --starfolds N   starfolds in a universe, 1 to 999
-  --visits N      starfolds to visit before the next universe, 1 to 999
-  --trail N       length of the stars' trails in pixels, 1 to 99
-  --ambient N     stars between the starfolds, 0 to 3000
-  --gravity N     gravity between the starfolds, 0 to 999999
-  --no-tour       watch the whole universe from one place
-  --randomize     vary the bodies at random
-  --delay N       least time of a frame in milliseconds, 0 to 999
-  --set NAME=N    any setting by its stored name, such as Universe_Stars=9000,
-                  Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500
-
-These hold for this run and are not stored. A number beyond its range is held to it.
+)" + OptionsHelp(TableFor(unused)) +
+         R"(
+A number beyond its range is clamped to it.
 
 Switches, as Windows gives them to a screen saver (capitals do not matter):
-
-  /S              run the screen saver, unless it is running
-  /C              open the settings dialog; so does no switch at all
-  /P HANDLE       show a preview inside the window HANDLE
-  /A HANDLE       change the password, where the system has one
-  FILE.sfd        load a template, store its universe, and run the screen saver
+  /S                  run the screen saver, unless it is running
+  /C                  open the settings dialog; so does no switch at all
+  /P HANDLE           show a preview inside the window HANDLE
+  /A HANDLE           change the password, where the system has one
+  FILE.sfd            load a template, store its universe, and run the screen saver
 )";
 }
 

@@ -1,5 +1,4 @@
-// The saver's own options. They are looked at before the system's switches, so that `Main` gets a
-// command line as ever.
+// The command line of `starfolds`.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "command_line/fault.h"
 #include "numbers/words.h"
 
 namespace starfolds {
@@ -24,25 +24,33 @@ enum class Role {
   Guest,  // of a saver host, in the host's window
 };
 
+/// Client size of the application's window, in logical pixels, each side 1 to 16384.
+struct WindowSize {
+  int Width = 1280;
+  int Height = 720;
+};
+
 struct StartOptions {
   Role AskedFor = Role::FromCommandLine;
   std::optional<std::uint64_t> Seed;
-  std::optional<int> Screen;       // that the saver covers, from 1; without one it covers all
+  std::optional<int> Screen;       // that the saver covers, from 1; nullopt: all screens
   bool Companion = false;          // of a saver on several screens, and not the first of them
-  std::string Template;            // path of one that a window shows; empty: none
+  std::optional<WindowSize> Size;  // of the application's window; nullopt: not given
+  bool FullScreen = false;         // the application's window covers the screen
+  std::string Template;            // path of the file that a window shows; empty: none
   std::optional<Long> HostWindow;  // of a guest; else the host names it in the environment
-  /// Names and values of settings that hold for this process alone, each one good.
+  /// Names and values of settings that hold for this process only, each one valid.
   std::vector<std::pair<std::string, std::string>> Changes;
-  std::vector<std::string> Given;  // the options as they stood there; none where there were none
+  std::vector<std::string> Given;  // the arguments, if they are options
   std::string CommandLine;         // for `Main`: every argument, joined by blanks
 };
 
-/// Reads the arguments behind the program's name. They are options only if the first one begins
-/// with "--"; of several roles the last one counts. Returns what is wrong with them.
-std::optional<std::string> ParseStartOptions(std::span<const std::string_view> arguments,
-                                             StartOptions& options);
+/// Parses the arguments behind the program's name, of several roles the last one. What a system
+/// says to its screen saver (a switch such as "/S", a template's name alone) is no option: it goes
+/// to `CommandLine` as it stands. Returns what is wrong with the arguments.
+Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options);
 
-/// The number of a window as hosts write it, decimal or "0x" and hexadecimal. Nothing where it is
+/// The number of a window as hosts write it, decimal or "0x" and hexadecimal; nullopt if it is
 /// none.
 std::optional<Long> WindowNumber(std::string_view text);
 

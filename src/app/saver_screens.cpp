@@ -17,9 +17,10 @@ std::optional<ScreenPlace> PlaceOfSaver(const StartOptions& options) {
 }
 
 /// Whatever switch the system gave, a companion is a saver. Of options that are given twice the
-/// last one counts. A seed is for one universe.
+/// last one counts; nothing behind a "--" would be an option. A seed is for one universe.
 std::vector<std::string> CompanionArguments(const StartOptions& options, int screen) {
   std::vector<std::string> arguments = options.Given;
+  std::erase(arguments, "--");
   for (const char* const more : {"--saver", "--companion", "--screens"}) arguments.push_back(more);
   arguments.push_back(std::to_string(screen + 1));
   if (options.Seed) {

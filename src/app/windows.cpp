@@ -96,9 +96,10 @@ void AppWindows::LoadFrmPreview() {
 void AppWindows::ShowInHost(Long hostWindow) {
   saver_.Mode = RunMode::ScreenSaver;
   if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
-  // A host that goes while its saver starts is nothing out of the ordinary.
-  Complain("starfolds",
-           "there is no window " + std::to_string(hostWindow) + " to show anything in");
+  // A host that goes while its saver starts is nothing out of the ordinary; a number that a person
+  // or a script has given is wrong.
+  Fail("there is no window " + std::to_string(hostWindow) + " to show anything in",
+       options_.HostWindow ? kExitCannotDo : 0);
 }
 
 /// A file that cannot be read is most likely a typing error, and a universe that cannot be stored

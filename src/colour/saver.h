@@ -44,8 +44,9 @@ struct Saver {
 
   /// What the user has stored: the truth between runs. Set before the first one, outlives all.
   KeyValueTree* Tree = nullptr;
-  /// Takes the place of an empty tree that cannot be written.
-  MemoryTree StandIn;
+  /// Whether the tree holds bodies. If not, because it cannot be read or written, a run shows the
+  /// factory's.
+  bool HasBodies = true;
 
   // The records of the run, copied from the tree when its host is set up and clamped ...
   AdvancedSettings Advanced;

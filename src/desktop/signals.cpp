@@ -4,6 +4,7 @@
 
 #ifdef __unix__
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -70,6 +71,11 @@ class StopSignals::Catcher {
     });
   }
 
+  bool Asked() const {
+    pollfd waiting{exit_, POLLIN, 0};
+    return poll(&waiting, 1, 0) > 0;  // no descriptor is none that is ready
+  }
+
  private:
   /// A signal that whoever started us told us to ignore stays ignored, as under nohup.
   void CatchSignal(std::size_t i) {
@@ -93,6 +99,7 @@ class StopSignals::Catcher {
 class StopSignals::Catcher {
  public:
   void Watch(const std::function<void()>&) {}
+  bool Asked() const { return false; }
 };
 
 #endif
@@ -100,5 +107,6 @@ class StopSignals::Catcher {
 StopSignals::StopSignals() : catcher_(std::make_unique<Catcher>()) {}
 StopSignals::~StopSignals() = default;
 void StopSignals::Watch(std::function<void()> stop) { catcher_->Watch(std::move(stop)); }
+bool StopSignals::Asked() const { return catcher_->Asked(); }
 
 }  // namespace starfolds

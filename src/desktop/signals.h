@@ -20,6 +20,9 @@ class StopSignals {
   /// Needs the application object.
   void Watch(std::function<void()> stop);
 
+  /// Whether a request has come that `Watch` has not reported yet.
+  bool Asked() const;
+
  private:
   class Catcher;
   std::unique_ptr<Catcher> catcher_;

@@ -35,8 +35,8 @@ void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
 }
 
 void RunEffect(Saver& saver, Surface& surface, bool smallPreview) {
-  if (!smallPreview) EnsureBodies(saver);
   while (!saver.StopRun) {
+    if (!smallPreview) EnsureBodies(saver);
     ReadUniverseSettings(saver, smallPreview);
     ResetSurface(surface);
     UniverseRun(saver);

@@ -6,8 +6,8 @@
 
 namespace starfolds {
 
-/// Text with a "?" for each control character: arguments and file names come back in messages, and
-/// a terminal shall not obey them.
+/// The text with "?" for each byte of a control character (C0, DEL and C1). Prevents arguments and
+/// file names that come back in messages from sending escape sequences to the terminal.
 std::string Harmless(std::string_view text);
 
 /// One line on the standard error, "program: message".

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "render/fault.h"
+#include "command_line/fault.h"
 #include "render/frame_plan.h"
 #include "render/picture.h"
 

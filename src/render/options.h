@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "command_line/fault.h"
 #include "platform/files.h"
 #include "platform/key_value_tree.h"
-#include "render/fault.h"
 #include "render/frame_plan.h"
 #include "settings/factory.h"
 #include "settings/records.h"
@@ -50,9 +50,8 @@ struct RenderOptions {
   }
 };
 
-/// Reads the arguments (without the program's name) from left to right; of an option that stands
-/// twice the last one counts. Where an argument is no good it gives a message, and `options` is of
-/// no use.
+/// Parses the arguments behind the program's name from left to right; of an option that is given
+/// twice the last one counts. If it returns a fault, `options` is of no use.
 Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& options);
 
 /// What `--help` prints.

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "render/fault.h"
+#include "command_line/fault.h"
 
 namespace starfolds {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "render/fault.h"
+#include "command_line/fault.h"
 #include "render/picture.h"
 
 namespace starfolds {

@@ -1,7 +1,7 @@
 // One rendering, from the options to the finished files.
 #pragma once
 
-#include "render/fault.h"
+#include "command_line/fault.h"
 #include "render/options.h"
 
 namespace starfolds {

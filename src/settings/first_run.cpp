@@ -61,8 +61,8 @@ void MigrateMachineSettings(KeyValueTree& tree) {
 SettingsRecords SettingsToShow(KeyValueTree& tree) {
   TreeBulk look = TreeBulk::Look(tree);
   SettingsRecords records = LoadSettings(tree);
-  if (!HasMark(tree, kAnimationType)) LoadFactorySet(records, FactorySet::Starfolds4x);
-  look.Commit();
+  const bool isComplete = HasMark(tree, kAnimationType);
+  if (!look.Commit() || !isComplete) LoadFactorySet(records, FactorySet::Starfolds4x);
   return records;
 }
 

@@ -21,7 +21,7 @@ bool HasMark(KeyValueTree& tree, std::string_view mark);
 void MigrateMachineSettings(KeyValueTree& tree);
 
 /// What a run shows without storing anything: the user's settings, with the factory's bodies where
-/// the tree is not complete.
+/// the tree is not complete or could not be read as a whole.
 SettingsRecords SettingsToShow(KeyValueTree& tree);
 
 /// Writes the factory's bodies to a user's tree that is not complete. The mark is left to the

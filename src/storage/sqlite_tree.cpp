@@ -16,15 +16,20 @@ constexpr unsigned kMachineFolderRights = 0755;
 /// same in between.
 constexpr int kAttempts = 3;
 
+/// Of the processor, for a look or a change while the tree rests.
+constexpr std::chrono::milliseconds kWorkAtRest{100};
+
 bool IsFault(TreeOutcome outcome) { return outcome == Refused || outcome == Damaged; }
 
 }  // namespace
 
-SqliteTree::SqliteTree(const TreeFiles& files, Complaint complain, TreePatience patience)
+SqliteTree::SqliteTree(const TreeFiles& files, Complaint complain, TreePatience patience,
+                       GiveUp giveUp)
     : user_{files.User, kUserFolderRights},
       machine_{files.Machine, kMachineFolderRights},
       complain_(std::move(complain)),
-      patience_(patience) {}
+      patience_(patience),
+      giveUp_(std::move(giveUp)) {}
 
 std::optional<std::string> SqliteTree::Read(Hive hive, std::string_view path,
                                             std::string_view name) {
@@ -64,18 +69,22 @@ bool SqliteTree::DeleteKey(Hive hive, std::string_view path) {
 bool SqliteTree::Begin(Access access) {
   bulk_ = std::make_unique<Bulk>();
   const Kind kind = access == Access::Change ? Kind::Make : Kind::Look;
+  if (kind == Kind::Look) bulk_->User = &look_;
   for (int i = 0; i < kAttempts; ++i) {
-    bulk_->Worst = bulk_->User.Begin(user_, kind, PatienceFor(kind));
-    if (!MadeWayForNewFile(user_, bulk_->Worst, bulk_->User)) break;
+    bulk_->Worst = bulk_->User->Begin(user_, kind, LimitsFor(kind));
+    if (!MadeWayForNewFile(user_, bulk_->Worst, *bulk_->User)) break;
   }
+  NoteTrouble(user_, *bulk_->User);
   return !IsFault(bulk_->Worst);
 }
 
 bool SqliteTree::End(bool keep) {
   const std::unique_ptr<Bulk> bulk = std::move(bulk_);
   TreeOutcome outcome = bulk->Worst;
-  if (keep && !IsFault(outcome)) outcome = bulk->User.Commit();
-  MadeWayForNewFile(user_, outcome, bulk->User);
+  if (keep && !IsFault(outcome)) outcome = bulk->User->Commit();
+  MadeWayForNewFile(user_, outcome, *bulk->User);
+  NoteTrouble(user_, *bulk->User);
+  EndLook(outcome);
   return keep && !IsFault(outcome);
 }
 
@@ -91,27 +100,46 @@ const TreePlace* SqliteTree::PlaceOf(Hive hive) const {
 
 TreeTransaction& SqliteTree::MachineOfBulk() {
   if (!bulk_->Machine) {
-    bulk_->Machine.emplace().Begin(machine_, Kind::Look, patience_.Look);
+    bulk_->Machine.emplace().Begin(machine_, Kind::Look, LimitsFor(Kind::Look));
+    NoteTrouble(machine_, *bulk_->Machine);
   }
   return *bulk_->Machine;
 }
 
 /// A transaction for a single value.
 TreeOutcome SqliteTree::Once(const TreePlace& place, Kind kind, const Deed& deed) {
+  if (!bulk_ && kind == Kind::Look && &place == &user_) {
+    const TreeOutcome outcome = Try(look_, place, kind, deed);
+    EndLook(outcome);
+    return outcome;
+  }
   if (bulk_) bulk_->Machine.reset();  // it would be in the way of a change
   TreeOutcome outcome = Refused;
   for (int i = 0; i < kAttempts; ++i) {
     TreeTransaction transaction;
-    outcome = transaction.Begin(place, kind, PatienceFor(kind));
-    if (outcome == Done) outcome = deed(transaction);
-    if (outcome == Done && kind != Kind::Look) outcome = transaction.Commit();
+    outcome = Try(transaction, place, kind, deed);
     if (!MadeWayForNewFile(place, outcome, transaction)) break;
   }
   return outcome;
 }
 
+TreeOutcome SqliteTree::Try(TreeTransaction& transaction, const TreePlace& place, Kind kind,
+                            const Deed& deed) {
+  TreeOutcome outcome = transaction.Begin(place, kind, LimitsFor(kind));
+  if (outcome == Done) outcome = deed(transaction);
+  if (outcome == Done && kind != Kind::Look) outcome = transaction.Commit();
+  NoteTrouble(place, transaction);
+  return outcome;
+}
+
+/// After a fault the file is opened anew for the next look.
+void SqliteTree::EndLook(TreeOutcome outcome) {
+  if (IsFault(outcome)) look_.Close();
+  look_.EndLook();
+}
+
 TreeOutcome SqliteTree::InBulk(const Deed& deed) {
-  const TreeOutcome outcome = deed(bulk_->User);
+  const TreeOutcome outcome = deed(*bulk_->User);
   bulk_->Worst = std::max(bulk_->Worst, outcome);
   return outcome;
 }
@@ -123,6 +151,7 @@ bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
   if (outcome != Damaged || transaction.Is() != Kind::Make) return false;
   const std::optional<FileIdentity> damaged = transaction.Identity();
   transaction.Close();
+  look_.Close();
   if (damaged) {
     const auto name = SetAside(place.File, *damaged, patience_.Look);
     if (name && complain_) {
@@ -133,8 +162,22 @@ bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
   return LookAtFile(place.File).Identity != damaged;
 }
 
-std::chrono::milliseconds SqliteTree::PatienceFor(Kind kind) const {
-  return kind == Kind::Look ? patience_.Look : patience_.Change;
+TreeLimits SqliteTree::LimitsFor(Kind kind) const {
+  if (IsResting()) return {{}, kWorkAtRest, giveUp_};
+  return {kind == Kind::Look ? patience_.Look : patience_.Change, patience_.Work, giveUp_};
+}
+
+/// A change that has waited in vain is repeated by its user, who is told.
+void SqliteTree::NoteTrouble(const TreePlace& place, const TreeTransaction& transaction) {
+  const TreeTrouble trouble = transaction.Trouble();
+  const bool locked = trouble == TreeTrouble::Locked && transaction.Is() == Kind::Look;
+  if (!locked && trouble != TreeTrouble::TooMuch) return;
+  if (IsResting()) return;
+  restUntil_ = std::chrono::steady_clock::now() + patience_.Rest;
+  if (!complain_) return;
+  complain_("\"" + place.File + "\" " +
+            (locked ? "is locked by another process" : "holds too much to be read in time") +
+            "; the settings in it are left out");
 }
 
 }  // namespace starfolds

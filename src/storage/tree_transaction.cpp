@@ -35,8 +35,8 @@ constexpr const char* kCareful =
 /// out, too, which costs some 4 ms more than FULL.
 constexpr const char* kDurable = "PRAGMA synchronous = EXTRA; PRAGMA journal_mode = DELETE;";
 
-/// Far more than a tree of this program needs, and small enough that a file made by an enemy can
-/// neither fill the memory nor keep the program busy for more than about a second.
+/// Far more than a tree of this program needs, and small enough that a file made by an enemy cannot
+/// fill the memory.
 constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_LENGTH, 1 << 20},    {SQLITE_LIMIT_SQL_LENGTH, 10'000},
     {SQLITE_LIMIT_COLUMN, 32},         {SQLITE_LIMIT_EXPR_DEPTH, 20},
@@ -45,7 +45,6 @@ constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
 };
 constexpr int kStepsAtOnce = 1000;  // of SQLite's machine; a value read or written takes some 30
-constexpr std::clock_t kMostTime = CLOCKS_PER_SEC;  // of the processor, for one statement
 
 constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
 constexpr int kMostPages = 10'000;  // that are copied; a full tree has some hundred
@@ -111,31 +110,56 @@ void TreeTransaction::Finalize::operator()(sqlite3_stmt* statement) const {
 /// and over would always come first.
 int TreeTransaction::WaitForLock(void* self, int tries) {
   auto& transaction = *static_cast<TreeTransaction*>(self);
-  const auto now = std::chrono::steady_clock::now();
-  if (tries == 0) transaction.waitingSince_ = now;
-  if (now - transaction.waitingSince_ >= transaction.patience_) return 0;
+  const TreeLimits& limits = transaction.limits_;
+  if (limits.GiveUp && limits.GiveUp()) {
+    transaction.trouble_ = TreeTrouble::AskedToStop;
+    return 0;
+  }
+  if (transaction.waited_ >= limits.Wait) {
+    transaction.trouble_ = TreeTrouble::Locked;
+    return 0;
+  }
+  const auto begin = std::chrono::steady_clock::now();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::min(tries + 1, kLongestPause)));
+  transaction.waited_ += std::chrono::steady_clock::now() - begin;
   return 1;
 }
 
-/// Time of the processor, so that neither a busy machine nor a sleeping one makes a file endless.
 int TreeTransaction::StopIfEndless(void* self) {
-  auto& transaction = *static_cast<TreeTransaction*>(self);
-  const std::clock_t now = std::clock();
-  if (!transaction.runningSince_) transaction.runningSince_ = now;
-  return now - *transaction.runningSince_ > kMostTime ? 1 : 0;
+  return static_cast<TreeTransaction*>(self)->IsExhausted() ? 1 : 0;
 }
 
-TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind,
-                                   std::chrono::milliseconds patience) {
+/// Time of the processor, so that neither a busy machine nor a sleeping one makes a file endless.
+bool TreeTransaction::IsExhausted() {
+  const auto worked = static_cast<double>(worked_ + std::clock() - runningSince_);
+  if (worked / CLOCKS_PER_SEC <= std::chrono::duration<double>(limits_.Work).count()) return false;
+  trouble_ = TreeTrouble::TooMuch;
+  return true;
+}
+
+/// Most statements are too short to be stopped by the handler. Thousands of them are stopped here.
+int TreeTransaction::Run(const std::function<int()>& statement) {
+  runningSince_ = std::clock();
+  if (IsExhausted()) return SQLITE_INTERRUPT;
+  const int code = statement();
+  worked_ += std::clock() - runningSince_;
+  return code;
+}
+
+TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits limits) {
   using State = FoundFile::State;
-  Close();
-  identity_.reset();
-  kind_ = kind;
-  patience_ = patience;
   // SQLite understands relative names otherwise: "" and ":memory:" are no files.
   const bool hasPlace = place.File.starts_with('/');
   const FoundFile found = hasPlace ? LookAtFile(place.File) : FoundFile{State::Missing, {}};
+  const bool isOpen = db_ && kind == Kind::Look && kind_ == Kind::Look &&
+                      found.Is == State::Plain && found.Identity == identity_;
+  if (!isOpen) Close();
+  identity_.reset();
+  kind_ = kind;
+  limits_ = std::move(limits);
+  trouble_ = TreeTrouble::None;
+  waited_ = {};
+  worked_ = 0;
   if (found.Is == State::Missing && (kind != Kind::Make || !hasPlace)) {
     withoutFile_ = kind == Kind::Make ? Refused : Nothing;
     return withoutFile_;
@@ -149,7 +173,7 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind,
   // SQLite makes a journal only where something changes. To store what is there already shall fail
   // as well: by that the program finds out whether it can store at all.
   if (kind != Kind::Look && !CanMakeFilesBeside(place.File)) return Refused;
-  TreeOutcome outcome = Open(place.File);
+  TreeOutcome outcome = isOpen ? Done : Open(place.File);
   if (outcome == Done) outcome = StartTransaction();
   if (outcome == Done) outcome = FindTable();
   if (outcome == Done && kind != Kind::Look) outcome = Check();
@@ -191,8 +215,11 @@ TreeOutcome TreeTransaction::FindTable() {
 /// written before all of the file has been looked at; it is small.
 TreeOutcome TreeTransaction::Check() {
   if (!hasTable_) return Done;
-  runningSince_.reset();
-  const TreeOutcome outcome = Examine(db_);
+  TreeOutcome outcome = Refused;
+  Run([&] {
+    outcome = Examine(db_);
+    return SQLITE_OK;
+  });
   return outcome == Damaged ? CheckCopy() : outcome;
 }
 
@@ -209,8 +236,10 @@ TreeOutcome TreeTransaction::CheckCopy() {
   if (outcome == Done) {
     Distrust(copy);
     sqlite3_progress_handler(copy, kStepsAtOnce, StopIfEndless, this);
-    runningSince_.reset();
-    outcome = Examine(copy);
+    Run([&] {
+      outcome = Examine(copy);
+      return SQLITE_OK;
+    });
   }
   sqlite3_close(copy);
   return outcome == Damaged ? Damaged : Refused;
@@ -284,6 +313,22 @@ void TreeTransaction::Close() {
   withoutFile_ = Refused;
 }
 
+/// The pages that were read are not kept: the next look may be hours away, and what others write
+/// without SQLite would not be seen.
+void TreeTransaction::EndLook() {
+  sqlite3_reset(get_.get());
+  const bool isSound = db_ && trouble_ == TreeTrouble::None;
+  if (!isSound || (IsRunning() && Execute("COMMIT") != Done) || HasLog()) return Close();
+  sqlite3_db_release_memory(db_);
+}
+
+/// Whether a stranger has switched the file to a log. It cannot be switched back, which every
+/// change does, while anybody has it open.
+bool TreeTransaction::HasLog() const {
+  const char* const log = sqlite3_filename_wal(sqlite3_db_filename(db_, "main"));
+  return LookAtFile(log).Is != FoundFile::State::Missing;
+}
+
 TreeOutcome TreeTransaction::MayChange() const {
   if (!db_) return withoutFile_;
   return kind_ != Kind::Look && IsRunning() ? Done : Refused;
@@ -296,20 +341,17 @@ bool TreeTransaction::IsRunning() const { return sqlite3_get_autocommit(db_) == 
 TreeOutcome TreeTransaction::Prepare(Statement& statement, const char* sql) {
   if (statement) return Done;
   sqlite3_stmt* made = nullptr;
-  runningSince_.reset();
-  const int code = sqlite3_prepare_v2(db_, sql, -1, &made, nullptr);
+  const int code = Run([&] { return sqlite3_prepare_v2(db_, sql, -1, &made, nullptr); });
   statement.reset(made);
   return OutcomeOf(code);
 }
 
 TreeOutcome TreeTransaction::Execute(const char* sql) {
-  runningSince_.reset();
-  return OutcomeOf(sqlite3_exec(db_, sql, nullptr, nullptr, nullptr));
+  return OutcomeOf(Run([&] { return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr); }));
 }
 
 int TreeTransaction::Step(const Statement& statement) {
-  runningSince_.reset();
-  return sqlite3_step(statement.get());
+  return Run([&] { return sqlite3_step(statement.get()); });
 }
 
 }  // namespace starfolds

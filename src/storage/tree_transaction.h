@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,6 +30,16 @@ struct TreePlace {
   unsigned FolderRights = 0;  // of the folders that are made for it
 };
 
+/// What an attempt may cost.
+struct TreeLimits {
+  std::chrono::milliseconds Wait{0};  // for other processes' locks, in all
+  std::chrono::milliseconds Work{0};  // of the processor, for all statements
+  std::function<bool()> GiveUp;       // asked while waiting; empty: never
+};
+
+/// Why an attempt was given up.
+enum class TreeTrouble { None, Locked, TooMuch, AskedToStop };
+
 /// Opens the file, takes its lock, and gives both back at the end. What is not committed is not
 /// stored. After a failure nothing more is stored either.
 class TreeTransaction {
@@ -44,8 +55,10 @@ class TreeTransaction {
   TreeTransaction(const TreeTransaction&) = delete;
   TreeTransaction& operator=(const TreeTransaction&) = delete;
 
-  /// Whatever comes of it, the calls below are allowed and harmless.
-  TreeOutcome Begin(const TreePlace& place, Kind kind, std::chrono::milliseconds patience);
+  /// Whatever comes of it, the calls below are allowed and harmless. A file that the last look has
+  /// left open is not opened anew, if it still is the one of that place; so the places of all looks
+  /// have to be the same.
+  TreeOutcome Begin(const TreePlace& place, Kind kind, TreeLimits limits);
 
   TreeOutcome Get(std::string_view path, std::string_view name, std::string& text);
   TreeOutcome Put(std::string_view path, std::string_view name, std::string_view text);
@@ -54,8 +67,12 @@ class TreeTransaction {
 
   TreeOutcome Commit();
   void Close();
+  /// Gives the lock back, and leaves the file open for the next look.
+  void EndLook();
 
   Kind Is() const { return kind_; }
+  /// Known after `Close` as well.
+  TreeTrouble Trouble() const { return trouble_; }
   /// The file that was there before it was opened. Known after `Close` as well.
   const std::optional<FileIdentity>& Identity() const { return identity_; }
 
@@ -67,6 +84,7 @@ class TreeTransaction {
 
   static int WaitForLock(void* self, int tries);
   static int StopIfEndless(void* self);
+  bool IsExhausted();
 
   TreeOutcome Open(const std::string& file);
   TreeOutcome StartTransaction();
@@ -76,10 +94,12 @@ class TreeTransaction {
   TreeOutcome MakeTable();
   TreeOutcome MayChange() const;
   bool IsRunning() const;
+  bool HasLog() const;
 
   TreeOutcome Prepare(Statement& statement, const char* sql);
   TreeOutcome Execute(const char* sql);
   int Step(const Statement& statement);
+  int Run(const std::function<int()>& statement);
 
   sqlite3* db_ = nullptr;
   Statement get_, put_, remove_;
@@ -87,9 +107,11 @@ class TreeTransaction {
   TreeOutcome withoutFile_ = TreeOutcome::Refused;  // the answer while there is no connection
   Kind kind_ = Kind::Look;
   bool hasTable_ = false;
-  std::chrono::milliseconds patience_{0};
-  std::chrono::steady_clock::time_point waitingSince_;
-  std::optional<std::clock_t> runningSince_;  // of a statement that takes long
+  TreeLimits limits_;
+  TreeTrouble trouble_ = TreeTrouble::None;
+  std::chrono::steady_clock::duration waited_{};
+  std::clock_t worked_ = 0;  // in statements that have ended
+  std::clock_t runningSince_ = 0;
 };
 
 }  // namespace starfolds

@@ -41,15 +41,18 @@ void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single z
 
 void ResetSurface(Surface& target) { target.Clear(); }
 
-void EnsureBodies(Saver& saver) {
-  if (EnsureFactoryProfiles(*saver.Tree)) return;
-  SettingsRecords records = SettingsToShow(*saver.Tree);
-  SaveSettings(saver.StandIn, records);
-  saver.Tree = &saver.StandIn;
-}
+void EnsureBodies(Saver& saver) { saver.HasBodies = EnsureFactoryProfiles(*saver.Tree); }
 
 void ReadUniverseSettings(Saver& saver, bool smallPreview) {
-  TakeUniverseSettings(saver, LoadSettings(*saver.Tree), smallPreview);
+  SettingsRecords records;
+  bool isWhole = false;
+  if (saver.HasBodies) {
+    TreeBulk look = TreeBulk::Look(*saver.Tree);
+    records = LoadSettings(*saver.Tree);
+    isWhole = look.Commit();
+  }
+  if (!isWhole) records = SettingsToShow(*saver.Tree);
+  TakeUniverseSettings(saver, records, smallPreview);
 }
 
 void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool smallPreview) {

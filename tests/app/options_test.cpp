@@ -30,7 +30,11 @@ TEST(StartOptions, LeaveTheCommandLineToTheSystem) {
   EXPECT_EQ(preview.CommandLine, "/P 12345");
   EXPECT_EQ(Parsed({"/My Folder/a", "b.sfd"}).CommandLine, "/My Folder/a b.sfd");
   EXPECT_EQ(Parsed({"", "/S"}).CommandLine, " /S");
-  EXPECT_EQ(Parsed({"/S", "--window"}).AskedFor, Role::FromCommandLine);
+  for (const Arguments& given :
+       {Arguments{"/S", "--window"}, {"/p:123", "-x"}, {"-c"}, {"-S", "1"}, {"-my.sfd"}, {"-"}}) {
+    EXPECT_EQ(Parsed(given).AskedFor, Role::FromCommandLine) << testing::PrintToString(given);
+    EXPECT_EQ(Parsed(given).CommandLine.substr(0, 2), given[0].substr(0, 2));
+  }
 }
 
 TEST(StartOptions, NameTheWindowOfAHost) {
@@ -68,9 +72,19 @@ TEST(StartOptions, ChangeSettings) {
 TEST(StartOptions, TakeATemplateToShow) {
   EXPECT_EQ(Parsed({"--window", "/a b/\"c\" $d.sfd", "--seed", "1"}).Template, "/a b/\"c\" $d.sfd");
   EXPECT_EQ(Parsed({"--window"}).Template, "");
-  EXPECT_EQ(Refused({"--window", "a.sfd", "b.sfd"}), "unknown option 'b.sfd'");
+  for (const Arguments& given : {Arguments{"/srv/a.sfd", "--window", "--size=5x16384"},
+                                 {"--size", "5x16384", "/srv/a.sfd", "--window"},
+                                 {"--size=5x16384", "--window", "--", "/srv/a.sfd"}}) {
+    const StartOptions options = Parsed(given);
+    EXPECT_EQ(options.AskedFor, Role::Window);
+    EXPECT_EQ(options.Template, "/srv/a.sfd");
+    ASSERT_TRUE(options.Size);
+    EXPECT_EQ(options.Size->Width * 100000 + options.Size->Height, 516384);
+  }
+  EXPECT_TRUE(Parsed({"--window", "--full-screen"}).FullScreen);
+  EXPECT_EQ(Refused({"--window", "a.sfd", "b.sfd"}), "unexpected argument \"b.sfd\"");
   for (const char* const role : {"--settings", "--root", "--saver"}) {
-    EXPECT_NE(Refused({role, "a.sfd"}).find("'a.sfd'"), std::string::npos) << role;
+    EXPECT_NE(Refused({role, "a.sfd"}).find("\"a.sfd\""), std::string::npos) << role;
   }
 }
 
@@ -91,8 +105,20 @@ TEST(StartOptions, AreHandedOnToCompanions) {
     return joined;
   };
   EXPECT_EQ(line({"/S"}), "--saver --companion --screens 2 ");
+  EXPECT_EQ(line({"--saver", "--"}), "--saver --saver --companion --screens 2 ");
   const std::string seeded = line({"--saver", "--seed", "5"});
   EXPECT_EQ(seeded, "--saver --seed 5 --saver --companion --screens 2 --seed 6 ");
+}
+
+TEST(StartOptions, HelpAndVersionCountAlone) {
+  for (const Arguments& given : {Arguments{"-h"},
+                                 {"--saver", "--help"},
+                                 {"--bogus", "-h", "x"},
+                                 {"--seed", "many", "--help"},
+                                 {"--window-id=0", "-h", "--seed"}}) {
+    EXPECT_EQ(Parsed(given).AskedFor, Role::Help) << testing::PrintToString(given);
+  }
+  EXPECT_EQ(Parsed({"-V"}).AskedFor, Role::Version);
 }
 
 TEST(StartOptions, TakeASeed) {
@@ -105,10 +131,19 @@ TEST(StartOptions, TakeASeed) {
 }
 
 TEST(StartOptions, AreRefusedWhereTheyMakeNoSense) {
-  EXPECT_NE(Refused({"--roots"}).find("'--roots'"), std::string::npos);
+  EXPECT_NE(Refused({"--roots"}).find("\"--roots\""), std::string::npos);
   for (const Arguments& given : {Arguments{"--window-id", "5", "--saver"},
                                  {"--saver=1"},
-                                 {"--"},
+                                 {"-x"},
+                                 {"-S", "-x"},
+                                 {"--window", ""},
+                                 {"--window", "--seed="},
+                                 {"--window", "a.sfd", "b.sfd"},
+                                 {"--window", "--size", "16385x1"},
+                                 {"--window", "--size", "5"},
+                                 {"--window", "--size", "5x5", "--full-screen"},
+                                 {"--saver", "--full-screen"},
+                                 {"a.sfd", "--stars", "5"},
                                  {"--saver", "--seed"},
                                  {"--seed", "1"},
                                  {"--settings", "--seed", "1"},

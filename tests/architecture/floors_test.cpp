@@ -25,9 +25,10 @@ const std::map<std::string, Floors> kMayInclude = [] {
     below.insert(floor);
     may[floor] = below;
   }
+  may["command_line"] = {"numbers", "platform", "settings", "command_line"};
   may["storage"] = {"numbers", "platform", "storage"};
   may["render"] = below;
-  may["render"].insert({"storage", "render"});
+  may["render"].insert({"command_line", "storage", "render"});
   may["desktop"] = {"numbers", "platform", "desktop", "Qt"};
   may["hosting"] = below;
   may["hosting"].insert({"desktop", "hosting", "Qt"});
@@ -36,7 +37,7 @@ const std::map<std::string, Floors> kMayInclude = [] {
   may["info"] = may["hosting"];
   may["info"].insert("info");
   may["app"] = may["editors"];
-  may["app"].insert({"storage", "info", "app"});
+  may["app"].insert({"command_line", "storage", "info", "app"});
   return may;
 }();
 

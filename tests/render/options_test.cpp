@@ -93,7 +93,7 @@ TEST(Options, AValueMayStandBehindAnEqualsSign) {
 
 TEST(Options, HelpAndVersionNeedNothingElse) {
   EXPECT_EQ(Parsed({"--help"}).Action, RenderAction::Help);
-  EXPECT_EQ(Parsed({"--version", "--no-such"}).Action, RenderAction::Version);
+  EXPECT_EQ(Parsed({"--no-such", "--theme=9", "-V"}).Action, RenderAction::Version);
 }
 
 struct BadLine {
@@ -105,8 +105,8 @@ const std::string kLong(1'000'000, '9');
 
 const BadLine kBadLines[] = {
     {{}, "nothing to write"},
-    {{"--hash", ""}, "there is no option \"\""},
-    {{"--hash", "--sizes=1x1"}, "there is no option \"--sizes\""},
+    {{"--hash", ""}, "unexpected argument \"\""},
+    {{"--hash", "--sizes=1x1"}, "unknown option \"--sizes=1x1\""},
     {{"--hash=1"}, "--hash takes no value"},
     {{"--size"}, "--size needs a value"},
     {{"--png", "--hash"}, "--png needs a value"},
