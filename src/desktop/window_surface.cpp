@@ -113,7 +113,7 @@ void WindowSurface::CoverScreen(ScreenPlace place) {
   window_->setScreen(screen);
   window_->setGeometry(screen->geometry());
   window_->setWindowState(Qt::WindowFullScreen);
-  window_->show();
+  ShowInState();
 }
 
 void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
@@ -122,9 +122,13 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   window_->setWindowState(Qt::WindowNoState);
   window_->resize(QGuiApplication::primaryScreen()->availableSize() * kWindowShare);
   place(*window_);
-  window_->show();
+  ShowInState();
   window_->requestActivate();
 }
+
+/// The toolkit's own `show` puts a window into the state that is usual on the platform, whatever
+/// state was set before, so the window manager would never be asked for full screen or maximised.
+void WindowSurface::ShowInState() { window_->setVisible(true); }
 
 /// A window that is shown changes its frame only when it comes up again. The toolkit selects its
 /// events anew then, and only its own.

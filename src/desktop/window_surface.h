@@ -79,6 +79,7 @@ class WindowSurface : public Surface {
   void TakeFlags(Qt::WindowFlags flags);
   void MeetWindow();
   void CoverScreen(ScreenPlace place);
+  void ShowInState();
   void Repaint();
   void FitBackingStore();
   QRegion TouchedRegion();
