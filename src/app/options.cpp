@@ -1,5 +1,6 @@
 #include "app/options.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
@@ -41,6 +42,10 @@ constexpr std::array<SettingOption, 9> kSettingOptions{{
 
 /// More than any desktop has.
 constexpr int kMostScreens = 1000;
+
+/// Longest side of a window: the engine's coordinates are 16-bit, and half of their range is left
+/// for flares that begin outside of the window.
+constexpr std::uint64_t kMaxSide = 16384;
 
 /// By which a saver on several screens starts its own kind; nothing for people.
 constexpr std::string_view kCompanionOption = "--companion";
@@ -109,6 +114,18 @@ Fault TakeScreen(StartOptions& options, std::string_view text) {
   return std::nullopt;
 }
 
+Fault TakeSize(StartOptions& options, std::string_view text) {
+  const std::size_t cross = std::min(text.find('x'), text.size());
+  const auto width = WholeNumber(text.substr(0, cross)).value_or(0);
+  const auto height = WholeNumber(text.substr(std::min(cross + 1, text.size()))).value_or(0);
+  if (width < 1 || width > kMaxSide || height < 1 || height > kMaxSide) {
+    return "takes WIDTHxHEIGHT, each from 1 to " + std::to_string(kMaxSide) + ", not " +
+           Quoted(text);
+  }
+  options.Size = {static_cast<int>(width), static_cast<int>(height)};
+  return std::nullopt;
+}
+
 /// Sets the setting in records that nobody uses, to find out whether it can be set.
 Fault TakeChange(StartOptions& options, std::string_view name, std::string_view value) {
   options.Changes.emplace_back(name, value);
@@ -141,9 +158,10 @@ struct ValueOption {
   std::string_view Name;
   Fault (*Take)(StartOptions&, std::string_view);
 };
-constexpr std::array<ValueOption, 5> kValueOptions{{
+constexpr std::array<ValueOption, 6> kValueOptions{{
     {"--seed", TakeSeed},
     {"--screens", TakeScreen},
+    {"--size", TakeSize},
     {"--window-id", TakeHostWindow},
     {"--set", TakeSetting},
     {"--theme", TakeTheme},
@@ -166,6 +184,10 @@ Fault ReadOption(std::span<const std::string_view>& rest, StartOptions& options)
   }
   if (name == kCompanionOption) {
     options.Companion = true;
+    return std::nullopt;
+  }
+  if (name == "--full-screen") {
+    options.FullScreen = true;
     return std::nullopt;
   }
   if (!name.starts_with("--") && options.Template.empty()) {
@@ -199,6 +221,10 @@ Fault CheckTogether(const StartOptions& options) {
     return "'" + options.Template + "': a template goes with --window, or alone";
   }
   if (options.Screen && options.AskedFor != Role::Saver) return "--screens goes with --saver";
+  if ((options.Size || options.FullScreen) && options.AskedFor != Role::Window) {
+    return "--size and --full-screen go with --window";
+  }
+  if (options.Size && options.FullScreen) return "--size and --full-screen exclude each other";
   if (options.HostWindow && options.AskedFor != Role::Guest) {
     return "--window-id goes alone or with --root";
   }
@@ -239,6 +265,8 @@ A screen saver that simulates a universe of starfolds.
   --saver         run the screen saver; a key, a button or moving the pointer ends it
   --window        run the effect as an application: Esc ends it, F5 begins anew
   --window FILE   show the template FILE so, and store nothing of it
+  --size WxH      with --window: size of the window in pixels (1280x720)
+  --full-screen   with --window: cover the screen
   --settings      open the settings dialog
   --screens WHICH with --saver: all screens, each with a universe of its own (as without this
                   option), the primary one, or one by its number from 1

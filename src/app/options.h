@@ -24,11 +24,19 @@ enum class Role {
   Guest,  // of a saver host, in the host's window
 };
 
+/// Client size of the application's window, in logical pixels.
+struct WindowSize {
+  int Width = 1280;
+  int Height = 720;
+};
+
 struct StartOptions {
   Role AskedFor = Role::FromCommandLine;
   std::optional<std::uint64_t> Seed;
   std::optional<int> Screen;       // that the saver covers, from 1; without one it covers all
   bool Companion = false;          // of a saver on several screens, and not the first of them
+  std::optional<WindowSize> Size;  // of the application's window; nullopt: not given
+  bool FullScreen = false;         // the application's window covers the screen
   std::string Template;            // path of one that a window shows; empty: none
   std::optional<Long> HostWindow;  // of a guest; else the host names it in the environment
   /// Names and values of settings that hold for this process alone, each one good.
