@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/window_hints.h"
+
 namespace starfolds {
 namespace {
 
@@ -89,6 +91,11 @@ void WindowSurface::SetCaption(const std::string& caption) {
   window_->setTitle(QString::fromStdString(caption));
 }
 
+void WindowSurface::HideFromSearch() {
+  window_->setProperty(kUnlistedProperty, true);
+  if (window_->handle() != nullptr) MarkUnlisted(*window_);
+}
+
 void WindowSurface::HidePointer() { window_->setCursor(Qt::BlankCursor); }
 
 void WindowSurface::ShowPointer() { window_->unsetCursor(); }
@@ -140,6 +147,7 @@ void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
 
 /// The window exists, or has been made anew.
 void WindowSurface::MeetWindow() {
+  if (window_->property(kUnlistedProperty).toBool()) MarkUnlisted(*window_);
   sight_ = MakeSightWatch(*window_);
   points_ = MakePointPainter(*window_);
 }

@@ -44,6 +44,8 @@ class WindowSurface : public Surface {
 
   void SetName(const std::string& objectName);
   void SetCaption(const std::string& caption);
+  /// From now on `DesktopServices` do not find the window by its caption, in whatever process.
+  void HideFromSearch();
   void HidePointer();
   void ShowPointer();
 

@@ -19,6 +19,8 @@ FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProp
       surface_(*this),
       picMessage_(surface_.Window()) {
   surface_.SetName("frmAppEXE");
+  // It may have the saver's caption, but a screen saver is to start while it is open.
+  surface_.HideFromSearch();
 }
 
 FrmAppExe::~FrmAppExe() { saver_.Screen.hDCDraw = nullptr; }
