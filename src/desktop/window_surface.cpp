@@ -8,9 +8,11 @@
 #include <QPainter>
 #include <QPlatformSurfaceEvent>
 #include <QScreen>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/key_presses.h"
 #include "desktop/window_hints.h"
 
 namespace starfolds {
@@ -43,7 +45,14 @@ class WindowSurface::EffectWindow : public QWindow {
   }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override { events_.KeyDown(event->key()); }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (keys_.Counts(*event)) events_.KeyDown(event->key(), event->modifiers());
+  }
+  void keyReleaseEvent(QKeyEvent* event) override { keys_.Released(*event); }
+  void wheelEvent(QWheelEvent* event) override {
+    const bool moves = !event->angleDelta().isNull() || !event->pixelDelta().isNull();
+    if (moves && event->phase() != Qt::ScrollMomentum) events_.Scroll();
+  }
   void mousePressEvent(QMouseEvent*) override { events_.MouseDown(); }
   void mouseDoubleClickEvent(QMouseEvent*) override { events_.DoubleClick(); }
   void mouseMoveEvent(QMouseEvent* event) override {
@@ -74,6 +83,7 @@ class WindowSurface::EffectWindow : public QWindow {
  private:
   WindowSurface& surface_;
   WindowEvents& events_;
+  KeyPresses keys_;
 };
 
 WindowSurface::WindowSurface(WindowEvents& events)

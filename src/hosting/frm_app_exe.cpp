@@ -88,7 +88,7 @@ void FrmAppExe::ShowProperties() {
   BeginAnew();
 }
 
-void FrmAppExe::KeyDown(int key) {
+void FrmAppExe::KeyDown(int key, Qt::KeyboardModifiers) {
   switch (key) {
     case Qt::Key_Escape: return AppQuit();
     case Qt::Key_F5: SavePlacement(); return BeginAnew();

@@ -27,7 +27,7 @@ class FrmAppExe : private WindowEvents {
   QWindow& Window() { return surface_.Window(); }
 
  private:
-  void KeyDown(int key) override;
+  void KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
   void MouseDown() override;
   void CloseRequested() override;
   void Destroyed() override;
