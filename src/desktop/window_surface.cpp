@@ -232,7 +232,7 @@ QRegion WindowSurface::TouchedRegion() {
   }
   rects_.clear();
   for (const TileRect& tile : tiles_.Take()) {
-    rects_.emplace_back(tile.X, tile.Y, tile.Width, tile.Height);
+    rects_.emplace_back(tile.X + origin_.x(), tile.Y + origin_.y(), tile.Width, tile.Height);
   }
   QRegion region;
   if (IsWhole(factor_)) {
@@ -263,8 +263,10 @@ bool WindowSurface::Paint(QPaintDevice& picture, bool whole) {
 
 void WindowSurface::MeasureScale(QSize pictureSize) {
   pictureSize_ = pictureSize;
-  scale_.Columns.Measure(Width(), factor_, pictureSize.width());
-  scale_.Rows.Measure(Height(), factor_, pictureSize.height());
+  const QSize room = store_->size() - QSize(Width(), Height());
+  origin_ = {room.width() / 2, room.height() / 2};
+  scale_.Columns.Measure(Width(), factor_, pictureSize.width(), origin_.x());
+  scale_.Rows.Measure(Height(), factor_, pictureSize.height(), origin_.y());
   tiles_.Resize(Width(), Height());
 }
 
@@ -279,6 +281,7 @@ void WindowSurface::PaintDirectly(ScreenImage image, bool whole) {
 /// The slow way, for screens of fewer colours. The painter measures in logical pixels.
 void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
   QPainter painter(&picture);
+  painter.translate(origin_);
   if (!whole) {
     for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
       const int x = ColumnOf(*place);
@@ -287,7 +290,7 @@ void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
     }
     return;
   }
-  painter.fillRect(QRect(QPoint(), store_->size()), Qt::black);
+  painter.fillRect(QRect(-origin_, store_->size()), Qt::black);
   QImage line(std::max(Width(), 1), 1, QImage::Format_RGB32);
   for (int y = 0; y < Height(); ++y) {
     auto* const words = reinterpret_cast<std::uint32_t*>(line.bits());

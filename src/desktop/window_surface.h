@@ -35,7 +35,7 @@ struct ScreenPlace {
 /// The canvas is the truth; `Present` copies what the journal names into the window's own picture
 /// and shows the touched tiles of it, or draws the pixels one by one where that is cheaper. The
 /// surface has a size of its own: it takes over the window's only by `TakeWindowSize`, and until
-/// then a resized window shows it cut off, or black around it.
+/// then a resized window shows its middle, or all of it with black around.
 class WindowSurface : public Surface {
  public:
   /// `events` outlives the surface. Nothing is shown yet.
@@ -100,6 +100,7 @@ class WindowSurface : public Surface {
   double factor_ = 1;  // physical pixels per logical one
   DirtyTiles tiles_;
   PixelScale scale_;
+  QPoint origin_;             // of the surface in the window, logical pixels
   QSize pictureSize_;         // that `scale_` was measured for, physical pixels
   std::vector<QRect> rects_;  // kept between frames for its memory
 };

@@ -100,10 +100,12 @@ class WindowSurfaceTest : public PumpedTest {
     const int width = static_cast<int>(Target.Window().width() * factor);
     const int height = static_cast<int>(Target.Window().height() * factor);
     if (shown.width() < width || shown.height() < height) return "the picture is too small";
+    const QPoint origin((Target.Window().width() - Target.Width()) / 2,
+                        (Target.Window().height() - Target.Height()) / 2);
     for (int y = 0; y < height; ++y) {
       for (int x = 0; x < width; ++x) {
-        const auto column = static_cast<Long>((x + 0.5) / factor);
-        const auto row = static_cast<Long>((y + 0.5) / factor);
+        const auto column = static_cast<Long>((x + 0.5) / factor) - origin.x();
+        const auto row = static_cast<Long>((y + 0.5) / factor) - origin.y();
         const std::uint32_t expected = ScreenWord(Target.Pixel(column, row));
         if (!LooksLike(shown.pixel(x, y), expected, depth)) {
           return "at " + std::to_string(x) + ", " + std::to_string(y) + ": " +
@@ -157,7 +159,7 @@ TEST_F(WindowSurfaceTest, ShowsStarsColourByColour) {
   }
 }
 
-TEST_F(WindowSurfaceTest, KeepsItsSizeWhenTheWindowIsResized) {
+TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {
   ShowAt(300, 200);
   Scatter(1000);
   Target.Present();
