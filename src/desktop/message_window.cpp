@@ -12,26 +12,35 @@
 namespace starfolds {
 namespace {
 
-/// Room between the outer window's upper edge and the text, in logical pixels.
-constexpr int kTop = 5;
+/// Room between the outer window's edge and the text, in logical pixels.
+constexpr int kRoom = 5;
+
+QFont FontOf(const MessageStyle& style) {
+  QFont font;
+  if (!style.FontName.empty()) font.setFamily(QString::fromStdString(style.FontName));
+  font.setPointSize(style.FontSize);
+  return font;
+}
 
 }  // namespace
 
 class MessageWindow::Line : public QRasterWindow {
  public:
-  explicit Line(QWindow& outer) : QRasterWindow(&outer) {
-    setObjectName("picMessage");
+  Line(QWindow& outer, const char* name, MessagePlace place)
+      : QRasterWindow(&outer), place_(place) {
+    setObjectName(name);
     setFlags(Qt::WindowTransparentForInput);
   }
 
   void Print(const std::string& utf8, const MessageStyle& style) {
     text_ = QString::fromStdString(utf8);
-    font_ = QFont(QString::fromStdString(style.FontName));
-    font_.setPointSize(style.FontSize);
+    font_ = FontOf(style);
     ink_ = QColor::fromRgb(ScreenWord(style.Ink));
     const QFontMetrics metrics(font_);
     const int width = metrics.horizontalAdvance(text_);
-    setGeometry((parent()->width() - width) / 2, kTop, width, metrics.height());
+    const int lower = parent()->height() - kRoom - metrics.height();
+    setGeometry((parent()->width() - width) / 2, place_ == MessagePlace::UpperEdge ? kRoom : lower,
+                width, metrics.height());
     show();
     update();
   }
@@ -46,12 +55,18 @@ class MessageWindow::Line : public QRasterWindow {
   }
 
  private:
+  MessagePlace place_;
   QString text_;
   QFont font_;
   QColor ink_;
 };
 
-MessageWindow::MessageWindow(QWindow& outer) : line_(std::make_unique<Line>(outer)) {}
+int MessageWidth(const std::string& utf8, const MessageStyle& style) {
+  return QFontMetrics(FontOf(style)).horizontalAdvance(QString::fromStdString(utf8));
+}
+
+MessageWindow::MessageWindow(QWindow& outer, const char* name, MessagePlace place)
+    : line_(std::make_unique<Line>(outer, name, place)) {}
 
 MessageWindow::~MessageWindow() = default;
 

@@ -22,8 +22,11 @@ namespace {
 /// wiped and plotted, with their flares. A frame with more is painted whole. Half a megabyte.
 constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
-/// The size of a resizable window until the user gives it another, as a share of the screen.
-constexpr double kWindowShare = 0.6;
+/// The size of a resizable window until the user gives it another, in logical pixels.
+constexpr QSize kUsualSize{1280, 720};
+
+/// What it takes of a small screen at most: its frame, and a bit of the desktop, have room as well.
+constexpr double kWindowShare = 0.9;
 
 Qt::WindowFlags StackingFlag(Stacking stacking) {
   switch (stacking) {
@@ -137,7 +140,9 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   screens_.reset();
   TakeFlags(Qt::Window);
   window_->setWindowState(Qt::WindowNoState);
-  window_->resize(QGuiApplication::primaryScreen()->availableSize() * kWindowShare);
+  const QSize room = QGuiApplication::primaryScreen()->availableSize() * kWindowShare;
+  const bool fits = kUsualSize.boundedTo(room) == kUsualSize;
+  window_->resize(fits ? kUsualSize : kUsualSize.scaled(room, Qt::KeepAspectRatio));
   place(*window_);
   ShowInState();
   window_->requestActivate();

@@ -52,8 +52,9 @@ class WindowSurface : public Surface {
   /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
   /// such screen any more, that is the primary one.
   void ShowFullScreen(Stacking stacking, ScreenPlace place = {});
-  /// An ordinary window with a frame, free to be resized, of a size that suits the screen. `place`
-  /// may give it another size and puts it somewhere, before it is shown.
+  /// An ordinary window with a frame, free to be resized, of 1280 x 720 logical pixels or as much
+  /// of that as the screen has room for. `place` may give it another size and puts it somewhere,
+  /// before it is shown.
   void ShowResizable(const std::function<void(QWindow&)>& place);
   /// Covers `host` from inside, without taking any input from it. False: the host is gone.
   bool ShowInside(ForeignWindow& host);

@@ -29,7 +29,7 @@ void Run(Saver& saver, std::string_view window) {
   if (window == "saver") {
     FrmSaver(saver, seed).Load();
   } else {
-    FrmAppExe(saver, seed, [](QWindow&) { std::puts("properties"); }).Activate();
+    FrmAppExe(saver, seed, [](QWindow&, bool) { std::puts("properties"); }).Activate();
   }
 }
 
