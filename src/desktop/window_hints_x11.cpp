@@ -37,6 +37,11 @@ void MarkAsBackground(QWindow& window) {
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
                       InternAtom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(),
                       states.data());
+  // Some managers put windows on all workspaces by this, and others by the state.
+  const std::uint32_t allWorkspaces = 0xFFFFFFFFU;
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
+                      InternAtom(connection, "_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, 32, 1,
+                      &allWorkspaces);
 }
 
 }  // namespace starfolds

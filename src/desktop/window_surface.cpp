@@ -28,9 +28,9 @@ constexpr QSize kUsualSize{1280, 720};
 /// What it takes of a small screen at most: its frame, and a bit of the desktop, have room as well.
 constexpr double kWindowShare = 0.9;
 
-Qt::WindowFlags StackingFlag(Stacking stacking) {
+Qt::WindowFlags StackingFlags(Stacking stacking) {
   switch (stacking) {
-    case Stacking::AtBottom: return Qt::WindowStaysOnBottomHint;
+    case Stacking::AtBottom: return Qt::WindowStaysOnBottomHint | Qt::WindowDoesNotAcceptFocus;
     case Stacking::Ordinary: return {};
     case Stacking::OnTop: return Qt::WindowStaysOnTopHint;
   }
@@ -116,10 +116,11 @@ void WindowSurface::ShowPointer() { window_->unsetCursor(); }
 /// A window that does not lead gets no focus even when it is clicked: the keys go to the one that
 /// does.
 void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
-  TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlag(stacking) |
+  atBottom_ = stacking == Stacking::AtBottom;
+  TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlags(stacking) |
             (place.Leads ? Qt::WindowFlags() : Qt::WindowDoesNotAcceptFocus));
   CoverScreen(place);
-  if (place.Leads) window_->requestActivate();
+  if (place.Leads && !atBottom_) window_->requestActivate();
   screens_.emplace([this, place] { CoverScreen(place); });
 }
 
@@ -138,6 +139,7 @@ void WindowSurface::CoverScreen(ScreenPlace place) {
 
 void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   screens_.reset();
+  atBottom_ = false;
   TakeFlags(Qt::Window);
   window_->setWindowState(Qt::WindowNoState);
   const QSize room = QGuiApplication::primaryScreen()->availableSize() * kWindowShare;
@@ -150,7 +152,14 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
 
 /// The toolkit's own `show` puts a window into the state that is usual on the platform, whatever
 /// state was set before, so the window manager would never be asked for full screen or maximised.
-void WindowSurface::ShowInState() { window_->setVisible(true); }
+void WindowSurface::ShowInState() {
+  window_->create();
+  if (atBottom_) {
+    MarkAsBackground(*window_);
+    window_->lower();
+  }
+  window_->setVisible(true);
+}
 
 /// A window that is shown changes its frame only when it comes up again. The toolkit selects its
 /// events anew then, and only its own.

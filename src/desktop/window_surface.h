@@ -23,7 +23,8 @@
 
 namespace starfolds {
 
-/// Where a full-screen window stands among the others.
+/// Where a full-screen window stands among the others. At the bottom it takes no focus either, and
+/// is no window to switch to.
 enum class Stacking { AtBottom, Ordinary, OnTop };
 
 /// Which screen a full-screen window covers.
@@ -97,6 +98,7 @@ class WindowSurface : public Surface {
   std::unique_ptr<SightWatch> sight_;     // none where the window system does not tell
   std::unique_ptr<PointPainter> points_;  // none where the window system cannot
   std::optional<ScreenWatch> screens_;
+  bool atBottom_ = false;
   bool repaintAll_ = true;
   double factor_ = 1;  // physical pixels per logical one
   DirtyTiles tiles_;

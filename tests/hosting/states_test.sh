@@ -24,6 +24,24 @@ start "$host" saver
 expect_state FULLSCREEN
 stop
 
+# A background comes up below a window that is there, and leaves the focus where it is.
+"$host" application $resizable General/AnimationType=0 >/dev/null 2>&1 &
+other=$!
+wait_for_stars
+focused=$(xdotool getactivewindow)
+start "$host" saver Advanced/Adv_DispBackG=1
+for _ in $(seq 1 200); do
+  stack=$(xprop -root _NET_CLIENT_LIST_STACKING | grep -o '0x[0-9a-f]*')
+  [ "$(wc -l <<<"$stack")" = 2 ] && break
+  sleep 0.05
+done
+state=$(xprop -id "$(head -1 <<<"$stack")" _NET_WM_STATE WM_HINTS)
+[[ $state == *_NET_WM_STATE_BELOW*'input focus: False'* ]] || fault "at the bottom: $state"
+[ "$(xdotool getactivewindow)" = "$focused" ] || fault "the background took the focus"
+stop
+running=$other
+stop
+
 stored=$(mktemp)
 start "$host" application >"$stored"
 expect_state FULLSCREEN
