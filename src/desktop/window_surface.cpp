@@ -176,11 +176,11 @@ void WindowSurface::MeetWindow() {
   points_ = MakePointPainter(*window_);
 }
 
-bool WindowSurface::ShowInside(ForeignWindow& host) {
+bool WindowSurface::ShowInside(ForeignWindow& host, GuestOrder order) {
   // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
   window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
-  if (!host.TakeIn(*window_)) return false;
+  if (!host.TakeIn(*window_, order)) return false;
   window_->show();
   return true;
 }

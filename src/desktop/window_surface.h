@@ -58,7 +58,7 @@ class WindowSurface : public Surface {
   /// before it is shown.
   void ShowResizable(const std::function<void(QWindow&)>& place);
   /// Covers `host` from inside, without taking any input from it. False: the host is gone.
-  bool ShowInside(ForeignWindow& host);
+  bool ShowInside(ForeignWindow& host, GuestOrder order);
 
   /// Whether the window system has the window drawn.
   bool IsExposed() const;
