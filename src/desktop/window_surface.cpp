@@ -185,6 +185,13 @@ bool WindowSurface::ShowInside(ForeignWindow& host, GuestOrder order) {
   return true;
 }
 
+void WindowSurface::ShowInOwn(QWindow& outer) {
+  window_->setFlags(Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+  window_->setParent(&outer);
+  window_->setGeometry(QRect(QPoint(), outer.size()));
+  ShowInState();
+}
+
 QWindow& WindowSurface::Window() { return *window_; }
 
 bool WindowSurface::IsExposed() const { return window_->isExposed(); }

@@ -57,6 +57,9 @@ class WindowSurface : public Surface {
   /// of that as the screen has room for. `place` may give it another size and puts it somewhere,
   /// before it is shown.
   void ShowResizable(const std::function<void(QWindow&)>& place);
+  /// Covers a window of this program from inside, without taking any input from it. It has the
+  /// other's size now and does not follow it by itself. The surface goes before that window.
+  void ShowInOwn(QWindow& outer);
   /// Covers `host` from inside, without taking any input from it. False: the host is gone.
   bool ShowInside(ForeignWindow& host, GuestOrder order);
 
