@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QRasterWindow>
 #include <QString>
+#include <QTimer>
+#include <chrono>
 
 #include "desktop/screen_image.h"
 
@@ -14,6 +16,16 @@ namespace {
 
 /// Room between the outer window's edge and the text, in logical pixels.
 constexpr int kRoom = 5;
+
+constexpr std::chrono::seconds kStepTime{1};
+
+/// Where something is after `steps` steps of a pixel, if it starts at `start` and turns round at 0
+/// and at `end`. Something too large to move stays.
+int Wandered(int start, int end, int steps) {
+  if (end <= 0) return start;
+  const int place = (start + steps) % (2 * end);
+  return place <= end ? place : 2 * end - place;
+}
 
 QFont FontOf(const MessageStyle& style) {
   QFont font;
@@ -30,6 +42,20 @@ class MessageWindow::Line : public QRasterWindow {
       : QRasterWindow(&outer), place_(place) {
     setObjectName(name);
     setFlags(Qt::WindowTransparentForInput);
+    QObject::connect(&step_, &QTimer::timeout, this, [this] {
+      ++steps_;
+      Place();
+    });
+  }
+
+  void SetDrift(bool drifts) {
+    if (drifts == step_.isActive()) return;
+    steps_ = 0;
+    if (drifts) {
+      step_.start(kStepTime);
+    } else {
+      step_.stop();
+    }
   }
 
   void Print(const std::string& utf8, const MessageStyle& style) {
@@ -37,10 +63,8 @@ class MessageWindow::Line : public QRasterWindow {
     font_ = FontOf(style);
     ink_ = QColor::fromRgb(ScreenWord(style.Ink));
     const QFontMetrics metrics(font_);
-    const int width = metrics.horizontalAdvance(text_);
-    const int lower = parent()->height() - kRoom - metrics.height();
-    setGeometry((parent()->width() - width) / 2, place_ == MessagePlace::UpperEdge ? kRoom : lower,
-                width, metrics.height());
+    resize(metrics.horizontalAdvance(text_), metrics.height());
+    Place();
     show();
     update();
   }
@@ -55,7 +79,16 @@ class MessageWindow::Line : public QRasterWindow {
   }
 
  private:
+  void Place() {
+    const QSize room = parent()->size() - size();
+    const int rest = place_ == MessagePlace::UpperEdge ? kRoom : room.height() - kRoom;
+    setPosition(Wandered(room.width() / 2, room.width(), steps_),
+                Wandered(rest, room.height(), steps_));
+  }
+
   MessagePlace place_;
+  QTimer step_;
+  int steps_ = 0;
   QString text_;
   QFont font_;
   QColor ink_;
@@ -75,5 +108,7 @@ void MessageWindow::Print(const std::string& utf8, const MessageStyle& style) {
 }
 
 void MessageWindow::Hide() { line_->hide(); }
+
+void MessageWindow::SetDrift(bool drifts) { line_->SetDrift(drifts); }
 
 }  // namespace starfolds

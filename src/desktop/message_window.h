@@ -37,6 +37,11 @@ class MessageWindow {
   void Print(const std::string& utf8, const MessageStyle& style);
   void Hide();
 
+  /// From now on the text wanders, from its place of rest through the whole outer window and back,
+  /// a logical pixel a second, so that it burns into no screen. False: it rests, where `Print` puts
+  /// it.
+  void SetDrift(bool drifts);
+
  private:
   class Line;
   std::unique_ptr<Line> line_;
