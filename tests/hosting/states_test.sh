@@ -9,8 +9,8 @@ client() { xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*' | head -1; }
 
 # expect_state STATE: the manager comes to show the window in this state, within ten seconds.
 expect_state() {
-  local tries state=
-  for tries in $(seq 1 200); do
+  local state=
+  for _ in $(seq 1 200); do
     state=$(xprop -id "$(client)" _NET_WM_STATE 2>/dev/null)
     [[ $state == *"_NET_WM_STATE_$1"* ]] && return
     sleep 0.05
