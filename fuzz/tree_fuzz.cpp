@@ -35,7 +35,7 @@ class AnyWindow : public PlacedWindow {
 };
 
 void ReadAllWays(KeyValueTree& tree, std::string_view section, std::string_view key) {
-  Expect(RegistryReadText(tree, section, key).size() <= kLongestValue, "texts are short");
+  Expect(RegistryReadText(tree, section, key).size() <= kMostBytesOfValue, "texts are short");
   RegistryReadInteger(tree, section, key, 0);
   RegistryReadLong(tree, section, key, 0);
   const Single number = RegistryReadSingle(tree, section, key, 0);

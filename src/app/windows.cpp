@@ -1,6 +1,7 @@
 #include "app/windows.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -63,7 +64,16 @@ void AppWindows::ShowFrmSaver() {
 }
 
 void AppWindows::ShowFrmAppExe() {
-  FrmAppExe(saver_, seed_, [this](QWindow& owner) { RunFrmProps(&owner); }).Activate();
+  AppWindowShape shape;
+  shape.FullScreen = options_.FullScreen;
+  if (options_.Size) shape.Size = QSize(options_.Size->Width, options_.Size->Height);
+  shape.Framed = options_.AskedFor == Role::Window;
+  const auto showProperties = [this](QWindow& owner, bool help) {
+    // When the dialog is there, or the help would open below it.
+    if (help) QTimer::singleShot(0, [this] { help_.ShowTopic(help::kWindows); });
+    RunFrmProps(&owner);
+  };
+  FrmAppExe(saver_, seed_, showProperties, shape).Activate();
 }
 
 /// The safety copy of the settings goes beside the program, or beside the user's own settings.

@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-#include "numbers/utf8.h"
+#include "numbers/characters.h"
 #include "settings/fields.h"
 
 namespace starfolds {
@@ -107,7 +107,7 @@ std::string OptionsHelp(const OptionTable& table) {
 }
 
 std::string Quoted(std::string_view text) {
-  const std::string_view shown = FirstBytes(text, kLongestQuote);
+  const std::string_view shown = FirstCharacters(text, kLongestQuote, kLongestQuote);
   return "\"" + std::string(shown) + (shown.size() < text.size() ? "...\"" : "\"");
 }
 

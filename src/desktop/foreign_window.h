@@ -22,13 +22,18 @@ class ForeignWindowEvents {
   virtual void HostGone() = 0;
 };
 
+/// Where a guest stands among what else is inside its host's window. A saver stands below it, so
+/// that a host can show a question for the password; a preview is what its place is for.
+enum class GuestOrder { Bottom, Top };
+
 class ForeignWindow {
  public:
   virtual ~ForeignWindow() = default;
 
-  /// Makes `child` a window inside this one that covers it, below whatever else stands there, and
-  /// keeps it so. The child is destroyed before this object. False: the window is gone.
-  virtual bool TakeIn(QWindow& child) = 0;
+  /// Makes `child` a window inside this one that covers it, and keeps its size. `order` is its
+  /// place among the windows that are inside already. The child is destroyed before this object.
+  /// False: the window is gone.
+  virtual bool TakeIn(QWindow& child, GuestOrder order) = 0;
 
   /// In logical pixels, a part of one counted as a whole.
   virtual QSize Size() const = 0;

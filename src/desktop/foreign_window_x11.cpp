@@ -41,7 +41,7 @@ class X11ForeignWindow : public ForeignWindow, private QAbstractNativeEventFilte
     return attributes && attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
   }
 
-  bool TakeIn(QWindow& child) override {
+  bool TakeIn(QWindow& child, GuestOrder order) override {
     const std::optional<QSize> size = PhysicalSize(handle_);
     if (!size) return false;
     physicalSize_ = *size;
@@ -51,7 +51,11 @@ class X11ForeignWindow : public ForeignWindow, private QAbstractNativeEventFilte
     child.setParent(window_.get());
     child.create();
     Fit();
-    child.lower();
+    if (order == GuestOrder::Bottom) {
+      child.lower();
+    } else {
+      child.raise();
+    }
     childHandle_ = static_cast<xcb_window_t>(child.winId());
     return PhysicalSize(handle_) && PhysicalSize(childHandle_);
   }

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "desktop/other_programs.h"
+#include "desktop/window_hints.h"
 
 namespace starfolds {
 namespace {
@@ -44,12 +45,14 @@ QString MeetingPlace(const std::string& caption) {
 
 /// Boxes that belong to another window come and go with it.
 bool StandsForItself(const QWindow& window) {
-  return window.isTopLevel() && window.transientParent() == nullptr && !window.title().isEmpty();
+  return window.isTopLevel() && window.transientParent() == nullptr && !window.title().isEmpty() &&
+         !window.property(kUnlistedProperty).toBool();
 }
 
 QWindow* OwnWindow(const std::string& caption) {
   for (QWindow* const window : QGuiApplication::topLevelWindows()) {
-    if (window->isVisible() && window->title().toStdString() == caption) return window;
+    const bool listed = !window->property(kUnlistedProperty).toBool();
+    if (listed && window->isVisible() && window->title().toStdString() == caption) return window;
   }
   return nullptr;
 }

@@ -6,32 +6,65 @@
 #include <QPainter>
 #include <QRasterWindow>
 #include <QString>
+#include <QTimer>
+#include <chrono>
 
 #include "desktop/screen_image.h"
 
 namespace starfolds {
 namespace {
 
-/// Room between the outer window's upper edge and the text, in logical pixels.
-constexpr int kTop = 5;
+/// Room between the outer window's edge and the text, in logical pixels.
+constexpr int kRoom = 5;
+
+constexpr std::chrono::seconds kStepTime{1};
+
+/// Where something is after `steps` steps of a pixel, if it starts at `start` and turns round at 0
+/// and at `end`. Something too large to move stays.
+int Wandered(int start, int end, int steps) {
+  if (end <= 0) return start;
+  const int place = (start + steps) % (2 * end);
+  return place <= end ? place : 2 * end - place;
+}
+
+QFont FontOf(const MessageStyle& style) {
+  QFont font;
+  if (!style.FontName.empty()) font.setFamily(QString::fromStdString(style.FontName));
+  font.setPointSize(style.FontSize);
+  return font;
+}
 
 }  // namespace
 
 class MessageWindow::Line : public QRasterWindow {
  public:
-  explicit Line(QWindow& outer) : QRasterWindow(&outer) {
-    setObjectName("picMessage");
+  Line(QWindow& outer, const char* name, MessagePlace place)
+      : QRasterWindow(&outer), place_(place) {
+    setObjectName(name);
     setFlags(Qt::WindowTransparentForInput);
+    QObject::connect(&step_, &QTimer::timeout, this, [this] {
+      ++steps_;
+      Place();
+    });
+  }
+
+  void SetDrift(bool drifts) {
+    if (drifts == step_.isActive()) return;
+    steps_ = 0;
+    if (drifts) {
+      step_.start(kStepTime);
+    } else {
+      step_.stop();
+    }
   }
 
   void Print(const std::string& utf8, const MessageStyle& style) {
     text_ = QString::fromStdString(utf8);
-    font_ = QFont(QString::fromStdString(style.FontName));
-    font_.setPointSize(style.FontSize);
+    font_ = FontOf(style);
     ink_ = QColor::fromRgb(ScreenWord(style.Ink));
     const QFontMetrics metrics(font_);
-    const int width = metrics.horizontalAdvance(text_);
-    setGeometry((parent()->width() - width) / 2, kTop, width, metrics.height());
+    resize(metrics.horizontalAdvance(text_), metrics.height());
+    Place();
     show();
     update();
   }
@@ -46,12 +79,27 @@ class MessageWindow::Line : public QRasterWindow {
   }
 
  private:
+  void Place() {
+    const QSize room = parent()->size() - size();
+    const int rest = place_ == MessagePlace::UpperEdge ? kRoom : room.height() - kRoom;
+    setPosition(Wandered(room.width() / 2, room.width(), steps_),
+                Wandered(rest, room.height(), steps_));
+  }
+
+  MessagePlace place_;
+  QTimer step_;
+  int steps_ = 0;
   QString text_;
   QFont font_;
   QColor ink_;
 };
 
-MessageWindow::MessageWindow(QWindow& outer) : line_(std::make_unique<Line>(outer)) {}
+int MessageWidth(const std::string& utf8, const MessageStyle& style) {
+  return QFontMetrics(FontOf(style)).horizontalAdvance(QString::fromStdString(utf8));
+}
+
+MessageWindow::MessageWindow(QWindow& outer, const char* name, MessagePlace place)
+    : line_(std::make_unique<Line>(outer, name, place)) {}
 
 MessageWindow::~MessageWindow() = default;
 
@@ -60,5 +108,7 @@ void MessageWindow::Print(const std::string& utf8, const MessageStyle& style) {
 }
 
 void MessageWindow::Hide() { line_->hide(); }
+
+void MessageWindow::SetDrift(bool drifts) { line_->SetDrift(drifts); }
 
 }  // namespace starfolds

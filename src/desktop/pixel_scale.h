@@ -11,8 +11,9 @@ namespace starfolds {
 /// blocks differ in width by one and leave neither gap nor overlap.
 class AxisScale {
  public:
-  /// `physicalSize` is the room there is; what lies beyond it is empty.
-  void Measure(int logicalSize, double factor, int physicalSize);
+  /// `physicalSize` is the room there is; what lies beyond it is empty. `origin` is the place of
+  /// the first logical pixel in that room, in logical pixels; negative if it lies before the room.
+  void Measure(int logicalSize, double factor, int physicalSize, int origin = 0);
 
   int Size() const { return static_cast<int>(begins_.size()) - 1; }
   int Begin(int i) const { return begins_[static_cast<std::size_t>(i)]; }

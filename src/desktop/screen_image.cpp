@@ -36,6 +36,7 @@ void ScreenImage::PaintPlaces(const PixelScale& scale, const Surface& surface,
 void ScreenImage::PaintLine(int row, const AxisScale& columns, const Colour* colours) {
   std::uint32_t* const line = Line(row);
   const int size = columns.Size();
+  std::fill(line, line + columns.Begin(0), ScreenWord(0));
   for (int x = 0; x < size; ++x) {
     std::fill(line + columns.Begin(x), line + columns.End(x), ScreenWord(colours[x]));
   }
@@ -50,6 +51,7 @@ void ScreenImage::PaintAll(const PixelScale& scale, const Surface& surface) {
     const int begin = scale.Rows.Begin(y);
     const int end = scale.Rows.End(y);
     if (begin == end) continue;
+    for (; painted < begin; ++painted) std::fill_n(Line(painted), width_, ScreenWord(0));
     PaintLine(begin, scale.Columns, colours);
     for (int row = begin + 1; row < end; ++row) std::copy_n(Line(begin), width_, Line(row));
     painted = end;

@@ -33,8 +33,8 @@ class ScreenImage {
   void PaintPlaces(const PixelScale& scale, const Surface& surface,
                    std::span<const Surface::PixelPlace> places);
 
-  /// The whole surface, and black around it where the picture is larger. The scale has the
-  /// surface's size.
+  /// The whole surface, and black around it where it does not reach. The scale has the surface's
+  /// size.
   void PaintAll(const PixelScale& scale, const Surface& surface);
 
  private:

@@ -1,6 +1,8 @@
 // What a window tells the host of the effect.
 #pragma once
 
+#include <Qt>
+
 namespace starfolds {
 
 /// Called from inside the pump, between two frames. A host leaves out what it does not care for.
@@ -8,8 +10,12 @@ class WindowEvents {
  public:
   virtual ~WindowEvents() = default;
 
-  /// `key` is a Qt::Key; held keys repeat.
-  virtual void KeyDown(int /*key*/) {}
+  /// A press that counts (see `KeyPresses`): `key` is a Qt::Key, `modifiers` what is held with it.
+  virtual void KeyDown(int /*key*/, Qt::KeyboardModifiers /*modifiers*/) {}
+
+  /// The wheel was turned, or two fingers moved over a touchpad. Not told of what only rolls on
+  /// after the fingers have gone.
+  virtual void Scroll() {}
 
   /// Any button. A double click is told as two presses with a `DoubleClick` behind the second.
   virtual void MouseDown() {}

@@ -8,8 +8,12 @@
 #include <QPainter>
 #include <QPlatformSurfaceEvent>
 #include <QScreen>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+
+#include "desktop/key_presses.h"
+#include "desktop/window_hints.h"
 
 namespace starfolds {
 namespace {
@@ -18,12 +22,15 @@ namespace {
 /// wiped and plotted, with their flares. A frame with more is painted whole. Half a megabyte.
 constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
-/// The size of a resizable window until the user gives it another, as a share of the screen.
-constexpr double kWindowShare = 0.6;
+/// The size of a resizable window until the user gives it another, in logical pixels.
+constexpr QSize kUsualSize{1280, 720};
 
-Qt::WindowFlags StackingFlag(Stacking stacking) {
+/// What it takes of a small screen at most: its frame, and a bit of the desktop, have room as well.
+constexpr double kWindowShare = 0.9;
+
+Qt::WindowFlags StackingFlags(Stacking stacking) {
   switch (stacking) {
-    case Stacking::AtBottom: return Qt::WindowStaysOnBottomHint;
+    case Stacking::AtBottom: return Qt::WindowStaysOnBottomHint | Qt::WindowDoesNotAcceptFocus;
     case Stacking::Ordinary: return {};
     case Stacking::OnTop: return Qt::WindowStaysOnTopHint;
   }
@@ -41,7 +48,14 @@ class WindowSurface::EffectWindow : public QWindow {
   }
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override { events_.KeyDown(event->key()); }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (keys_.Counts(*event)) events_.KeyDown(event->key(), event->modifiers());
+  }
+  void keyReleaseEvent(QKeyEvent* event) override { keys_.Released(*event); }
+  void wheelEvent(QWheelEvent* event) override {
+    const bool moves = !event->angleDelta().isNull() || !event->pixelDelta().isNull();
+    if (moves && event->phase() != Qt::ScrollMomentum) events_.Scroll();
+  }
   void mousePressEvent(QMouseEvent*) override { events_.MouseDown(); }
   void mouseDoubleClickEvent(QMouseEvent*) override { events_.DoubleClick(); }
   void mouseMoveEvent(QMouseEvent* event) override {
@@ -72,6 +86,7 @@ class WindowSurface::EffectWindow : public QWindow {
  private:
   WindowSurface& surface_;
   WindowEvents& events_;
+  KeyPresses keys_;
 };
 
 WindowSurface::WindowSurface(WindowEvents& events)
@@ -89,6 +104,11 @@ void WindowSurface::SetCaption(const std::string& caption) {
   window_->setTitle(QString::fromStdString(caption));
 }
 
+void WindowSurface::HideFromSearch() {
+  window_->setProperty(kUnlistedProperty, true);
+  if (window_->handle() != nullptr) MarkUnlisted(*window_);
+}
+
 void WindowSurface::HidePointer() { window_->setCursor(Qt::BlankCursor); }
 
 void WindowSurface::ShowPointer() { window_->unsetCursor(); }
@@ -96,10 +116,11 @@ void WindowSurface::ShowPointer() { window_->unsetCursor(); }
 /// A window that does not lead gets no focus even when it is clicked: the keys go to the one that
 /// does.
 void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
-  TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlag(stacking) |
+  atBottom_ = stacking == Stacking::AtBottom;
+  TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlags(stacking) |
             (place.Leads ? Qt::WindowFlags() : Qt::WindowDoesNotAcceptFocus));
   CoverScreen(place);
-  if (place.Leads) window_->requestActivate();
+  if (place.Leads && !atBottom_) window_->requestActivate();
   screens_.emplace([this, place] { CoverScreen(place); });
 }
 
@@ -113,17 +134,31 @@ void WindowSurface::CoverScreen(ScreenPlace place) {
   window_->setScreen(screen);
   window_->setGeometry(screen->geometry());
   window_->setWindowState(Qt::WindowFullScreen);
-  window_->show();
+  ShowInState();
 }
 
 void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   screens_.reset();
+  atBottom_ = false;
   TakeFlags(Qt::Window);
   window_->setWindowState(Qt::WindowNoState);
-  window_->resize(QGuiApplication::primaryScreen()->availableSize() * kWindowShare);
+  const QSize room = QGuiApplication::primaryScreen()->availableSize() * kWindowShare;
+  const bool fits = kUsualSize.boundedTo(room) == kUsualSize;
+  window_->resize(fits ? kUsualSize : kUsualSize.scaled(room, Qt::KeepAspectRatio));
   place(*window_);
-  window_->show();
+  ShowInState();
   window_->requestActivate();
+}
+
+/// The toolkit's own `show` puts a window into the state that is usual on the platform, whatever
+/// state was set before, so the window manager would never be asked for full screen or maximised.
+void WindowSurface::ShowInState() {
+  window_->create();
+  if (atBottom_) {
+    MarkAsBackground(*window_);
+    window_->lower();
+  }
+  window_->setVisible(true);
 }
 
 /// A window that is shown changes its frame only when it comes up again. The toolkit selects its
@@ -136,17 +171,25 @@ void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
 
 /// The window exists, or has been made anew.
 void WindowSurface::MeetWindow() {
+  if (window_->property(kUnlistedProperty).toBool()) MarkUnlisted(*window_);
   sight_ = MakeSightWatch(*window_);
   points_ = MakePointPainter(*window_);
 }
 
-bool WindowSurface::ShowInside(ForeignWindow& host) {
+bool WindowSurface::ShowInside(ForeignWindow& host, GuestOrder order) {
   // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
   window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
-  if (!host.TakeIn(*window_)) return false;
+  if (!host.TakeIn(*window_, order)) return false;
   window_->show();
   return true;
+}
+
+void WindowSurface::ShowInOwn(QWindow& outer) {
+  window_->setFlags(Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+  window_->setParent(&outer);
+  window_->setGeometry(QRect(QPoint(), outer.size()));
+  ShowInState();
 }
 
 QWindow& WindowSurface::Window() { return *window_; }
@@ -210,7 +253,7 @@ QRegion WindowSurface::TouchedRegion() {
   }
   rects_.clear();
   for (const TileRect& tile : tiles_.Take()) {
-    rects_.emplace_back(tile.X, tile.Y, tile.Width, tile.Height);
+    rects_.emplace_back(tile.X + origin_.x(), tile.Y + origin_.y(), tile.Width, tile.Height);
   }
   QRegion region;
   if (IsWhole(factor_)) {
@@ -241,8 +284,10 @@ bool WindowSurface::Paint(QPaintDevice& picture, bool whole) {
 
 void WindowSurface::MeasureScale(QSize pictureSize) {
   pictureSize_ = pictureSize;
-  scale_.Columns.Measure(Width(), factor_, pictureSize.width());
-  scale_.Rows.Measure(Height(), factor_, pictureSize.height());
+  const QSize room = store_->size() - QSize(Width(), Height());
+  origin_ = {room.width() / 2, room.height() / 2};
+  scale_.Columns.Measure(Width(), factor_, pictureSize.width(), origin_.x());
+  scale_.Rows.Measure(Height(), factor_, pictureSize.height(), origin_.y());
   tiles_.Resize(Width(), Height());
 }
 
@@ -257,6 +302,7 @@ void WindowSurface::PaintDirectly(ScreenImage image, bool whole) {
 /// The slow way, for screens of fewer colours. The painter measures in logical pixels.
 void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
   QPainter painter(&picture);
+  painter.translate(origin_);
   if (!whole) {
     for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
       const int x = ColumnOf(*place);
@@ -265,7 +311,7 @@ void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
     }
     return;
   }
-  painter.fillRect(QRect(QPoint(), store_->size()), Qt::black);
+  painter.fillRect(QRect(-origin_, store_->size()), Qt::black);
   QImage line(std::max(Width(), 1), 1, QImage::Format_RGB32);
   for (int y = 0; y < Height(); ++y) {
     auto* const words = reinterpret_cast<std::uint32_t*>(line.bits());

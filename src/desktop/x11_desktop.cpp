@@ -3,7 +3,6 @@
 #include <xcb/xcb.h>
 
 #include <QGuiApplication>
-#include <string_view>
 #include <vector>
 
 #include "desktop/other_programs.h"
@@ -27,10 +26,11 @@ class X11Desktop : public StartsOtherPrograms {
   X11Desktop(xcb_connection_t* connection, xcb_window_t root)
       : connection_(connection),
         root_(root),
-        managerCheck_(Atom("_NET_SUPPORTING_WM_CHECK")),
-        clientList_(Atom("_NET_CLIENT_LIST")),
-        activeWindow_(Atom("_NET_ACTIVE_WINDOW")),
-        windowName_(Atom("_NET_WM_NAME")) {}
+        managerCheck_(InternAtom(connection, "_NET_SUPPORTING_WM_CHECK")),
+        clientList_(InternAtom(connection, "_NET_CLIENT_LIST")),
+        activeWindow_(InternAtom(connection, "_NET_ACTIVE_WINDOW")),
+        windowName_(InternAtom(connection, "_NET_WM_NAME")),
+        unlisted_(InternAtom(connection, kUnlistedMark)) {}
 
   bool WindowExists(const std::string& caption) override {
     return Find(caption) != XCB_WINDOW_NONE;
@@ -54,13 +54,6 @@ class X11Desktop : public StartsOtherPrograms {
   }
 
  private:
-  xcb_atom_t Atom(std::string_view name) {
-    const auto request =
-        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const auto reply = Ask(connection_, request, xcb_intern_atom_reply);
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-  }
-
   Answer<xcb_get_property_reply_t> Property(xcb_window_t window, xcb_atom_t name) {
     const auto request =
         xcb_get_property(connection_, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kPropertyRoom);
@@ -115,9 +108,14 @@ class X11Desktop : public StartsOtherPrograms {
     return found;
   }
 
+  bool IsListed(xcb_window_t window) {
+    const auto mark = Property(window, unlisted_);
+    return !mark || mark->type == XCB_ATOM_NONE;
+  }
+
   xcb_window_t Find(const std::string& caption) {
     for (const xcb_window_t window : TopLevelWindows()) {
-      if (Caption(window) == caption) return window;
+      if (Caption(window) == caption && IsListed(window)) return window;
     }
     return XCB_WINDOW_NONE;
   }
@@ -150,6 +148,7 @@ class X11Desktop : public StartsOtherPrograms {
   xcb_atom_t clientList_;
   xcb_atom_t activeWindow_;
   xcb_atom_t windowName_;
+  xcb_atom_t unlisted_;
 };
 
 xcb_window_t RootOfFirstScreen(xcb_connection_t* connection) {

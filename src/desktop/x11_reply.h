@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace starfolds {
 
@@ -32,5 +33,16 @@ Answer<Reply> Ask(xcb_connection_t* connection, Request request,
 inline void DropErrors(xcb_connection_t* connection, xcb_void_cookie_t checkedRequest) {
   std::free(xcb_request_check(connection, checkedRequest));
 }
+
+/// The number of a name; `XCB_ATOM_NONE` if the connection is broken.
+inline xcb_atom_t InternAtom(xcb_connection_t* connection, std::string_view name) {
+  const auto request =
+      xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+  const auto reply = Ask(connection, request, xcb_intern_atom_reply);
+  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+/// Property of windows that are not to be found by their caption.
+inline constexpr std::string_view kUnlistedMark = "_STARFOLDS_UNLISTED";
 
 }  // namespace starfolds

@@ -14,7 +14,6 @@
 #include "editors/number_box.h"
 #include "editors/props_model.h"
 #include "hosting/picture_box.h"
-#include "numbers/utf8.h"
 #include "settings/registry.h"
 
 namespace starfolds {
@@ -26,6 +25,7 @@ constexpr int kMessageMargin = 6;
 
 constexpr std::string_view kFont = "Adv_FontName";
 constexpr std::string_view kMessage = "LockMessage";
+constexpr std::string_view kDrift = "Adv_FontDrift";
 
 /// A setting and its control, in the order in which they are read and stored.
 struct Row {
@@ -48,6 +48,7 @@ constexpr Row kRows[] = {
     {"Adv_WinResize", "chkResize", kAlone, 'W'},
     {"Adv_MouseMove", "chkMouseM", kAlone, 'I'},
     {"Adv_DispBackG", "chkBackGr", kAlone, 'k'},
+    {kDrift, "chkDrift", kAlone, 'L'},
 };
 
 using AdvancedField = Field<AdvancedSettings>;
@@ -92,7 +93,7 @@ QComboBox* MakeFontList() {
 /// Holds the text to what can be read back from the tree.
 void HoldToStorable(QLineEdit* box, const QString& text) {
   const std::string typed = text.toStdString();
-  const std::string_view kept = FirstBytes(typed, kLongestValue);
+  const std::string_view kept = HeldToLongestValue(typed);
   if (kept.size() == typed.size()) return;
   QApplication::beep();
   box->setText(Shown(kept));
@@ -221,6 +222,7 @@ QGroupBox* FrmAdvanced::MakeMessageFrame() {
   AddSetting(*page, kFont);
   AddSetting(*page, "Adv_FontSize");
   AddSetting(*page, "Adv_FontHueV", {picHueStart_});
+  AddSetting(*page, kDrift);
   AddWideLine(*page, picMessage_);
   page->setAlignment(picMessage_, Qt::AlignHCenter);
   return frame;

@@ -3,7 +3,8 @@
 
 namespace starfolds {
 
-/// Of the saver's window, and of the application window where it can be resized.
+/// Of the saver's window, and of the application window where it can be resized. The latter is
+/// hidden from the search by caption, so that it keeps no saver from starting.
 inline constexpr char kSaverCaption[] = "TSLN:Starfolds 4.1a";
 /// Of the preview inside a host's window.
 inline constexpr char kPreviewCaption[] = "TSLN:Preview Starfolds 4.1a";

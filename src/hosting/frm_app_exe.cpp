@@ -1,24 +1,49 @@
 #include "hosting/frm_app_exe.h"
 
 #include <Qt>
+#include <chrono>
 #include <utility>
 
 #include "hosting/captions.h"
 #include "hosting/lock_message.h"
+#include "hosting/picture_box.h"
 #include "hosting/placed_qt_window.h"
+#include "hosting/saved_picture.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
+namespace {
 
-FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps)
+using std::chrono::milliseconds;
+
+/// Long enough to read the line.
+constexpr milliseconds kHintTime{7000};
+constexpr milliseconds kForGood{0};
+
+/// A paused window looks this often whether the process is to end.
+constexpr Long kPauseLookMs = 250;
+
+const char kKeys[] =
+    "Esc: leave    F5: next universe    Ctrl+P: pause    Ctrl+S: save a picture    F1: help    "
+    "any other key: settings";
+const char kFewKeys[] = "Esc: leave    F1: help    any other key: settings";
+
+}  // namespace
+
+FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps,
+                     AppWindowShape shape)
     : saver_(saver),
       seed_(std::move(seed)),
       frmProps_(std::move(frmProps)),
+      shape_(shape),
       surface_(*this),
-      picMessage_(surface_.Window()) {
+      picMessage_(surface_.Window()),
+      hints_(surface_.Window()) {
   surface_.SetName("frmAppEXE");
+  // It may have the saver's caption, but a screen saver is to start while it is open.
+  surface_.HideFromSearch();
 }
 
 FrmAppExe::~FrmAppExe() { saver_.Screen.hDCDraw = nullptr; }
@@ -31,27 +56,46 @@ void FrmAppExe::Activate() {
   SavePlacement();
 }
 
+/// A process that ends before its window is shown has no placement.
 void FrmAppExe::SavePlacement() {
+  if (!framed_ || shape_.IsForThisRun()) return;
   SaveWindowPlacement(PlacedQtWindow(surface_.Window()), *saver_.Tree, sections::kGeneral);
+}
+
+bool FrmAppExe::WantsFrame() const {
+  if (shape_.FullScreen) return false;
+  return shape_.Size || shape_.Framed || LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize;
 }
 
 /// A window that is as the settings want it stays where it is.
 void FrmAppExe::Show() {
-  const bool resizable = LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize;
-  if (resizable_ == resizable) return;
-  resizable_ = resizable;
-  if (resizable) {
-    surface_.SetCaption(kSaverCaption);
-    surface_.ShowPointer();
-    surface_.ShowResizable([this](QWindow& window) {
-      PlacedQtWindow placed(window);
+  const bool framed = WantsFrame();
+  if (framed_ == framed) return;
+  framed_ = framed;
+  if (framed) return ShowFramed();
+  surface_.SetCaption("");
+  surface_.HidePointer();
+  surface_.ShowFullScreen(Stacking::Ordinary);
+}
+
+void FrmAppExe::ShowFramed() {
+  surface_.SetCaption(kSaverCaption);
+  surface_.ShowPointer();
+  surface_.ShowResizable([this](QWindow& window) {
+    PlacedQtWindow placed(window);
+    if (!shape_.Size && LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize) {
       RestoreWindowPlacement(placed, *saver_.Tree, sections::kGeneral);
-    });
-  } else {
-    surface_.SetCaption("");
-    surface_.HidePointer();
-    surface_.ShowFullScreen(Stacking::Ordinary);
-  }
+    } else {
+      if (shape_.Size) window.resize(*shape_.Size);
+      placed.CentreOnScreen();
+    }
+  });
+}
+
+/// Once, when the first universe begins.
+void FrmAppExe::ShowKeys() {
+  if (!keysShown_) hints_.Show(kKeys, kFewKeys, kHintTime);
+  keysShown_ = true;
 }
 
 /// The surface takes the window's size here and nowhere else: a window that is resized meanwhile
@@ -64,7 +108,10 @@ void FrmAppExe::AppRun() {
   surface_.TakeWindowSize();
   SetupDisplay(saver_, surface_, seed_());
   ShowLockMessage(picMessage_, saver_.Advanced);
+  ShowKeys();
+  running_ = true;
   RunEffect(saver_, surface_);
+  running_ = false;
 }
 
 void FrmAppExe::AppQuit() {
@@ -79,22 +126,55 @@ void FrmAppExe::BeginAnew() {
   saver_.StopRun = true;
 }
 
-void FrmAppExe::ShowProperties() {
+void FrmAppExe::ShowProperties(bool help) {
   SavePlacement();
-  frmProps_(surface_.Window());
+  frmProps_(surface_.Window(), help);
   if (saver_.QuitApp) return AppQuit();
   BeginAnew();
 }
 
-void FrmAppExe::KeyDown(int key) {
+/// The run stands in the pump of its frame until the key is pressed again, or anything ends it. The
+/// dialog that another key opens does not end the pause, but what follows it does.
+void FrmAppExe::TogglePause() {
+  paused_ = !paused_;
+  if (!paused_) return hints_.Hide();
+  hints_.Show("Paused. Ctrl+P: go on", "Paused", kForGood);
+  while (paused_ && !saver_.StopRun) {
+    saver_.Events->PumpEvents();
+    if (paused_ && !saver_.StopRun) saver_.Events->WaitForEvents(kPauseLookMs);
+  }
+  paused_ = false;
+  hints_.Hide();
+}
+
+void FrmAppExe::SavePictureOfUniverse() {
+  const SavedPicture saved = SavePicture(ImageOf(surface_));
+  const QString text = saved.Path.isEmpty() ? "The picture could not be saved: " + saved.Fault
+                                            : "Saved as " + saved.Path;
+  hints_.Show(text.toStdString(), saved.Path.isEmpty() ? "Not saved" : "Saved", kHintTime);
+}
+
+/// Single keys are all taken: what is neither Esc nor F5 opens the properties.
+void FrmAppExe::KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+  if (modifiers == Qt::ControlModifier && key == Qt::Key_P) return TogglePause();
+  if (modifiers == Qt::ControlModifier && key == Qt::Key_S) return SavePictureOfUniverse();
   switch (key) {
     case Qt::Key_Escape: return AppQuit();
     case Qt::Key_F5: SavePlacement(); return BeginAnew();
-    default: return ShowProperties();
+    default: return ShowProperties(key == Qt::Key_F1);
   }
 }
 
-void FrmAppExe::MouseDown() { ShowProperties(); }
+void FrmAppExe::MouseDown() { ShowProperties(false); }
+
+/// The surface keeps its size until the next run; the lines above it stay in their places.
+void FrmAppExe::Resized() {
+  if (!running_) return;
+  ShowLockMessage(picMessage_, saver_.Advanced);
+  hints_.FollowWindow();
+  if (!paused_ && !surface_.HasWindowSize())
+    hints_.Show("F5: next universe, in this size", "F5", kHintTime);
+}
 
 void FrmAppExe::CloseRequested() { AppQuit(); }
 

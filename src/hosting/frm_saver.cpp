@@ -51,8 +51,12 @@ void FrmSaver::RunInWindow() {
   running_ = false;
 }
 
-void FrmSaver::KeyDown(int) {
+void FrmSaver::KeyDown(int, Qt::KeyboardModifiers) {
   if (input_.KeyDown()) QueryUnload();
+}
+
+void FrmSaver::Scroll() {
+  if (input_.Scroll()) QueryUnload();
 }
 
 void FrmSaver::MouseDown() {

@@ -22,7 +22,8 @@ class FrmSaver : private WindowEvents {
   QWindow& Window() { return surface_.Window(); }
 
  private:
-  void KeyDown(int key) override;
+  void KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
+  void Scroll() override;
   void MouseDown() override;
   void DoubleClick() override;
   void MouseMove(int x, int y) override;

@@ -17,7 +17,8 @@ GuestWindow::GuestWindow(Saver& saver, SeedSource seed, Long host)
 GuestWindow::~GuestWindow() { saver_.Screen.hDCDraw = nullptr; }
 
 bool GuestWindow::Run(bool smallPreview) {
-  if (!host_ || !surface_.ShowInside(*host_)) return false;
+  const GuestOrder order = smallPreview ? GuestOrder::Top : GuestOrder::Bottom;
+  if (!host_ || !surface_.ShowInside(*host_, order)) return false;
   saver_.StopRun = hostGone_ || saver_.QuitApp;
   smallPreview_ = smallPreview;
   WaitUntilShown(saver_, surface_);

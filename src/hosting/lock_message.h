@@ -6,8 +6,8 @@
 
 namespace starfolds {
 
-/// Shows `LockMessage` in its font, size and hue, or nothing if it is empty. The settings have been
-/// held to their limits.
+/// Shows `LockMessage` in its font, size and hue, drifting if `Adv_FontDrift` is on, or nothing if
+/// it is empty. The settings have been held to their limits.
 void ShowLockMessage(MessageWindow& picMessage, const AdvancedSettings& advanced);
 
 }  // namespace starfolds

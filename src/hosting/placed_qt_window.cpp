@@ -50,8 +50,11 @@ void PlacedQtWindow::Move(const WindowBounds& bounds) {
 
 void PlacedQtWindow::CentreOnScreen() {
   QRect place(QPoint(), window_.size());
-  place.moveCenter(window_.screen()->availableGeometry().center());
-  window_.setFramePosition(place.topLeft());
+  const QRect room = window_.screen()->availableGeometry();
+  place.moveCenter(room.center());
+  // The caption of a window that is larger than the screen can be reached.
+  window_.setFramePosition(
+      {std::max(place.left(), room.left()), std::max(place.top(), room.top())});
 }
 
 void ShowWherePlaced(QWidget& window, KeyValueTree& tree, std::string_view section) {

@@ -14,6 +14,7 @@ class SaverInput {
   SaverInput(bool mouseMoveOff, bool backG) : mouseMoveOff_(mouseMoveOff), backG_(backG) {}
 
   bool KeyDown() const { return !backG_; }
+  bool Scroll() const { return !backG_; }
   bool MouseDown() const { return !backG_; }
   bool DoubleClick() const { return backG_; }
 

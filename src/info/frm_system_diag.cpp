@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "hosting/dialog_parts.h"
+#include "hosting/surface_box.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 
@@ -82,9 +83,6 @@ void FrmSystemDiag::RunDiagnostics() {
   ShowField(*version_, Shown(SystemVersion()), false);
   const std::string access = TestRegistryAccess(around_.Tree);
   ShowField(*access_, Shown(access), access != kWriteTestPassed);
-  Surface& surface = picGraphics_->BeginRun();
-  PlotTestCircle(surface);
-  surface.Present();
 }
 
 void FrmSystemDiag::ShowDisplay() {
@@ -152,12 +150,12 @@ QGroupBox* FrmSystemDiag::MakeGraphicsFrame() {
   auto* lblGraphics = new QLabel(tr(kGraphicsText).arg(api));
   lblGraphics->setObjectName("lblGraphics");
   lblGraphics->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  picGraphics_ = new PictureBox;
-  picGraphics_->setObjectName("picGraphics");
-  picGraphics_->setAccessibleName(tr("A circle, if stars can be plotted"));
-  picGraphics_->setFixedSize(kCircleBox, kCircleBox);
+  auto* picGraphics = new SurfaceBox(PlotTestCircle);
+  picGraphics->setObjectName("picGraphics");
+  picGraphics->setAccessibleName(tr("A circle, if stars can be plotted"));
+  picGraphics->setFixedSize(kCircleBox, kCircleBox);
   columns->addWidget(lblGraphics, 1);
-  columns->addWidget(picGraphics_);
+  columns->addWidget(picGraphics);
   return frame;
 }
 

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "hosting/picture_box.h"
 #include "hosting/placed_dialog.h"
 #include "info/report.h"
 #include "platform/message_boxes.h"
@@ -27,7 +26,8 @@ class FrmSystemDiag : public PlacedDialog {
  public:
   explicit FrmSystemDiag(const DiagSurroundings& surroundings, QWidget* parent = nullptr);
 
-  /// Fills the fields. Runs by itself when the dialog is shown.
+  /// Fills the fields. Runs by itself when the dialog is shown. The circle of the graphics test is
+  /// drawn when its box has come to be seen.
   void RunDiagnostics();
 
   void ShowSystemInfo();
@@ -53,7 +53,6 @@ class FrmSystemDiag : public PlacedDialog {
   QLineEdit* size_ = nullptr;
   QLineEdit* twipsPerPixel_ = nullptr;
   QLineEdit* colours_ = nullptr;
-  PictureBox* picGraphics_ = nullptr;
   QLabel* lblCopied_ = nullptr;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr HelpTopic kTopics[] = {
     {help::kGettingStarted, "getting-started.md", 0},
-    {kNoContext, "windows.md", 0},
+    {help::kWindows, "windows.md", 0},
     {kNoContext, "saver-hosts.md", 1},
     {kNoContext, "command-line.md", 1},
     {kNoContext, "properties.md", 0},

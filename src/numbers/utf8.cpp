@@ -67,19 +67,4 @@ std::string FromWindows1252(std::string_view text) {
   return utf8;
 }
 
-std::string_view FirstCharacters(std::string_view text, std::size_t count) {
-  std::size_t end = 0;
-  for (std::size_t begun = 0; end < text.size(); ++end) {
-    if (!Continues(text[end]) && ++begun > count) break;
-  }
-  return text.substr(0, end);
-}
-
-std::string_view FirstBytes(std::string_view text, std::size_t bytes) {
-  if (text.size() <= bytes) return text;
-  std::size_t end = bytes;
-  while (end > 0 && Continues(text[end])) --end;
-  return text.substr(0, end);
-}
-
 }  // namespace starfolds

@@ -1,7 +1,6 @@
 // Text as UTF-8, which is what the whole system speaks, and its way there from older files.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,11 +12,5 @@ bool IsUtf8(std::string_view text);
 /// Text of the code page that Windows used in Western Europe. The five bytes that it leaves
 /// undefined become the control characters of the same number.
 std::string FromWindows1252(std::string_view text);
-
-/// The first `count` characters; fewer where there are no more.
-std::string_view FirstCharacters(std::string_view text, std::size_t count);
-
-/// As many whole characters from the start as `bytes` bytes hold.
-std::string_view FirstBytes(std::string_view text, std::size_t bytes);
 
 }  // namespace starfolds

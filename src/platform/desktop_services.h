@@ -12,7 +12,8 @@ class DesktopServices {
  public:
   virtual ~DesktopServices() = default;
 
-  /// Whether a top-level window with exactly this caption exists, in whatever process.
+  /// Whether a top-level window with exactly this caption exists, in whatever process. Windows that
+  /// are hidden from this search by their program do not count.
   virtual bool WindowExists(const std::string& caption) = 0;
 
   /// Finds that window and gives it the focus; nothing where there is none.

@@ -11,6 +11,7 @@ namespace starfolds {
 /// of the topic's title and place.
 namespace help {
 inline constexpr Integer kGettingStarted = 10;
+inline constexpr Integer kWindows = 15;
 inline constexpr Integer kProject = 20;  // where the project lives, and how to take part
 inline constexpr Integer kFileIo = 500;
 inline constexpr Integer kSystemDiag = 550;

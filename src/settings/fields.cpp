@@ -3,9 +3,9 @@
 #include <array>
 #include <cmath>
 
+#include "numbers/characters.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
-#include "numbers/utf8.h"
 
 namespace starfolds {
 namespace {
@@ -22,6 +22,8 @@ constexpr Oddities kWholeWiderInDialog{.WholeNumber = true, .DialogHigh = 99999}
 constexpr Oddities kReadAsLong{.ReadAs = Reader::AsLong};
 constexpr Oddities kExactlyOne{.ReadAs = Reader::ExactlyOne};
 constexpr Oddities kExactlyOneNoTemplate{.ReadAs = Reader::ExactlyOne, .InTemplate = false};
+/// Templates without it are the same as those of versions that do not know it.
+constexpr Oddities kUsualNotInTemplate{.UsualNotInTemplate = true};
 constexpr Oddities kReadOnly{.InDialog = false, .InTemplate = false};
 constexpr Oddities kZeroInTemplate{.ZeroInTemplate = true};
 constexpr Oddities kMemberCount{.ZeroInTemplate = true, .TemplateName = "_CompFoldCount"};
@@ -175,6 +177,8 @@ const Field<A> kAdvancedFields[] = {
     {"Adv_Randomize", &A::Adv_Randomize, None, 0, 0, "Randomize Properties"},
     {"Adv_RandomMag", &A::Adv_RandomMag, Fixed, 1, 100, "Randomization Magnitude (1 - 100):"},
     {"Adv_RandomExp", &A::Adv_RandomExp, Fixed, 1, 100, "Bias Exponent to Normal (1 - 100):"},
+    {"Adv_FontDrift", &A::Adv_FontDrift, None, 0, 0, "Let the text drift slowly",
+     kUsualNotInTemplate},
     {"Adv_PerfMult", &A::Adv_PerfMult, None, 0, 0, "Speed Multiplier", kReadOnly},
     {"Adv_EffectFPC", &A::Adv_EffectFPC, None, 0, 0, "Effect Frames per Cycle", kReadOnly},
 };
@@ -213,6 +217,7 @@ const Field<AtomPoint> kAtomPointFields[] = {
 
 /// Characters of the on-screen message.
 constexpr std::size_t kLongestMessage = 100;
+constexpr std::size_t kMostBytesOfMessage = 4096;
 
 template <class Word>
 void ClampNumber(Word& value, Limits limits, bool wholeNumber) {
@@ -339,8 +344,8 @@ void ClampComposite(CompositeProfile& composite) {
 void ClampAdvanced(AdvancedSettings& advanced) {
   ClampFields(advanced, AdvancedFields());
   if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
-  advanced.LockMessage =
-      std::string(FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage));
+  advanced.LockMessage = std::string(
+      FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage, kMostBytesOfMessage));
   if (advanced.Adv_EffectFPC > 0) {
     advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
   }

@@ -29,6 +29,7 @@ struct Oddities {
   Reader ReadAs = Reader::ByKind;      // from the stored tree
   bool InDialog = true;                // some dialog writes it
   bool InTemplate = true;              // template files hold it
+  bool UsualNotInTemplate = false;     // template files hold it only if it is not the default
   bool ZeroInTemplate = false;         // a template that lacks it means 0, not the default
   std::string_view TemplateName = {};  // where templates call it otherwise
   std::string_view DefaultText = {};   // where the default is written otherwise than its number

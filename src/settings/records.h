@@ -210,8 +210,9 @@ struct AdvancedSettings {
   bool Adv_Randomize = false;
   Integer Adv_RandomMag = 5;
   Integer Adv_RandomExp = 2;
-  Single Adv_PerfMult = 1;  // kept and passed on; no run uses it
-  Long Adv_EffectFPC = 0;   // kept and passed on; no run uses it
+  bool Adv_FontDrift = false;  // the message wanders over the screen
+  Single Adv_PerfMult = 1;     // kept and passed on; no run uses it
+  Long Adv_EffectFPC = 0;      // kept and passed on; no run uses it
 };
 
 using ProfileArray = std::array<StarfoldProfile, kProfileCount>;

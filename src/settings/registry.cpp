@@ -4,9 +4,9 @@
 #include <limits>
 #include <optional>
 
+#include "numbers/characters.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
-#include "numbers/utf8.h"
 #include "settings/product.h"
 
 namespace starfolds {
@@ -41,7 +41,7 @@ std::optional<double> StoredNumber(KeyValueTree& tree, std::string_view section,
 std::string RegistryReadText(KeyValueTree& tree, std::string_view section, std::string_view key,
                              std::string_view fallback, RootSelector root, std::string_view app) {
   std::optional<std::string> text = tree.Read(HiveOf(root), PathOf(app, section), key);
-  if (!text || text->size() > kLongestValue) return std::string(fallback);
+  if (!text || HeldToLongestValue(*text).size() != text->size()) return std::string(fallback);
   text->resize(std::min(text->find('\0'), text->size()));
   return *std::move(text);
 }
@@ -75,9 +75,12 @@ bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_vie
   return RegistryWrite(tree, section, key, NumberText(value), root, app);
 }
 
-std::string_view StorableText(std::string_view text) {
-  return FirstBytes(Trimmed(text), kLongestValue);
+std::string_view HeldToLongestValue(std::string_view text) {
+  if (text.size() <= kLongestValue) return text;
+  return FirstCharacters(text, kLongestValue, kMostBytesOfValue);
 }
+
+std::string_view StorableText(std::string_view text) { return HeldToLongestValue(Trimmed(text)); }
 
 void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_view section,
                        std::string_view subkey, RootSelector root) {

@@ -22,8 +22,10 @@ enum class RootSelector : Integer {
 
 inline constexpr std::string_view kAppName = "TSLN_Starfold";
 
-/// Bytes of the longest value that can be read back.
+/// The longest value that can be read back, in characters as people count them, and in bytes: 127
+/// of the longest emoji that are in use.
 inline constexpr std::size_t kLongestValue = 127;
+inline constexpr std::size_t kMostBytesOfValue = 4096;
 
 // The sections of the tree.
 namespace sections {
@@ -41,7 +43,7 @@ inline constexpr std::string_view kAdvanced = "Advanced";
 inline constexpr std::string_view kUniverse = "Universe";
 }  // namespace sections
 
-/// The text of a value, up to its first NUL. A missing value, and one of more than 127 bytes, is
+/// The text of a value, up to its first NUL. A missing value, and one that is too long, is
 /// `fallback`.
 std::string RegistryReadText(KeyValueTree& tree, std::string_view section, std::string_view key,
                              std::string_view fallback = {},
@@ -68,7 +70,10 @@ bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_vie
 bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_view key, Long value,
                    RootSelector root = RootSelector::CurrentUser, std::string_view app = kAppName);
 
-/// What is left of a text when it is held to the longest value, in whole characters.
+/// As much of a text, in whole characters, as a value can hold.
+std::string_view HeldToLongestValue(std::string_view text);
+
+/// The same without blanks at the ends.
 std::string_view StorableText(std::string_view text);
 
 /// Removes `subkey` below `section`. Callers do not care whether it was there.

@@ -143,7 +143,10 @@ void CopyAdvancedToTemplate(KeyValueTree& tree, TemplateFile& file) {
   TreeBulk look = TreeBulk::Look(tree);
   for (const Field<AdvancedSettings>& field : AdvancedFields()) {
     if (!field.Odd.InTemplate) continue;
-    CopyRegistryToTemplate(tree, file, sections::kAdvanced, field.Name, DefaultText(field));
+    const std::string usual = DefaultText(field);
+    const bool isUsual = RegistryReadText(tree, sections::kAdvanced, field.Name, usual) == usual;
+    if (field.Odd.UsualNotInTemplate && isUsual) continue;
+    CopyRegistryToTemplate(tree, file, sections::kAdvanced, field.Name, usual);
   }
   look.Commit();
 }

@@ -30,6 +30,21 @@ wait_for_stars
 xdotool key a
 expect_end "a key"
 
+# An application window with the saver's caption does not keep an idle daemon's saver from starting.
+start "$program" --window --set Adv_WinResize=1
+application=$running
+for count in 1 2; do
+  for _ in $(seq 1 200); do
+    [ "$(xdotool search --name "^$caption\$" | wc -l)" = $count ] && break
+    sleep 0.05
+  done
+  [ $count = 1 ] && start "$program" /S
+done
+[ "$(xdotool search --name "^$caption\$" | wc -l)" = 2 ] || fault "no saver over an application window"
+stop
+running=$application
+stop
+
 start "$program" /s
 wait_for_stars
 xdotool click 1

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "desktop/pumped_test.h"
+#include "desktop/window_hints.h"
 
 namespace starfolds {
 namespace {
@@ -116,6 +117,16 @@ TEST_F(InstanceTest, AWindowThatIsShownHasItsCaption) {
   EXPECT_FALSE(Desktop->WindowExists("TSLN:Sterne"));
   Process other("ask");
   EXPECT_EQ(other.Answer(), "exists");
+}
+
+TEST_F(InstanceTest, AnUnlistedWindowDoesNotTakeItsCaption) {
+  QWindow window;
+  window.setTitle(QString::fromUtf8(kCaption));
+  window.setProperty(kUnlistedProperty, true);
+  window.show();
+  Process other("stay");
+  EXPECT_EQ(other.Answer(), "mine");
+  EXPECT_TRUE(Desktop->WindowExists(kCaption)) << "the other process has it";
 }
 
 TEST_F(InstanceTest, ComesForwardWhenAnotherProcessAsks) {

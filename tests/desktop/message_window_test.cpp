@@ -89,6 +89,21 @@ TEST_F(MessageWindowTest, IsCutOffAtBothSides) {
   }
 }
 
+TEST_F(MessageWindowTest, DriftsFromItsPlaceAndBack) {
+  const MessageStyle style{"Arial", 20, kGreen};
+  Message.Print("Back at ten", style);
+  const QPoint rest = Box().topLeft();
+  Message.SetDrift(true);
+  Message.Print("Back at ten", style);
+  EXPECT_EQ(Box().topLeft(), rest);
+  EXPECT_TRUE(PumpUntil([&] { return Box().topLeft() == rest + QPoint(2, 2); }));
+  Message.Print("Back at ten", style);
+  EXPECT_NE(Box().topLeft(), rest) << "another universe does not bring it back";
+  Message.SetDrift(false);
+  Message.Print("Back at ten", style);
+  EXPECT_EQ(Box().topLeft(), rest);
+}
+
 TEST_F(MessageWindowTest, GoesAndComesAgain) {
   Message.Print("Back at ten", {"Arial", 20, kGreen});
   Settle(100);

@@ -28,12 +28,13 @@ struct Picture {
 };
 
 /// Over and under a factor's line, and a picture that is as large as the scaled surface, larger or
-/// smaller by `Excess` physical pixels.
+/// smaller by `Excess` physical pixels. `Origin` is the place of the surface in it.
 struct Case {
   const char* Name;
   int Over;
   int Under;
   int Excess;
+  int Origin = 0;
 };
 
 constexpr int kWidth = 37;
@@ -42,8 +43,8 @@ constexpr int kHeight = 23;
 class ScreenImageAt : public testing::TestWithParam<Case> {
  protected:
   ScreenImageAt() {
-    Scale.Columns.Measure(kWidth, Factor(), Target.Width);
-    Scale.Rows.Measure(kHeight, Factor(), Target.Height);
+    Scale.Columns.Measure(kWidth, Factor(), Target.Width, GetParam().Origin);
+    Scale.Rows.Measure(kHeight, Factor(), Target.Height, GetParam().Origin);
   }
 
   double Factor() const { return static_cast<double>(GetParam().Over) / GetParam().Under; }
@@ -51,7 +52,7 @@ class ScreenImageAt : public testing::TestWithParam<Case> {
     return logical * GetParam().Over / GetParam().Under + GetParam().Excess;
   }
   int Logical(int physical) const {
-    return (2 * physical + 1) * GetParam().Under / (2 * GetParam().Over);
+    return (2 * physical + 1) * GetParam().Under / (2 * GetParam().Over) - GetParam().Origin;
   }
 
   void Scatter(int count) {
@@ -96,7 +97,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"PlainInSmaller", 1, 1, -8}, Case{"FiveQuarters", 5, 4, 0},
                     Case{"ThreeHalves", 3, 2, 0}, Case{"ThreeHalvesInLarger", 3, 2, 7},
                     Case{"ThreeHalvesInSmaller", 3, 2, -9}, Case{"Double", 2, 1, 0},
-                    Case{"SevenQuarters", 7, 4, 0}, Case{"DoubleInSmaller", 2, 1, -5}),
+                    Case{"SevenQuarters", 7, 4, 0}, Case{"DoubleInSmaller", 2, 1, -5},
+                    Case{"PlainInTheMiddle", 1, 1, 9, 4}, Case{"PlainCutAtAllSides", 1, 1, -8, -4},
+                    Case{"ThreeHalvesInTheMiddle", 3, 2, 12, 4},
+                    Case{"ThreeHalvesCutAtAllSides", 3, 2, -12, -4}),
     [](const auto& scale) { return scale.param.Name; });
 
 TEST(ScreenImage, ChangesRedAndBlueAndIsOpaque) { EXPECT_EQ(ScreenWord(0x00112233), 0xFF332211U); }

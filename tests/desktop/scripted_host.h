@@ -90,14 +90,31 @@ class HostWindow {
     return {words, words + xcb_get_image_data_length(reply.get()) / 4};
   }
 
-  /// Width and height of the window inside this one; nothing while there is none.
-  std::pair<int, int> GuestSize() const {
+  /// A window inside this one that covers all of it.
+  xcb_window_t AddChild() const {
+    const xcb_window_t child = xcb_generate_id(connection_);
+    xcb_create_window(connection_, 0, child, window_, 0, 0, 2000, 2000, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection_, child);
+    Settle();
+    return child;
+  }
+
+  /// The windows inside this one, the lowest first.
+  std::vector<xcb_window_t> Children() const {
     const Answer<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(connection_, xcb_query_tree(connection_, window_), nullptr));
-    if (!tree || xcb_query_tree_children_length(tree.get()) == 0) return {};
-    const xcb_window_t guest = *xcb_query_tree_children(tree.get());
-    const Answer<xcb_get_geometry_reply_t> place(
-        xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, guest), nullptr));
+    if (!tree) return {};
+    const xcb_window_t* const begin = xcb_query_tree_children(tree.get());
+    return {begin, begin + xcb_query_tree_children_length(tree.get())};
+  }
+
+  /// Width and height of the window inside this one; nothing while there is none.
+  std::pair<int, int> GuestSize() const {
+    const std::vector<xcb_window_t> children = Children();
+    if (children.empty()) return {};
+    const Answer<xcb_get_geometry_reply_t> place(xcb_get_geometry_reply(
+        connection_, xcb_get_geometry(connection_, children.front()), nullptr));
     if (!place) return {};
     return {place->width, place->height};
   }

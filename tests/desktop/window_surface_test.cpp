@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QScreen>
+#include <QWheelEvent>
 #include <random>
 #include <string>
 #include <vector>
@@ -26,7 +27,10 @@ class NotedEvents : public WindowEvents {
  public:
   std::vector<std::string> Notes;
 
-  void KeyDown(int key) override { Notes.push_back("key " + std::to_string(key)); }
+  void KeyDown(int key, Qt::KeyboardModifiers) override {
+    Notes.push_back("key " + std::to_string(key));
+  }
+  void Scroll() override { Notes.push_back("scroll"); }
   void MouseDown() override { Notes.push_back("press"); }
   void DoubleClick() override { Notes.push_back("double click"); }
   void MouseMove(int x, int y) override {
@@ -96,10 +100,12 @@ class WindowSurfaceTest : public PumpedTest {
     const int width = static_cast<int>(Target.Window().width() * factor);
     const int height = static_cast<int>(Target.Window().height() * factor);
     if (shown.width() < width || shown.height() < height) return "the picture is too small";
+    const QPoint origin((Target.Window().width() - Target.Width()) / 2,
+                        (Target.Window().height() - Target.Height()) / 2);
     for (int y = 0; y < height; ++y) {
       for (int x = 0; x < width; ++x) {
-        const auto column = static_cast<Long>((x + 0.5) / factor);
-        const auto row = static_cast<Long>((y + 0.5) / factor);
+        const auto column = static_cast<Long>((x + 0.5) / factor) - origin.x();
+        const auto row = static_cast<Long>((y + 0.5) / factor) - origin.y();
         const std::uint32_t expected = ScreenWord(Target.Pixel(column, row));
         if (!LooksLike(shown.pixel(x, y), expected, depth)) {
           return "at " + std::to_string(x) + ", " + std::to_string(y) + ": " +
@@ -153,7 +159,7 @@ TEST_F(WindowSurfaceTest, ShowsStarsColourByColour) {
   }
 }
 
-TEST_F(WindowSurfaceTest, KeepsItsSizeWhenTheWindowIsResized) {
+TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {
   ShowAt(300, 200);
   Scatter(1000);
   Target.Present();
@@ -268,6 +274,36 @@ TEST_F(WindowInputTest, IsPassedOn) {
   Send(Mouse(QEvent::MouseButtonDblClick, {12, 34}));
   EXPECT_THAT(Heard.Notes, ElementsAre("key " + std::to_string(Qt::Key_F5), "move 12 34", "press",
                                        "double click"));
+}
+
+TEST_F(WindowInputTest, OnlyKeysOfAPersonWhoWantsSomethingCount) {
+  for (const int key : {Qt::Key_Shift, Qt::Key_AltGr, Qt::Key_NumLock, Qt::Key_VolumeUp,
+                        Qt::Key_MediaTogglePlayPause, Qt::Key_MonBrightnessDown}) {
+    Send(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+  }
+  Send(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a", true));
+  // A repeat that the toolkit did not recognise: key 38 goes up and down at the same time.
+  for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+    QKeyEvent event(type, Qt::Key_A, Qt::NoModifier, 38, 'a', 0);
+    event.setTimestamp(1000);
+    Send(std::move(event));
+  }
+  EXPECT_THAT(Heard.Notes, ElementsAre());
+  QKeyEvent later(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, 38, 'a', 0);
+  later.setTimestamp(1001);
+  Send(std::move(later));
+  EXPECT_THAT(Heard.Notes, ElementsAre("key " + std::to_string(Qt::Key_A)));
+}
+
+TEST_F(WindowInputTest, ScrollingIsToldButNotWhatRollsOn) {
+  const auto scroll = [this](QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+    Send(QWheelEvent({5, 5}, {5, 5}, pixels, angle, Qt::NoButton, Qt::NoModifier, phase, false));
+    return Heard.Notes.size();
+  };
+  EXPECT_EQ(scroll({}, {0, 120}, Qt::NoScrollPhase), 1U);
+  EXPECT_EQ(scroll({}, {}, Qt::ScrollBegin), 1U);
+  EXPECT_EQ(scroll({0, 3}, {}, Qt::ScrollUpdate), 2U);
+  EXPECT_EQ(scroll({0, 3}, {0, 24}, Qt::ScrollMomentum), 2U);
 }
 
 TEST_F(WindowInputTest, CannotCloseTheWindowByItself) {

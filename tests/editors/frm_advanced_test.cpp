@@ -7,9 +7,9 @@
 #include <QPushButton>
 #include <map>
 
-#include "numbers/utf8.h"
 #include "settings/registry.h"
 #include "settings/storage.h"
+#include "settings/templates.h"
 #include "widgets.h"
 
 namespace starfolds {
@@ -20,7 +20,7 @@ const std::map<std::string, std::string> kOther = {
     {"LockMessage", "Späti"}, {"Adv_TimeDelay", "999"}, {"FocalLength", "2.5"},
     {"Adv_FontSize", "80"},   {"Adv_FontHueV", "0"},    {"Adv_Randomize", "1"},
     {"Adv_RandomMag", "100"}, {"Adv_RandomExp", "1"},   {"Adv_WinResize", "1"},
-    {"Adv_MouseMove", "1"},   {"Adv_DispBackG", "1"},
+    {"Adv_MouseMove", "1"},   {"Adv_DispBackG", "1"},   {"Adv_FontDrift", "1"},
 };
 
 class FrmAdvancedTest : public DialogTest {
@@ -51,7 +51,7 @@ TEST_F(FrmAdvancedTest, WhatIsStoredIsShownAndStoredAgain) {
   EXPECT_EQ(Edit("txtAdv_3").text(), "0");
   EXPECT_EQ(Edit("txtAdv_9").text(), "100");
   EXPECT_EQ(Edit("txtAdv_10").text(), "1");
-  for (const char* check : {"chkRandom", "chkResize", "chkMouseM", "chkBackGr"}) {
+  for (const char* check : {"chkRandom", "chkResize", "chkMouseM", "chkBackGr", "chkDrift"}) {
     EXPECT_TRUE(The<QCheckBox>(check).isChecked()) << check;
   }
   auto& fonts = The<QComboBox>("cboFont");
@@ -119,14 +119,28 @@ TEST_F(FrmAdvancedTest, NumbersAreHeldToTheirRanges) {
   }
 }
 
-TEST_F(FrmAdvancedTest, AMessageIsCutToWhatCanBeReadAgain) {
-  Open();
-  Edit("txtMessage").setText("  " + QString(200, QChar(0x20AC)));  // three bytes each
-  Click("cmdOK");
-  const std::string stored = Stored("LockMessage");
-  EXPECT_EQ(stored.size(), 123U);
-  EXPECT_TRUE(IsUtf8(stored));
-  EXPECT_EQ(LoadAdvancedFromRegistry(Tree).LockMessage, stored);
+/// A hundred characters of any script are shown, and come back from a template as well.
+TEST_F(FrmAdvancedTest, AMessageIsCutAfterWholeCharacters) {
+  for (const QString one : {"x", "\u661F", "\u0915\u093F", "\U0001F1F3\U0001F1EE",
+                            "\U0001F468\u200D\U0001F469\u200D\U0001F467"}) {
+    Open();
+    Edit("txtMessage").setText("  " + one.repeated(150));
+    Click("cmdOK");
+    EXPECT_EQ(Stored("LockMessage"), one.repeated(125).toStdString()) << "two were blanks";
+    const std::string shown = LoadAdvancedFromRegistry(Tree).LockMessage;
+    EXPECT_EQ(shown, one.repeated(100).toStdString());
+    Store({{"Adv_FontDrift", one == "x" ? "1" : "0"}});
+    MemoryFiles files;
+    TemplateFile file(files);
+    file.TemplateFileName = "t.sfd";
+    CopyAdvancedToTemplate(Tree, file);
+    ASSERT_EQ(file.CloseTemplate(), std::nullopt);
+    MemoryTree other;
+    CopyAdvancedFromTemplate(file, other);
+    EXPECT_EQ(LoadAdvancedFromRegistry(other).LockMessage, shown);
+    EXPECT_EQ(LoadAdvancedFromRegistry(other).Adv_FontDrift, one == "x");
+    EXPECT_EQ(files.Contents["t.sfd"].find("Adv_FontDrift") != std::string::npos, one == "x");
+  }
 }
 
 TEST_F(FrmAdvancedTest, StoresAllOrNothing) {

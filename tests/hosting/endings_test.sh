@@ -53,9 +53,12 @@ keep_still=Advanced/Adv_MouseMove=1
 message=Advanced/LockMessage=Back_at_ten
 
 ends 'xdotool key a' saver $keep_still
-ends 'xdotool key shift' saver
 ends 'xdotool click 1' saver $keep_still
 ends 'xdotool click 3' saver
+ends 'xdotool click 4' saver $keep_still
+stays 'xdotool click 4' saver $background
+nothing_meant='xdotool key shift key XF86AudioRaiseVolume key Caps_Lock key Caps_Lock'
+stays "$nothing_meant" saver
 ends 'moves 5' saver
 stays 'moves 3' saver
 stays 'moves 20' saver $keep_still
@@ -63,12 +66,35 @@ stays disturb_all saver $background
 ends double_click saver $background
 stays 'moves 20' saver $background
 
+# A key that was held before the saver came, and is for a second.
+hold_on() { sleep 1; }
+xdotool keydown a
+stays hold_on saver
+xdotool keyup a
+
 # The message takes no input for itself.
 ends 'xdotool mousemove 400 15 click 1' saver $keep_still $message
 
 ends 'xdotool key Escape' application
 stays 'moves 20' application
 stays 'xdotool key F5 key F5 click 1 key a' application
+
+# asks_for_properties NUMBER INPUT: so often does the input open the application's properties.
+asks_for_properties() {
+  local asked
+  start "$host" application >"$output"
+  wait_for_stars
+  $2
+  sleep 0.3
+  xdotool key Escape
+  expect_end "$2"
+  asked=$(grep -c properties "$output")
+  [ "$asked" = "$1" ] || fault "$2: opens the properties $asked times"
+}
+output=$(mktemp)
+asks_for_properties 0 "$nothing_meant"
+asks_for_properties 2 'xdotool key a key shift+a'
+rm "$output"
 
 # A key ends the process within a frame of a slow pace, and some time for the process to go.
 start "$host" saver Advanced/Adv_TimeDelay=2000

@@ -3,16 +3,20 @@
 #include <gtest/gtest.h>
 
 #include <QCursor>
+#include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QString>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "hosting/host_fixture.h"
+#include "hosting/picture_box.h"
 
 namespace starfolds {
 namespace {
@@ -20,11 +24,13 @@ namespace {
 class FrmAppExeTest : public HostTest {
  protected:
   int Run() {
-    Form.emplace(*State, NextSeed, [this](QWindow& owner) {
+    const auto dialog = [this](QWindow& owner, bool help) {
       EXPECT_EQ(&owner, &Window());
       ++Dialogs;
+      if (help) ++Helps;
       if (InDialog) InDialog();
-    });
+    };
+    Form.emplace(*State, NextSeed, dialog, Shape);
     Form->Activate();
     return Events.Pumps;
   }
@@ -32,7 +38,9 @@ class FrmAppExeTest : public HostTest {
   QWindow& Window() { return Form->Window(); }
 
   std::optional<FrmAppExe> Form;
+  AppWindowShape Shape;
   int Dialogs = 0;
+  int Helps = 0;
   std::function<void()> InDialog;
 };
 
@@ -179,6 +187,96 @@ TEST_F(FrmAppExeTest, ComesBackWhereItCanBeReached) {
     Press(Window(), Qt::Key_Escape);
   };
   Run();
+}
+
+/// Each shape with `Adv_WinResize` off and on.
+TEST_F(FrmAppExeTest, HasTheShapeThatTheStartAsksFor) {
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  const QSize placed(600, 400);  // as stored below
+  const QSize given(300, 200);
+  const QSize usual = QSize(1280, 720).scaled(screen * 0.9, Qt::KeepAspectRatio);
+  struct Case {
+    const char* Name;
+    AppWindowShape Shape;
+    bool Resizable;
+    QSize Expected;
+    bool IsStored;
+  };
+  for (const Case& c : {Case{"framed", {false, {}, true}, false, usual, true},
+                        Case{"framed, resizable", {false, {}, true}, true, placed, true},
+                        Case{"size", {false, given, true}, false, given, false},
+                        Case{"size, resizable", {false, given, true}, true, given, false},
+                        Case{"full screen", {true, {}, true}, false, screen, false},
+                        Case{"full screen, resizable", {true, {}, true}, true, screen, false}}) {
+    SCOPED_TRACE(c.Name);
+    Shape = c.Shape;
+    Store("Advanced", "Adv_WinResize", c.Resizable ? 1 : 0);
+    Store("General", "WindowState", 0);
+    RegistryWrite(Tree, "General", "WindowSize", "00300004500900006000");
+    Events.Pumps = 0;
+    State->QuitApp = false;
+    Events.Plan[2] = [&] {
+      EXPECT_EQ(Window().size(), c.Expected);
+      EXPECT_EQ(State->Screen.SurfaceWidth, c.Expected.width());
+      EXPECT_EQ(Window().title().isEmpty(), c.Expected == screen);
+      Press(Window(), Qt::Key_F5);
+      Window().resize(310, 210);
+      Press(Window(), Qt::Key_Escape);
+    };
+    EXPECT_EQ(Run(), 2);
+    const std::string stored = RegistryReadText(Tree, "General", "WindowSize").substr(10);
+    EXPECT_EQ(stored, c.IsStored ? "0465003150" : "0900006000");
+  }
+}
+
+TEST_F(FrmAppExeTest, StandsStillWhilePaused) {
+  const auto hint = [this] { return Window().findChild<QWindow*>("picHints")->isVisible(); };
+  std::vector<Colour> still;
+  const auto picture = [this] { return State->Screen.hDCDraw->Pixels(); };
+  Events.Plan[1] = [&] { EXPECT_TRUE(hint()) << "the keys"; };
+  Events.Plan[30] = [&] {
+    still = picture();
+    Press(Window(), Qt::Key_P, Qt::ControlModifier);
+  };
+  Events.Plan[60] = [&] {
+    EXPECT_TRUE(hint());
+    EXPECT_EQ(picture(), still);
+    Press(Window(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_FALSE(hint());
+  };
+  Events.Plan[70] = [&] {
+    EXPECT_NE(picture(), still);
+    Press(Window(), Qt::Key_P, Qt::ControlModifier);
+  };
+  Events.Plan[80] = [&] { Press(Window(), Qt::Key_F5); };
+  Events.Plan[90] = [&] {
+    EXPECT_EQ(Seeds, 2);
+    Press(Window(), Qt::Key_P, Qt::ControlModifier);
+  };
+  Events.Plan[95] = [&] { Press(Window(), Qt::Key_Escape); };
+  EXPECT_EQ(Run(), 95);
+}
+
+TEST_F(FrmAppExeTest, SavesPicturesAndOpensTheHelpWithTheProperties) {
+  const QTemporaryDir home;
+  qputenv("HOME", home.path().toUtf8());
+  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  QImage shown;
+  Events.Plan[30] = [&] {
+    shown = ImageOf(*State->Screen.hDCDraw);
+    for (int i = 0; i < 2; ++i) Press(Window(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Dialogs, 0);
+    Press(Window(), Qt::Key_F1);
+    Press(Window(), Qt::Key_S);
+    Press(Window(), Qt::Key_Escape);
+  };
+  Run();
+  EXPECT_EQ(Dialogs, 2);
+  EXPECT_EQ(Helps, 1);
+  const QDir folder(home.filePath("Pictures"));
+  const QStringList files = folder.entryList(QDir::Files);
+  ASSERT_EQ(files.size(), 2);
+  EXPECT_EQ(QImage(folder.filePath(files[0])).convertToFormat(shown.format()), shown);
 }
 
 TEST_F(FrmAppExeTest, EndsIfTheDialogSaysSo) {

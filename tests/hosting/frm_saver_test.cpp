@@ -53,7 +53,7 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
 }
 
 TEST_F(FrmSaverTest, EndsInTheFrameOfAKeyAButtonOrMoves) {
-  Events.Plan[5] = [&] { Press(Window(), Qt::Key_Shift); };
+  Events.Plan[5] = [&] { Press(Window(), Qt::Key_A); };
   EXPECT_EQ(Run(), 5);
   EXPECT_TRUE(State->StopRun);
   Events.Plan = {{12, [&] { Click(Window()); }}};

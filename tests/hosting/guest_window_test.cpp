@@ -68,6 +68,23 @@ TEST_F(GuestTest, APreviewHasFewerStarsThanASaver) {
   EXPECT_EQ(RunSaver(), 10);
 }
 
+TEST_F(GuestTest, APreviewIsAboveTheHostsOwnChildrenAndASaverBelow) {
+  Desktop.Windows = {HostId()};
+  const xcb_window_t own = Host.AddChild();
+  Events.Plan[3] = [&] {
+    EXPECT_EQ(Host.Children().front(), own);
+    EXPECT_EQ(Host.Children().size(), 2U);
+    State->StopRun = true;
+  };
+  RunPreview();
+  Events.Plan[6] = [&] {
+    EXPECT_EQ(Host.Children().back(), own);
+    EXPECT_EQ(Host.Children().size(), 2U);
+    State->StopRun = true;
+  };
+  EXPECT_EQ(RunSaver(), 6);
+}
+
 TEST_F(GuestTest, APreviewLooksForItsHostEveryFrame) {
   Desktop.Windows = {HostId()};
   Events.Plan[7] = [&] { Desktop.Windows.clear(); };

@@ -67,8 +67,8 @@ class HostTest : public testing::Test {
   static void Send(QWindow& window, QEvent&& event) {
     QCoreApplication::sendEvent(&window, &event);
   }
-  static void Press(QWindow& window, int key) {
-    Send(window, QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+  static void Press(QWindow& window, int key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+    Send(window, QKeyEvent(QEvent::KeyPress, key, held));
   }
   static void Click(QWindow& window, QEvent::Type type = QEvent::MouseButtonPress) {
     Send(window, QMouseEvent(type, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,

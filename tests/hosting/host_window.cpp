@@ -1,6 +1,6 @@
 // host_window saver|application [SECTION/KEY=TEXT]...: one of the windows that host the effect, on
-// a real desktop, with these settings stored and nothing else. For scripts that make the user's
-// input.
+// a real desktop, with these settings stored and nothing else. At the end it prints the window
+// state that is stored then. For scripts that make the user's input.
 #include <QGuiApplication>
 #include <cstdio>
 #include <memory>
@@ -29,7 +29,7 @@ void Run(Saver& saver, std::string_view window) {
   if (window == "saver") {
     FrmSaver(saver, seed).Load();
   } else {
-    FrmAppExe(saver, seed, [](QWindow&) { std::puts("properties"); }).Activate();
+    FrmAppExe(saver, seed, [](QWindow&, bool) { std::puts("properties"); }).Activate();
   }
 }
 
@@ -52,5 +52,7 @@ int main(int argc, char** argv) {
   if (argc < 2) return 2;
   saver->Mode = std::string_view(argv[1]) == "saver" ? RunMode::ScreenSaver : RunMode::Application;
   Run(*saver, argv[1]);
+  std::printf("WindowState=%s\n",
+              RegistryReadText(tree, sections::kGeneral, "WindowState").c_str());
   return 0;
 }

@@ -10,10 +10,12 @@ namespace {
 TEST(SaverInput, EndsOnKeysAndButtonsButNotAsABackground) {
   const SaverInput saver(true, false);
   EXPECT_TRUE(saver.KeyDown());
+  EXPECT_TRUE(saver.Scroll());
   EXPECT_TRUE(saver.MouseDown());
   EXPECT_FALSE(saver.DoubleClick());
   const SaverInput background(false, true);
   EXPECT_FALSE(background.KeyDown());
+  EXPECT_FALSE(background.Scroll());
   EXPECT_FALSE(background.MouseDown());
   EXPECT_TRUE(background.DoubleClick());
 }

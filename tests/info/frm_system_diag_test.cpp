@@ -1,8 +1,12 @@
 #include "info/frm_system_diag.h"
 
 #include <QClipboard>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QImage>
+#include <QPixmap>
 #include <QScreen>
+#include <QWindow>
 
 #include "info/diagnostics.h"
 #include "settings/registry.h"
@@ -53,6 +57,32 @@ TEST_F(FrmSystemDiagTest, ATreeThatCannotBeWrittenIsToldInRed) {
   Open();
   EXPECT_EQ(Field(0).text(), "No Access");
   EXPECT_TRUE(IsRed(Field(0)));
+}
+
+/// Read back from the screen. Runs on an X server as well.
+TEST_F(FrmSystemDiagTest, TheCircleIsDrawnInAWindowOfItsOwn) {
+  Open();
+  QWindow* circle = nullptr;
+  const auto lit = [&] {
+    QApplication::processEvents();
+    for (QWindow* const window : QApplication::allWindows()) {
+      if (window->objectName() == "picGraphicsSurface") circle = window;
+    }
+    if (circle == nullptr) return 0;
+    const QImage shown = Dialog->screen()->grabWindow(circle->winId()).toImage();
+    int count = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+      for (int x = 0; x < shown.width(); ++x) count += qGray(shown.pixel(x, y)) > 0 ? 1 : 0;
+    }
+    return count;
+  };
+  const QDeadlineTimer patience(30000);
+  while (lit() == 0 && !patience.hasExpired()) continue;
+  const int points = lit();
+  EXPECT_GT(points, 200);
+  EXPECT_LT(points, 1000) << "a circle, and no disc";
+  ASSERT_NE(circle, nullptr);
+  EXPECT_EQ(circle->parent(), Part<QWidget>(*Dialog, "picGraphics").windowHandle());
 }
 
 TEST_F(FrmSystemDiagTest, TellsWhereThereIsNoSystemInformation) {

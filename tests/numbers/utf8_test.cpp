@@ -23,13 +23,5 @@ TEST(Utf8, OldBytesBecomeTheirCharacters) {
   }
 }
 
-TEST(Utf8, CutsBetweenCharacters) {
-  EXPECT_EQ(FirstCharacters("\xC3\xA4\xC3\xB6x", 2), "\xC3\xA4\xC3\xB6");
-  EXPECT_EQ(FirstCharacters("ab", 5), "ab");
-  EXPECT_EQ(FirstBytes("a\xC3\xA4", 2), "a");
-  EXPECT_EQ(FirstBytes("a\xC3\xA4", 3), "a\xC3\xA4");
-  EXPECT_EQ(FirstBytes("\x80\x80\x80", 2), "") << "never more than asked for";
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -1,0 +1,47 @@
+#include "desktop/window_hints.h"
+
+#include <xcb/xcb.h>
+
+#include <QGuiApplication>
+#include <QWindow>
+#include <array>
+
+#include "desktop/x11_reply.h"
+
+namespace starfolds {
+namespace {
+
+xcb_connection_t* Connection() {
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 == nullptr ? nullptr : x11->connection();
+}
+
+}  // namespace
+
+void MarkUnlisted(QWindow& window) {
+  xcb_connection_t* const connection = Connection();
+  if (connection == nullptr) return;
+  const std::uint32_t yes = 1;
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
+                      InternAtom(connection, kUnlistedMark), XCB_ATOM_CARDINAL, 32, 1, &yes);
+}
+
+/// The toolkit adds its own states to those that it finds when it shows the window.
+void MarkAsBackground(QWindow& window) {
+  xcb_connection_t* const connection = Connection();
+  if (connection == nullptr) return;
+  const std::array<xcb_atom_t, 4> states{InternAtom(connection, "_NET_WM_STATE_BELOW"),
+                                         InternAtom(connection, "_NET_WM_STATE_STICKY"),
+                                         InternAtom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                         InternAtom(connection, "_NET_WM_STATE_SKIP_PAGER")};
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
+                      InternAtom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(),
+                      states.data());
+  // Some managers put windows on all workspaces by this, and others by the state.
+  const std::uint32_t allWorkspaces = 0xFFFFFFFFU;
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
+                      InternAtom(connection, "_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, 32, 1,
+                      &allWorkspaces);
+}
+
+}  // namespace starfolds

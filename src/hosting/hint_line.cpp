@@ -1,0 +1,46 @@
+#include "hosting/hint_line.h"
+
+#include <QWindow>
+
+namespace starfolds {
+namespace {
+
+/// Grey, and no larger than the texts of dialogs.
+const MessageStyle kStyle{"", 11, 0xA0A0A0};
+
+/// Room at both ends of the line, in logical pixels.
+constexpr int kMargin = 10;
+
+}  // namespace
+
+HintLine::HintLine(QWindow& outer)
+    : outer_(outer), picHints_(outer, "picHints", MessagePlace::LowerEdge) {
+  end_.setSingleShot(true);
+  QObject::connect(&end_, &QTimer::timeout, &end_, [this] { Hide(); });
+}
+
+void HintLine::Show(const std::string& text, const std::string& shortText,
+                    std::chrono::milliseconds time) {
+  text_ = text;
+  shortText_ = shortText;
+  Print();
+  end_.stop();
+  if (time.count() > 0) end_.start(time);
+}
+
+void HintLine::Hide() {
+  text_.clear();
+  end_.stop();
+  picHints_.Hide();
+}
+
+void HintLine::FollowWindow() {
+  if (!text_.empty()) Print();
+}
+
+void HintLine::Print() {
+  const bool fits = MessageWidth(text_, kStyle) + 2 * kMargin <= outer_.width();
+  picHints_.Print(fits ? text_ : shortText_, kStyle);
+}
+
+}  // namespace starfolds
