@@ -36,15 +36,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   StartOptions start;
   if (!ParseStartOptions(arguments, start)) {
-    static Saver saver;  // large, and `Main` sets what it reads
+    static ProcessState process;  // large, and `Main` sets what it reads
     MemoryDesktop desktop;
     MemoryTree tree;
     SaverPlatform platform;
-    saver.Desktop = &desktop;
-    saver.Tree = &tree;
-    saver.Platform = &platform;
+    process.Desktop = &desktop;
+    process.Tree = &tree;
+    process.Platform = &platform;
     CountedActions actions;
-    Main(saver, {"/program", "starfolds", start.CommandLine}, actions);
+    Main(process, {"/program", "starfolds", start.CommandLine}, actions);
     Expect(actions.Windows <= 1, "a start opens one window at most");
   }
   RenderOptions render;

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "fuzz/expect.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "settings/window_placement.h"
 
 namespace {

@@ -9,16 +9,16 @@
 #include <QTimer>
 #include <map>
 
-#include "editors/frm_advanced.h"
-#include "editors/frm_file_io.h"
-#include "editors/frm_props.h"
 #include "info/frm_about.h"
 #include "info/frm_credits.h"
 #include "info/frm_system_diag.h"
 #include "info/help_viewer.h"
 #include "info/help_window.h"
+#include "properties/frm_advanced.h"
+#include "properties/frm_props.h"
 #include "settings/first_run.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
+#include "template_dialogs/frm_file_io.h"
 
 namespace {
 
@@ -166,7 +166,7 @@ class EventsPump : public CountedPump {
   }
 };
 
-void TakeAbout(Saver& process, Help& help, const QString& prefix) {
+void TakeAbout(ProcessState& process, Help& help, const QString& prefix) {
   EventsPump events;
   process.Events = &events;
   FrmAbout about({process, help, "0.1.0", [] { return 1U; }});
@@ -214,7 +214,7 @@ int main(int argc, char** argv) {
   ScriptedMessageBoxes boxes;
   MemoryHelp help;
   CountedPump events;
-  static Saver process;  // large
+  static ProcessState process;  // large
   process.Tree = &tree;
   process.Events = &events;
   process.Desktop = &desktop;

@@ -58,15 +58,15 @@ StartUp DescribeStart(const StartOptions& options) {
           options.CommandLine};
 }
 
-void ShowEffect(Saver& saver, RunMode mode, StartActions& windows) {
-  saver.Mode = mode;
-  ShowEffectWindow(saver, windows);
+void ShowEffect(ProcessState& process, RunMode mode, StartActions& windows) {
+  process.Mode = mode;
+  ShowEffectWindow(process, windows);
 }
 
 /// Lives and dies with the saver that started it, and looks for no other one.
-void RunCompanion(Saver& saver, StartActions& windows) {
-  const OwnerWatch owner([&] { saver.QuitApp = saver.StopRun = true; });
-  ShowEffect(saver, RunMode::ScreenSaver, windows);
+void RunCompanion(ProcessState& process, StartActions& windows) {
+  const OwnerWatch owner([&] { process.QuitApp = process.StopRun = true; });
+  ShowEffect(process, RunMode::ScreenSaver, windows);
 }
 
 constexpr const char* kHostVariable = "XSCREENSAVER_WINDOW";
@@ -122,14 +122,14 @@ void CloseDialogs() {
 }
 
 /// Opens the window that was asked for, and returns when it is gone.
-void Run(Saver& saver, const StartOptions& options, AppWindows& windows) {
-  if (options.Companion) return RunCompanion(saver, windows);
+void Run(ProcessState& process, const StartOptions& options, AppWindows& windows) {
+  if (options.Companion) return RunCompanion(process, windows);
   switch (options.AskedFor) {
-    case Role::Saver: return DispatchCommandLine(saver, "/S", windows);
-    case Role::Settings: return DispatchCommandLine(saver, "/C", windows);
-    case Role::Window: return ShowEffect(saver, RunMode::Application, windows);
+    case Role::Saver: return DispatchCommandLine(process, "/S", windows);
+    case Role::Settings: return DispatchCommandLine(process, "/C", windows);
+    case Role::Window: return ShowEffect(process, RunMode::Application, windows);
     case Role::Guest: return windows.ShowInHost(*WindowOfHost(options));
-    default: return Main(saver, DescribeStart(options), windows);
+    default: return Main(process, DescribeStart(options), windows);
   }
 }
 
@@ -147,27 +147,27 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
 
   SaverPlatform platform;
-  const auto saver = std::make_unique<Saver>();
-  saver->Events = &pump;
-  saver->Desktop = desktop.get();
-  saver->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || saver->QuitApp; });
+  const auto process = std::make_unique<ProcessState>();
+  process->Events = &pump;
+  process->Desktop = desktop.get();
+  process->Platform = &platform;
+  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || process->QuitApp; });
   MigrateMachineSettings(tree);
   BeginningTree edited(tree);
   OverriddenTree overridden(edited);
   overridden.Override(options.Changes);
-  saver->Tree = &overridden;
+  process->Tree = &overridden;
   stopSignals.Watch([&] {
-    saver->QuitApp = true;
-    saver->StopRun = true;
+    process->QuitApp = true;
+    process->StopRun = true;
     CloseDialogs();
   });
 
-  AppWindows windows(*saver, options, edited);
+  AppWindows windows(*process, options, edited);
   if (!options.Template.empty() && !windows.BeginWithTemplate(options.Template, edited.Values())) {
     return windows.ExitCode();
   }
-  Run(*saver, options, windows);
+  Run(*process, options, windows);
   return windows.ExitCode();
 }
 

@@ -8,21 +8,21 @@
 
 #include "app/saver_screens.h"
 #include "desktop/foreign_window.h"
-#include "editors/frm_file_io.h"
-#include "editors/frm_props.h"
-#include "editors/qt_message_boxes.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
 #include "info/frm_about.h"
 #include "info/frm_system_diag.h"
 #include "platform/console.h"
+#include "properties/frm_props.h"
 #include "settings/former_settings.h"
 #include "settings/overrides.h"
 #include "settings/product.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "storage/storage_places.h"
+#include "template_dialogs/frm_file_io.h"
+#include "widgets/qt_message_boxes.h"
 
 namespace starfolds {
 namespace {
@@ -37,13 +37,13 @@ std::string UserFolder() {
 
 }  // namespace
 
-AppWindows::AppWindows(Saver& saver, const StartOptions& options, KeyValueTree& edited)
-    : saver_(saver),
+AppWindows::AppWindows(ProcessState& process, const StartOptions& options, KeyValueTree& edited)
+    : process_(process),
       options_(options),
-      ofRun_(*saver.Tree),
+      ofRun_(*process.Tree),
       edited_(edited),
       seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }),
-      help_(edited, *saver.Desktop, boxes_) {}
+      help_(edited, *process.Desktop, boxes_) {}
 
 bool AppWindows::FileExists(const std::string& path) {
   std::error_code ignored;
@@ -59,8 +59,8 @@ void AppWindows::ShowFrmSaver() {
     const std::string number = std::to_string(options_.Screen.value_or(1));
     return Fail("there is no screen " + number, kExitCannotDo);
   }
-  const OtherScreens others(options_, [this] { saver_.QuitApp = saver_.StopRun = true; });
-  FrmSaver(saver_, seed_, *place).Load();
+  const OtherScreens others(options_, [this] { process_.QuitApp = process_.StopRun = true; });
+  FrmSaver(process_, seed_, *place).Load();
 }
 
 void AppWindows::ShowFrmAppExe() {
@@ -73,7 +73,7 @@ void AppWindows::ShowFrmAppExe() {
     if (help) QTimer::singleShot(0, [this] { help_.ShowTopic(help::kWindows); });
     RunFrmProps(&owner);
   };
-  FrmAppExe(saver_, seed_, showProperties, shape).Activate();
+  FrmAppExe(process_, seed_, showProperties, shape).Activate();
 }
 
 /// The safety copy of the settings goes beside the program, or beside the user's own settings.
@@ -81,18 +81,19 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   DiskFiles disk;
   const auto showDiagnostics = [&](QWidget& over) {
     FrmSystemDiag(
-        {edited_, *saver_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}}, &over)
+        {edited_, *process_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}},
+        &over)
         .RunModal();
   };
   const auto showAbout = [&](QWidget& over) {
-    FrmAbout({saver_, help_, STARFOLDS_VERSION, seed_}, &over).exec();
+    FrmAbout({process_, help_, STARFOLDS_VERSION, seed_}, &over).exec();
   };
-  FrmProps frmProps({saver_, edited_, boxes_, disk, help_,
+  FrmProps frmProps({process_, edited_, boxes_, disk, help_,
                      QCoreApplication::applicationDirPath().toStdString(), UserFolder(), seed_,
                      owner, STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
                      ChangesInWords(options_.Changes)});
   frmProps.ShowModal();
-  saver_.Tree = &ofRun_;  // a run that had to do without it may be able to read it by now
+  process_.Tree = &ofRun_;  // a run that had to do without it may be able to read it by now
 }
 
 void AppWindows::LoadFrmPreview() {
@@ -100,12 +101,12 @@ void AppWindows::LoadFrmPreview() {
     Fail("a preview inside another program's window needs an X server", kExitCannotDo);
     return;
   }
-  FrmPreview(saver_, seed_).Load();
+  FrmPreview(process_, seed_).Load();
 }
 
 void AppWindows::ShowInHost(Long hostWindow) {
-  saver_.Mode = RunMode::ScreenSaver;
-  if (GuestWindow(saver_, seed_, hostWindow).Run(false)) return;
+  process_.Mode = RunMode::ScreenSaver;
+  if (GuestWindow(process_, seed_, hostWindow).Run(false)) return;
   // A host that goes while its saver starts is nothing out of the ordinary; a number that a person
   // or a script has given is wrong.
   Fail("there is no window " + std::to_string(hostWindow) + " to show anything in",
@@ -121,7 +122,7 @@ void AppWindows::LoadTemplate(const std::string& path) {
     return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
   }
   TemplateImport done =
-      ImportOverFormerSettings(file, path, edited_, saver_.Profiles, disk, UserFolder());
+      ImportOverFormerSettings(file, path, edited_, process_.Profiles, disk, UserFolder());
   if (done.Fault) {
     return Fail("cannot store the universe of \"" + path + "\": " + *done.Fault, kExitWrongUse);
   }

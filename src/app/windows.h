@@ -5,10 +5,10 @@
 #include <string>
 
 #include "app/options.h"
-#include "editors/qt_message_boxes.h"
 #include "hosting/main.h"
 #include "hosting/run_loop.h"
 #include "info/help_window.h"
+#include "widgets/qt_message_boxes.h"
 
 namespace starfolds {
 
@@ -18,7 +18,7 @@ class AppWindows : public StartActions {
  public:
   /// `edited` is what the dialogs read and store: the tree of the run without the settings of the
   /// options. `saver.Tree` is the tree of the run.
-  AppWindows(Saver& saver, const StartOptions& options, KeyValueTree& edited);
+  AppWindows(ProcessState& process, const StartOptions& options, KeyValueTree& edited);
 
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
@@ -41,7 +41,7 @@ class AppWindows : public StartActions {
   void RunFrmProps(QWindow* owner);
   void Fail(const std::string& message, int exitCode);
 
-  Saver& saver_;
+  ProcessState& process_;
   StartOptions options_;
   KeyValueTree& ofRun_;
   KeyValueTree& edited_;

@@ -11,7 +11,7 @@
 
 namespace starfolds {
 
-struct Saver;
+struct ProcessState;
 
 struct Point3 {
   Single X = 0, Y = 0, Z = 0;
@@ -46,18 +46,19 @@ constexpr bool IsComposite(Integer entry) { return entry >= kFirstComposite; }
 
 /// Sets up `count` slots that all hold `profile`. Every way of `InitBodies` clears the slots first
 /// and sets the running values of all 50 profiles back to where a run begins.
-void InitBodiesAlike(Saver& saver, BodySlots& slots, int count, Integer profile);
+void InitBodiesAlike(ProcessState& process, BodySlots& slots, int count, Integer profile);
 /// Sets up one slot for each entry of `assignment`.
-void InitBodies(Saver& saver, BodySlots& slots, std::span<const Integer> assignment);
+void InitBodies(ProcessState& process, BodySlots& slots, std::span<const Integer> assignment);
 
 /// The profile of one star of a body: the entry itself, or one of the composite's members, weighted
 /// by their levels (one draw).
-Integer PickProfile(Saver& saver, Integer entry);
+Integer PickProfile(ProcessState& process, Integer entry);
 
 /// The one profile that stands for a whole starfold: the entry, or the composite's first member.
-Integer ResolveProfile(const Saver& saver, Integer entry);
+Integer ResolveProfile(const ProcessState& process, Integer entry);
 
 /// Steps the slots of all starfolds by one frame; only the ribbons of nebulae change.
-void StepNebulaRibbons(Saver& saver, BodySlots& slots, std::span<const Integer> assignment);
+void StepNebulaRibbons(ProcessState& process, BodySlots& slots,
+                       std::span<const Integer> assignment);
 
 }  // namespace starfolds

@@ -171,15 +171,15 @@ Integer CometRoom(Integer starsPerComet) {
   return static_cast<Integer>(std::min(kCometStars / std::max<int>(starsPerComet, 1), kMaxComets));
 }
 
-void ResetComets(Saver& saver, CometArrays& comets, Integer visitIdx, Integer prof) {
+void ResetComets(ProcessState& process, CometArrays& comets, Integer visitIdx, Integer prof) {
   if (visitIdx > 0) {
     for (std::size_t j = 0; j < comets.CometStarLive.size(); ++j) {
       if (!comets.CometStarLive[j]) continue;
-      saver.Screen.hDCDraw->SetPixelV(comets.CometStarScrX[j], comets.CometStarScrY[j], 0);
+      process.Screen.hDCDraw->SetPixelV(comets.CometStarScrX[j], comets.CometStarScrY[j], 0);
       comets.CometStarLive[j] = false;
     }
   }
-  comets.CometCount = CometRoom(saver.Profiles[prof].Starfold_CometStars);
+  comets.CometCount = CometRoom(process.Profiles[prof].Starfold_CometStars);
   comets.Heads.fill({});
 }
 

@@ -11,7 +11,7 @@ void CometStep(const FrameScene& scene, std::size_t fold, Integer prof, Integer 
 
 /// Begins a visit: from the second visit on live stars are erased and their slots cleared; then the
 /// number of comets that the pool holds is taken from the profile and all nuclei are cleared.
-void ResetComets(Saver& saver, CometArrays& comets, Integer visitIdx, Integer prof);
+void ResetComets(ProcessState& process, CometArrays& comets, Integer visitIdx, Integer prof);
 
 /// Comets that the pool has room for.
 Integer CometRoom(Integer starsPerComet);

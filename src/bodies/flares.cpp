@@ -126,15 +126,15 @@ void PlaceAndDrawNewStar(const FrameScene& scene, std::size_t i, const View& vie
 }
 
 void ReseedStar(const FrameScene& scene, std::size_t i) {
-  Saver& saver = scene.Process;
+  ProcessState& process = scene.Process;
   StarState& star = StateOf(scene, i);
   const Integer entry = scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(star.StarHome)];
-  star.StarProf = scene.Kind == RunKind::SingleProfile ? entry : PickProfile(saver, entry);
-  SeedStar(saver, scene.Arrays.Stars, scene.Arrays.Slots, i);
+  star.StarProf = scene.Kind == RunKind::SingleProfile ? entry : PickProfile(process, entry);
+  SeedStar(process, scene.Arrays.Stars, scene.Arrays.Slots, i);
 
-  const StarfoldProfile& profile = saver.Profiles[static_cast<std::size_t>(star.StarProf)];
+  const StarfoldProfile& profile = process.Profiles[static_cast<std::size_t>(star.StarProf)];
   const PreparedProfile& run = PreparedOf(scene, star);
-  const Single roll = saver.Random();
+  const Single roll = process.Random();
   if (roll < run.RunPulsarChance) return BeginPulsar(scene, i, profile);
   if (roll < static_cast<double>(run.RunNovaChance) + run.RunPulsarChance) {
     return BeginNova(scene, i, profile);

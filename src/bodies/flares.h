@@ -3,7 +3,7 @@
 
 #include "bodies/run_arrays.h"
 #include "bodies/star_motion.h"
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -12,7 +12,7 @@ enum class RunKind { Universe, SingleProfile, SingleComposite };
 
 /// What a frame's routines share.
 struct FrameScene {
-  Saver& Process;
+  ProcessState& Process;
   RunArrays& Arrays;
   RunKind Kind = RunKind::Universe;
 };

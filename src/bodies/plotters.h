@@ -3,7 +3,7 @@
 // here may depend on anything but the arguments.
 #pragma once
 
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 

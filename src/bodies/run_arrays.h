@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bodies/body_slots.h"
-#include "colour/prepared.h"
+#include "prepared/prepared.h"
 #include "numbers/words.h"
 #include "platform/surface.h"
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "bodies/body_slots.h"
-#include "colour/saver.h"
 #include "numbers/conversions.h"
 #include "numbers/half_turn.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -27,8 +27,8 @@ struct Body {
   PreparedProfile& Prepared;
   Rnd& Random;
 
-  Body(Saver& saver, int prof)
-      : Profile(saver.Profiles[prof]), Prepared(saver.Prepared[prof]), Random(saver.Random) {}
+  Body(ProcessState& process, int prof)
+      : Profile(process.Profiles[prof]), Prepared(process.Prepared[prof]), Random(process.Random) {}
 };
 
 /// floor(draw * count), a whole number from 0 to count - 1.

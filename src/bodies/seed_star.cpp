@@ -32,7 +32,7 @@ void StorePoint(StarState& star, const SeedPoint& point) {
 
 }  // namespace
 
-void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) {
+void SeedStar(ProcessState& process, StarArrays& stars, BodySlots& slots, std::size_t i) {
   StarState& star = stars.Star[i];
   star.StarAge = 0;
   star.StarWait = 0;
@@ -42,12 +42,12 @@ void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) 
 
   const int prof = star.StarProf;
   SeedPoint point = PointOf(star);
-  const Body body(saver, prof);
+  const Body body(process, prof);
   RoutinesOf(body.Profile.Style())
       .SeedStar(point, body, slots, static_cast<std::size_t>(star.StarHome));
   StorePoint(star, point);
 
-  const StarTint tint = SeedColor(body.Profile, body.Prepared, saver.Colours.Profile[prof],
+  const StarTint tint = SeedColor(body.Profile, body.Prepared, process.Colours.Profile[prof],
                                   {.X = point.X,
                                    .Y = point.Y,
                                    .Z = point.Z,
@@ -55,7 +55,7 @@ void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i) 
                                    .Span = point.Span,
                                    .HueOffset = point.HueOffset,
                                    .Former = {star.StarHue, star.StarColor}},
-                                  saver.Random);
+                                  process.Random);
   star.StarHue = tint.StarHue;
   star.StarColor = tint.StarColor;
 }

@@ -8,6 +8,6 @@ namespace starfolds {
 
 /// Places star `i` anew in the starfold `StarHome[i]`, as a star of `StarProf[i]`: position,
 /// velocity, spin, level, hue and colour. Age, wait and flares become 0.
-void SeedStar(Saver& saver, StarArrays& stars, BodySlots& slots, std::size_t i);
+void SeedStar(ProcessState& process, StarArrays& stars, BodySlots& slots, std::size_t i);
 
 }  // namespace starfolds

@@ -8,7 +8,7 @@
 
 #include "bodies/plotters.h"
 #include "bodies/run_arrays.h"
-#include "colour/saver.h"
+#include "process/process_state.h"
 #include "numbers/conversions.h"
 
 namespace starfolds {

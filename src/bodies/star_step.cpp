@@ -20,11 +20,11 @@ void MoveHue(StarState& star, Single increment, const Colour* hueTable) {
   star.StarColor = hueTable[RoundHue(star.StarHue)];
 }
 
-void AdvanceStarHue(const Saver& saver, StarState& star) {
+void AdvanceStarHue(const ProcessState& process, StarState& star) {
   const auto prof = static_cast<std::size_t>(star.StarProf);
-  const StarMotion& motion = saver.Prepared[prof].Star;
+  const StarMotion& motion = process.Prepared[prof].Star;
   if (!motion.HueCycleOn) return;
-  MoveHue(star, motion.HWheelInc, saver.Colours.Profile[prof].HueTable.data());
+  MoveHue(star, motion.HWheelInc, process.Colours.Profile[prof].HueTable.data());
 }
 
 /// Counts a nova or pulsar down. At its end the star is re-seeded and the answer is false.
@@ -225,14 +225,14 @@ void RecycleStars(const FrameScene& scene, const TourPlace& place, const Recycli
 }  // namespace
 
 Recycling NewQuota(const FrameScene& scene, const TourPlace& place) {
-  const Saver& saver = scene.Process;
-  const double everywhere = saver.Universe.Universe_NewFreq;
+  const ProcessState& process = scene.Process;
+  const double everywhere = process.Universe.Universe_NewFreq;
   const auto rateOf = [&](int visit) -> double {
     const Integer entry = scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(visit)];
-    return saver.Profiles[ResolveProfile(saver, entry)].Starfold_NewFreq;
+    return process.Profiles[ResolveProfile(process, entry)].Starfold_NewFreq;
   };
   const double crossFade = (std::cos(place.SplineT * static_cast<double>(kPi)) + 1) * 0.5;
-  const int pastApproach = place.SegIdx - saver.Universe.Universe_GPCtrl;
+  const int pastApproach = place.SegIdx - process.Universe.Universe_GPCtrl;
   double quota = everywhere;
   if (scene.Kind == RunKind::SingleProfile) {
     quota = rateOf(place.VisitIdx);
@@ -263,12 +263,12 @@ Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double cross
   return crossFade <= random() ? place.VisitIdx : static_cast<Integer>(place.VisitIdx - 1);
 }
 
-void AdvanceStarHues(const Saver& saver, StarArrays& stars) {
-  for (StarState& star : stars.Star) AdvanceStarHue(saver, star);
+void AdvanceStarHues(const ProcessState& process, StarArrays& stars) {
+  for (StarState& star : stars.Star) AdvanceStarHue(process, star);
 }
 
-void FinishHueWork(const Saver& saver, StarArrays& stars) {
-  if (stars.HueWorkDue) AdvanceStarHues(saver, stars);
+void FinishHueWork(const ProcessState& process, StarArrays& stars) {
+  if (stars.HueWorkDue) AdvanceStarHues(process, stars);
   stars.HueWorkDue = false;
 }
 

@@ -38,10 +38,10 @@ int RecycleCount(Long quota, Rnd& random);
 Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double crossFade);
 
 /// Moves the hue of every star whose profile cycles, and looks its colour up anew.
-void AdvanceStarHues(const Saver& saver, StarArrays& stars);
+void AdvanceStarHues(const ProcessState& process, StarArrays& stars);
 
 /// Does the hue work that the last `StarStep` left to the next one. To be called before anything
 /// but `StarStep` reads or moves the hues.
-void FinishHueWork(const Saver& saver, StarArrays& stars);
+void FinishHueWork(const ProcessState& process, StarArrays& stars);
 
 }  // namespace starfolds

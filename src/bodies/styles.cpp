@@ -137,7 +137,7 @@ constexpr std::array<StyleRoutines, kStyleCount> kRoutines{{
     {FoldStyle::Molecule, SetUpNothing, StepNothing, SeedMoleculeStar, SeedMoleculeNucleus,
      MoveOrbitingNucleus, SetUpNothing, SeedMoleculeStar},
 }};
-static_assert(IsCompleteStyleTable(kRoutines));
+static_assert(IsInStyleOrder(kRoutines));
 
 }  // namespace
 

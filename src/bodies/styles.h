@@ -8,27 +8,23 @@
 
 namespace starfolds {
 
-/// Each routine takes the slots of all starfolds and the index of the one it works for.
+/// Each routine takes the slots of all starfolds and the index of the one it works for. References,
+/// so that a row without one of them does not compile.
 struct StyleRoutines {
   FoldStyle Style;
   /// Fills a slot when a universe or a run of a single body begins.
-  void (*SetUpSlot)(BodySlots& slots, std::size_t slot, const Body& body);
+  void (&SetUpSlot)(BodySlots& slots, std::size_t slot, const Body& body);
   /// Steps a slot by one frame.
-  void (*StepSlot)(BodySlots& slots, std::size_t slot, const Body& body);
+  void (&StepSlot)(BodySlots& slots, std::size_t slot, const Body& body);
   /// Places one star.
-  void (*SeedStar)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
+  void (&SeedStar)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
   /// Places a comet's nucleus.
-  void (*SeedNucleus)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
+  void (&SeedNucleus)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
   /// Moves a nucleus by one frame.
-  void (*MoveNucleus)(CometHead& head, const Body& body, const BodySlots& slots, std::size_t slot);
+  void (&MoveNucleus)(CometHead& head, const Body& body, const BodySlots& slots, std::size_t slot);
   /// The same as `SetUpSlot` and `SeedStar` for the blast, which has one slot of its own.
-  void (*SetUpBlast)(BodySlots& slots, std::size_t slot, const Body& body);
-  void (*SeedBlast)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
-
-  constexpr bool IsComplete() const {
-    return SetUpSlot && StepSlot && SeedStar && SeedNucleus && MoveNucleus && SetUpBlast &&
-           SeedBlast;
-  }
+  void (&SetUpBlast)(BodySlots& slots, std::size_t slot, const Body& body);
+  void (&SeedBlast)(SeedPoint& point, const Body& body, BodySlots& slots, std::size_t slot);
 };
 
 /// The row of a profile's style.

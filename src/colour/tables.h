@@ -5,7 +5,7 @@
 #include <array>
 #include <cmath>
 
-#include "colour/prepared.h"
+#include "prepared/prepared.h"
 #include "numbers/rnd.h"
 #include "platform/surface.h"
 #include "settings/records.h"

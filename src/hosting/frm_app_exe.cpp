@@ -4,14 +4,14 @@
 #include <chrono>
 #include <utility>
 
-#include "hosting/captions.h"
 #include "hosting/lock_message.h"
-#include "hosting/picture_box.h"
-#include "hosting/placed_qt_window.h"
 #include "hosting/saved_picture.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "universe/host_surface.h"
+#include "widgets/captions.h"
+#include "widgets/picture_box.h"
+#include "widgets/placed_qt_window.h"
 
 namespace starfolds {
 namespace {
@@ -32,9 +32,9 @@ const char kFewKeys[] = "Esc: leave    F1: help    any other key: settings";
 
 }  // namespace
 
-FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps,
+FrmAppExe::FrmAppExe(ProcessState& process, SeedSource seed, ShowPropertiesDialog frmProps,
                      AppWindowShape shape)
-    : saver_(saver),
+    : process_(process),
       seed_(std::move(seed)),
       frmProps_(std::move(frmProps)),
       shape_(shape),
@@ -46,10 +46,10 @@ FrmAppExe::FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProp
   surface_.HideFromSearch();
 }
 
-FrmAppExe::~FrmAppExe() { saver_.Screen.hDCDraw = nullptr; }
+FrmAppExe::~FrmAppExe() { process_.Screen.hDCDraw = nullptr; }
 
 void FrmAppExe::Activate() {
-  while (!started_ && !saver_.QuitApp) {
+  while (!started_ && !process_.QuitApp) {
     started_ = true;
     AppRun();
   }
@@ -59,12 +59,12 @@ void FrmAppExe::Activate() {
 /// A process that ends before its window is shown has no placement.
 void FrmAppExe::SavePlacement() {
   if (!framed_ || shape_.IsForThisRun()) return;
-  SaveWindowPlacement(PlacedQtWindow(surface_.Window()), *saver_.Tree, sections::kGeneral);
+  SaveWindowPlacement(PlacedQtWindow(surface_.Window()), *process_.Tree, sections::kGeneral);
 }
 
 bool FrmAppExe::WantsFrame() const {
   if (shape_.FullScreen) return false;
-  return shape_.Size || shape_.Framed || LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize;
+  return shape_.Size || shape_.Framed || LoadAdvancedFromRegistry(*process_.Tree).Adv_WinResize;
 }
 
 /// A window that is as the settings want it stays where it is.
@@ -83,8 +83,8 @@ void FrmAppExe::ShowFramed() {
   surface_.ShowPointer();
   surface_.ShowResizable([this](QWindow& window) {
     PlacedQtWindow placed(window);
-    if (!shape_.Size && LoadAdvancedFromRegistry(*saver_.Tree).Adv_WinResize) {
-      RestoreWindowPlacement(placed, *saver_.Tree, sections::kGeneral);
+    if (!shape_.Size && LoadAdvancedFromRegistry(*process_.Tree).Adv_WinResize) {
+      RestoreWindowPlacement(placed, *process_.Tree, sections::kGeneral);
     } else {
       if (shape_.Size) window.resize(*shape_.Size);
       placed.CentreOnScreen();
@@ -101,35 +101,35 @@ void FrmAppExe::ShowKeys() {
 /// The surface takes the window's size here and nowhere else: a window that is resized meanwhile
 /// gets a surface to match with the next run. What asked for this run has been heard with it.
 void FrmAppExe::AppRun() {
-  saver_.StopRun = false;
-  saver_.NewRun = false;
+  process_.StopRun = false;
+  process_.NewRun = false;
   Show();
-  WaitUntilShown(saver_, surface_);
+  WaitUntilShown(process_, surface_);
   surface_.TakeWindowSize();
-  SetupDisplay(saver_, surface_, seed_());
-  ShowLockMessage(picMessage_, saver_.Advanced);
+  SetupDisplay(process_, surface_, seed_());
+  ShowLockMessage(picMessage_, process_.Advanced);
   ShowKeys();
   running_ = true;
-  RunEffect(saver_, surface_);
+  RunEffect(process_, surface_);
   running_ = false;
 }
 
 void FrmAppExe::AppQuit() {
-  saver_.QuitApp = true;
-  saver_.StopRun = true;
+  process_.QuitApp = true;
+  process_.StopRun = true;
 }
 
 /// Lets the run end at its next frame, whatever stage it is in, and `Activate` start another one. A
 /// run started from here would nest in the pump of the old one and keep its memory for good.
 void FrmAppExe::BeginAnew() {
   started_ = false;
-  saver_.StopRun = true;
+  process_.StopRun = true;
 }
 
 void FrmAppExe::ShowProperties(bool help) {
   SavePlacement();
   frmProps_(surface_.Window(), help);
-  if (saver_.QuitApp) return AppQuit();
+  if (process_.QuitApp) return AppQuit();
   BeginAnew();
 }
 
@@ -139,9 +139,9 @@ void FrmAppExe::TogglePause() {
   paused_ = !paused_;
   if (!paused_) return hints_.Hide();
   hints_.Show("Paused. Ctrl+P: go on", "Paused", kForGood);
-  while (paused_ && !saver_.StopRun) {
-    saver_.Events->PumpEvents();
-    if (paused_ && !saver_.StopRun) saver_.Events->WaitForEvents(kPauseLookMs);
+  while (paused_ && !process_.StopRun) {
+    process_.Events->PumpEvents();
+    if (paused_ && !process_.StopRun) process_.Events->WaitForEvents(kPauseLookMs);
   }
   paused_ = false;
   hints_.Hide();
@@ -170,7 +170,7 @@ void FrmAppExe::MouseDown() { ShowProperties(false); }
 /// The surface keeps its size until the next run; the lines above it stay in their places.
 void FrmAppExe::Resized() {
   if (!running_) return;
-  ShowLockMessage(picMessage_, saver_.Advanced);
+  ShowLockMessage(picMessage_, process_.Advanced);
   hints_.FollowWindow();
   if (!paused_ && !surface_.HasWindowSize())
     hints_.Show("F5: next universe, in this size", "F5", kHintTime);

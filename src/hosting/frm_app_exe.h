@@ -31,7 +31,7 @@ struct AppWindowShape {
 /// any other key asks for the properties dialog, and F1 for the help with it.
 class FrmAppExe : private WindowEvents {
  public:
-  FrmAppExe(Saver& saver, SeedSource seed, ShowPropertiesDialog frmProps,
+  FrmAppExe(ProcessState& process, SeedSource seed, ShowPropertiesDialog frmProps,
             AppWindowShape shape = {});
   ~FrmAppExe() override;
 
@@ -60,7 +60,7 @@ class FrmAppExe : private WindowEvents {
   void TogglePause();
   void SavePictureOfUniverse();
 
-  Saver& saver_;
+  ProcessState& process_;
   SeedSource seed_;
   ShowPropertiesDialog frmProps_;
   AppWindowShape shape_;

@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "hosting/captions.h"
+#include "widgets/captions.h"
 
 namespace starfolds {
 
-FrmPreview::FrmPreview(Saver& saver, SeedSource seed)
-    : window_(saver, std::move(seed), saver.PreviewParent) {
+FrmPreview::FrmPreview(ProcessState& process, SeedSource seed)
+    : window_(process, std::move(seed), process.PreviewParent) {
   window_.Drawing().SetName("frmPreview");
   window_.Drawing().SetCaption(kPreviewCaption);
 }

@@ -5,10 +5,10 @@
 
 namespace starfolds {
 
-/// Runs the full effect with fewer stars inside `Saver::PreviewParent`.
+/// Runs the full effect with fewer stars inside `ProcessState::PreviewParent`.
 class FrmPreview {
  public:
-  FrmPreview(Saver& saver, SeedSource seed);
+  FrmPreview(ProcessState& process, SeedSource seed);
 
   /// Shows the preview. Returns when the host's window is gone; the process is to end then.
   void Load();

@@ -2,20 +2,20 @@
 
 #include <utility>
 
-#include "hosting/captions.h"
 #include "hosting/lock_message.h"
 #include "hosting/saver_password.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "universe/host_surface.h"
+#include "widgets/captions.h"
 
 namespace starfolds {
 
-FrmSaver::FrmSaver(Saver& saver, SeedSource seed, ScreenPlace place)
-    : saver_(saver),
+FrmSaver::FrmSaver(ProcessState& process, SeedSource seed, ScreenPlace place)
+    : process_(process),
       seed_(std::move(seed)),
       place_(place),
-      backG_(LoadAdvancedFromRegistry(*saver.Tree).Adv_DispBackG),
-      input_(LoadAdvancedFromRegistry(*saver.Tree).Adv_MouseMove, backG_),
+      backG_(LoadAdvancedFromRegistry(*process.Tree).Adv_DispBackG),
+      input_(LoadAdvancedFromRegistry(*process.Tree).Adv_MouseMove, backG_),
       surface_(*this),
       picMessage_(surface_.Window()) {
   surface_.SetName("frmSaver");
@@ -23,31 +23,31 @@ FrmSaver::FrmSaver(Saver& saver, SeedSource seed, ScreenPlace place)
 }
 
 FrmSaver::~FrmSaver() {
-  SetSaverRunning(saver_, false);
-  saver_.Screen.hDCDraw = nullptr;
+  SetSaverRunning(process_, false);
+  process_.Screen.hDCDraw = nullptr;
 }
 
 /// The pointer is hidden from a background, too.
 void FrmSaver::Load() {
   surface_.HidePointer();
   surface_.ShowFullScreen(backG_ ? Stacking::AtBottom : Stacking::OnTop, place_);
-  StackSaver(saver_, backG_);
-  saver_.StopRun = false;
+  StackSaver(process_, backG_);
+  process_.StopRun = false;
   do {
     RunInWindow();
-  } while (outgrown_ && !leaving_ && !saver_.QuitApp);
+  } while (outgrown_ && !leaving_ && !process_.QuitApp);
 }
 
 /// A screen that changes its size ends the run, and gets another one that fits.
 void FrmSaver::RunInWindow() {
-  if (outgrown_) saver_.StopRun = false;
+  if (outgrown_) process_.StopRun = false;
   outgrown_ = false;
-  WaitUntilShown(saver_, surface_);
+  WaitUntilShown(process_, surface_);
   surface_.TakeWindowSize();
-  SetupDisplay(saver_, surface_, seed_());
-  ShowLockMessage(picMessage_, saver_.Advanced);
+  SetupDisplay(process_, surface_, seed_());
+  ShowLockMessage(picMessage_, process_.Advanced);
   running_ = true;
-  RunEffect(saver_, surface_);
+  RunEffect(process_, surface_);
   running_ = false;
 }
 
@@ -76,12 +76,12 @@ void FrmSaver::CloseRequested() { QueryUnload(); }
 void FrmSaver::Resized() {
   if (!running_ || surface_.HasWindowSize()) return;
   outgrown_ = true;
-  saver_.StopRun = true;
+  process_.StopRun = true;
 }
 
 void FrmSaver::Destroyed() {
   leaving_ = true;
-  saver_.StopRun = true;
+  process_.StopRun = true;
 }
 
 /// The question for the password runs window events itself. If the answer is wrong the run goes on
@@ -89,9 +89,9 @@ void FrmSaver::Destroyed() {
 void FrmSaver::QueryUnload() {
   if (leaving_) return;
   leaving_ = true;
-  saver_.StopRun = true;
-  leaving_ = VerifySaverPassword(saver_);
-  if (!leaving_) saver_.StopRun = saver_.QuitApp;
+  process_.StopRun = true;
+  leaving_ = VerifySaverPassword(process_);
+  if (!leaving_) process_.StopRun = process_.QuitApp;
 }
 
 }  // namespace starfolds

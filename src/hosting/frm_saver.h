@@ -12,7 +12,7 @@ class FrmSaver : private WindowEvents {
  public:
   /// Of the windows of a saver on several screens only the one that leads has the caption by which
   /// other processes know that a saver runs.
-  FrmSaver(Saver& saver, SeedSource seed, ScreenPlace place = {});
+  FrmSaver(ProcessState& process, SeedSource seed, ScreenPlace place = {});
   ~FrmSaver() override;
 
   /// Shows the window and runs the effect. Returns when the saver is to go; the window goes with
@@ -34,7 +34,7 @@ class FrmSaver : private WindowEvents {
   void RunInWindow();
   void QueryUnload();
 
-  Saver& saver_;
+  ProcessState& process_;
   SeedSource seed_;
   ScreenPlace place_;
   bool backG_;  // BackG: a background of the desktop that input does not disturb

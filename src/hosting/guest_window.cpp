@@ -7,51 +7,51 @@
 
 namespace starfolds {
 
-GuestWindow::GuestWindow(Saver& saver, SeedSource seed, Long host)
-    : saver_(saver),
+GuestWindow::GuestWindow(ProcessState& process, SeedSource seed, Long host)
+    : process_(process),
       seed_(std::move(seed)),
       host_(OpenForeignWindow(host, *this)),
       surface_(*this),
       picMessage_(surface_.Window()) {}
 
-GuestWindow::~GuestWindow() { saver_.Screen.hDCDraw = nullptr; }
+GuestWindow::~GuestWindow() { process_.Screen.hDCDraw = nullptr; }
 
 bool GuestWindow::Run(bool smallPreview) {
   const GuestOrder order = smallPreview ? GuestOrder::Top : GuestOrder::Bottom;
   if (!host_ || !surface_.ShowInside(*host_, order)) return false;
-  saver_.StopRun = hostGone_ || saver_.QuitApp;
+  process_.StopRun = hostGone_ || process_.QuitApp;
   smallPreview_ = smallPreview;
-  WaitUntilShown(saver_, surface_);
+  WaitUntilShown(process_, surface_);
   do {
     RunAtHostsSize();
-  } while (beginAnew_ && !hostGone_ && !saver_.QuitApp);
+  } while (beginAnew_ && !hostGone_ && !process_.QuitApp);
   return true;
 }
 
 void GuestWindow::RunAtHostsSize() {
   beginAnew_ = false;
-  saver_.StopRun = hostGone_ || saver_.QuitApp;
+  process_.StopRun = hostGone_ || process_.QuitApp;
   surface_.TakeSize(host_->Size());
-  SetupDisplay(saver_, surface_, seed_());
-  if (!smallPreview_) ShowLockMessage(picMessage_, saver_.Advanced);
-  RunEffect(saver_, surface_, smallPreview_);
+  SetupDisplay(process_, surface_, seed_());
+  if (!smallPreview_) ShowLockMessage(picMessage_, process_.Advanced);
+  RunEffect(process_, surface_, smallPreview_);
 }
 
 /// Lets the run end at its next frame, whatever stage it is in, and `Run` start another one. A run
 /// started from here would nest in the pump of the old one.
 void GuestWindow::HostResized() {
   beginAnew_ = true;
-  saver_.StopRun = true;
+  process_.StopRun = true;
 }
 
 void GuestWindow::HostGone() {
   hostGone_ = true;
-  saver_.StopRun = true;
+  process_.StopRun = true;
 }
 
 /// The window takes its new size some time after the host's, and the message stands in its middle.
 void GuestWindow::Resized() {
-  if (!smallPreview_) ShowLockMessage(picMessage_, saver_.Advanced);
+  if (!smallPreview_) ShowLockMessage(picMessage_, process_.Advanced);
 }
 
 void GuestWindow::Destroyed() { HostGone(); }

@@ -14,7 +14,7 @@ namespace starfolds {
 class GuestWindow : private WindowEvents, private ForeignWindowEvents {
  public:
   /// Shows nothing yet.
-  GuestWindow(Saver& saver, SeedSource seed, Long host);
+  GuestWindow(ProcessState& process, SeedSource seed, Long host);
   ~GuestWindow() override;
 
   /// Shows the window and runs the effect. Returns when the host is gone or the process is to end.
@@ -32,7 +32,7 @@ class GuestWindow : private WindowEvents, private ForeignWindowEvents {
 
   void RunAtHostsSize();
 
-  Saver& saver_;
+  ProcessState& process_;
   SeedSource seed_;
   std::unique_ptr<ForeignWindow> host_;
   bool smallPreview_ = false;

@@ -2,10 +2,10 @@
 
 #include <string_view>
 
-#include "hosting/captions.h"
 #include "hosting/saver_password.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "widgets/captions.h"
 
 namespace starfolds {
 namespace {
@@ -41,9 +41,9 @@ bool IsPlainApplication(const StartUp& start, StartActions& actions) {
   return actions.FileExists(path + ".exe") && !actions.FileExists(path + ".scr");
 }
 
-void OpenProperties(Saver& saver, StartActions& actions) {
-  if (saver.Desktop->WindowExists(kPropertiesCaption)) {
-    saver.Desktop->BringToFront(kPropertiesCaption);
+void OpenProperties(ProcessState& process, StartActions& actions) {
+  if (process.Desktop->WindowExists(kPropertiesCaption)) {
+    process.Desktop->BringToFront(kPropertiesCaption);
   } else {
     actions.ShowFrmProps();
   }
@@ -51,10 +51,10 @@ void OpenProperties(Saver& saver, StartActions& actions) {
 
 }  // namespace
 
-void ShowEffectWindow(Saver& saver, StartActions& actions) {
-  saver.StopRun = false;
-  if (saver.Mode == RunMode::ScreenSaver) {
-    SetSaverRunning(saver, true);
+void ShowEffectWindow(ProcessState& process, StartActions& actions) {
+  process.StopRun = false;
+  if (process.Mode == RunMode::ScreenSaver) {
+    SetSaverRunning(process, true);
     actions.ShowFrmSaver();
   } else {
     actions.ShowFrmAppExe();
@@ -67,34 +67,35 @@ bool AsksForProperties(const std::string& commandLine) {
 
 bool AsksForPreview(const std::string& commandLine) { return Switch(commandLine) == "/P"; }
 
-void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActions& actions) {
-  saver.Mode = RunMode::ScreenSaver;
+void DispatchCommandLine(ProcessState& process, const std::string& commandLine,
+                         StartActions& actions) {
+  process.Mode = RunMode::ScreenSaver;
   const std::string given = Switch(commandLine);
   if (AsksForProperties(commandLine)) {
-    OpenProperties(saver, actions);
+    OpenProperties(process, actions);
   } else if (given == "/S") {
-    if (!saver.Desktop->WindowExists(kSaverCaption)) ShowEffectWindow(saver, actions);
+    if (!process.Desktop->WindowExists(kSaverCaption)) ShowEffectWindow(process, actions);
   } else if (AsksForPreview(commandLine)) {
-    saver.Mode = RunMode::Preview;
-    saver.PreviewParent = HandleBehindSwitch(commandLine);
+    process.Mode = RunMode::Preview;
+    process.PreviewParent = HandleBehindSwitch(commandLine);
     actions.LoadFrmPreview();
   } else if (given == "/A") {
-    saver.Desktop->ChangePassword(HandleBehindSwitch(commandLine));
+    process.Desktop->ChangePassword(HandleBehindSwitch(commandLine));
   } else {
     if (NamesTemplate(commandLine)) actions.LoadTemplate(commandLine);
-    ShowEffectWindow(saver, actions);
+    ShowEffectWindow(process, actions);
   }
 }
 
-void Main(Saver& saver, const StartUp& start, StartActions& actions) {
-  saver.QuitApp = false;
-  saver.StopRun = false;
-  saver.NewRun = false;
+void Main(ProcessState& process, const StartUp& start, StartActions& actions) {
+  process.QuitApp = false;
+  process.StopRun = false;
+  process.NewRun = false;
   if (IsPlainApplication(start, actions)) {
-    saver.Mode = RunMode::Application;
-    ShowEffectWindow(saver, actions);
+    process.Mode = RunMode::Application;
+    ShowEffectWindow(process, actions);
   } else {
-    DispatchCommandLine(saver, start.CommandLine, actions);
+    DispatchCommandLine(process, start.CommandLine, actions);
   }
 }
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -30,7 +30,7 @@ class StartActions {
 
 /// Takes the role from the file's name and the command line, and opens at most one window: the
 /// saver, the application window, the properties dialog or the preview.
-void Main(Saver& saver, const StartUp& start, StartActions& actions);
+void Main(ProcessState& process, const StartUp& start, StartActions& actions);
 
 /// Whether a command line asks for the properties dialog.
 bool AsksForProperties(const std::string& commandLine);
@@ -39,9 +39,10 @@ bool AsksForProperties(const std::string& commandLine);
 bool AsksForPreview(const std::string& commandLine);
 
 /// The part of `Main` that looks at the command line alone.
-void DispatchCommandLine(Saver& saver, const std::string& commandLine, StartActions& actions);
+void DispatchCommandLine(ProcessState& process, const std::string& commandLine,
+                         StartActions& actions);
 
-/// Runs the effect in the window that belongs to `Saver::Mode`.
-void ShowEffectWindow(Saver& saver, StartActions& actions);
+/// Runs the effect in the window that belongs to `ProcessState::Mode`.
+void ShowEffectWindow(ProcessState& process, StartActions& actions);
 
 }  // namespace starfolds

@@ -25,21 +25,21 @@ std::uint64_t ClockSeed() {
 
 double SecondsSinceMidnight() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
 
-void WaitUntilShown(Saver& saver, const WindowSurface& surface) {
-  const Long begin = saver.Events->TickCount();
+void WaitUntilShown(ProcessState& process, const WindowSurface& surface) {
+  const Long begin = process.Events->TickCount();
   Long passed = 0;
-  while (!saver.StopRun && !surface.IsExposed() && passed < kLongestShowMs) {
-    saver.Events->WaitForEvents(kLongestShowMs - passed);
-    passed = TicksBetween(begin, saver.Events->TickCount());
+  while (!process.StopRun && !surface.IsExposed() && passed < kLongestShowMs) {
+    process.Events->WaitForEvents(kLongestShowMs - passed);
+    passed = TicksBetween(begin, process.Events->TickCount());
   }
 }
 
-void RunEffect(Saver& saver, Surface& surface, bool smallPreview) {
-  while (!saver.StopRun) {
-    if (!smallPreview) EnsureBodies(saver);
-    ReadUniverseSettings(saver, smallPreview);
+void RunEffect(ProcessState& process, Surface& surface, bool smallPreview) {
+  while (!process.StopRun) {
+    if (!smallPreview) EnsureBodies(process);
+    ReadUniverseSettings(process, smallPreview);
     ResetSurface(surface);
-    UniverseRun(saver);
+    UniverseRun(process);
   }
 }
 

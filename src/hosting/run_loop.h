@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <functional>
 
-#include "colour/saver.h"
 #include "desktop/window_surface.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -20,10 +20,10 @@ double SecondsSinceMidnight();
 
 /// Runs events until the desktop shows the window, so that it has its final size and the first
 /// stars are seen. Where nothing is ever shown (a screen that sleeps) it does not wait for long.
-void WaitUntilShown(Saver& saver, const WindowSurface& surface);
+void WaitUntilShown(ProcessState& process, const WindowSurface& surface);
 
 /// Bodies to show, where there are none yet; then universes, run after run with freshly read
 /// settings, until `StopRun`. A small preview shows fewer stars, and stores nothing.
-void RunEffect(Saver& saver, Surface& surface, bool smallPreview = false);
+void RunEffect(ProcessState& process, Surface& surface, bool smallPreview = false);
 
 }  // namespace starfolds

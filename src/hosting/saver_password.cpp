@@ -7,7 +7,7 @@ namespace {
 
 constexpr Long kRightPassword = 1;
 
-bool IsWindows9x(Saver& saver) { return saver.Platform->GetPlatformId() == kWindows9x; }
+bool IsWindows9x(ProcessState& process) { return process.Platform->GetPlatformId() == kWindows9x; }
 
 }  // namespace
 
@@ -18,19 +18,20 @@ bool SaverPasswordInUse(KeyValueTree& tree) {
 }
 
 /// Without the system's dialog nobody could ever leave, so the saver closes.
-bool VerifySaverPassword(Saver& saver) {
-  if (!IsWindows9x(saver) || !SaverPasswordInUse(*saver.Tree)) return true;
-  return saver.Platform->VerifyScreenSavePwd().value_or(kRightPassword) == kRightPassword;
+bool VerifySaverPassword(ProcessState& process) {
+  if (!IsWindows9x(process) || !SaverPasswordInUse(*process.Tree)) return true;
+  return process.Platform->VerifyScreenSavePwd().value_or(kRightPassword) == kRightPassword;
 }
 
-void SetSaverRunning(Saver& saver, bool running) {
-  if (IsWindows9x(saver) && SaverPasswordInUse(*saver.Tree)) {
-    saver.Platform->SetScreenSaverRunning(running);
+void SetSaverRunning(ProcessState& process, bool running) {
+  if (IsWindows9x(process) && SaverPasswordInUse(*process.Tree)) {
+    process.Platform->SetScreenSaverRunning(running);
   }
 }
 
-void StackSaver(Saver& saver, bool background) {
-  if (IsWindows9x(saver)) saver.Platform->StackWindow(background ? kStackAtBottom : kStackTopMost);
+void StackSaver(ProcessState& process, bool background) {
+  if (IsWindows9x(process))
+    process.Platform->StackWindow(background ? kStackAtBottom : kStackTopMost);
 }
 
 }  // namespace starfolds

@@ -1,7 +1,7 @@
 // What a saver owes to Windows 9x. Everywhere else nothing of this does anything.
 #pragma once
 
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -9,12 +9,12 @@ namespace starfolds {
 bool SaverPasswordInUse(KeyValueTree& tree);
 
 /// Whether the saver may close: not if a password is in use and the user does not know it.
-bool VerifySaverPassword(Saver& saver);
+bool VerifySaverPassword(ProcessState& process);
 
 /// Tells the system that a saver with a password runs, so that no key leads around it.
-void SetSaverRunning(Saver& saver, bool running);
+void SetSaverRunning(ProcessState& process, bool running);
 
 /// A background lies below all windows, a saver above them.
-void StackSaver(Saver& saver, bool background);
+void StackSaver(ProcessState& process, bool background);
 
 }  // namespace starfolds

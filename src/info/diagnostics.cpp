@@ -31,7 +31,7 @@ double SecondsSince(Clock::time_point begin) {
 /// Counts the frames and stops the run when the time is over.
 class StopwatchPump : public Pump {
  public:
-  StopwatchPump(Saver& saver, double seconds) : saver_(saver), seconds_(seconds) {}
+  StopwatchPump(ProcessState& process, double seconds) : process_(process), seconds_(seconds) {}
 
   /// Begins the time.
   void Start() { begin_ = Clock::now(); }
@@ -41,13 +41,13 @@ class StopwatchPump : public Pump {
   Long TickCount() override { return static_cast<Long>(Seconds() * 1000); }
   void PumpEvents() override {
     ++frames_;
-    if (Seconds() >= seconds_) saver_.StopRun = true;
+    if (Seconds() >= seconds_) process_.StopRun = true;
   }
   void WaitForEvents(Long) override { PumpEvents(); }
   void WaitForRefresh() override {}
 
  private:
-  Saver& saver_;
+  ProcessState& process_;
   double seconds_;
   int frames_ = 0;
   Clock::time_point begin_ = Clock::now();
@@ -87,23 +87,23 @@ std::uint64_t ColoursOf(int depth) {
 FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width, int height,
                         double seconds) {
   MemorySurface surface(RoundedToLimits<Integer>(width), RoundedToLimits<Integer>(height));
-  const auto saver = std::make_unique<Saver>();
-  StopwatchPump events(*saver, seconds);
-  saver->Tree = &tree;
-  saver->Events = &events;
-  saver->Desktop = &desktop;
-  SetupDisplay(*saver, surface, kSeed);
-  saver->Screen.FrameDelayMs = 0;
-  ReadUniverseSettings(*saver, false);
+  const auto process = std::make_unique<ProcessState>();
+  StopwatchPump events(*process, seconds);
+  process->Tree = &tree;
+  process->Events = &events;
+  process->Desktop = &desktop;
+  SetupDisplay(*process, surface, kSeed);
+  process->Screen.FrameDelayMs = 0;
+  ReadUniverseSettings(*process, false);
 
   events.Start();
   const std::clock_t processorBegin = std::clock();
-  UniverseRun(*saver);
+  UniverseRun(*process);
   FrameCost cost;
   cost.Seconds = events.Seconds();
   cost.ProcessorSeconds = static_cast<double>(std::clock() - processorBegin) / CLOCKS_PER_SEC;
   cost.Frames = events.Frames();
-  cost.Stars = saver->Universe.Universe_Stars;
+  cost.Stars = process->Universe.Universe_Stars;
   cost.Width = surface.Width();
   cost.Height = surface.Height();
   return cost;

@@ -10,12 +10,12 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "hosting/dialog_parts.h"
 #include "info/frm_credits.h"
 #include "settings/factory.h"
 #include "settings/product.h"
 #include "universe/host_surface.h"
 #include "universe/single_body_run.h"
+#include "widgets/dialog_parts.h"
 
 namespace starfolds {
 namespace {
@@ -49,7 +49,7 @@ QWidget* MakeLicencePage() {
 FrmAbout::FrmAbout(const AboutSurroundings& surroundings, QWidget* parent)
     : QDialog(parent),
       around_(surroundings),
-      running_(std::make_unique<Saver>()),
+      running_(std::make_unique<ProcessState>()),
       events_(surroundings.Process, *running_),
       run_(*running_) {
   running_->Tree = &noTree_;

@@ -8,16 +8,16 @@
 #include <functional>
 #include <memory>
 
-#include "hosting/picture_box.h"
-#include "hosting/preview_runs.h"
-#include "hosting/watchful_pump.h"
 #include "platform/help.h"
+#include "widgets/picture_box.h"
+#include "widgets/preview_runs.h"
+#include "widgets/watchful_pump.h"
 
 namespace starfolds {
 
 /// What the box needs of its surroundings. All of it outlives the box.
 struct AboutSurroundings {
-  Saver& Process;  // the state of the process: its pump and flags
+  ProcessState& Process;  // the state of the process: its pump and flags
   Help& HelpBook;
   std::string Version;                  // of this build
   std::function<std::uint64_t()> Seed;  // of each body
@@ -46,7 +46,7 @@ class FrmAbout : public QDialog {
   void ShowCredits();
 
   AboutSurroundings around_;
-  std::unique_ptr<Saver> running_;
+  std::unique_ptr<ProcessState> running_;
   WatchfulPump events_;
   MemoryTree noTree_;
   PreviewSwitch run_;

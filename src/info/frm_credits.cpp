@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "hosting/dialog_parts.h"
+#include "widgets/dialog_parts.h"
 #include "settings/product.h"
 
 namespace starfolds {

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "hosting/picture_box.h"
+#include "widgets/picture_box.h"
 #include "info/star_letters.h"
 
 namespace starfolds {

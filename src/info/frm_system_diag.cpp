@@ -10,8 +10,8 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "hosting/dialog_parts.h"
-#include "hosting/surface_box.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/surface_box.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "hosting/placed_dialog.h"
+#include "widgets/placed_dialog.h"
 #include "info/report.h"
 #include "platform/message_boxes.h"
 

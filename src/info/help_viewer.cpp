@@ -8,7 +8,7 @@
 #include <QWindow>
 #include <utility>
 
-#include "hosting/placed_qt_window.h"
+#include "widgets/placed_qt_window.h"
 #include "settings/registry.h"
 
 namespace starfolds {

@@ -1,6 +1,6 @@
 #include "info/help_window.h"
 
-#include "hosting/web_page.h"
+#include "widgets/web_page.h"
 #include "info/help_viewer.h"
 
 namespace starfolds {

@@ -10,7 +10,7 @@
 #include <QtGlobal>
 #include <algorithm>
 
-#include "hosting/dialog_parts.h"
+#include "widgets/dialog_parts.h"
 #include "settings/product.h"
 
 namespace starfolds {

@@ -6,7 +6,7 @@
 
 #include "platform/console.h"
 #include "render/render_run.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "storage/sqlite_tree.h"

@@ -1,11 +1,11 @@
 #include "render/render_run.h"
 
-#include "colour/saver.h"
 #include "numbers/conversions.h"
+#include "process/process_state.h"
 #include "render/progress.h"
 #include "render/recording_surface.h"
 #include "render/standard_streams.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "universe/host_surface.h"
 #include "universe/single_body_run.h"
 #include "universe/universe_run.h"
@@ -13,21 +13,21 @@
 namespace starfolds {
 namespace {
 
-void RunBody(Saver& saver, Integer body, bool isComposite) {
+void RunBody(ProcessState& process, Integer body, bool isComposite) {
   // The recording surface counts the frames and ends the run.
-  SingleBodyRun(saver, {.Body = body,
-                        .IsComposite = isComposite,
-                        .Stars = ClampTo<Long>(saver.Universe.Universe_Stars, 10, 30000),
-                        .Trail = ClampTo<Integer>(saver.Universe.Universe_STrail, 1, 999)});
+  SingleBodyRun(process, {.Body = body,
+                          .IsComposite = isComposite,
+                          .Stars = ClampTo<Long>(process.Universe.Universe_Stars, 10, 30000),
+                          .Trail = ClampTo<Integer>(process.Universe.Universe_STrail, 1, 999)});
 }
 
-void RunEffect(Saver& saver, const RenderOptions& options) {
+void RunEffect(ProcessState& process, const RenderOptions& options) {
   if (options.Profile) {
-    RunBody(saver, *options.Profile, false);
+    RunBody(process, *options.Profile, false);
   } else if (options.Composite) {
-    RunBody(saver, *options.Composite, true);
+    RunBody(process, *options.Composite, true);
   } else {
-    UniverseRun(saver);
+    UniverseRun(process);
   }
 }
 
@@ -44,21 +44,21 @@ Fault Render(const RenderOptions& options, SettingsRecords& records) {
   const FrameSinks sinks = MakeSinks(options);
   CountedPump pump;
   MemoryDesktop desktop;
-  const auto saver = std::make_unique<Saver>();
+  const auto process = std::make_unique<ProcessState>();
   MemoryTree tree;
   SaveSettings(tree, records);
-  saver->Tree = &tree;
-  saver->Events = &pump;
-  saver->Desktop = &desktop;
+  process->Tree = &tree;
+  process->Events = &pump;
+  process->Desktop = &desktop;
 
   RecordingSurface surface(static_cast<Integer>(options.Width),
                            static_cast<Integer>(options.Height), options.Plan, sinks,
-                           saver->StopRun);
+                           process->StopRun);
   Progress progress(options.Plan.Frames, ErrorIsTerminal());
   surface.OnFrame = [&](FrameNumber frame) { progress.Show(frame); };
-  SetupDisplay(*saver, surface, options.Seed);
-  ReadUniverseSettings(*saver, false);
-  RunEffect(*saver, options);
+  SetupDisplay(*process, surface, options.Seed);
+  ReadUniverseSettings(*process, false);
+  RunEffect(*process, options);
   progress.End();
   return surface.Trouble() ? surface.Trouble() : FinishAll(sinks);
 }

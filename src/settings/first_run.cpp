@@ -6,7 +6,7 @@
 #include "settings/field_order.h"
 #include "settings/fields.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {

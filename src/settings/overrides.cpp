@@ -6,7 +6,7 @@
 #include "numbers/text.h"
 #include "settings/fields.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {

@@ -7,7 +7,7 @@
 #include "settings/former_settings.h"
 #include "settings/product.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "settings/templates.h"
 
 namespace starfolds {

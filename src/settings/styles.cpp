@@ -1,5 +1,7 @@
 #include "settings/styles.h"
 
+#include <algorithm>
+
 #include "numbers/conversions.h"
 
 namespace starfolds {
@@ -125,7 +127,8 @@ constexpr std::array<StyleFacts, kStyleCount> kStyles{{
      .OwnColorCaption = "Atomic Sphere Color Blending  (0 - 30000):",
      .BodyEditorCaption = "User Defined Molecular Structure..."},
 }};
-static_assert(IsCompleteStyleTable(kStyles));
+static_assert(IsInStyleOrder(kStyles));
+static_assert(std::ranges::all_of(kStyles, &StyleFacts::IsComplete));
 
 }  // namespace
 

@@ -89,14 +89,13 @@ struct StyleFacts {
 const StyleFacts& FactsOf(Integer style);
 inline const StyleFacts& FactsOf(FoldStyle style) { return FactsOf(static_cast<Integer>(style)); }
 
-/// Whether row i of a table of styles describes style i, for each style.
+/// Whether row i of a table of styles is that of style i, for each style.
 template <class Row, std::size_t Size>
-constexpr bool IsCompleteStyleTable(const std::array<Row, Size>& rows) {
-  if (Size != kStyleCount) return false;
+constexpr bool IsInStyleOrder(const std::array<Row, Size>& rows) {
   for (std::size_t i = 0; i < Size; ++i) {
-    if (rows[i].Style != static_cast<FoldStyle>(i) || !rows[i].IsComplete()) return false;
+    if (rows[i].Style != static_cast<FoldStyle>(i)) return false;
   }
-  return true;
+  return Size == kStyleCount;
 }
 
 }  // namespace starfolds

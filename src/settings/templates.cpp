@@ -11,7 +11,7 @@
 #include "settings/packing.h"
 #include "settings/product.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {

@@ -12,7 +12,7 @@ namespace starfolds {
 enum class AmbientMode : Integer { Growing = 0, Finished = 1 };
 
 struct AmbientScene {
-  Saver& Process;
+  ProcessState& Process;
   AmbientArrays& Stars;
   BodySlots& Shape;
 };

@@ -45,10 +45,10 @@ struct Shares {
   Long Total = 0;
   bool OnlyFirst = false;
 
-  explicit Shares(const Saver& saver) {
+  explicit Shares(const ProcessState& process) {
     for (int k = 0; k < kBodyCount; ++k) {
-      Share[k] = k < kFirstComposite ? saver.Profiles[k].UniFoldPct
-                                     : saver.Composites[k - kFirstComposite].CompFoldPct;
+      Share[k] = k < kFirstComposite ? process.Profiles[k].UniFoldPct
+                                     : process.Composites[k - kFirstComposite].CompFoldPct;
       Total += Share[k];
       ShareSum[k] = Total;
     }
@@ -94,15 +94,15 @@ void SeedFlight(UniverseScene& scene, Birth& birth) {
 
 /// Chooses what each starfold is, and gives it the path of one random star.
 void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
-  Saver& saver = scene.Process;
+  ProcessState& process = scene.Process;
   StarfoldArrays& folds = scene.Arrays.Folds;
-  const UniverseSettings& universe = saver.Universe;
-  const Shares shares(saver);
+  const UniverseSettings& universe = process.Universe;
+  const Shares shares(process);
   int cursor = 0;
   for (std::size_t i = 0; i < folds.StarfoldProf.size(); ++i) {
     folds.StarfoldProf[i] =
-        universe.Universe_GVisit ? shares.PickInTurn(cursor) : shares.PickByShare(saver.Random());
-    const int pick = DrawBelow(saver.Random, universe.Universe_Stars);
+        universe.Universe_GVisit ? shares.PickInTurn(cursor) : shares.PickByShare(process.Random());
+    const int pick = DrawBelow(process.Random, universe.Universe_Stars);
     const BirthStar& star = birth.Stars[static_cast<std::size_t>(pick)];
     folds.StarfoldX[i] = star.BirthX;
     folds.StarfoldY[i] = star.BirthY;
@@ -110,8 +110,8 @@ void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
     birth.Folds[i] = {star.BirthVX, star.BirthVY, star.BirthVZ};
   }
   if (!universe.Universe_Tour || universe.Universe_GVisit) return;
-  const auto listed = std::min<std::size_t>(saver.Visits.Count, folds.StarfoldProf.size());
-  std::copy_n(saver.Visits.Bodies.begin(), listed, folds.StarfoldProf.begin());
+  const auto listed = std::min<std::size_t>(process.Visits.Count, folds.StarfoldProf.size());
+  std::copy_n(process.Visits.Bodies.begin(), listed, folds.StarfoldProf.begin());
 }
 
 /// Starfolds ride outward; the eye stands on the -Z side of the core.
@@ -132,13 +132,13 @@ void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
 
 /// Puts a star into a random starfold.
 void SettleStar(UniverseScene& scene, std::size_t i) {
-  Saver& saver = scene.Process;
+  ProcessState& process = scene.Process;
   StarArrays& stars = scene.Arrays.Stars;
-  const int home = DrawBelow(saver.Random, saver.Universe.Universe_Starfold);
+  const int home = DrawBelow(process.Random, process.Universe.Universe_Starfold);
   stars.Star[i].StarHome = static_cast<Integer>(home);
   stars.Star[i].StarProf =
-      PickProfile(saver, scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(home)]);
-  SeedStar(saver, stars, scene.Arrays.Slots, i);
+      PickProfile(process, scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(home)]);
+  SeedStar(process, stars, scene.Arrays.Slots, i);
 }
 
 /// One frame of the stars in creation.
@@ -253,21 +253,21 @@ void RampDamping(const UniverseScene& scene, Birth& birth, int frame) {
 
 /// One frame. False: the run must stop.
 bool CreationFrame(UniverseScene& scene, Birth& birth, int frame) {
-  Saver& saver = scene.Process;
-  StampFrame(saver);
+  ProcessState& process = scene.Process;
+  StampFrame(process);
   MoveStarfolds(scene, birth);
-  AdvanceAngles(saver.Prepared);
+  AdvanceAngles(process.Prepared);
   BirthFrame(scene, birth, frame).StepStars();
-  AdvanceStarHues(saver, scene.Arrays.Stars);
+  AdvanceStarHues(process, scene.Arrays.Stars);
   scene.Growth.ExpandTotal += scene.Growth.ExpandStep;
   GrowAmbientStars(scene, birth);
   scene.Growth.ExpandStep *= birth.CreationDamp;
-  StepNebulaRibbons(saver, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
+  StepNebulaRibbons(process, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
   RampDamping(scene, birth, frame);
   scene.Arrays.TrailHead =
-      static_cast<Integer>((scene.Arrays.TrailHead + 1) % saver.RunUniverse.RunTrail);
-  if (FramePace(saver)) return false;
-  if (saver.Mode == RunMode::Preview && frame == 0) PumpOneTick(saver);
+      static_cast<Integer>((scene.Arrays.TrailHead + 1) % process.RunUniverse.RunTrail);
+  if (FramePace(process)) return false;
+  if (process.Mode == RunMode::Preview && frame == 0) PumpOneTick(process);
   return true;
 }
 
@@ -280,24 +280,24 @@ void StopAmbientStars(AmbientArrays& ambient) {
 }  // namespace
 
 void CreateUniverse(UniverseScene& scene) {
-  Saver& saver = scene.Process;
-  const UniverseSettings& universe = saver.Universe;
+  ProcessState& process = scene.Process;
+  const UniverseSettings& universe = process.Universe;
   Birth birth(scene.Arrays.Stars.Star.size(), scene.Arrays.Folds.StarfoldX.size());
   AssignRounded(birth.MinFlightFrames, universe.Universe_ESteps * 0.25);
-  birth.CreationDamp = saver.RunUniverse.RunDamping;
+  birth.CreationDamp = process.RunUniverse.RunDamping;
 
-  FinishHueWork(saver, scene.Arrays.Stars);
-  InitBodiesAlike(saver, scene.Arrays.Slots, universe.Universe_Starfold, scene.TourProfile);
-  SetUpExpansion(saver, scene.Shape, scene.TourProfile);
+  FinishHueWork(process, scene.Arrays.Stars);
+  InitBodiesAlike(process, scene.Arrays.Slots, universe.Universe_Starfold, scene.TourProfile);
+  SetUpExpansion(process, scene.Shape, scene.TourProfile);
   SeedFlight(scene, birth);
-  SeedAmbientStars({saver, scene.Arrays.Ambient, scene.Shape}, scene.TourProfile,
+  SeedAmbientStars({process, scene.Arrays.Ambient, scene.Shape}, scene.TourProfile,
                    scene.Growth.ExpandStep);
   ChooseStarfolds(scene, birth);
-  InitBodies(saver, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
+  InitBodies(process, scene.Arrays.Slots, scene.Arrays.Folds.StarfoldProf);
 
   for (int frame = 0; frame < universe.Universe_ESteps; ++frame) {
     if (!CreationFrame(scene, birth, frame)) return;
-    if (saver.NewRun) break;
+    if (process.NewRun) break;
   }
   StopAmbientStars(scene.Arrays.Ambient);
   for (std::size_t i = 0; i < birth.Stars.size(); ++i) {

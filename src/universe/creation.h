@@ -14,7 +14,7 @@ struct Expansion {
 
 /// What creation, tour and pull-out of one run share.
 struct UniverseScene {
-  Saver& Process;
+  ProcessState& Process;
   RunArrays& Arrays;
   BodySlots Shape = {};
   Expansion Growth = {};

@@ -6,19 +6,19 @@
 
 namespace starfolds {
 
-void SetUpExpansion(Saver& saver, BodySlots& shape, Integer prof) {
+void SetUpExpansion(ProcessState& process, BodySlots& shape, Integer prof) {
   shape.Ifs.assign(1, {});
   shape.Ribbon.assign(1, {});
-  const Body body(saver, prof);
+  const Body body(process, prof);
   RoutinesOf(body.Profile.Style()).SetUpBlast(shape, 0, body);
 }
 
-ExpansionVector SeedExpansionVector(Saver& saver, BodySlots& shape, Integer prof, Single scale,
-                                    Single ratio, ExpansionMode mode) {
-  const Body body(saver, prof);
+ExpansionVector SeedExpansionVector(ProcessState& process, BodySlots& shape, Integer prof,
+                                    Single scale, Single ratio, ExpansionMode mode) {
+  const Body body(process, prof);
   SeedPoint raw;
   RoutinesOf(body.Profile.Style()).SeedBlast(raw, body, shape, 0);
-  const double f = saver.RunUniverse.RunExpand / static_cast<double>(body.Prepared.RunRadius);
+  const double f = process.RunUniverse.RunExpand / static_cast<double>(body.Prepared.RunRadius);
   const double x = static_cast<Single>(raw.X * f);
   const double y = static_cast<Single>(raw.Y * f);
   const double z = static_cast<Single>(raw.Z * f);

@@ -16,7 +16,7 @@ enum class ExpansionMode : Integer {
 
 /// Prepares the one slot of `shape`, the generators' state for the blast, for the style of profile
 /// `prof`.
-void SetUpExpansion(Saver& saver, BodySlots& shape, Integer prof);
+void SetUpExpansion(ProcessState& process, BodySlots& shape, Integer prof);
 
 struct ExpansionVector {
   Single X = 0, Y = 0, Z = 0;
@@ -25,7 +25,7 @@ struct ExpansionVector {
 
 /// One point of the shape, normalised so that the rim of the body has the length of the universe's
 /// expansion, and tilted by the profile's first tilt.
-ExpansionVector SeedExpansionVector(Saver& saver, BodySlots& shape, Integer prof, Single scale,
-                                    Single ratio, ExpansionMode mode);
+ExpansionVector SeedExpansionVector(ProcessState& process, BodySlots& shape, Integer prof,
+                                    Single scale, Single ratio, ExpansionMode mode);
 
 }  // namespace starfolds

@@ -2,13 +2,13 @@
 
 #include "numbers/conversions.h"
 #include "settings/first_run.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {
 
-void MeasureSurface(Saver& saver, Surface& target, double zoom) {
-  Display& screen = saver.Screen;
+void MeasureSurface(ProcessState& process, Surface& target, double zoom) {
+  Display& screen = process.Screen;
   screen.hDCDraw = &target;
   screen.SurfaceWidth = RoundedToLimits<Integer>(target.Width());
   screen.SurfaceHeight = RoundedToLimits<Integer>(target.Height());
@@ -20,55 +20,58 @@ void MeasureSurface(Saver& saver, Surface& target, double zoom) {
 
 }  // namespace
 
-void SetupDisplay(Saver& saver, Surface& target, std::uint64_t seed) {
-  saver.Advanced = LoadAdvancedFromRegistry(*saver.Tree);
-  saver.Screen.FocalLength = saver.Advanced.FocalLength;
-  saver.Screen.FrameDelayMs = saver.Advanced.Adv_TimeDelay;
-  MeasureSurface(saver, target, 1);
-  saver.Random.Seed(seed);
+void SetupDisplay(ProcessState& process, Surface& target, std::uint64_t seed) {
+  process.Advanced = LoadAdvancedFromRegistry(*process.Tree);
+  process.Screen.FocalLength = process.Advanced.FocalLength;
+  process.Screen.FrameDelayMs = process.Advanced.Adv_TimeDelay;
+  MeasureSurface(process, target, 1);
+  process.Random.Seed(seed);
 }
 
-void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single zoom,
+void SetupPreviewSurface(ProcessState& process, Surface& target, bool fixedView, Single zoom,
                          std::uint64_t seed) {
   ResetSurface(target);
   if (fixedView) {
-    saver.Screen.FocalLength = 1;
-    saver.Screen.FrameDelayMs = 32;
+    process.Screen.FocalLength = 1;
+    process.Screen.FrameDelayMs = 32;
   }
-  MeasureSurface(saver, target, zoom);
-  saver.Random.Seed(seed);
+  MeasureSurface(process, target, zoom);
+  process.Random.Seed(seed);
 }
 
 void ResetSurface(Surface& target) { target.Clear(); }
 
-void EnsureBodies(Saver& saver) { saver.HasBodies = EnsureFactoryProfiles(*saver.Tree); }
-
-void ReadUniverseSettings(Saver& saver, bool smallPreview) {
-  SettingsRecords records;
-  bool isWhole = false;
-  if (saver.HasBodies) {
-    TreeBulk look = TreeBulk::Look(*saver.Tree);
-    records = LoadSettings(*saver.Tree);
-    isWhole = look.Commit();
-  }
-  if (!isWhole) records = SettingsToShow(*saver.Tree);
-  TakeUniverseSettings(saver, records, smallPreview);
+void EnsureBodies(ProcessState& process) {
+  process.HasBodies = EnsureFactoryProfiles(*process.Tree);
 }
 
-void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool smallPreview) {
-  saver.Universe = records.Universe;
-  saver.Profiles = records.Profiles;
-  saver.Composites = records.Composites;
-  saver.Visits = ParseVisitList(saver.Universe.Universe_GS_Idx);
-  if (smallPreview) {
-    AssignRounded(saver.Universe.Universe_Stars, saver.Universe.Universe_Stars * 0.65);
-    AssignRounded(saver.Universe.Universe_AmStar, saver.Universe.Universe_AmStar * 0.5);
+void ReadUniverseSettings(ProcessState& process, bool smallPreview) {
+  SettingsRecords records;
+  bool isWhole = false;
+  if (process.HasBodies) {
+    TreeBulk look = TreeBulk::Look(*process.Tree);
+    records = LoadSettings(*process.Tree);
+    isWhole = look.Commit();
   }
-  for (StarfoldProfile& profile : saver.Profiles) ClampProfile(profile);
-  for (CompositeProfile& composite : saver.Composites) ClampComposite(composite);
-  BuildFlareTables(saver.Colours, saver.Profiles, saver.Universe.Universe_HW_Start,
-                   saver.Universe.Universe_HW_End);
-  BuildHueWheels(saver.Colours, saver.Profiles);
+  if (!isWhole) records = SettingsToShow(*process.Tree);
+  TakeUniverseSettings(process, records, smallPreview);
+}
+
+void TakeUniverseSettings(ProcessState& process, const SettingsRecords& records,
+                          bool smallPreview) {
+  process.Universe = records.Universe;
+  process.Profiles = records.Profiles;
+  process.Composites = records.Composites;
+  process.Visits = ParseVisitList(process.Universe.Universe_GS_Idx);
+  if (smallPreview) {
+    AssignRounded(process.Universe.Universe_Stars, process.Universe.Universe_Stars * 0.65);
+    AssignRounded(process.Universe.Universe_AmStar, process.Universe.Universe_AmStar * 0.5);
+  }
+  for (StarfoldProfile& profile : process.Profiles) ClampProfile(profile);
+  for (CompositeProfile& composite : process.Composites) ClampComposite(composite);
+  BuildFlareTables(process.Colours, process.Profiles, process.Universe.Universe_HW_Start,
+                   process.Universe.Universe_HW_End);
+  BuildHueWheels(process.Colours, process.Profiles);
 }
 
 }  // namespace starfolds

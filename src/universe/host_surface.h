@@ -1,30 +1,30 @@
 // What every host does before it runs the effect: measure the surface, and read the settings.
 #pragma once
 
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
 /// Measures `target` and reads the advanced values from what is stored: focal length and frame
 /// delay. Seeds the random numbers with `seed`; a host passes the clock.
-void SetupDisplay(Saver& saver, Surface& target, std::uint64_t seed);
+void SetupDisplay(ProcessState& process, Surface& target, std::uint64_t seed);
 
 /// The same for a picture box of a dialog. A fixed view has focal length 1 and a delay of 32 ms;
 /// otherwise both stay as they are. `zoom` magnifies positions, not flares.
-void SetupPreviewSurface(Saver& saver, Surface& target, bool fixedView, Single zoom,
+void SetupPreviewSurface(ProcessState& process, Surface& target, bool fixedView, Single zoom,
                          std::uint64_t seed);
 
 /// Black, before each run.
 void ResetSurface(Surface& target);
 
 /// Sees to it that there are bodies to show: the factory's where nobody has stored any.
-void EnsureBodies(Saver& saver);
+void EnsureBodies(ProcessState& process);
 
 /// Reads every record of the run from the stored tree, and prepares the colours. A small preview
 /// takes 0.65 of the stars and half of the ambient stars.
-void ReadUniverseSettings(Saver& saver, bool smallPreview);
+void ReadUniverseSettings(ProcessState& process, bool smallPreview);
 
 /// The same with records that are at hand.
-void TakeUniverseSettings(Saver& saver, const SettingsRecords& records, bool smallPreview);
+void TakeUniverseSettings(ProcessState& process, const SettingsRecords& records, bool smallPreview);
 
 }  // namespace starfolds

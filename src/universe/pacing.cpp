@@ -10,41 +10,43 @@ namespace {
 std::int64_t TickDistance(Long a, Long b) { return std::abs(static_cast<std::int64_t>(a) - b); }
 
 /// True: stop.
-bool FrameWait(Saver& saver) {
-  Pump& events = *saver.Events;
+bool FrameWait(ProcessState& process) {
+  Pump& events = *process.Events;
   bool waited = false;
   while (true) {
     events.PumpEvents();
-    if (saver.StopRun) return true;
-    const std::int64_t passed = TickDistance(events.TickCount(), saver.Screen.FrameStartTick);
-    if (passed >= saver.Screen.FrameDelayMs) break;
-    events.WaitForEvents(static_cast<Long>(saver.Screen.FrameDelayMs - passed));
+    if (process.StopRun) return true;
+    const std::int64_t passed = TickDistance(events.TickCount(), process.Screen.FrameStartTick);
+    if (passed >= process.Screen.FrameDelayMs) break;
+    events.WaitForEvents(static_cast<Long>(process.Screen.FrameDelayMs - passed));
     waited = true;
   }
   if (!waited) events.WaitForRefresh();
-  return saver.StopRun;
+  return process.StopRun;
 }
 
 }  // namespace
 
-bool FramePace(Saver& saver) {
-  saver.Screen.hDCDraw->Present();
-  const bool stop = FrameWait(saver);
-  if (saver.Mode == RunMode::Preview && !saver.Desktop->IsWindow(saver.PreviewParent)) {
-    saver.StopRun = true;
+bool FramePace(ProcessState& process) {
+  process.Screen.hDCDraw->Present();
+  const bool stop = FrameWait(process);
+  if (process.Mode == RunMode::Preview && !process.Desktop->IsWindow(process.PreviewParent)) {
+    process.StopRun = true;
     return true;
   }
   return stop;
 }
 
-void StampFrame(Saver& saver) { saver.Screen.FrameStartTick = saver.Events->TickCount(); }
+void StampFrame(ProcessState& process) {
+  process.Screen.FrameStartTick = process.Events->TickCount();
+}
 
-void PumpOneTick(Saver& saver) {
-  const Long begin = saver.Events->TickCount();
+void PumpOneTick(ProcessState& process) {
+  const Long begin = process.Events->TickCount();
   do {
-    saver.Events->PumpEvents();
-    if (saver.Events->TickCount() == begin) saver.Events->WaitForEvents(1);
-  } while (!saver.StopRun && saver.Events->TickCount() == begin);
+    process.Events->PumpEvents();
+    if (process.Events->TickCount() == begin) process.Events->WaitForEvents(1);
+  } while (!process.StopRun && process.Events->TickCount() == begin);
 }
 
 }  // namespace starfolds

@@ -5,8 +5,8 @@
 #include "bodies/comets.h"
 #include "bodies/seed_star.h"
 #include "bodies/star_step.h"
-#include "colour/prepare_run.h"
 #include "numbers/conversions.h"
+#include "process/prepare_run.h"
 #include "universe/pacing.h"
 
 namespace starfolds {
@@ -22,50 +22,50 @@ void EnterSettings(UniverseSettings& universe, const SingleBodyPlan& plan) {
 }
 
 void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
-  Saver& saver = scene.Process;
+  ProcessState& process = scene.Process;
   StarArrays& stars = scene.Arrays.Stars;
-  const CompositeProfile* composite = plan.IsComposite ? &saver.Composites[plan.Body] : nullptr;
+  const CompositeProfile* composite = plan.IsComposite ? &process.Composites[plan.Body] : nullptr;
   for (std::size_t i = 0; i < stars.Star.size(); ++i) {
     stars.Star[i].StarHome = 0;
     stars.Star[i].StarProf = plan.Body;
     if (composite) {
-      const int member = DrawBelow(saver.Random, composite->MemberCount());
+      const int member = DrawBelow(process.Random, composite->MemberCount());
       stars.Star[i].StarProf =
           ClampTo<Integer>(composite->CompFold_Type[member], 0, kProfileCount - 1);
     }
-    SeedStar(saver, stars, scene.Arrays.Slots, i);
+    SeedStar(process, stars, scene.Arrays.Slots, i);
   }
 }
 
 }  // namespace
 
-void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan) {
-  EnterSettings(saver.Universe, plan);
-  PrepareRun(saver);
-  saver.RunUniverse.RunNewShare = 0;  // re-seeded stars stay in the one body anyway
-  RunArrays arrays(saver.Universe, saver.RunUniverse.RunTrail, 1, 0);
+void SingleBodyRun(ProcessState& process, const SingleBodyPlan& plan) {
+  EnterSettings(process.Universe, plan);
+  PrepareRun(process);
+  process.RunUniverse.RunNewShare = 0;  // re-seeded stars stay in the one body anyway
+  RunArrays arrays(process.Universe, process.RunUniverse.RunTrail, 1, 0);
   const Integer entry =
       plan.IsComposite ? static_cast<Integer>(plan.Body + kFirstComposite) : plan.Body;
-  const Integer visited = ResolveProfile(saver, entry);
+  const Integer visited = ResolveProfile(process, entry);
   arrays.Folds.StarfoldProf[0] = entry;
-  arrays.Folds.StarfoldRel[0] = {0, 0, saver.Prepared[visited].RunDistance};
-  arrays.Comets.CometCount = CometRoom(saver.Profiles[visited].Starfold_CometStars);
-  InitBodies(saver, arrays.Slots, arrays.Folds.StarfoldProf);
+  arrays.Folds.StarfoldRel[0] = {0, 0, process.Prepared[visited].RunDistance};
+  arrays.Comets.CometCount = CometRoom(process.Profiles[visited].Starfold_CometStars);
+  InitBodies(process, arrays.Slots, arrays.Folds.StarfoldProf);
 
-  const FrameScene scene{saver, arrays,
+  const FrameScene scene{process, arrays,
                          plan.IsComposite ? RunKind::SingleComposite : RunKind::SingleProfile};
   SeedBody(scene, plan);
 
   const TourPlace place{.CometProf = visited, .SegIdx = kNoTour};
   Integer frames = 0;
   while (true) {
-    AdvanceAngles(saver.Prepared);
+    AdvanceAngles(process.Prepared);
     StarStep(scene, place);
-    StepNebulaRibbons(saver, arrays.Slots, arrays.Folds.StarfoldProf);
+    StepNebulaRibbons(process, arrays.Slots, arrays.Folds.StarfoldProf);
     if (plan.FrameLimit && ++frames >= *plan.FrameLimit) return;
-    if (FramePace(saver)) return;
-    if (saver.NewRun) {
-      saver.NewRun = false;
+    if (FramePace(process)) return;
+    if (process.NewRun) {
+      process.NewRun = false;
       return;
     }
   }

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "colour/saver.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 
@@ -18,6 +18,6 @@ struct SingleBodyPlan {
 
 /// Runs one body on `Screen.hDCDraw` until a flag says stop or the frames are over. Changes the
 /// star count, starfold count and trail of `Universe`. `NewRun` is cleared if it ended the run.
-void SingleBodyRun(Saver& saver, const SingleBodyPlan& plan);
+void SingleBodyRun(ProcessState& process, const SingleBodyPlan& plan);
 
 }  // namespace starfolds

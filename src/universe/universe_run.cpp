@@ -4,7 +4,7 @@
 
 #include "bodies/comets.h"
 #include "bodies/star_step.h"
-#include "colour/prepare_run.h"
+#include "process/prepare_run.h"
 #include "universe/ambient.h"
 #include "universe/creation.h"
 #include "universe/gravity.h"
@@ -25,20 +25,20 @@ struct UniverseTour {
   Integer CometProf = 0;
   Integer GravTick = 0;
 
-  Saver& Process() { return Scene.Process; }
+  ProcessState& Process() { return Scene.Process; }
   FrameScene Frame() { return {Scene.Process, Scene.Arrays}; }
 };
 
-Integer NextTourProfile(Saver& saver, Integer former) {
-  const Integer choice = saver.Universe.Universe_Profile;
+Integer NextTourProfile(ProcessState& process, Integer former) {
+  const Integer choice = process.Universe.Universe_Profile;
   if (choice < kCycleRandomly) return choice;
   if (choice == kCycleRandomly) {
-    return static_cast<Integer>(DrawBelow(saver.Random, kProfileCount));
+    return static_cast<Integer>(DrawBelow(process.Random, kProfileCount));
   }
   return static_cast<Integer>((former + 1) % kProfileCount);
 }
 
-TourPoint Viewpoint(const Saver& saver) { return {0, 0, -saver.RunUniverse.RunDstCen}; }
+TourPoint Viewpoint(const ProcessState& process) { return {0, 0, -process.RunUniverse.RunDstCen}; }
 
 TourPoint FoldPlace(const StarfoldArrays& folds, Integer i) {
   const auto fold = static_cast<std::size_t>(i);
@@ -46,10 +46,10 @@ TourPoint FoldPlace(const StarfoldArrays& folds, Integer i) {
 }
 
 void StepGravityOfFrame(UniverseTour& tour) {
-  const Saver& saver = tour.Process();
-  const Single force = saver.RunUniverse.RunGravForce;
+  const ProcessState& process = tour.Process();
+  const Single force = process.RunUniverse.RunGravForce;
   if (!(force > 0)) return;
-  tour.GravTick = static_cast<Integer>((tour.GravTick + 1) % saver.Universe.Universe_GravFrame);
+  tour.GravTick = static_cast<Integer>((tour.GravTick + 1) % process.Universe.Universe_GravFrame);
   StepGravity(tour.Scene.Arrays.Folds, force, tour.GravTick == 0);
 }
 
@@ -69,34 +69,34 @@ void StepAmbientOfFrame(UniverseTour& tour) {
 
 /// One frame of a visit. False: the run must end.
 bool TourFrame(UniverseTour& tour) {
-  Saver& saver = tour.Process();
+  ProcessState& process = tour.Process();
   RunArrays& run = tour.Scene.Arrays;
   tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
-  StampFrame(saver);
-  if (!saver.Universe.Universe_Tour) tour.Eye = Viewpoint(saver);
+  StampFrame(process);
+  if (!process.Universe.Universe_Tour) tour.Eye = Viewpoint(process);
   StepGravityOfFrame(tour);
   PlaceStarfoldsToEye(run.Folds, tour.Eye);
-  AdvanceAngles(saver.Prepared);
+  AdvanceAngles(process.Prepared);
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
-  StepNebulaRibbons(saver, run.Slots, run.Folds.StarfoldProf);
-  if (saver.NewRun) {
-    saver.NewRun = false;
+  StepNebulaRibbons(process, run.Slots, run.Folds.StarfoldProf);
+  if (process.NewRun) {
+    process.NewRun = false;
     return false;
   }
-  return !FramePace(saver);
+  return !FramePace(process);
 }
 
 /// One frame of the pull-out. It is not stamped, so it waits for the screen and not for the frame's
 /// delay, and neither gravity nor ribbons nor `NewRun` are looked at.
 bool PullOutFrame(UniverseTour& tour) {
-  Saver& saver = tour.Process();
+  ProcessState& process = tour.Process();
   tour.Eye = BSplinePoint(tour.Window, tour.Place.SplineT);
   PlaceStarfoldsToEye(tour.Scene.Arrays.Folds, tour.Eye);
-  AdvanceAngles(saver.Prepared);
+  AdvanceAngles(process.Prepared);
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
-  return !FramePace(saver);
+  return !FramePace(process);
 }
 
 /// The frames of one control step.
@@ -113,20 +113,20 @@ bool ControlStep(UniverseTour& tour, FrameRoutine frame) {
 }
 
 bool VisitStarfold(UniverseTour& tour, Integer visit) {
-  Saver& saver = tour.Process();
+  ProcessState& process = tour.Process();
   const StarfoldArrays& folds = tour.Scene.Arrays.Folds;
-  const int approach = saver.Universe.Universe_GPCtrl;
-  const int closeIn = saver.Universe.Universe_GCCtrl;
+  const int approach = process.Universe.Universe_GPCtrl;
+  const int closeIn = process.Universe.Universe_GCCtrl;
   tour.Place.VisitIdx = visit;
-  tour.VisitProf = ResolveProfile(saver, folds.StarfoldProf[static_cast<std::size_t>(visit)]);
+  tour.VisitProf = ResolveProfile(process, folds.StarfoldProf[static_cast<std::size_t>(visit)]);
   for (int segment = 1; segment <= approach + closeIn; ++segment) {
     tour.Place.SegIdx = static_cast<Integer>(segment);
     tour.Window.Append(VisitPoint(FoldPlace(folds, visit),
-                                  saver.Prepared[tour.VisitProf].RunDistance, segment, approach,
+                                  process.Prepared[tour.VisitProf].RunDistance, segment, approach,
                                   closeIn));
     if (segment == 2) {
       tour.CometProf = tour.VisitProf;
-      ResetComets(saver, tour.Scene.Arrays.Comets, visit, tour.VisitProf);
+      ResetComets(process, tour.Scene.Arrays.Comets, visit, tour.VisitProf);
     }
     tour.Place.CometProf = tour.CometProf;
     if (!ControlStep(tour, TourFrame)) return false;
@@ -135,9 +135,9 @@ bool VisitStarfold(UniverseTour& tour, Integer visit) {
 }
 
 bool PullOut(UniverseTour& tour) {
-  Saver& saver = tour.Process();
-  const int steps = saver.Universe.Universe_GPCtrl;
-  if (!saver.Universe.Universe_Tour) tour.Window.Fill(Viewpoint(saver));
+  ProcessState& process = tour.Process();
+  const int steps = process.Universe.Universe_GPCtrl;
+  if (!process.Universe.Universe_Tour) tour.Window.Fill(Viewpoint(process));
   tour.Place.TourOn = false;
   tour.Place.VisitIdx = tour.VisitCount;
   for (int k = 1; k <= steps; ++k) {
@@ -148,17 +148,17 @@ bool PullOut(UniverseTour& tour) {
 }
 
 bool Create(UniverseTour& tour) {
-  Saver& saver = tour.Process();
-  tour.Scene.TourProfile = NextTourProfile(saver, tour.Scene.TourProfile);
+  ProcessState& process = tour.Process();
+  tour.Scene.TourProfile = NextTourProfile(process, tour.Scene.TourProfile);
   tour.Scene.Arrays.TrailHead = 0;
-  tour.Scene.Growth = {saver.RunUniverse.RunExpand, 0};
+  tour.Scene.Growth = {process.RunUniverse.RunExpand, 0};
   for (int p = 0; p < kProfileCount; ++p) {
-    saver.Prepared[p].HueWheel = saver.Profiles[p].Starfold_HueStart;
+    process.Prepared[p].HueWheel = process.Profiles[p].Starfold_HueStart;
   }
   CreateUniverse(tour.Scene);
-  if (saver.StopRun) return false;
-  if (saver.NewRun) {
-    saver.NewRun = false;
+  if (process.StopRun) return false;
+  if (process.NewRun) {
+    process.NewRun = false;
     return false;
   }
   return true;
@@ -184,13 +184,13 @@ void ClearAway(UniverseTour& tour) {
 
 }  // namespace
 
-void UniverseRun(Saver& saver) {
-  ClampUniverse(saver.Universe);
-  PrepareRun(saver);
-  RunArrays run(saver.Universe, saver.RunUniverse.RunTrail, saver.Universe.Universe_Starfold,
-                saver.Universe.Universe_AmStar);
-  UniverseTour tour{.Scene = {saver, run}};
-  tour.VisitCount = std::min(saver.Universe.Universe_Starfold, saver.Universe.Universe_Recycle);
+void UniverseRun(ProcessState& process) {
+  ClampUniverse(process.Universe);
+  PrepareRun(process);
+  RunArrays run(process.Universe, process.RunUniverse.RunTrail, process.Universe.Universe_Starfold,
+                process.Universe.Universe_AmStar);
+  UniverseTour tour{.Scene = {process, run}};
+  tour.VisitCount = std::min(process.Universe.Universe_Starfold, process.Universe.Universe_Recycle);
   BuildAmbRamp(run.Ambient);
 
   while (Create(tour) && VisitAll(tour) && PullOut(tour)) ClearAway(tour);

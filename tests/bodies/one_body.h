@@ -33,7 +33,7 @@ class OneBody : public ::testing::Test {
  protected:
   explicit OneBody(FoldStyle style) { Set().Starfold_FoldStyle = static_cast<Integer>(style); }
 
-  Saver& Process() { return *stage_.Process; }
+  ProcessState& Process() { return *stage_.Process; }
   StarfoldProfile& Set() { return Process().Profiles[0]; }
   PreparedProfile& Run() { return Process().Prepared[0]; }
   Rnd& Random() { return Process().Random; }

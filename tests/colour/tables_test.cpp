@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "colour/prepare_run.h"
+#include "process/prepare_run.h"
 
 namespace starfolds {
 namespace {
@@ -102,7 +102,7 @@ class FlareTables : public ::testing::Test {
   FlareTables() { Process->Tree = &Tree; }
 
   MemoryTree Tree;
-  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<ProcessState> Process = std::make_unique<ProcessState>();
   StarfoldProfile& First() { return Process->Profiles[0]; }
   ProfileColours& Colours() { return Process->Colours.Profile[0]; }
   void Drift() { DriftCometHues(Process->Colours, Process->Prepared, Process->Profiles); }

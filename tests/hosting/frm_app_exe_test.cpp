@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "hosting/host_fixture.h"
-#include "hosting/picture_box.h"
+#include "widgets/picture_box.h"
 
 namespace starfolds {
 namespace {

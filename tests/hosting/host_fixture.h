@@ -12,9 +12,9 @@
 #include <map>
 #include <memory>
 
-#include "colour/saver.h"
 #include "desktop/toolkit.h"
-#include "settings/storage.h"
+#include "process/process_state.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 
@@ -24,7 +24,7 @@ class PlannedPump : public CountedPump {
  public:
   static constexpr int kLongestRun = 2000;
 
-  explicit PlannedPump(Saver& saver) : saver_(saver) {}
+  explicit PlannedPump(ProcessState& process) : process_(process) {}
 
   std::map<int, std::function<void()>> Plan;
   int Pumps = 0;
@@ -33,11 +33,11 @@ class PlannedPump : public CountedPump {
     QCoreApplication::processEvents();
     ++Pumps;
     if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
-    if (Pumps >= kLongestRun) saver_.StopRun = saver_.QuitApp = true;
+    if (Pumps >= kLongestRun) process_.StopRun = process_.QuitApp = true;
   }
 
  private:
-  Saver& saver_;
+  ProcessState& process_;
 };
 
 class HostTest : public testing::Test {
@@ -79,7 +79,7 @@ class HostTest : public testing::Test {
                              Qt::NoButton, Qt::NoModifier));
   }
 
-  std::unique_ptr<Saver> State = std::make_unique<Saver>();
+  std::unique_ptr<ProcessState> State = std::make_unique<ProcessState>();
   PlannedPump Events{*State};
   MemoryDesktop Desktop;
   ScriptedPlatform Platform;

@@ -24,12 +24,12 @@ bool Store(KeyValueTree& tree, std::string_view setting) {
                        setting.substr(slash + 1, equals - slash - 1), setting.substr(equals + 1));
 }
 
-void Run(Saver& saver, std::string_view window) {
+void Run(ProcessState& process, std::string_view window) {
   const SeedSource seed = [] { return 5; };
   if (window == "saver") {
-    FrmSaver(saver, seed).Load();
+    FrmSaver(process, seed).Load();
   } else {
-    FrmAppExe(saver, seed, [](QWindow&, bool) { std::puts("properties"); }).Activate();
+    FrmAppExe(process, seed, [](QWindow&, bool) { std::puts("properties"); }).Activate();
   }
 }
 
@@ -44,14 +44,15 @@ int main(int argc, char** argv) {
   QtPump pump;
   MemoryDesktop desktop;
   SaverPlatform platform;
-  const auto saver = std::make_unique<Saver>();
-  saver->Tree = &tree;
-  saver->Events = &pump;
-  saver->Desktop = &desktop;
-  saver->Platform = &platform;
+  const auto process = std::make_unique<ProcessState>();
+  process->Tree = &tree;
+  process->Events = &pump;
+  process->Desktop = &desktop;
+  process->Platform = &platform;
   if (argc < 2) return 2;
-  saver->Mode = std::string_view(argv[1]) == "saver" ? RunMode::ScreenSaver : RunMode::Application;
-  Run(*saver, argv[1]);
+  process->Mode =
+      std::string_view(argv[1]) == "saver" ? RunMode::ScreenSaver : RunMode::Application;
+  Run(*process, argv[1]);
   std::printf("WindowState=%s\n",
               RegistryReadText(tree, sections::kGeneral, "WindowState").c_str());
   return 0;

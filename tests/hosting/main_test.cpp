@@ -16,7 +16,7 @@ using testing::IsEmpty;
 /// Notes what a start does, with the mode that it does it in.
 class NotedActions : public StartActions {
  public:
-  explicit NotedActions(const Saver& saver) : saver_(saver) {}
+  explicit NotedActions(const ProcessState& process) : process_(process) {}
 
   std::vector<std::string> Files;
   std::vector<std::string> Notes;
@@ -27,17 +27,17 @@ class NotedActions : public StartActions {
   void ShowFrmSaver() override { Note("saver"); }
   void ShowFrmAppExe() override { Note("application"); }
   void ShowFrmProps() override { Note("properties"); }
-  void LoadFrmPreview() override { Note("preview in " + std::to_string(saver_.PreviewParent)); }
+  void LoadFrmPreview() override { Note("preview in " + std::to_string(process_.PreviewParent)); }
   void LoadTemplate(const std::string& path) override { Notes.push_back("template " + path); }
 
  private:
   void Note(const std::string& what) {
     const char* const modes[] = {"as application", "as saver", "as preview"};
-    Notes.push_back(what + " " + modes[static_cast<int>(saver_.Mode)] +
-                    (saver_.StopRun ? ", stopped" : ""));
+    Notes.push_back(what + " " + modes[static_cast<int>(process_.Mode)] +
+                    (process_.StopRun ? ", stopped" : ""));
   }
 
-  const Saver& saver_;
+  const ProcessState& process_;
 };
 
 class MainTest : public testing::Test {
@@ -54,7 +54,7 @@ class MainTest : public testing::Test {
     return Actions.Notes;
   }
 
-  std::unique_ptr<Saver> State = std::make_unique<Saver>();
+  std::unique_ptr<ProcessState> State = std::make_unique<ProcessState>();
   MemoryDesktop Desktop;
   ScriptedPlatform Platform;
   MemoryTree Tree;

@@ -8,11 +8,11 @@ namespace starfolds {
 namespace {
 
 TEST(SaverInput, EndsOnKeysAndButtonsButNotAsABackground) {
-  const SaverInput saver(true, false);
-  EXPECT_TRUE(saver.KeyDown());
-  EXPECT_TRUE(saver.Scroll());
-  EXPECT_TRUE(saver.MouseDown());
-  EXPECT_FALSE(saver.DoubleClick());
+  const SaverInput process(true, false);
+  EXPECT_TRUE(process.KeyDown());
+  EXPECT_TRUE(process.Scroll());
+  EXPECT_TRUE(process.MouseDown());
+  EXPECT_FALSE(process.DoubleClick());
   const SaverInput background(false, true);
   EXPECT_FALSE(background.KeyDown());
   EXPECT_FALSE(background.Scroll());
@@ -34,10 +34,10 @@ TEST(SaverInput, EndsOnTheFourthMoveWithinTenSeconds) {
       {"the count stays over midnight", {86399, 86399.5, 100, 40000}},
   };
   for (const Case& c : cases) {
-    SaverInput saver(false, false);
-    EXPECT_FALSE(saver.MouseMove(1000)) << "the place that a new window is told of first";
+    SaverInput process(false, false);
+    EXPECT_FALSE(process.MouseMove(1000)) << "the place that a new window is told of first";
     for (std::size_t i = 0; i < c.Moves.size(); ++i) {
-      EXPECT_EQ(saver.MouseMove(c.Moves[i]), i + 1 == c.Moves.size()) << c.Why << ", move " << i;
+      EXPECT_EQ(process.MouseMove(c.Moves[i]), i + 1 == c.Moves.size()) << c.Why << ", move " << i;
     }
   }
 }

@@ -4,7 +4,7 @@
 
 #include "settings/factory.h"
 #include "settings/registry.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {

@@ -45,7 +45,7 @@ class FrmAboutTest : public testing::Test {
   }
 
   static constexpr int kTooLong = 5000;
-  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<ProcessState> Process = std::make_unique<ProcessState>();
   AboutPump Events;
   MemoryDesktop Desktop;
   MemoryHelp HelpBook;

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "editors/property_tables.h"
+#include "properties/property_tables.h"
 #include "numbers/text.h"
 
 namespace starfolds {

@@ -10,7 +10,7 @@
 #include "render/test_files.h"
 #include "settings/factory.h"
 #include "settings/first_run.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "storage/sqlite_tree.h"
 
 namespace starfolds {

@@ -8,8 +8,8 @@
 
 #include "bodies/seed_star.h"
 #include "bodies/star_step.h"
-#include "colour/prepare_run.h"
-#include "settings/storage.h"
+#include "process/prepare_run.h"
+#include "settings/stored_records.h"
 #include "universe/host_surface.h"
 
 namespace starfolds::scenes {
@@ -54,7 +54,7 @@ class Stage {
   }
 
   // Large; kept off the stack.
-  std::unique_ptr<Saver> Process = std::make_unique<Saver>();
+  std::unique_ptr<ProcessState> Process = std::make_unique<ProcessState>();
   std::unique_ptr<SettingsRecords> Records = std::make_unique<SettingsRecords>();
   WatchedSurface Canvas;
   CountedPump Clock;

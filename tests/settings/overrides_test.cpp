@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 namespace {

@@ -7,7 +7,7 @@
 #include "numbers/text.h"
 #include "platform/key_value_tree.h"
 #include "settings/fields.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 
 namespace starfolds {
 

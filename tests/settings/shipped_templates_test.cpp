@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "settings/fields.h"
-#include "settings/storage.h"
+#include "settings/stored_records.h"
 #include "settings/templates.h"
 
 namespace starfolds {

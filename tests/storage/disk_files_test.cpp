@@ -128,7 +128,7 @@ TEST_F(DiskFilesTest, AKilledReplacementLeavesTheOldFileOrTheNewOne) {
   std::size_t most = 0;
   for (int round = 0; round < 30; ++round) {
     {
-      const Child saver([&] {
+      const Child process([&] {
         for (char c = 'a';; c = c == 'z' ? 'a' : static_cast<char>(c + 1)) {
           Disk.Replace(File, std::string(50'000, c));
         }

@@ -41,7 +41,7 @@ TEST_F(TreeFaults, AKilledSaveLeavesTheOldTreeOrTheNewOne) {
     longest = std::max(longest, Clock::now() - begin);
     const std::string tag = std::to_string(round) + "-";
     {
-      const Child saver([&] {
+      const Child process([&] {
         StoredTree own(File);
         for (int i = 0;; ++i) own.Save(tag + std::to_string(i), kValues);
       });
@@ -94,7 +94,7 @@ TEST_F(TreeFaults, ManyProcessesFindTheFileDamagedAtOnce) {
       savers.push_back(std::make_unique<Child>(
           [this, i] { EXPECT_TRUE(StoredTree(File).Write(std::to_string(i), "mine")); }));
     }
-    for (const auto& saver : savers) EXPECT_TRUE(saver->Succeeded());
+    for (const auto& process : savers) EXPECT_TRUE(process->Succeeded());
     StoredTree stored(File);
     for (int i = 0; i < 6; ++i) EXPECT_EQ(stored.Read(std::to_string(i)), "mine") << i;
     EXPECT_EQ(FileText(File + ".damaged-" + std::to_string(round + 1)), rubbish);

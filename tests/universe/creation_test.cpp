@@ -27,14 +27,14 @@ class Creation : public ::testing::Test {
 
   void Create() {
     Stage.Read();
-    Saver& saver = *Stage.Process;
-    PrepareRun(saver);
-    Run = std::make_unique<RunArrays>(saver.Universe, saver.RunUniverse.RunTrail,
-                                      saver.Universe.Universe_Starfold,
-                                      saver.Universe.Universe_AmStar);
-    Scene = std::make_unique<UniverseScene>(UniverseScene{saver, *Run});
+    ProcessState& process = *Stage.Process;
+    PrepareRun(process);
+    Run = std::make_unique<RunArrays>(process.Universe, process.RunUniverse.RunTrail,
+                                      process.Universe.Universe_Starfold,
+                                      process.Universe.Universe_AmStar);
+    Scene = std::make_unique<UniverseScene>(UniverseScene{process, *Run});
     Scene->TourProfile = 0;
-    Scene->Growth = {saver.RunUniverse.RunExpand, 0};
+    Scene->Growth = {process.RunUniverse.RunExpand, 0};
     CreateUniverse(*Scene);
   }
   int CountOf(Integer entry) {

@@ -28,7 +28,7 @@ class CountingPump : public CountedPump {
 class Pacing : public ::testing::Test {
  protected:
   Pacing() { Process().Events = &Clock; }
-  Saver& Process() { return *stage_.Process; }
+  ProcessState& Process() { return *stage_.Process; }
 
   CountingPump Clock;
   scenes::Stage stage_;

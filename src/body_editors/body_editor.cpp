@@ -1,0 +1,199 @@
+#include "body_editors/body_editor.h"
+
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+#include "widgets/lines.h"
+#include "widgets/samples.h"
+
+namespace starfolds {
+namespace {
+
+constexpr QSize kLeastPreview{320, 240};
+constexpr QSize kMorePreview{100, 60};
+constexpr int kStillPauseMs = 150;
+
+}  // namespace
+
+BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* parent)
+    : PlacedDialog(
+          {*editing.Model.Process.Tree, texts.Section, editing.Model.HelpBook, texts.Topic},
+          parent),
+      model_(editing.Model),
+      props_(editing.Props),
+      seed_(editing.Seed),
+      editBody_(editing.EditBody),
+      texts_(texts),
+      preview_(model_.Process) {
+  setObjectName(texts.Name);
+  setWindowTitle(Shown(Record().UniFoldName + " " + std::string(texts.Caption)));
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  rows_ = new QVBoxLayout(this);
+  rows_->setMenuBar(MakeMenuBar());
+  head_ = new QVBoxLayout;
+  rows_->addLayout(head_);
+  columns_ = new QHBoxLayout;
+  controls_ = new QVBoxLayout;
+  columns_->addLayout(controls_);
+  rows_->addLayout(columns_, 1);
+  stillTimer_.setSingleShot(true);
+  stillTimer_.setInterval(kStillPauseMs);
+  connect(&stillTimer_, &QTimer::timeout, this, &BodyEditor::ShowStill);
+}
+
+StarfoldProfile& BodyEditor::Record() const { return model_.Profiles()[editBody_]; }
+
+void BodyEditor::AddPreviewAndButtons(QPushButton* cmdClear) {
+  columns_->addWidget(MakePreviewPane(std::string(texts_.PreviewCaption) + Record().UniFoldName),
+                      1);
+  rows_->addLayout(MakeButtons(cmdClear));
+  bodyBoxes_.front().Box->setFocus();
+}
+
+/// A window that is fixed keeps the size that it has.
+QMenuBar* BodyEditor::MakeMenuBar() {
+  auto* bar = new QMenuBar;
+  QAction* mnuResize = bar->addMenu(tr("&Window"))->addAction(tr("Window can be Resized"));
+  mnuResize->setObjectName("mnuResize");
+  mnuResize->setCheckable(true);
+  mnuResize->setChecked(true);
+  connect(mnuResize, &QAction::toggled, this, [this](bool can) {
+    setMinimumSize(can ? QSize(0, 0) : size());
+    setMaximumSize(can ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : size());
+  });
+  return bar;
+}
+
+QWidget* BodyEditor::MakePreviewPane(std::string_view caption) {
+  auto* fraPreview = new QGroupBox(Escaped(caption));
+  fraPreview->setObjectName("fraPreview");
+  picPreview_ = new PictureBox;
+  picPreview_->setObjectName("picPreview");
+  picPreview_->setAccessibleName(tr("Preview"));
+  picPreview_->setMinimumSize(kLeastPreview);
+  picPreview_->installEventFilter(this);
+  cmdPreview_ = MakeButton(tr(texts_.Preview), "cmdPreview");
+  auto* column = new QVBoxLayout(fraPreview);
+  column->addWidget(picPreview_, 1);
+  column->addWidget(cmdPreview_, 0, Qt::AlignHCenter);
+  connect(cmdPreview_, &QPushButton::clicked, this, &BodyEditor::TogglePreview);
+  return fraPreview;
+}
+
+QLayout* BodyEditor::MakeButtons(QPushButton* cmdClear) {
+  cmdOK_ = MakeButton(tr("OK"), "cmdOK");
+  cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
+  cmdOK_->setDefault(true);
+  auto* buttons = new QHBoxLayout;
+  if (cmdClear) buttons->addWidget(cmdClear);
+  buttons->addStretch();
+  buttons->addWidget(cmdOK_);
+  buttons->addWidget(cmdDismiss_);
+  buttons->addWidget(MakeHelpButton());
+  connect(cmdOK_, &QPushButton::clicked, this, &BodyEditor::Accept);
+  connect(cmdDismiss_, &QPushButton::clicked, this, &BodyEditor::reject);
+  return buttons;
+}
+
+void BodyEditor::AddBodyBox(QGridLayout& page, const char* array, int index, const BodyBox& row) {
+  auto* box = new NumberBox;
+  box->SetNames(array, index);
+  box->SetRange(row.Range);
+  box->setAccessibleName(tr(row.Label));
+  AddLine(page, tr(row.Label), box, {box});
+  connect(box, &NumberBox::Changed, this, &BodyEditor::Touched);
+  bodyBoxes_.push_back({box, FindField(ProfileFields(), row.Setting)});
+  propsBoxes_.push_back(row.PropsBox);
+}
+
+void BodyEditor::ShowBodyBoxes(const StarfoldProfile& body) {
+  for (const auto& box : bodyBoxes_) box.Show(body);
+}
+
+void BodyEditor::StoreBodyBoxes(StarfoldProfile& body) const {
+  for (const auto& box : bodyBoxes_) box.Store(body);
+}
+
+void BodyEditor::reject() {
+  if (!preview_.DelaysClose()) PlacedDialog::reject();
+}
+
+QSize BodyEditor::sizeHint() const { return PlacedDialog::sizeHint() + kMorePreview; }
+
+/// Escape ends a preview; without one it cancels.
+void BodyEditor::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && preview_.IsOn()) return preview_.Stop();
+  PlacedDialog::keyPressEvent(event);
+}
+
+/// The picture follows the window: a run measures its surface once, so another one begins.
+bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Resize) {
+    resized_ = true;
+    if (preview_.IsOn()) {
+      model_.Process.NewRun = true;
+    } else {
+      Touched();
+    }
+  }
+  return PlacedDialog::eventFilter(object, event);
+}
+
+/// What is wrong is told, and what was right is in the record all the same.
+bool BodyEditor::GatherIntoRecord() {
+  const std::string wrong = Gather(Record());
+  if (!wrong.empty()) model_.Inform(wrong);
+  return wrong.empty();
+}
+
+/// The records are put back when a run ends, so the run ends first.
+void BodyEditor::Accept() {
+  acceptsAfterRun_ = preview_.IsOn();
+  if (acceptsAfterRun_) return preview_.Stop();
+  if (!GatherIntoRecord()) return;
+  for (std::size_t i = 0; i < bodyBoxes_.size(); ++i) {
+    if (propsBoxes_[i] != kNoPropsBox) props_.SetStarfoldBox(propsBoxes_[i], bodyBoxes_[i].Text());
+  }
+  accept();
+}
+
+/// The run lives inside the click that has started it; the click that stops it comes through the
+/// run's pump.
+void BodyEditor::TogglePreview() {
+  if (preview_.IsOn()) return preview_.Stop();
+  StoreBodyBoxes(Record());
+  if (!GatherIntoRecord()) return;
+  cmdPreview_->setText(tr("Stop"));
+  cmdPreview_->setDefault(true);
+  cmdDismiss_->setEnabled(false);
+  const PreviewEnd end = preview_.Start([this] { RunPreview(); });
+  cmdPreview_->setText(tr(texts_.Preview));
+  cmdOK_->setDefault(true);
+  cmdDismiss_->setEnabled(true);
+  if (end == PreviewEnd::Close) return reject();
+  if (acceptsAfterRun_) Accept();
+}
+
+void BodyEditor::RunPreview() {
+  ProcessState& process = model_.Process;
+  const UniverseSettings universe = props_.UniverseOnDialog();
+  do {
+    resized_ = false;
+    process.Universe = universe;  // some of it counts for a single body, too
+    PreviewEditedBody(process, picPreview_->BeginRun(), PreviewIn(universe, editBody_, false),
+                      seed_());
+  } while (resized_ && !process.StopRun);
+}
+
+/// The body as it stands in the editor, until a preview does it better.
+void BodyEditor::ShowStill() {
+  if (preview_.IsOn()) return Touched();
+  StarfoldProfile body = Record();
+  StoreBodyBoxes(body);
+  const bool isBody = Gather(body).empty();
+  const SampleSize size{picPreview_->size(), devicePixelRatioF()};
+  picPreview_->ShowPicture(isBody ? BodySample(body, size) : QImage());
+}
+
+}  // namespace starfolds

@@ -1,0 +1,73 @@
+#include "body_editors/frm_levels.h"
+
+#include <QGroupBox>
+#include <iterator>
+
+#include "widgets/lines.h"
+#include "settings/registry.h"
+
+namespace starfolds {
+namespace {
+
+struct ToggleRow {
+  const char* Label;
+  Integer StarfoldProfile::*Member;
+};
+constexpr ToggleRow kToggles[] = {
+    {"Scale Height to Radius?", &StarfoldProfile::Starfold_StdLevB_HS},
+    {"Interleave Tilt Angles?", &StarfoldProfile::Starfold_StdLevB_A0},
+    {"Dampen Tilt Angles?", &StarfoldProfile::Starfold_StdLevB_A1}};
+
+}  // namespace
+
+FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
+    : BodyEditor({"frmLevels", sections::kLevelsPlace, help::kLevels,
+                  "Starfold Levels:  ", "Levels Preview - ", "Preview"},
+                 editing, parent) {
+  const BodyBox bodyRows[] = {
+      {"Starfold_Radius", "Radius:", {NumberKind::AsLong, 1, 30000}, 0},
+      {"Starfold_Distance", "Distance:", {NumberKind::AsLong, 1, 30000}, 2}};
+  const BodyBox levelRows[] = {
+      {"Starfold_StdLevels", "Levels (1 - 10):", {NumberKind::AsInteger, 1, kMaxLevels}, 9},
+      {"Starfold_StdLevDRad",
+       "Radius Increment (1 - 30000):",
+       {NumberKind::AsLong, 1, 30000},
+       kNoPropsBox},
+      {"Starfold_StdLevHSca",
+       "Height Multiplier (0.0 - 99.9):",
+       {NumberKind::AsSingle, 0, 99.9},
+       kNoPropsBox}};
+
+  auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
+  QGridLayout* page = MakePage(body);
+  for (int i = 0; i < static_cast<int>(std::size(bodyRows)); ++i) {
+    AddBodyBox(*page, "Starfold", i, bodyRows[i]);
+  }
+  Controls().addWidget(body);
+
+  auto* levels = new QGroupBox(tr("Level Properties:"));
+  page = MakePage(levels);
+  for (int i = 0; i < static_cast<int>(std::size(levelRows)); ++i) {
+    AddBodyBox(*page, "Level", i, levelRows[i]);
+  }
+  for (const auto& [label, member] : kToggles) {
+    auto* box = new QCheckBox(tr(label));
+    box->setObjectName("chkToggle_" + QString::number(chkToggle_.size()));
+    box->setChecked(Record().*member != 0);
+    connect(box, &QCheckBox::toggled, this, &FrmLevels::Touched);
+    AddWideLine(*page, box);
+    chkToggle_.push_back({box, member});
+  }
+  Controls().addWidget(levels);
+  Controls().addStretch();
+  AddPreviewAndButtons();
+  ShowBodyBoxes(Record());
+}
+
+std::string FrmLevels::Gather(StarfoldProfile& body) const {
+  StoreBodyBoxes(body);
+  for (const auto& [box, member] : chkToggle_) body.*member = box->isChecked() ? 1 : 0;
+  return {};
+}
+
+}  // namespace starfolds

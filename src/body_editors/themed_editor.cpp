@@ -1,0 +1,91 @@
+#include "body_editors/themed_editor.h"
+
+#include <QGroupBox>
+#include <iterator>
+
+#include "widgets/lines.h"
+#include "settings/factory.h"
+
+namespace starfolds {
+
+ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
+                           std::span<const BodyTheme> themes, QWidget* parent)
+    : BodyEditor(texts, editing, parent), themes_(themes) {
+  cboTheme_ = new QComboBox;
+  cboTheme_->setObjectName("cboTheme");
+  cboTheme_->addItem(tr("Select a Theme"));
+  for (const BodyTheme& theme : themes) cboTheme_->addItem(Shown(theme.Name));
+  lblTheme_ = new QLabel;
+  lblTheme_->setObjectName("lblTheme");
+  lblTheme_->setTextFormat(Qt::PlainText);
+  auto* label = new QLabel(tr("&Theme:"));
+  label->setBuddy(cboTheme_);
+  auto* line = new QHBoxLayout;
+  line->addWidget(label);
+  line->addWidget(cboTheme_);
+  line->addWidget(lblTheme_, 1);
+  Head().addLayout(line);
+
+  // Who chooses a theme once more wants it as it was.
+  connect(cboTheme_, &QComboBox::currentIndexChanged, this, &ThemedEditor::ChooseTheme);
+  connect(cboTheme_, &QComboBox::activated, this, &ThemedEditor::ChooseTheme);
+}
+
+QLayout* ThemedEditor::MakeBodyAndCenter() {
+  const NumberRange bodyRange{NumberKind::AsLong, 0, 30000};
+  const BodyBox bodyRows[] = {{"Starfold_Radius", "Radius:", bodyRange, 0},
+                              {"Starfold_Rotation", "Rotation:", bodyRange, 1},
+                              {"Starfold_Distance", "Distance:", bodyRange, 2}};
+  auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
+  QGridLayout* page = MakePage(body);
+  for (int i = 0; i < static_cast<int>(std::size(bodyRows)); ++i) {
+    AddBodyBox(*page, "Starfold", i, bodyRows[i]);
+  }
+
+  auto* center = new QGroupBox(tr("Center (0 - 9999)"));
+  page = MakePage(center);
+  for (std::size_t i = 0; i < txtCenter_.size(); ++i) {
+    const QString label = tr("Center %1:").arg(QChar('X' + static_cast<int>(i)));
+    auto* box = new NumberBox;
+    box->SetNames("Center", static_cast<int>(i));
+    box->SetRange({NumberKind::AsInteger, 0, 9999});
+    box->SetBlankAllowed();
+    box->setAccessibleName(label);
+    AddLine(*page, label, box, {box});
+    connect(box, &NumberBox::Changed, this, &ThemedEditor::Touched);
+    txtCenter_[i] = box;
+  }
+
+  auto* line = new QHBoxLayout;
+  line->addWidget(body);
+  line->addWidget(center);
+  return line;
+}
+
+QPushButton* ThemedEditor::MakeClearButton() {
+  auto* cmdClear = new QPushButton(tr("C&lear"));
+  cmdClear->setObjectName("cmdClear");
+  connect(cmdClear, &QPushButton::clicked, this, [this] { Clear(); });
+  return cmdClear;
+}
+
+std::string ThemedEditor::ThemeText(int index) const {
+  const bool isTheme = index > 0 && index <= static_cast<int>(themes_.size());
+  return isTheme ? TextOf(themes_[static_cast<std::size_t>(index - 1)]) : std::string();
+}
+
+void ThemedEditor::ChooseTheme(int index) {
+  if (index > 0) LoadThemeText(ThemeText(index));
+}
+
+void ThemedEditor::LoadThemeHead(const std::string& text, int centerAt, int bodyAt) {
+  lblTheme_->setText(Shown(GetField(text, kThemeDescription)));
+  for (NumberBox* box : txtCenter_) box->SetText(std::string(GetField(text, centerAt++)));
+  for (const auto& bound : BodyBoxes()) bound.Box->SetText(std::string(GetField(text, bodyAt++)));
+}
+
+void ThemedEditor::Clear() {
+  for (NumberBox* box : txtCenter_) box->SetText({});
+}
+
+}  // namespace starfolds

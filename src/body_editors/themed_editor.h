@@ -1,0 +1,54 @@
+// What the editors have in common that build a body of points: a list of themes to start from, and
+// a centre.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <array>
+#include <vector>
+
+#include "body_editors/body_editor.h"
+#include "body_editors/body_themes.h"
+
+namespace starfolds {
+
+class ThemedEditor : public BodyEditor {
+  Q_OBJECT
+
+ protected:
+  ThemedEditor(const Texts& texts, const BodyEditing& editing, std::span<const BodyTheme> themes,
+               QWidget* parent);
+
+  /// The frames of the body's own numbers and of the centre, side by side.
+  QLayout* MakeBodyAndCenter();
+  /// What the boxes of the centre edit.
+  template <class Record>
+  std::vector<BoundBox<Record>> BindCenter(std::span<const Field<Record>> fields) const {
+    std::vector<BoundBox<Record>> bound;
+    for (std::size_t i = 0; i < txtCenter_.size(); ++i)
+      bound.push_back({txtCenter_[i], &fields[i]});
+    return bound;
+  }
+
+  /// The theme at a position of `cboTheme`, as text; none at the first.
+  std::string ThemeText(int index) const;
+  virtual std::string TextOf(const BodyTheme& theme) const = 0;
+  /// Fills the controls from the text of a theme.
+  virtual void LoadThemeText(const std::string& text) = 0;
+  /// The part of it that all themes have.
+  void LoadThemeHead(const std::string& text, int centerAt, int bodyAt);
+
+  QPushButton* MakeClearButton();
+  /// `cmdClear`. The base empties the boxes of the centre.
+  virtual void Clear();
+
+ private:
+  void ChooseTheme(int index);
+
+  std::span<const BodyTheme> themes_;
+  QComboBox* cboTheme_ = nullptr;
+  QLabel* lblTheme_ = nullptr;
+  std::array<NumberBox*, 3> txtCenter_{};
+};
+
+}  // namespace starfolds

@@ -1,0 +1,12 @@
+// What a run derives from its records before the first frame.
+#pragma once
+
+#include "process/process_state.h"
+
+namespace starfolds {
+
+/// Derives the prepared values and the colour tables from the records of `saver`, which must be
+/// within their ranges. A random variation of the bodies is drawn here, so each call makes another.
+void PrepareRun(ProcessState& process);
+
+}  // namespace starfolds

@@ -1,0 +1,317 @@
+#include "properties/frm_advanced.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "colour/tables.h"
+#include "widgets/lines.h"
+#include "widgets/number_box.h"
+#include "widgets/dialog_model.h"
+#include "widgets/picture_box.h"
+#include "settings/registry.h"
+
+namespace starfolds {
+namespace {
+
+constexpr QSize kHueSize{40, 20};
+constexpr QSize kMessageSize{460, 84};
+constexpr int kMessageMargin = 6;
+
+constexpr std::string_view kFont = "Adv_FontName";
+constexpr std::string_view kMessage = "LockMessage";
+constexpr std::string_view kDrift = "Adv_FontDrift";
+
+/// A setting and its control, in the order in which they are read and stored.
+struct Row {
+  std::string_view Setting;
+  const char* Control;
+  int Index;      // of `txtAdv`; less than 0: a control of its own
+  char Mnemonic;  // in the setting's label
+};
+constexpr int kAlone = -1;
+constexpr Row kRows[] = {
+    {kFont, "cboFont", kAlone, 'n'},
+    {kMessage, "txtMessage", kAlone, 'T'},
+    {"Adv_TimeDelay", "Adv", 0, 'd'},
+    {"FocalLength", "Adv", 1, 'c'},
+    {"Adv_FontSize", "Adv", 2, 'S'},
+    {"Adv_FontHueV", "Adv", 3, 'u'},
+    {"Adv_Randomize", "chkRandom", kAlone, 'R'},
+    {"Adv_RandomMag", "Adv", 9, 'M'},
+    {"Adv_RandomExp", "Adv", 10, 'B'},
+    {"Adv_WinResize", "chkResize", kAlone, 'W'},
+    {"Adv_MouseMove", "chkMouseM", kAlone, 'I'},
+    {"Adv_DispBackG", "chkBackGr", kAlone, 'k'},
+    {kDrift, "chkDrift", kAlone, 'L'},
+};
+
+using AdvancedField = Field<AdvancedSettings>;
+
+const AdvancedField& FieldOf(std::string_view setting) {
+  return *FindField(AdvancedFields(), setting);
+}
+
+bool IsCheck(const AdvancedField& field) {
+  return std::holds_alternative<bool AdvancedSettings::*>(field.Where);
+}
+
+QString LabelOf(std::string_view setting) {
+  const auto row = std::find_if(std::begin(kRows), std::end(kRows),
+                                [&](const Row& each) { return each.Setting == setting; });
+  QString label = Escaped(FieldOf(setting).Label);
+  return label.insert(label.indexOf(QLatin1Char(row->Mnemonic)), '&');
+}
+
+NumberRange RangeOf(const AdvancedField& field) {
+  const bool single = std::holds_alternative<Single AdvancedSettings::*>(field.Where);
+  return {single ? NumberKind::AsSingle : NumberKind::AsInteger, field.Low, field.High};
+}
+
+/// The default font is there under its name on every system: where it is missing, the window system
+/// has another one in its place.
+QComboBox* MakeFontList() {
+  QStringList names;
+  for (const QString& name : QFontDatabase::families()) {
+    if (!QFontDatabase::isPrivateFamily(name)) names.append(name);
+  }
+  const QString standard = Shown(AdvancedSettings().Adv_FontName);
+  if (!names.contains(standard)) names.append(standard);
+  names.sort(Qt::CaseInsensitive);
+  auto* list = new QComboBox;
+  LetShrink(list);
+  list->setMaximumWidth(QWIDGETSIZE_MAX);
+  list->addItems(names);
+  return list;
+}
+
+/// Holds the text to what can be read back from the tree.
+void HoldToStorable(QLineEdit* box, const QString& text) {
+  const std::string typed = text.toStdString();
+  const std::string_view kept = HeldToLongestValue(typed);
+  if (kept.size() == typed.size()) return;
+  QApplication::beep();
+  box->setText(Shown(kept));
+}
+
+std::string TextOf(const QWidget* control) {
+  if (const auto* number = qobject_cast<const NumberBox*>(control)) return number->Text();
+  if (const auto* check = qobject_cast<const QCheckBox*>(control)) {
+    return check->isChecked() ? "1" : "0";
+  }
+  if (const auto* list = qobject_cast<const QComboBox*>(control)) {
+    return list->currentText().toStdString();
+  }
+  return qobject_cast<const QLineEdit*>(control)->text().toStdString();
+}
+
+void SetText(QWidget* control, const std::string& text) {
+  if (auto* number = qobject_cast<NumberBox*>(control)) {
+    number->SetText(text);
+  } else if (auto* check = qobject_cast<QCheckBox*>(control)) {
+    check->setChecked(text != "0");
+  } else if (auto* list = qobject_cast<QComboBox*>(control)) {
+    list->setCurrentIndex(std::max(list->findText(Shown(text)), 0));
+  } else {
+    qobject_cast<QLineEdit*>(control)->setText(Shown(text));
+  }
+}
+
+QColor InkOf(int hue) {
+  return QColor::fromRgb(ToRgb(HueToRgb(static_cast<Integer>(hue), 55, 100, 100, 100)));
+}
+
+/// The line in its font and colour, drawn smaller where there is no room for it.
+QImage MessageSample(const AdvancedSettings& advanced, qreal ratio) {
+  QImage sample(kMessageSize * ratio, QImage::Format_RGB32);
+  sample.setDevicePixelRatio(ratio);
+  sample.fill(Qt::black);
+  QFont font(Shown(advanced.Adv_FontName));
+  font.setPointSize(advanced.Adv_FontSize);
+  const QString text = Shown(advanced.LockMessage);
+  const QFontMetricsF metrics(font);
+  const QSizeF room = kMessageSize - QSize(kMessageMargin, kMessageMargin) * 2;
+  const QSizeF taken(std::max(metrics.horizontalAdvance(text), 1.0), metrics.height());
+  const qreal scale = std::min({1.0, room.width() / taken.width(), room.height() / taken.height()});
+  QPainter painter(&sample);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  painter.setFont(font);
+  painter.setPen(InkOf(advanced.Adv_FontHueV));
+  painter.translate(kMessageSize.width() / 2.0, kMessageSize.height() / 2.0);
+  painter.scale(scale, scale);
+  painter.drawText(QPointF(-taken.width() / 2, metrics.ascent() - taken.height() / 2), text);
+  return sample;
+}
+
+QImage HueSample(int hue, qreal ratio) {
+  QImage sample(kHueSize * ratio, QImage::Format_RGB32);
+  sample.setDevicePixelRatio(ratio);
+  sample.fill(InkOf(hue));
+  return sample;
+}
+
+}  // namespace
+
+FrmAdvanced::FrmAdvanced(KeyValueTree& tree, Help& helpBook, QWidget* parent)
+    : PlacedDialog({tree, sections::kAdvancedPlace, helpBook, help::kAdvanced}, parent),
+      tree_(tree) {
+  setObjectName("frmAdvanced");
+  setWindowTitle(tr("Advanced Settings"));
+  MakeControls();
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(MakeOperationFrame());
+  column->addWidget(MakeMessageFrame());
+  column->addWidget(MakeEnhancementFrame());
+  column->addStretch(1);
+  column->addLayout(MakeButtons());
+  LoadAdvancedToDialog();
+  ShowSamples();
+}
+
+void FrmAdvanced::MakeControls() {
+  for (const Row& row : kRows) {
+    QWidget* control = nullptr;
+    const AdvancedField& field = FieldOf(row.Setting);
+    if (row.Index != kAlone) {
+      auto* box = new NumberBox;
+      box->SetNames(row.Control, row.Index);
+      box->SetRange(RangeOf(field));
+      connect(box, &NumberBox::Changed, this, &FrmAdvanced::ShowSamples);
+      control = box;
+    } else if (IsCheck(field)) {
+      control = new QCheckBox(LabelOf(row.Setting));
+    } else if (row.Setting == kFont) {
+      auto* list = MakeFontList();
+      connect(list, &QComboBox::currentIndexChanged, this, &FrmAdvanced::ShowSamples);
+      control = list;
+    } else {
+      auto* box = new QLineEdit;
+      box->setPlaceholderText(tr("None"));
+      connect(box, &QLineEdit::textChanged, this, [this, box](const QString& text) {
+        HoldToStorable(box, text);
+        ShowSamples();
+      });
+      control = box;
+    }
+    if (row.Index == kAlone) control->setObjectName(row.Control);
+    controls_[row.Setting] = control;
+  }
+}
+
+QGroupBox* FrmAdvanced::MakeOperationFrame() {
+  auto* frame = new QGroupBox(tr("Operation Properties"));
+  auto* page = MakePage(frame);
+  for (const char* setting :
+       {"Adv_TimeDelay", "FocalLength", "Adv_WinResize", "Adv_MouseMove", "Adv_DispBackG"}) {
+    AddSetting(*page, setting);
+  }
+  return frame;
+}
+
+QGroupBox* FrmAdvanced::MakeMessageFrame() {
+  auto* frame = new QGroupBox(tr("On Screen Message"));
+  auto* page = MakePage(frame);
+  picHueStart_ = MakeSamplePlace("picHueStart", tr("Colour of the message"), kHueSize);
+  picMessage_ = MakeSamplePlace("picMessage", tr("The message as it will look"), kMessageSize);
+  AddSetting(*page, kMessage);
+  AddSetting(*page, kFont);
+  AddSetting(*page, "Adv_FontSize");
+  AddSetting(*page, "Adv_FontHueV", {picHueStart_});
+  AddSetting(*page, kDrift);
+  AddWideLine(*page, picMessage_);
+  page->setAlignment(picMessage_, Qt::AlignHCenter);
+  return frame;
+}
+
+QGroupBox* FrmAdvanced::MakeEnhancementFrame() {
+  auto* frame = new QGroupBox(tr("Display Enhancement"));
+  auto* page = MakePage(frame);
+  for (const char* setting : {"Adv_Randomize", "Adv_RandomMag", "Adv_RandomExp"}) {
+    AddSetting(*page, setting);
+  }
+  return frame;
+}
+
+QLayout* FrmAdvanced::MakeButtons() {
+  QPushButton* defaults = MakeButton(tr("De&faults"), "cmdDefaults");
+  defaults->setToolTip(tr("Shows the settings that the program came with; the text stays"));
+  QPushButton* ok = MakeButton(tr("OK"), "cmdOK");
+  ok->setDefault(true);
+  QPushButton* cancel = MakeButton(tr("Cancel"), "cmdDismiss");
+  auto* line = new QHBoxLayout;
+  line->addWidget(defaults);
+  line->addStretch();
+  for (QPushButton* button : {ok, cancel, MakeHelpButton()}) line->addWidget(button);
+  connect(defaults, &QPushButton::clicked, this, &FrmAdvanced::ShowDefaults);
+  connect(cancel, &QPushButton::clicked, this, &FrmAdvanced::reject);
+  connect(ok, &QPushButton::clicked, this, [this] {
+    SaveAdvancedFromDialog();
+    accept();
+  });
+  return line;
+}
+
+/// The line of a setting: its check box, or its label and its box.
+void FrmAdvanced::AddSetting(QGridLayout& page, std::string_view setting,
+                             const std::vector<QWidget*>& alsoInLine) {
+  QWidget* control = controls_.at(setting);
+  if (IsCheck(FieldOf(setting))) return AddWideLine(page, control);
+  std::vector<QWidget*> widgets{control};
+  widgets.insert(widgets.end(), alsoInLine.begin(), alsoInLine.end());
+  AddLine(page, LabelOf(setting), control, widgets);
+}
+
+void FrmAdvanced::LoadAdvancedToDialog() {
+  TreeBulk look = TreeBulk::Look(tree_);
+  for (const Row& row : kRows) {
+    const AdvancedField& field = FieldOf(row.Setting);
+    const std::string text =
+        IsCheck(field)
+            ? std::to_string(RegistryReadInteger(tree_, sections::kAdvanced, row.Setting, 0))
+            : RegistryReadText(tree_, sections::kAdvanced, row.Setting, DefaultText(field));
+    SetText(controls_.at(row.Setting), text);
+  }
+  look.Commit();
+}
+
+/// What cannot be stored stays as it was, and nothing is said of it.
+void FrmAdvanced::SaveAdvancedFromDialog() {
+  // The default button's key leaves no box.
+  if (auto* number = qobject_cast<NumberBox*>(focusWidget())) number->ClampTextField();
+  TreeBulk change = TreeBulk::Change(tree_);
+  for (const Row& row : kRows) {
+    const std::string text = TextOf(controls_.at(row.Setting));
+    RegistryWrite(tree_, sections::kAdvanced, row.Setting, StorableText(text));
+  }
+  change.Commit();
+}
+
+void FrmAdvanced::ShowDefaults() {
+  for (const Row& row : kRows) {
+    if (row.Setting == kMessage) continue;
+    SetText(controls_.at(row.Setting), DefaultText(FieldOf(row.Setting)));
+  }
+}
+
+AdvancedSettings FrmAdvanced::Settings() const {
+  AdvancedSettings advanced;
+  for (const Row& row : kRows) {
+    SetFieldText(advanced, FieldOf(row.Setting), TextOf(controls_.at(row.Setting)));
+  }
+  ClampAdvanced(advanced);
+  return advanced;
+}
+
+void FrmAdvanced::ShowSamples() {
+  if (!picMessage_) return;  // the controls are still being made
+  const AdvancedSettings advanced = Settings();
+  ShowSample(picHueStart_, HueSample(advanced.Adv_FontHueV, devicePixelRatioF()));
+  ShowSample(picMessage_, MessageSample(advanced, devicePixelRatioF()));
+}
+
+}  // namespace starfolds

@@ -1,0 +1,440 @@
+#include "properties/frm_props.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "body_editors/frm_levels.h"
+#include "body_editors/frm_molecule.h"
+#include "body_editors/frm_user_def_ifs.h"
+#include "properties/frm_advanced.h"
+#include "properties/frm_welcome.h"
+#include "settings/registry.h"
+#include "widgets/captions.h"
+#include "widgets/lines.h"
+#include "widgets/placed_qt_window.h"
+#include "widgets/samples.h"
+#include "widgets/web_page.h"
+#include "widgets/wheel_guard.h"
+
+namespace starfolds {
+namespace {
+
+constexpr QSize kLeastPreview{300, 225};
+constexpr int kStillPauseMs = 150;
+constexpr double kMostOfScreen = 0.94;  // of a first placement; the rest is for frames and panels
+
+// Entries of `mnuResetProps`; a line stands between them.
+constexpr int kReset20 = 0;
+constexpr int kReset4x = 2;
+
+const char kAcceptSettings[] = "&Accept Settings";
+const char kReturnToUniverse[] = "&Return to Universe Settings";
+const char kStarfoldProperties[] = "Starfold Properties";
+
+}  // namespace
+
+FrmProps::FrmProps(const PropsSurroundings& surroundings)
+    : around_(surroundings),
+      editing_(std::make_unique<ProcessState>()),
+      events_(std::make_unique<WatchfulPump>(surroundings.Process, *editing_)),
+      model_{*editing_, surroundings.Boxes, surroundings.HelpBook},
+      template_(surroundings.Disk),
+      settings_{surroundings.Tree,          editing_->Profiles,
+                editing_->Composites,       template_,
+                surroundings.Disk,          surroundings.Boxes,
+                surroundings.ProgramFolder, surroundings.UserFolder},
+      templates_(MakeTemplateHost()) {
+  const ProcessState& process = around_.Process;
+  editing_->Tree = &around_.Tree;
+  editing_->Events = events_.get();
+  editing_->Desktop = process.Desktop;
+  editing_->Mode = RunMode::ScreenSaver;
+  // A preview of a universe keeps the pace of the run beside the dialog, or has none.
+  editing_->Screen.FrameDelayMs = process.Screen.FrameDelayMs;
+
+  setObjectName("frmProps");
+  setWindowTitle(kPropertiesCaption);
+  // The application's window waits behind it, the help does not.
+  setWindowModality(Qt::WindowModal);
+  MakeCentre();
+  MakeMenus();
+  auto* helpHere = new QShortcut(QKeySequence::HelpContents, this);
+  helpHere->setObjectName("helpHere");
+  connect(helpHere, &QShortcut::activated, this,
+          [this] { around_.HelpBook.ShowTopic(TopicHere()); });
+}
+
+FrmProps::~FrmProps() = default;
+
+void FrmProps::ShowModal() {
+  Open();
+  while (open_ && !around_.Process.QuitApp) {
+    constexpr Long aWhile = 1000;
+    around_.Process.Events->WaitForEvents(aWhile);
+  }
+  hide();
+}
+
+void FrmProps::Open() {
+  open_ = true;
+  resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
+  winId();  // a window that can have an owner before it is shown
+  windowHandle()->setTransientParent(around_.Owner);
+  // Read before anything is asked: a safety copy takes what stands in the dialog.
+  const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
+  ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
+  OpenProperties(settings_, *this, stored);
+}
+
+/// A preview that is on ends first: its run stands on the stack above the dialog.
+void FrmProps::closeEvent(QCloseEvent* event) {
+  if (preview_.DelaysClose()) return event->ignore();
+  SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
+  around_.Process.NewRun = true;
+  open_ = false;
+  around_.HelpBook.Quit();
+  event->accept();
+}
+
+/// Escape leads back one step. It does not cancel: a slip of a finger shall not lose an evening's
+/// universe.
+void FrmProps::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
+  if (preview_.IsOn()) return preview_.Stop();
+  if (inStarfoldView_) OpenStarfoldView(false);
+}
+
+std::string FrmProps::UniverseText(const Field<UniverseSettings>& field) const {
+  return universe_->Text(field);
+}
+
+void FrmProps::SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) {
+  universe_->SetText(field, text);
+}
+
+void FrmProps::ClearProfileList() { universe_->Bodies().clear(); }
+
+void FrmProps::AddProfileEntry(std::string_view name, Integer percent) {
+  universe_->AddProfileEntry(name, percent);
+}
+
+/// The last step of a list that is filled anew.
+void FrmProps::SelectProfileEntry(int position) {
+  universe_->Bodies().setCurrentRow(position);
+  universe_->Composites().Rebuild();
+  universe_->BodiesChanged();
+}
+
+void FrmProps::RebuildProfileList() { universe_->RebuildProfileList(); }
+
+void FrmProps::RebuildCompositeLists() {
+  universe_->Composites().Rebuild();
+  universe_->BodiesChanged();
+}
+
+void FrmProps::SelectUniverseTheme(int position) { universe_->SelectTheme(position); }
+
+void FrmProps::SelectUniverseExtras(int position) { universe_->SelectPage(position); }
+
+void FrmProps::MarkResetMenu(int menuIndex, bool marked) {
+  resetMenu_.at(menuIndex)->setChecked(marked);
+}
+
+ProgressPicture* FrmProps::Preview() { return picPreview_; }
+
+bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
+  return RunWelcome(
+      this, page, [this](ProgressPicture* picture) { SaveSafetyCopy(settings_, *this, picture); },
+      around_.HelpBook);
+}
+
+/// Brings into the records and boxes what is still being edited.
+void FrmProps::Settle() {
+  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+  universe_->ClampTextFields();
+}
+
+/// A page that is open shows the profile as it is then; it would else be stored over it later.
+void FrmProps::Reset(int menuIndex) {
+  Settle();
+  ResetFromMenu(settings_, *this, menuIndex);
+  if (inStarfoldView_) OpenStarfoldView(true);
+}
+
+/// A page that is open shows the loaded profile before it is put away, so that it stores the same.
+TemplateHost FrmProps::MakeTemplateHost() {
+  const auto loaded = [this] {
+    if (inStarfoldView_) {
+      starfold_->LoadProfileToPage(currentProfile_);
+      OpenStarfoldView(false);
+    }
+    universe_->SelectTheme(0);  // whatever theme was chosen before, it is not what stands there now
+  };
+  return {*this,
+          settings_,
+          *this,
+          around_.HelpBook,
+          [this] { Settle(); },
+          loaded,
+          [this] { ShowStill(); }};
+}
+
+void FrmProps::MakeMenus() {
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  templates_.AddTo(*file);
+  file->addSeparator();
+  file->addAction(tr("E&xit"), this, &FrmProps::Exit)->setObjectName("mnuExit");
+
+  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  QMenu* reset = edit->addMenu(tr("&Reset Properties"));
+  const auto addReset = [&](int index, const QString& text) {
+    QAction* entry = reset->addAction(text, this, [this, index] { Reset(index); });
+    entry->setObjectName("mnuResetProps_" + QString::number(index));
+    entry->setCheckable(true);
+    resetMenu_[index] = entry;
+  };
+  addReset(kReset20, "Starfolds 2.0");
+  reset->addSeparator();
+  addReset(kReset4x, "Starfolds 4.x");
+  edit->addAction(tr("&Advanced Settings..."), this,
+                  [this] { FrmAdvanced(*editing_->Tree, around_.HelpBook, this).RunModal(); })
+      ->setObjectName("mnuAdvanced");
+
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  const auto addHelp = [&](const QString& text, const char* name,
+                           const std::function<void()>& act) {
+    help->addAction(text, this, act)->setObjectName(name);
+  };
+  addHelp(tr("&Contents..."), "mnuContents", [this] { around_.HelpBook.ShowContents(); });
+  addHelp(tr("&Search..."), "mnuSearch", [this] { around_.HelpBook.ShowSearch(); });
+  addHelp(tr("&Diagnostics..."), "mnuDiagnostics", [this] { around_.ShowDiagnostics(*this); });
+  help->addSeparator();
+  addHelp(tr("Starfolds &Home Page"), "mnuHomePage", [this] { ShowHomePage(); });
+  addHelp(tr("A&bout Starfolds..."), "mnuAbout", [this] { around_.ShowAbout(*this); });
+}
+
+/// The topic of what has the focus, or else of the page that is shown.
+Integer FrmProps::TopicHere() const {
+  const auto isIn = [this](const char* name) {
+    const auto* const part = findChild<QWidget*>(name);
+    return part->isAncestorOf(focusWidget());
+  };
+  if (inStarfoldView_) return static_cast<Integer>(help::kStarfoldPage + starfold_->ShownPage());
+  if (isIn("fraPropCopy")) return help::kPropertyCopy;
+  if (isIn("fraStarfoldTypes")) return help::kUniverseView;
+  return static_cast<Integer>(help::kUniversePage + universe_->ShownPage());
+}
+
+/// A program that was built without an address tells of its home in the help.
+void FrmProps::ShowHomePage() {
+  if (around_.HomePage.empty()) return around_.HelpBook.ShowTopic(help::kProject);
+  OpenWebPage(*around_.Process.Desktop, around_.Boxes, around_.HomePage);
+}
+
+void FrmProps::MakeCentre() {
+  auto* centre = new QWidget;
+  auto* rows = new QVBoxLayout(centre);
+  auto* columns = new QHBoxLayout;
+  universe_ = new UniverseView(model_);
+  starfold_ = new StarfoldView(model_);
+  views_ = new QStackedWidget;
+  views_->addWidget(universe_);
+  views_->addWidget(starfold_);
+  columns->addWidget(views_, 3);
+  columns->addWidget(MakePreviewPane(), 2);
+  rows->addLayout(columns, 1);
+
+  auto* buttons = new QHBoxLayout;
+  cmdAccept_ = MakeButton(tr(kAcceptSettings), "cmdAccept");
+  cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
+  buttons->addWidget(MakeOverridesNote(), 9);
+  buttons->addStretch(1);
+  buttons->addWidget(cmdAccept_);
+  buttons->addWidget(cmdDismiss_);
+  rows->addLayout(buttons);
+  setCentralWidget(centre);
+  LetWheelPass(*centre);
+  // A file that is dropped is a template wherever it lands, not a text for a box.
+  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
+
+  connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
+  connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
+  connect(universe_, &UniverseView::ThemeChosen, this, &FrmProps::ApplyTheme);
+  connect(universe_, &UniverseView::PropsAskedFor, this, [this](int index) {
+    currentProfile_ = index;
+    OpenStarfoldView(true);
+  });
+  // A picture of that size is felt in typing; it waits for a pause.
+  stillTimer_.setSingleShot(true);
+  stillTimer_.setInterval(kStillPauseMs);
+  connect(&stillTimer_, &QTimer::timeout, this, &FrmProps::ShowStill);
+  connect(starfold_, &StarfoldView::Changed, &stillTimer_, qOverload<>(&QTimer::start));
+  connect(&universe_->Bodies(), &QListWidget::itemSelectionChanged, this, &FrmProps::ShowStill);
+  connect(universe_, &UniverseView::CompositePreviewAskedFor, this,
+          &FrmProps::PreviewSelectedComposite);
+  connect(starfold_, &StarfoldView::LevelsAskedFor, this, [this] { RunEditor<FrmLevels>(); });
+  connect(starfold_, &StarfoldView::BodyEditorAskedFor, this, [this] {
+    const bool isIfs = starfold_->Page().Style() == FoldStyle::UserIfs;
+    isIfs ? RunEditor<FrmUserDefIfs>() : RunEditor<FrmMolecule>();
+  });
+}
+
+/// What stands in the dialog is not what such a run shows.
+QWidget* FrmProps::MakeOverridesNote() {
+  constexpr std::size_t most = 3;  // that are named; the others are in the tool tip
+  const std::vector<std::string>& overrides = around_.Overrides;
+  auto* note = new QLabel;
+  note->setObjectName("lblOverrides");
+  note->setTextFormat(Qt::PlainText);
+  note->setWordWrap(true);
+  note->setVisible(!overrides.empty());
+  QStringList all;
+  for (const std::string& each : overrides) all.append(Shown(each));
+  QString named = all.mid(0, most).join(", ");
+  if (overrides.size() > most) named += tr(" and %1 more").arg(overrides.size() - most);
+  note->setText(
+      tr("Overridden in this run: %1.\nWhat you accept is stored, and holds in runs without "
+         "these options.")
+          .arg(named));
+  note->setToolTip("<p>" + all.join("\n").toHtmlEscaped().replace("\n", "<br>") + "</p>");
+  return note;
+}
+
+QWidget* FrmProps::MakePreviewPane() {
+  fraAni_ = new QGroupBox(tr(kStarfoldProperties));
+  fraAni_->setObjectName("fraAni");
+  auto* column = new QVBoxLayout(fraAni_);
+  picPreview_ = new PictureBox;
+  picPreview_->setObjectName("picPreview");
+  picPreview_->setAccessibleName(tr("Preview"));
+  picPreview_->setMinimumSize(kLeastPreview);
+  column->addWidget(picPreview_, 1);
+  auto* buttons = new QHBoxLayout;
+  cmdPreviewFold_ = MakeButton(tr("Preview Starfold"), "cmdPreviewFold");
+  cmdPreviewUni_ = MakeButton(tr("Preview Universe"), "cmdPreviewUni");
+  buttons->addWidget(cmdPreviewFold_);
+  buttons->addWidget(cmdPreviewUni_);
+  column->addLayout(buttons);
+  connect(cmdPreviewFold_, &QPushButton::clicked, this, &FrmProps::PreviewSelectedBody);
+  connect(cmdPreviewUni_, &QPushButton::clicked, this, &FrmProps::PreviewUniverseOnDialog);
+  return fraAni_;
+}
+
+void FrmProps::OpenStarfoldView(bool open) {
+  if (open && currentProfile_ < 0) return model_.Inform("Please select a Starfold Profile.");
+  inStarfoldView_ = open;
+  cmdDismiss_->setVisible(!open);
+  if (open) {
+    starfold_->LoadProfileToPage(currentProfile_);
+    fraAni_->setTitle("Starfold:  " + Escaped(universe_->Bodies().EntryName(currentProfile_)));
+  } else {
+    starfold_->StorePageToProfile(currentProfile_);
+    fraAni_->setTitle(tr(kStarfoldProperties));
+    universe_->BodiesChanged();
+  }
+  cmdAccept_->setText(open ? tr(kReturnToUniverse) : tr(kAcceptSettings));
+  views_->setCurrentWidget(open ? static_cast<QWidget*>(starfold_) : universe_);
+}
+
+void FrmProps::Accept() {
+  if (inStarfoldView_) return OpenStarfoldView(false);
+  universe_->ClampTextFields();  // the button's key leaves no box
+  while (!SaveDialogToRegistry(settings_, *this)) {
+    switch (AskAfterFailedSave(settings_)) {
+      case BoxAnswer::TryAgain: continue;
+      case BoxAnswer::SaveAsTemplate: return templates_.SaveAs();
+      case BoxAnswer::CloseWithoutSaving: close(); return;
+      default: return;
+    }
+  }
+  close();
+}
+
+void FrmProps::Exit() {
+  around_.Process.QuitApp = true;
+  close();
+}
+
+void FrmProps::ApplyTheme(int position) {
+  if (position < 1) return;
+  const bool is20 = resetMenu_.at(kReset20)->isChecked();
+  universe_->ApplyThemeRowToPage(FactoryThemeRow(position, is20));
+}
+
+/// The editor works on the record, and what it leaves there comes back to the page.
+template <class Editor>
+void FrmProps::RunEditor() {
+  starfold_->StorePageToProfile(currentProfile_);
+  Editor({model_, *this, around_.Seed, currentProfile_}, this).RunModal();
+  starfold_->TakeProfile(currentProfile_);
+}
+
+/// The run lives inside the click that has started it; the click that stops it comes through the
+/// run's pump. Everything but the button is disabled meanwhile.
+void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
+  if (preview_.IsOn()) return preview_.Stop();
+  std::vector<QWidget*> disabled;
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    const bool isParent = widget->isAncestorOf(button) || widget->isWindow();
+    if (widget == button || isParent || !widget->isEnabled()) continue;
+    if (widget->focusPolicy() == Qt::NoFocus && !qobject_cast<QMenuBar*>(widget)) continue;
+    disabled.push_back(widget);
+  }
+  for (QWidget* widget : disabled) widget->setEnabled(false);
+  templates_.SetEnabled(false);
+  const QString caption = button->text();
+  button->setText(tr("Stop"));
+  button->setFocus();
+  const PreviewEnd end = preview_.Start([&] { run(picPreview_->BeginRun()); });
+  button->setText(caption);
+  for (QWidget* widget : disabled) widget->setEnabled(true);
+  templates_.SetEnabled(true);
+  if (end == PreviewEnd::Close) close();
+}
+
+/// A body that is selected, or open, shows itself as it stands in the dialog, until a preview does
+/// it better.
+void FrmProps::ShowStill() {
+  if (preview_.IsOn()) return;
+  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
+  if (body < 0) return;
+  const StarfoldProfile shown = inStarfoldView_ ? starfold_->Page() : model_.Profiles()[body];
+  picPreview_->ShowPicture(BodySample(shown, {picPreview_->size(), devicePixelRatioF()}));
+}
+
+void FrmProps::PreviewUniverseOnDialog() {
+  TogglePreview(cmdPreviewUni_, [this](Surface& surface) {
+    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+    PreviewUniverse(*editing_, surface, universe_->Settings(), around_.Seed());
+  });
+}
+
+void FrmProps::PreviewSelectedBody() {
+  if (preview_.IsOn()) return preview_.Stop();
+  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
+  if (body < 0) return model_.Inform("Please select a Starfold Type.");
+  PreviewOne(cmdPreviewFold_, body, false);
+}
+
+void FrmProps::PreviewSelectedComposite() {
+  if (preview_.IsOn()) return preview_.Stop();
+  const int body = universe_->Composites().Selected();
+  if (body < 0) return model_.Inform("Please select a Composite Starfold Type.");
+  PreviewOne(universe_->findChild<QPushButton*>("cmdPreviewComp"), body, true);
+}
+
+void FrmProps::PreviewOne(QPushButton* button, int body, bool isComposite) {
+  TogglePreview(button, [&](Surface& surface) {
+    const UniverseSettings universe = universe_->Settings();
+    editing_->Universe = universe;  // some of it counts for a single body, too
+    PreviewBody(*editing_, surface, PreviewIn(universe, body, isComposite), around_.Seed());
+  });
+}
+
+}  // namespace starfolds

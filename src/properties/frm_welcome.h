@@ -1,0 +1,50 @@
+// The dialog that greets a new user, and one who comes from an earlier version.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "widgets/picture_box.h"
+#include "platform/help.h"
+#include "settings/property_flows.h"
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace starfolds {
+
+/// Writes the safety copy of the settings, and shows in the picture how far it has come.
+using SafetyCopy = std::function<void(ProgressPicture*)>;
+
+class FrmWelcome : public QDialog {
+  Q_OBJECT
+
+ public:
+  FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, Help& helpBook,
+             QWidget* parent = nullptr);
+
+  /// Whether the user wants the factory's settings. The safety copy has been written then.
+  bool ResetRequested() const { return resetRequested_; }
+
+  void reject() override;
+
+ private:
+  void AddBanner();
+  void AddText(const WelcomePage& page);
+  void AddButtons(const WelcomePage& page);
+  void Reset();
+
+  SafetyCopy saveCopy_;
+  bool resetRequested_ = false;
+  bool saving_ = false;
+  QVBoxLayout* column_ = nullptr;  // below the banner
+  QPushButton* cmdReset_ = nullptr;
+  QPushButton* cmdDismiss_ = nullptr;
+  PictureBox* picStatus_ = nullptr;
+};
+
+/// Shows the dialog over `parent` until it is dismissed. True: a reset was asked for.
+bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy,
+                Help& helpBook);
+
+}  // namespace starfolds

@@ -1,0 +1,80 @@
+// What stands where in the properties dialog: which setting each element of a control array edits,
+// on which page, and what a style of body shows and calls it. No row is wired by hand.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "widgets/number_box.h"
+#include "settings/fields.h"
+#include "settings/styles.h"
+
+namespace starfolds {
+
+// --- The universe view ---
+
+/// The pages of `cboUniExtras`; `Always` stands in `fraUniverseProps`.
+enum class UniversePage { Creation, NewAndAmbient, Tour, Composites, Gravity, Always };
+inline constexpr int kUniversePageCount = 5;
+std::string_view UniversePageName(int page);
+
+/// An element of `txtUni`. Neighbours with one label stand in one line.
+struct UniverseRow {
+  int Index;
+  std::string_view Name;  // of the setting
+  NumberKind Kind;
+  UniversePage Page;
+};
+std::span<const UniverseRow> UniverseRows();
+NumberRange RangeOf(const UniverseRow& row);
+
+// --- The starfold view ---
+
+/// The pages of `cboFoldExtras`.
+enum class StarfoldPage { Shape, Flares, Comets };
+inline constexpr int kStarfoldPageCount = 3;
+std::string_view StarfoldPageName(int page);
+
+/// A set of styles, one bit each.
+class Styles {
+ public:
+  constexpr Styles(std::initializer_list<int> styles) {
+    for (const int style : styles) bits_ |= 1U << static_cast<unsigned>(style);
+  }
+  constexpr bool Has(int style) const { return (bits_ >> static_cast<unsigned>(style) & 1U) != 0; }
+
+ private:
+  unsigned bits_ = 0;
+};
+
+/// An element of `txtStarfold`, or of `txtPixHue`.
+struct StarfoldRow {
+  int Index;
+  std::string_view Name;        // of the setting
+  std::string_view NebulaName;  // of the setting that style 4 edits here; empty: the same
+  NumberKind Kind;
+  StarfoldPage Page;
+  int Label;                           // of `lblStarfold`; rows with one label stand in one line
+  std::optional<StyleBox> Group = {};  // shown for the styles that have this group; else for all
+};
+bool IsShown(const StarfoldRow& row, int style);
+std::span<const StarfoldRow> StarfoldRows();
+std::span<const StarfoldRow> PixHueRows();
+
+const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style);
+/// What the box is held to: the range of the setting that it edits for this style.
+NumberRange RangeOf(const StarfoldRow& row, int style);
+
+/// The caption of `lblStarfold(label)` for a style.
+std::string LabelOf(int label, int style);
+
+// --- The lists ---
+
+std::span<const std::string_view> StyleNames();        // cboFoldStyle
+std::span<const std::string_view> PlaneNames();        // cboFoldPlane
+std::span<const std::string_view> ColorRuleNames();    // cboFoldColor
+std::span<const std::string_view> ShapeNames();        // cboFoldProfile
+std::span<const std::string_view> PulsarShapeNames();  // cboPulsarShape
+
+}  // namespace starfolds

@@ -1,0 +1,108 @@
+// The starfold view of the properties dialog: one profile, open for editing.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "widgets/number_box.h"
+#include "properties/property_tables.h"
+#include "widgets/dialog_model.h"
+
+namespace starfolds {
+
+/// The page edits a copy of the profile; `StorePageToProfile` brings it back. The copy holds what
+/// the boxes of another style last showed, so that trying a style and going back loses nothing.
+class StarfoldView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit StarfoldView(const PropsModel& model, QWidget* parent = nullptr);
+
+  /// Shows profile `index`.
+  void LoadProfileToPage(int index);
+  /// Puts what the page shows into profile `index`, every number held to its range.
+  void StorePageToProfile(int index);
+
+  /// Takes what profile `index` has by now where the page has no box for it. The boxes keep what
+  /// they show: it is stored with the page.
+  void TakeProfile(int index);
+  /// Shows a number in `txtStarfold(index)`.
+  void SetBox(int index, const std::string& text);
+
+  /// What would be stored.
+  StarfoldProfile Page() const;
+
+  /// Position of `cboFoldExtras`.
+  int ShownPage() const { return cboFoldExtras_->currentIndex(); }
+
+  /// Shows, hides and names the rows as the style asks for.
+  void ApplyStyle(int style);
+  /// Applies a row of the factory's to the page: all but name and weight.
+  void ApplyFactoryRowToPage(std::string_view row);
+
+ signals:
+  /// Something on the page is another.
+  void Changed();
+  /// `cmdFoldLevels` and `cmdIFS_Chem`.
+  void LevelsAskedFor();
+  void BodyEditorAskedFor();
+
+ private:
+  /// A label and the boxes that it speaks of.
+  struct Line {
+    int Label;
+    QLabel* Text;
+    std::vector<const StarfoldRow*> Rows;
+  };
+
+  QWidget* MakePages();
+  void FillShapePage(QGridLayout& page);
+  void FillFlaresPage(QGridLayout& page);
+  void FillCometsPage(QGridLayout& page);
+  void AddRows(QGridLayout& page, StarfoldPage which);
+  void AddRowLine(QGridLayout& page, const std::vector<const StarfoldRow*>& rows,
+                  const std::vector<QWidget*>& alsoInLine);
+  NumberBox* MakeBox(const QString& array, const StarfoldRow& row);
+  void AddPixHue(QGridLayout& page);
+
+  void LoadBoxes();
+  enum class Numbers { Held, AsTyped };  // to their ranges, or not
+  void StoreBoxes(StarfoldProfile& profile, Numbers numbers) const;
+  void ChangeStyle(int style);
+  void ChooseTheme(int position);
+  void ShowSamples();
+  int Style() const { return page_.Starfold_FoldStyle; }
+
+  PropsModel model_;
+  StarfoldProfile page_;
+  bool loading_ = false;  // the controls follow the copy, not the other way round
+
+  std::map<const StarfoldRow*, NumberBox*> boxes_;  // txtStarfold and txtPixHue
+  std::vector<Line> lines_;
+  QComboBox* cboFoldTheme_ = nullptr;
+  QComboBox* cboFoldExtras_ = nullptr;
+  QComboBox* cboFoldStyle_ = nullptr;
+  QComboBox* cboFoldPlane_ = nullptr;
+  QComboBox* cboFoldColor_ = nullptr;
+  QComboBox* cboFoldProfile_ = nullptr;
+  QComboBox* cboPulsarShape_ = nullptr;
+  QCheckBox* chkCP_Closed_ = nullptr;
+  QCheckBox* chkCP_AdvHW_ = nullptr;
+  QPushButton* cmdFoldLevels_ = nullptr;
+  QPushButton* cmdIFS_Chem_ = nullptr;
+  QLabel* lblFoldProfile_ = nullptr;
+  QLabel* lblFoldColor_ = nullptr;
+  QLabel* picFoldProfile_ = nullptr;
+  QLabel* picPixHue_ = nullptr;
+  QLabel* picCometHue_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
+};
+
+}  // namespace starfolds

@@ -1,0 +1,412 @@
+#include "properties/universe_view.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "widgets/lines.h"
+#include "widgets/samples.h"
+#include "numbers/conversions.h"
+#include "numbers/text.h"
+#include "settings/factory.h"
+#include "settings/registry.h"
+
+namespace starfolds {
+namespace {
+
+constexpr NumberRange kWeightRange{NumberKind::AsInteger, 0, 9999};
+constexpr int kProfileNameLength = 30;  // characters of an entry of `cboUniProfile`
+constexpr QSize kSampleSize{160, 90};
+constexpr QSize kHueSize{188, 14};
+
+/// The three settings of a universe that are on or off, and what their boxes are called.
+struct Check {
+  std::string_view Setting;
+  const char* Name;
+};
+constexpr Check kChecks[] = {{"Universe_Tour", "chkUniTour"},
+                             {"Universe_GVisit", "chkVisitSeq"},
+                             {"Universe_RotCam", "chkRotCamera"}};
+
+constexpr std::string_view kProfileSetting = "Universe_Profile";
+constexpr std::string_view kHueSetting = "Universe_HW_Start";
+constexpr std::string_view kTourListSetting = "Universe_GS_Idx";
+
+constexpr const char* kGravityNote =
+    "Note:  The time required to compute the gravitational attraction \n"
+    "between Starfolds is related to the Square of the number of Starfolds \n"
+    "in the Universe.  Entering 0 will ensure that gravity computations are \n"
+    "bypassed entirely.  See the Online help for more information.\n"
+    "Comets will NOT appear in any of the Starfolds if a non-zero Gravity is entered.";
+
+QGroupBox* MakeFrame(const QString& title, const char* name) {
+  auto* frame = new QGroupBox(title);
+  frame->setObjectName(name);
+  return frame;
+}
+
+const Field<UniverseSettings>& UniverseField(std::string_view name) {
+  return *FindField(UniverseFields(), name);
+}
+
+}  // namespace
+
+UniverseView::UniverseView(const PropsModel& model, QWidget* parent)
+    : QWidget(parent), model_(model) {
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(0, 0, 0, 0);
+  auto* left = new QVBoxLayout;
+  left->addWidget(MakeStarfoldTypes(), 1);
+  left->addWidget(MakePropertyCopy());
+  columns->addLayout(left, 2);
+  auto* right = new QVBoxLayout;
+  right->addWidget(MakeUniverseProperties());
+  right->addWidget(MakePages(), 1);
+  columns->addLayout(right, 3);
+  EnableTour();
+}
+
+std::string UniverseView::Text(const Field<UniverseSettings>& field) const {
+  if (const auto check = checks_.find(field.Name); check != checks_.end()) {
+    return check->second->isChecked() ? "1" : "0";
+  }
+  if (field.Name == kProfileSetting) return std::to_string(cboUniProfile_->currentIndex());
+  if (field.Name == kTourListSetting) return cboTourStarfolds_->currentText().toStdString();
+  return Box(field.Name)->Text();
+}
+
+void UniverseView::SetText(const Field<UniverseSettings>& field, const std::string& text) {
+  if (const auto check = checks_.find(field.Name); check != checks_.end()) {
+    check->second->setChecked(LenientNumber(text) != 0);
+  } else if (field.Name == kProfileSetting) {
+    const int last = cboUniProfile_->count() - 1;
+    cboUniProfile_->setCurrentIndex(ClampTo(RoundedToLimits<Long>(LenientNumber(text)), 0, last));
+  } else if (field.Name == kTourListSetting) {
+    cboTourStarfolds_->setEditText(Shown(text));
+    tourText_ = cboTourStarfolds_->currentText();
+  } else {
+    Box(field.Name)->SetText(text);
+  }
+}
+
+void UniverseView::ClampTextFields() {
+  for (const auto& [name, box] : boxes_) box->ClampTextField();
+}
+
+UniverseSettings UniverseView::Settings() const {
+  UniverseSettings universe;
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    if (field.Name == kTourListSetting) {
+      universe.Universe_GS_Idx = Text(field);
+    } else {
+      SetFieldNumber(universe, field, LenientNumber(Text(field)));
+    }
+  }
+  ClampUniverse(universe);
+  return universe;
+}
+
+void UniverseView::AddProfileEntry(std::string_view name, int weight) {
+  lstUniStarfold_->AddEntry(std::string(name), weight);
+}
+
+void UniverseView::RebuildProfileList() {
+  const int selected = lstUniStarfold_->Selected();
+  lstUniStarfold_->clear();
+  for (const StarfoldProfile& profile : model_.Profiles()) {
+    AddProfileEntry(profile.UniFoldName, profile.UniFoldPct);
+  }
+  if (selected >= 0) lstUniStarfold_->setCurrentRow(selected);
+  BodiesChanged();
+}
+
+void UniverseView::BodiesChanged() {
+  std::vector<std::string> names;
+  const int shown = cboUniProfile_->currentIndex();
+  const QSignalBlocker quiet(cboUniProfile_);
+  cboUniProfile_->clear();
+  for (int i = 0; i < lstUniStarfold_->count(); ++i) {
+    names.push_back(lstUniStarfold_->EntryName(i));
+    const QString entry = lstUniStarfold_->item(i)->text();
+    cboUniProfile_->addItem(entry.left(kProfileNameLength).trimmed());
+  }
+  cboUniProfile_->addItems({tr("Cycle All Randomly"), tr("Cycle All Sequentially")});
+  cboUniProfile_->setCurrentIndex(shown);
+  composites_->SetBodies(names);
+
+  const QString tour = cboTourStarfolds_->currentText();
+  cboTourStarfolds_->clear();
+  for (int i = 0; i < kBodyCount; ++i) {
+    const std::string& name = i < kProfileCount
+                                  ? model_.Profiles()[i].UniFoldName
+                                  : model_.Composites()[i - kFirstComposite].CompFoldName;
+    cboTourStarfolds_->addItem(QString::number(i + 1) + "  " + Shown(name));
+  }
+  cboTourStarfolds_->setCurrentIndex(-1);
+  cboTourStarfolds_->setEditText(tour);
+  ShowProfileSample();
+}
+
+void UniverseView::ApplyThemeRowToPage(std::string_view row) {
+  UniverseSettings universe = Settings();
+  DecodeThemeRow(universe, row);
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    SetText(field, FieldText(universe, field));
+  }
+  composites_->ClearEditor();
+}
+
+QWidget* UniverseView::MakeStarfoldTypes() {
+  auto* frame = MakeFrame(tr("Starfold Types"), "fraStarfoldTypes");
+  auto* page = MakePage(frame);
+  lstUniStarfold_ = new BodyList;
+  lstUniStarfold_->setObjectName("lstUniStarfold");
+  lstUniStarfold_->setAccessibleName(tr("Starfold types and their relative percent"));
+  AddWideLine(*page, lstUniStarfold_);
+  page->setRowStretch(page->rowCount() - 1, 1);
+
+  txtUniFoldName_ = new NameBox;
+  txtUniFoldName_->setObjectName("txtUniFoldName");
+  AddLine(*page, tr("&Name:"), txtUniFoldName_, {txtUniFoldName_});
+  txtUniFoldPct_ = new NumberBox;
+  txtUniFoldPct_->SetNames("UniFoldPct");
+  txtUniFoldPct_->SetRange(kWeightRange);
+  auto* commit = MakeButton(tr("Commit"), "cmdFoldCommit");
+  AddLine(*page, tr("&Relative Percent in Universe:"), txtUniFoldPct_, {txtUniFoldPct_, commit});
+  txtResetFoldPct_ = new NumberBox;
+  txtResetFoldPct_->SetNames("ResetFoldPct");
+  txtResetFoldPct_->SetRange(kWeightRange);
+  txtResetFoldPct_->SetBlankAllowed();
+  auto* reset = MakeButton(tr("Reset All"), "cmdResetFoldPct");
+  reset->setToolTip(tr("Gives all 50 types this percent"));
+  AddLine(*page, tr("Reset all percents to:"), txtResetFoldPct_, {txtResetFoldPct_, reset});
+  auto* props = MakeButton(tr("Sho&w Props"), "cmdFoldProps");
+  props->setToolTip(tr("Opens the properties of the selected type"));
+  AddWideLine(*page, props);
+
+  connect(lstUniStarfold_, &QListWidget::itemSelectionChanged, this, &UniverseView::SelectBody);
+  connect(lstUniStarfold_, &QListWidget::itemDoubleClicked, props, &QPushButton::click);
+  connect(commit, &QPushButton::clicked, this, &UniverseView::CommitBody);
+  connect(txtUniFoldName_, &QLineEdit::returnPressed, this, &UniverseView::CommitBody);
+  connect(reset, &QPushButton::clicked, this, &UniverseView::ResetWeights);
+  connect(props, &QPushButton::clicked, this,
+          [this] { emit PropsAskedFor(lstUniStarfold_->Selected()); });
+  return frame;
+}
+
+QWidget* UniverseView::MakePropertyCopy() {
+  auto* frame = MakeFrame(tr("Copy Starfold Props to All Types"), "fraPropCopy");
+  auto* layout = new QVBoxLayout(frame);
+  propertyCopy_ = new PropertyCopy(model_);
+  layout->addWidget(propertyCopy_);
+  connect(propertyCopy_, &PropertyCopy::Copied, this, &UniverseView::ProfilesChanged);
+  return frame;
+}
+
+QWidget* UniverseView::MakeUniverseProperties() {
+  auto* frame = MakeFrame(tr("Universe Properties"), "fraUniverseProps");
+  auto* page = MakePage(frame);
+  cboUniTheme_ = new QComboBox;
+  cboUniTheme_->setObjectName("cboUniTheme");
+  for (int entry = 0; entry <= kThemeCount; ++entry) {
+    cboUniTheme_->addItem(Shown(FactoryThemeName(entry)));
+  }
+  LetShrink(cboUniTheme_);
+  AddLine(*page, tr("&Theme:"), cboUniTheme_, {cboUniTheme_});
+  AddRows(*page, UniversePage::Always);
+  connect(cboUniTheme_, &QComboBox::currentIndexChanged, this, &UniverseView::ThemeChosen);
+  return frame;
+}
+
+QWidget* UniverseView::MakePages() {
+  auto* all = new QWidget;
+  auto* layout = new QVBoxLayout(all);
+  layout->setContentsMargins(0, 0, 0, 0);
+  cboUniExtras_ = new QComboBox;
+  cboUniExtras_->setObjectName("cboUniExtras");
+  cboUniExtras_->setAccessibleName(tr("Page of universe properties"));
+  pages_ = new QStackedWidget;
+  composites_ = new CompositeEditor(model_);
+  for (int i = 0; i < kUniversePageCount; ++i) {
+    const QString name = Shown(UniversePageName(i));
+    cboUniExtras_->addItem(name);
+    auto* frame = MakeFrame({}, qPrintable("fraUniProp_" + QString::number(i)));
+    frame->setAccessibleName(name);
+    auto* page = MakePage(frame);
+    switch (static_cast<UniversePage>(i)) {
+      case UniversePage::Creation: FillCreationPage(*page); break;
+      case UniversePage::NewAndAmbient: AddRows(*page, UniversePage::NewAndAmbient); break;
+      case UniversePage::Tour: FillTourPage(*page); break;
+      case UniversePage::Composites: AddWideLine(*page, composites_); break;
+      case UniversePage::Gravity: FillGravityPage(*page); break;
+      case UniversePage::Always: break;
+    }
+    EndPage(*page);
+    pages_->addWidget(frame);
+  }
+  connect(cboUniExtras_, &QComboBox::currentIndexChanged, pages_, &QStackedWidget::setCurrentIndex);
+  connect(composites_, &CompositeEditor::PreviewRequested, this,
+          &UniverseView::CompositePreviewAskedFor);
+  layout->addWidget(cboUniExtras_);
+  layout->addWidget(pages_, 1);
+  return all;
+}
+
+void UniverseView::FillCreationPage(QGridLayout& page) {
+  picUniHue_ = MakeSamplePlace("picUniHue", tr("Hues from start to end"), kHueSize);
+  AddRows(page, UniversePage::Creation);
+  for (const char* name : {"Universe_HW_Start", "Universe_HW_End"}) {
+    connect(Box(name), &NumberBox::Changed, this, &UniverseView::ShowHueSample);
+  }
+  cboUniProfile_ = new QComboBox;
+  cboUniProfile_->setObjectName("cboUniProfile");
+  LetShrink(cboUniProfile_);
+  AddLine(page, Escaped(UniverseField(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_});
+  picUniProfile_ =
+      MakeSamplePlace("picUniProfile", tr("Sample of the universe profile"), kSampleSize);
+  page.addWidget(picUniProfile_, page.rowCount(), 1);
+  connect(cboUniProfile_, &QComboBox::currentIndexChanged, this, &UniverseView::ShowProfileSample);
+}
+
+void UniverseView::FillTourPage(QGridLayout& page) {
+  for (const Check& check : kChecks) {
+    auto* box = new QCheckBox(Escaped(UniverseField(check.Setting).Label));
+    box->setObjectName(check.Name);
+    checks_[check.Setting] = box;
+  }
+  QCheckBox* tour = checks_["Universe_Tour"];
+  QCheckBox* visit = checks_["Universe_GVisit"];
+  QCheckBox* rotate = checks_["Universe_RotCam"];
+  AddWideLine(page, tour);
+  AddRows(page, UniversePage::Tour);
+  rampBox_ = Box("Universe_C_Ramp");
+  for (QWidget* check : {visit, rotate}) AddWideLine(page, check);
+  cboTourStarfolds_ = new QComboBox;
+  cboTourStarfolds_->setObjectName("cboTourStarfolds");
+  cboTourStarfolds_->setEditable(true);
+  cboTourStarfolds_->setInsertPolicy(QComboBox::NoInsert);
+  cboTourStarfolds_->setCompleter(nullptr);
+  cboTourStarfolds_->lineEdit()->setMaxLength(static_cast<int>(kLongestValue));
+  cboTourStarfolds_->setToolTip(tr("Choosing a body from the list adds its number"));
+  auto* label = new QLabel(Escaped(UniverseField(kTourListSetting).Label));
+  label->setBuddy(cboTourStarfolds_);
+  AddWideLine(page, label);
+  AddWideLine(page, cboTourStarfolds_);
+  for (QWidget* widget : {static_cast<QWidget*>(visit), static_cast<QWidget*>(rotate),
+                          static_cast<QWidget*>(label), static_cast<QWidget*>(cboTourStarfolds_)}) {
+    tourWidgets_.push_back(widget);
+  }
+  connect(tour, &QCheckBox::toggled, this, &UniverseView::EnableTour);
+  connect(rotate, &QCheckBox::toggled, this, &UniverseView::EnableTour);
+  connect(cboTourStarfolds_->lineEdit(), &QLineEdit::textEdited, this,
+          [this](const QString& text) { tourText_ = text; });
+  connect(cboTourStarfolds_, &QComboBox::activated, this, &UniverseView::AddTourBody);
+}
+
+void UniverseView::FillGravityPage(QGridLayout& page) {
+  AddRows(page, UniversePage::Gravity);
+  auto* note = new QLabel(kGravityNote);
+  note->setObjectName("lblGravityWarning");
+  note->setWordWrap(true);
+  AddWideLine(page, note);
+}
+
+/// Rows that follow each other and have one label stand in one line.
+void UniverseView::AddRows(QGridLayout& page, UniversePage which) {
+  std::vector<const UniverseRow*> line;
+  const auto label = [](const UniverseRow& row) { return UniverseField(row.Name).Label; };
+  for (const UniverseRow& row : UniverseRows()) {
+    if (row.Page != which) continue;
+    if (!line.empty() && label(*line.front()) != label(row)) {
+      AddRowLine(page, line);
+      line.clear();
+    }
+    line.push_back(&row);
+  }
+  AddRowLine(page, line);
+}
+
+QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const UniverseRow*>& rows) {
+  std::vector<QWidget*> widgets;
+  for (const UniverseRow* row : rows) {
+    auto* box = new NumberBox;
+    box->SetNames("Uni", row->Index);
+    box->SetRange(RangeOf(*row));
+    boxes_[row->Name] = box;
+    widgets.push_back(box);
+  }
+  const std::string_view label = UniverseField(rows.front()->Name).Label;
+  if (rows.size() > 1) {
+    for (QWidget* box : widgets) box->setAccessibleName(Shown(label));
+  }
+  QLabel* text = AddLine(page, Escaped(label), widgets.front(), widgets);
+  if (rows.front()->Name == kHueSetting) page.addWidget(picUniHue_, page.rowCount(), 1);
+  if (rows.front()->Page == UniversePage::Tour) {
+    tourWidgets_.push_back(text);
+    tourWidgets_.insert(tourWidgets_.end(), widgets.begin(), widgets.end());
+  }
+  return text;
+}
+
+void UniverseView::SelectBody() {
+  const int index = lstUniStarfold_->Selected();
+  if (index < 0) return;
+  const StarfoldProfile& profile = model_.Profiles()[index];
+  txtUniFoldName_->ShowName(Shown(profile.UniFoldName));
+  txtUniFoldPct_->SetText(std::to_string(profile.UniFoldPct));
+}
+
+void UniverseView::CommitBody() {
+  const int index = lstUniStarfold_->Selected();
+  if (index < 0) return model_.Inform("Please select a Starfold Profile.");
+  txtUniFoldPct_->ClampTextField();
+  StarfoldProfile& profile = model_.Profiles()[index];
+  profile.UniFoldPct = RoundedToLimits<Integer>(LenientNumber(txtUniFoldPct_->Text()));
+  profile.UniFoldName = StorableText(txtUniFoldName_->text().toStdString());
+  lstUniStarfold_->ReplaceEntry(index, profile.UniFoldName, profile.UniFoldPct);
+  BodiesChanged();
+}
+
+void UniverseView::ResetWeights() {
+  if (Trimmed(txtResetFoldPct_->Text()).empty()) {
+    return model_.Inform("Please enter a value for the Reset percent.");
+  }
+  txtResetFoldPct_->ClampTextField();
+  const auto weight = RoundedToLimits<Integer>(LenientNumber(txtResetFoldPct_->Text()));
+  for (StarfoldProfile& profile : model_.Profiles()) profile.UniFoldPct = weight;
+  RebuildProfileList();
+  SelectBody();
+}
+
+void UniverseView::ShowProfileSample() {
+  ShowSample(picUniProfile_, ProfileSample(model_.Profiles(), cboUniProfile_->currentIndex(),
+                                           {kSampleSize, devicePixelRatioF()}));
+}
+
+void UniverseView::ShowHueSample() {
+  const UniverseSettings universe = Settings();
+  ShowSample(picUniHue_, HueWheelSample(universe.Universe_HW_Start, universe.Universe_HW_End,
+                                        {kHueSize, devicePixelRatioF()}));
+}
+
+void UniverseView::EnableTour() {
+  const bool tour = checks_["Universe_Tour"]->isChecked();
+  for (QWidget* widget : tourWidgets_) widget->setEnabled(tour);
+  rampBox_->setEnabled(tour && checks_["Universe_RotCam"]->isChecked());
+}
+
+/// The toolkit has put the entry in place of the text already.
+void UniverseView::AddTourBody(int position) {
+  QString text = tourText_.trimmed();
+  if (!text.isEmpty()) text += ' ';
+  text += QString::number(position + 1);
+  cboTourStarfolds_->setCurrentIndex(-1);
+  cboTourStarfolds_->setEditText(text);
+  tourText_ = text;
+}
+
+NumberBox* UniverseView::Box(std::string_view name) const { return boxes_.at(name); }
+
+}  // namespace starfolds

@@ -1,0 +1,108 @@
+// The universe view of the properties dialog: the bodies with their weights, and all that makes a
+// universe.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QWidget>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "widgets/body_list.h"
+#include "properties/composite_editor.h"
+#include "widgets/name_box.h"
+#include "widgets/number_box.h"
+#include "properties/property_copy.h"
+#include "properties/property_tables.h"
+#include "widgets/dialog_model.h"
+
+namespace starfolds {
+
+class UniverseView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit UniverseView(const PropsModel& model, QWidget* parent = nullptr);
+
+  /// The text of the control of a universe setting: what is typed, "0" or "1" of a check box, the
+  /// position in a list.
+  std::string Text(const Field<UniverseSettings>& field) const;
+  void SetText(const Field<UniverseSettings>& field, const std::string& text);
+  /// Holds every number to its range, as leaving its box does.
+  void ClampTextFields();
+  /// All of them, as the run would have them.
+  UniverseSettings Settings() const;
+
+  BodyList& Bodies() { return *lstUniStarfold_; }
+  CompositeEditor& Composites() { return *composites_; }
+
+  /// Adds to `lstUniStarfold`. Whoever has added the last one calls `BodiesChanged`.
+  void AddProfileEntry(std::string_view name, int weight);
+  /// Anew from the records, with the entry that was selected.
+  void RebuildProfileList();
+  /// Lets everything that shows the list of bodies follow it.
+  void BodiesChanged();
+
+  /// Positions of `cboUniTheme` and `cboUniExtras`.
+  void SelectTheme(int position) { cboUniTheme_->setCurrentIndex(position); }
+  void SelectPage(int position) { cboUniExtras_->setCurrentIndex(position); }
+  int ShownPage() const { return cboUniExtras_->currentIndex(); }
+  /// `ApplyThemeRowToPage`.
+  void ApplyThemeRowToPage(std::string_view row);
+
+ signals:
+  void ThemeChosen(int position);
+  /// `cmdFoldProps`: the selected body, or -1.
+  void PropsAskedFor(int index);
+  void CompositePreviewAskedFor();
+  /// The records of profiles were changed here.
+  void ProfilesChanged();
+
+ private:
+  QWidget* MakeStarfoldTypes();
+  QWidget* MakePropertyCopy();
+  QWidget* MakeUniverseProperties();
+  QWidget* MakePages();
+  void FillCreationPage(QGridLayout& page);
+  void FillTourPage(QGridLayout& page);
+  void FillGravityPage(QGridLayout& page);
+  void AddRows(QGridLayout& page, UniversePage which);
+  QLabel* AddRowLine(QGridLayout& page, const std::vector<const UniverseRow*>& rows);
+
+  void SelectBody();
+  void CommitBody();
+  void ResetWeights();
+  void ShowProfileSample();
+  void ShowHueSample();
+  void EnableTour();
+  void AddTourBody(int position);
+
+  NumberBox* Box(std::string_view name) const;
+
+  PropsModel model_;
+  std::map<std::string_view, NumberBox*> boxes_;   // txtUni, by the setting's name
+  std::map<std::string_view, QCheckBox*> checks_;  // by the setting's name
+  std::vector<QWidget*> tourWidgets_;              // what `chkUniTour` enables
+  QWidget* rampBox_ = nullptr;                     // what `chkRotCamera` enables
+
+  BodyList* lstUniStarfold_ = nullptr;
+  NameBox* txtUniFoldName_ = nullptr;
+  NumberBox* txtUniFoldPct_ = nullptr;
+  NumberBox* txtResetFoldPct_ = nullptr;
+  QComboBox* cboUniTheme_ = nullptr;
+  QComboBox* cboUniExtras_ = nullptr;
+  QComboBox* cboUniProfile_ = nullptr;
+  QComboBox* cboTourStarfolds_ = nullptr;
+  QString tourText_;  // of `cboTourStarfolds`, before one of its entries was chosen
+  QLabel* picUniProfile_ = nullptr;
+  QLabel* picUniHue_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
+  CompositeEditor* composites_ = nullptr;
+  PropertyCopy* propertyCopy_ = nullptr;
+};
+
+}  // namespace starfolds

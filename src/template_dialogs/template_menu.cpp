@@ -1,0 +1,131 @@
+#include "template_dialogs/template_menu.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <utility>
+
+#include "template_dialogs/frm_file_io.h"
+#include "widgets/dialog_parts.h"
+#include "settings/product.h"
+
+namespace starfolds {
+namespace {
+
+constexpr char kExtension[] = "sfd";
+constexpr char kFileTypes[] = "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|";
+
+/// The one template that is dragged; nothing where it is anything else.
+std::optional<std::string> DraggedTemplate(const QMimeData* data) {
+  const QList<QUrl> urls = data->urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
+  const QString path = urls.front().toLocalFile();
+  if (!path.endsWith(QString(".") + kExtension, Qt::CaseInsensitive)) return std::nullopt;
+  return path.toStdString();
+}
+
+/// A dialog of ours stands over the window, which waits for it.
+bool IsWaiting(const QWidget& window) {
+  const QWidget* over = QApplication::activeModalWidget();
+  return over != nullptr && over != &window;
+}
+
+}  // namespace
+
+TemplateMenu::TemplateMenu(TemplateHost host) : host_(std::move(host)) {
+  host_.Window.setAcceptDrops(true);
+  host_.Window.installEventFilter(this);
+  // The other program waits until the drop has been handled; a message box would hold it up.
+  connect(this, &TemplateMenu::Dropped, this, &TemplateMenu::OpenDropped, Qt::QueuedConnection);
+}
+
+void TemplateMenu::AddTo(QMenu& file) {
+  const auto add = [&](const QString& text, const char* name, const QKeySequence& key,
+                       void (TemplateMenu::*act)()) {
+    QAction* entry = file.addAction(text, this, act);
+    entry->setObjectName(name);
+    entry->setShortcut(key);
+    entries_.push_back(entry);
+  };
+  add(tr("&Open Template..."), "mnuOpen", QKeySequence::Open, &TemplateMenu::Open);
+  add(tr("&Save Template"), "mnuSave", QKeySequence::Save, &TemplateMenu::Save);
+  add(tr("Save Template &As..."), "mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+      &TemplateMenu::SaveAs);
+}
+
+void TemplateMenu::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  for (QAction* entry : entries_) entry->setEnabled(enabled);
+}
+
+bool TemplateMenu::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop) {
+    return QObject::eventFilter(watched, event);
+  }
+  auto* drop = static_cast<QDropEvent*>(event);
+  const auto path = DraggedTemplate(drop->mimeData());
+  if (!path || !enabled_ || IsWaiting(host_.Window)) {
+    drop->ignore();
+    return true;
+  }
+  drop->setDropAction(Qt::CopyAction);
+  drop->accept();
+  if (event->type() == QEvent::Drop) emit Dropped(Shown(*path));
+  return true;
+}
+
+void TemplateMenu::Save() {
+  if (File().CurrentTemplate.empty()) return SaveAs();
+  RunInPreview(false, File().CurrentTemplate);
+}
+
+void TemplateMenu::Choose(bool open) {
+  const auto load = [this](const std::string& path, ProgressPicture* picture) {
+    return LoadFrom(path, picture);
+  };
+  const auto save = [this](const std::string& path, ProgressPicture* picture) {
+    return SaveTo(path, picture);
+  };
+  FrmFileIo frmFileIo({host_.Settings.Tree, host_.HelpBook, host_.Settings.Boxes,
+                       host_.Settings.ProgramFolder, load, save},
+                      &host_.Window);
+  frmFileIo.ChooseTemplate(
+      open, true, open ? tr("Select Template to Open") : tr("Enter or Select Template to Save"),
+      kFileTypes, kExtension);
+}
+
+/// By then a preview may have been started.
+void TemplateMenu::OpenDropped(const QString& path) {
+  if (enabled_ && !IsWaiting(host_.Window)) RunInPreview(true, path.toStdString());
+}
+
+/// Without the file dialog, so its progress shows in the preview.
+void TemplateMenu::RunInPreview(bool open, const std::string& path) {
+  ProgressPicture* picture = host_.Dialog.Preview();
+  const auto fault = open ? LoadFrom(path, picture) : SaveTo(path, picture);
+  picture->Clear();
+  host_.ShowStill();
+  if (!fault) return;
+  host_.Settings.Boxes.Show(TemplateFaultText(open, path, *fault), BoxStyle::Exclamation,
+                            std::string(kProductName));
+}
+
+std::optional<std::string> TemplateMenu::LoadFrom(const std::string& path,
+                                                  ProgressPicture* picture) {
+  File().TemplateFileName = path;
+  if (auto fault = LoadTemplate(host_.Settings, host_.Dialog, picture)) return fault;
+  File().CurrentTemplate = path;
+  host_.Loaded();
+  return std::nullopt;
+}
+
+std::optional<std::string> TemplateMenu::SaveTo(const std::string& path, ProgressPicture* picture) {
+  host_.Settle();
+  File().TemplateFileName = path;
+  if (auto fault = SaveTemplate(host_.Settings, host_.Dialog, picture)) return fault;
+  File().CurrentTemplate = path;
+  return std::nullopt;
+}
+
+}  // namespace starfolds

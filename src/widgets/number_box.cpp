@@ -1,0 +1,164 @@
+#include "widgets/number_box.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyleOptionSpinBox>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "numbers/conversions.h"
+#include "numbers/text.h"
+
+namespace starfolds {
+namespace {
+
+constexpr int kSingleLength = 8;  // characters of a number with a point
+
+bool IsWhole(NumberKind kind) { return kind != NumberKind::AsSingle; }
+
+std::string TextOf(double number, NumberKind kind) {
+  if (IsWhole(kind)) return NumberText(RoundedToLimits<Long>(number));
+  return NumberText(static_cast<Single>(number));
+}
+
+}  // namespace
+
+/// A "0" goes before the text, so that an empty one is 0 and a sign counts for nothing.
+std::string ClampedText(const std::string& text, const NumberRange& range) {
+  double number = LenientNumber("0" + text);
+  if (IsWhole(range.Kind)) number = RoundedToLimits<Long>(number);
+  return TextOf(ClampTo(number, range.Low, range.High), range.Kind);
+}
+
+NumberBox::NumberBox(QWidget* parent) : QAbstractSpinBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setKeyboardTracking(true);
+  connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::Changed);
+}
+
+void NumberBox::SetNames(const QString& array, int index) {
+  SetNames(array + "_" + QString::number(index));
+}
+
+void NumberBox::SetNames(const QString& name) {
+  lineEdit()->setObjectName("txt" + name);
+  setObjectName("spn" + name);
+}
+
+void NumberBox::SetRange(const NumberRange& range) {
+  range_ = range;
+  const int present = static_cast<int>(lineEdit()->text().size());
+  lineEdit()->setMaxLength(std::max(LongestText(), present));  // which would be cut off
+  setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
+                                                  TextOf(range.High, range.Kind)));
+}
+
+void NumberBox::SetNoRange() {
+  range_ = {};
+  lineEdit()->setMaxLength(0);
+}
+
+/// All boxes are as wide as the longest number that any of them takes.
+QSize NumberBox::sizeHint() const {
+  const int digits = fontMetrics().horizontalAdvance(QString(kSingleLength, '0'));
+  QStyleOptionSpinBox option;
+  initStyleOption(&option);
+  const QSize text(digits + kSingleLength, lineEdit()->sizeHint().height());
+  return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
+}
+
+std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }
+
+void NumberBox::SetText(const std::string& text) {
+  const QString shown = QString::fromStdString(text);
+  lineEdit()->setMaxLength(std::max(lineEdit()->maxLength(), static_cast<int>(shown.size())));
+  lineEdit()->setText(shown);
+}
+
+void NumberBox::ClampTextField() {
+  if (blankAllowed_ && Trimmed(Text()).empty()) return;
+  const std::string clamped = ClampedText(Text(), range_);
+  if (clamped != Text()) SetText(clamped);
+  lineEdit()->setMaxLength(LongestText());
+}
+
+void NumberBox::stepBy(int steps) {
+  const double number = LenientNumber(Text()) + steps * Step();
+  SetText(TextOf(ClampTo(number, range_.Low, range_.High), range_.Kind));
+  lineEdit()->selectAll();
+}
+
+/// What cannot become a number in the range's kind cannot be pasted either.
+QValidator::State NumberBox::validate(QString& text, int&) const {
+  for (const QChar c : text) {
+    if (!Takes(c)) return QValidator::Invalid;
+  }
+  if (text.count('.') > 1) return QValidator::Invalid;
+  return text.isEmpty() ? QValidator::Intermediate : QValidator::Acceptable;
+}
+
+QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const {
+  const double number = LenientNumber(Text());
+  StepEnabled steps = StepNone;
+  if (number < range_.High) steps |= StepUpEnabled;
+  if (number > range_.Low) steps |= StepDownEnabled;
+  return steps;
+}
+
+void NumberBox::keyPressEvent(QKeyEvent* event) {
+  const QString text = event->text();
+  const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  const bool printable = !command && text.size() == 1 && text[0].isPrint();
+  const bool secondPoint =
+      text == "." && lineEdit()->text().contains('.') && !lineEdit()->selectedText().contains('.');
+  if (printable && (!Takes(text[0]) || secondPoint)) {
+    QApplication::beep();
+    event->accept();
+    return;
+  }
+  QAbstractSpinBox::keyPressEvent(event);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    ClampTextField();
+    emit Left();
+  }
+}
+
+void NumberBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QAbstractSpinBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event) {
+  QAbstractSpinBox::focusInEvent(event);
+  lineEdit()->selectAll();  // ready to be typed over
+}
+
+void NumberBox::focusOutEvent(QFocusEvent* event) {
+  ClampTextField();
+  QAbstractSpinBox::focusOutEvent(event);
+  emit Left();
+}
+
+int NumberBox::LongestText() const {
+  if (!IsWhole(range_.Kind)) return kSingleLength;
+  return static_cast<int>(TextOf(range_.High, range_.Kind).size());
+}
+
+bool NumberBox::Takes(QChar c) const {
+  const bool isDigit = c >= '0' && c <= '9';
+  return isDigit || (c == '.' && !IsWhole(range_.Kind));
+}
+
+double NumberBox::Step() const {
+  if (!IsWhole(range_.Kind)) return range_.High <= 1 ? 0.01 : range_.High <= 10 ? 0.1 : 1;
+  if (range_.High < 101) return 1;
+  if (range_.High < 999) return 5;
+  return range_.High < 30000 ? 10 : 50;
+}
+
+}  // namespace starfolds

@@ -1,0 +1,92 @@
+#include "widgets/picture_box.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "numbers/conversions.h"
+
+namespace starfolds {
+
+QRgb ToRgb(Colour colour) {
+  return qRgb(static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
+              static_cast<int>(colour >> 16U & 0xFFU));
+}
+
+QImage ImageOf(const Surface& surface) {
+  QImage image(surface.Width(), surface.Height(), QImage::Format_RGB32);
+  const Colour* pixel = surface.Pixels().data();
+  for (int y = 0; y < surface.Height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < surface.Width(); ++x) *line++ = ToRgb(*pixel++);
+  }
+  return image;
+}
+
+/// Copies each frame's changes to the box's picture and has them painted at once: nobody returns to
+/// the event loop that would do it later. A box is small enough to be painted whole.
+class PictureBox::Canvas : public Surface {
+ public:
+  explicit Canvas(PictureBox& box)
+      : Surface(RoundedToLimits<Integer>(box.width()), RoundedToLimits<Integer>(box.height()),
+                kJournal),
+        box_(box) {
+    box_.picture_ = ImageOf(*this);
+  }
+
+  void Present() override {
+    if (EverythingChanged()) {
+      box_.picture_ = ImageOf(*this);
+    } else {
+      for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
+        const auto x = static_cast<int>(*place & 0xFFFFU);
+        const auto y = static_cast<int>(*place >> 16U);
+        box_.picture_.setPixel(x, y, ToRgb(Pixel(x, y)));
+      }
+    }
+    ForgetJournal();
+    if (box_.isVisible()) box_.repaint();
+  }
+
+ private:
+  static constexpr std::size_t kJournal = 1U << 17U;  // writes of a frame
+
+  PictureBox& box_;
+};
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+PictureBox::~PictureBox() = default;
+
+Surface& PictureBox::BeginRun() {
+  canvas_ = std::make_unique<Canvas>(*this);
+  return *canvas_;
+}
+
+void PictureBox::ShowPicture(const QImage& picture) {
+  picture_ = picture;
+  update();
+}
+
+void PictureBox::FillFromLeft(int width, unsigned colour) {
+  if (picture_.size() != size()) Clear();
+  QPainter(&picture_).fillRect(0, 0, width, height(), ToRgb(colour));
+  repaint();
+}
+
+void PictureBox::Clear() {
+  picture_ = QImage(size(), QImage::Format_RGB32);
+  picture_.fill(Qt::black);
+  repaint();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::black);
+  const QSize shown = picture_.deviceIndependentSize().toSize();
+  painter.drawImage((width() - shown.width()) / 2, (height() - shown.height()) / 2, picture_);
+}
+
+}  // namespace starfolds

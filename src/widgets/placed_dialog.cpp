@@ -1,0 +1,43 @@
+#include "widgets/placed_dialog.h"
+
+#include <QShortcut>
+#include <QWindow>
+
+#include "widgets/dialog_parts.h"
+#include "widgets/placed_qt_window.h"
+#include "widgets/wheel_guard.h"
+
+namespace starfolds {
+
+PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
+    : QDialog(parent), place_(place) {
+  setWindowModality(Qt::WindowModal);
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          &PlacedDialog::ShowHelp);
+}
+
+void PlacedDialog::ShowInPlace() {
+  LetWheelPass(*this);
+  adjustSize();
+  ShowWherePlaced(*this, place_.Tree, place_.Section);
+}
+
+bool PlacedDialog::RunModal() {
+  ShowInPlace();
+  return exec() == Accepted;
+}
+
+void PlacedDialog::done(int result) {
+  if (windowHandle()) {
+    SaveWindowPlacement(PlacedQtWindow(*windowHandle()), place_.Tree, place_.Section);
+  }
+  QDialog::done(result);
+}
+
+QPushButton* PlacedDialog::MakeHelpButton() {
+  QPushButton* button = MakeButton(tr("&Help"), "cmdHelp");
+  connect(button, &QPushButton::clicked, this, &PlacedDialog::ShowHelp);
+  return button;
+}
+
+}  // namespace starfolds

@@ -1,0 +1,110 @@
+#include "widgets/preview_runs.h"
+
+#include "numbers/conversions.h"
+#include "settings/stored_records.h"
+#include "universe/host_surface.h"
+#include "universe/single_body_run.h"
+#include "universe/universe_run.h"
+
+namespace starfolds {
+namespace {
+
+constexpr Integer kHighestHue = 999;
+
+/// What all kinds of preview do first. The records may be of a user who is still typing; a run
+/// needs them within their ranges.
+void SetUpPreview(ProcessState& process, Surface& surface, bool fixedView,
+                  const BodyPreview& preview, std::uint64_t seed) {
+  if (!fixedView) process.Screen.FocalLength = LoadAdvancedFromRegistry(*process.Tree).FocalLength;
+  SetupPreviewSurface(process, surface, fixedView, 1, seed);
+  for (StarfoldProfile& profile : process.Profiles) ClampProfile(profile);
+  for (CompositeProfile& composite : process.Composites) ClampComposite(composite);
+  BuildFlareTables(process.Colours, process.Profiles,
+                   ClampTo<Integer>(preview.HueStart, 0, kHighestHue),
+                   ClampTo<Integer>(preview.HueEnd, 0, kHighestHue));
+  BuildHueWheels(process.Colours, process.Profiles);
+}
+
+void RunOneBody(ProcessState& process, Surface& surface, bool fixedView, const BodyPreview& preview,
+                std::uint64_t seed) {
+  const int bodies = preview.IsComposite ? kCompositeCount : kProfileCount;
+  if (preview.Body < 0 || preview.Body >= bodies) return;
+  const RecordsKept kept(process);
+  SetUpPreview(process, surface, fixedView, preview, seed);
+  SingleBodyRun(process, {.Body = preview.Body,
+                          .IsComposite = preview.IsComposite,
+                          .Stars = ClampTo<Long>(preview.Stars, 10, 30000),
+                          .Trail = static_cast<Integer>(ClampTo<Long>(preview.Trail, 1, 999))});
+  process.Screen.hDCDraw = nullptr;
+}
+
+}  // namespace
+
+struct RecordsKept::Records {
+  ProfileArray Profiles;
+  CompositeArray Composites;
+};
+
+RecordsKept::RecordsKept(ProcessState& process)
+    : process_(process), records_(new Records{process.Profiles, process.Composites}) {}
+
+RecordsKept::~RecordsKept() {
+  process_.Profiles = records_->Profiles;
+  process_.Composites = records_->Composites;
+}
+
+void PreviewUniverse(ProcessState& process, Surface& surface,
+                     const UniverseSettings& universeOnDialog, std::uint64_t seed) {
+  const RecordsKept kept(process);
+  SetUpPreview(process, surface, false, PreviewIn(universeOnDialog, 0, false), seed);
+  process.Universe = universeOnDialog;
+  process.Visits = ParseVisitList(universeOnDialog.Universe_GS_Idx);
+  UniverseRun(process);
+  process.Screen.hDCDraw = nullptr;
+}
+
+BodyPreview PreviewIn(const UniverseSettings& universe, int body, bool isComposite) {
+  return {RoundedToLimits<Integer>(body), isComposite,
+          universe.Universe_Stars,        universe.Universe_STrail,
+          universe.Universe_HW_Start,     universe.Universe_HW_End};
+}
+
+void PreviewBody(ProcessState& process, Surface& surface, const BodyPreview& preview,
+                 std::uint64_t seed) {
+  RunOneBody(process, surface, false, preview, seed);
+}
+
+void PreviewEditedBody(ProcessState& process, Surface& surface, const BodyPreview& preview,
+                       std::uint64_t seed) {
+  RunOneBody(process, surface, true, preview, seed);
+}
+
+PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {
+  if (on_ || process_.QuitApp) return PreviewEnd::Refused;
+  on_ = true;
+  stopped_ = closing_ = false;
+  process_.StopRun = false;
+  process_.NewRun = false;
+  run();
+  on_ = false;
+  if (stopped_ && !closing_ && !process_.QuitApp) process_.StopRun = false;
+  process_.NewRun = true;  // a run of another host takes notice of what was edited
+  return closing_ ? PreviewEnd::Close : PreviewEnd::Stopped;
+}
+
+/// A universe that is pulling out, or shows its last frame, looks at `StopRun` alone.
+void PreviewSwitch::Stop() {
+  if (!on_) return;
+  stopped_ = true;
+  process_.NewRun = true;
+  process_.StopRun = true;
+}
+
+bool PreviewSwitch::DelaysClose() {
+  if (!on_) return false;
+  closing_ = true;
+  process_.StopRun = true;
+  return true;
+}
+
+}  // namespace starfolds

@@ -1,0 +1,93 @@
+#include "widgets/qt_message_boxes.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <vector>
+
+#include "widgets/dialog_model.h"
+
+namespace starfolds {
+namespace {
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::Plain: break;
+    case BoxStyle::YesNoCancelQuestion: return QMessageBox::Question;
+    case BoxStyle::Information: return QMessageBox::Information;
+    case BoxStyle::Exclamation:
+    case BoxStyle::SaveFailed: return QMessageBox::Warning;
+  }
+  return QMessageBox::NoIcon;
+}
+
+/// A button and its answer. The first one of a box has the focus.
+struct BoxButton {
+  QMessageBox::StandardButton Button;
+  BoxAnswer Answer;
+  const char* Text = nullptr;  // in place of the toolkit's
+};
+
+std::vector<BoxButton> ButtonsOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::YesNoCancelQuestion:
+      return {{QMessageBox::Yes, BoxAnswer::Yes},
+              {QMessageBox::No, BoxAnswer::No},
+              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+    case BoxStyle::SaveFailed:
+      return {{QMessageBox::Retry, BoxAnswer::TryAgain, "&Try Again"},
+              {QMessageBox::Save, BoxAnswer::SaveAsTemplate, "&Save as Template..."},
+              {QMessageBox::Discard, BoxAnswer::CloseWithoutSaving, "&Close without Saving"},
+              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+    case BoxStyle::Plain:
+    case BoxStyle::Information:
+    case BoxStyle::Exclamation: break;
+  }
+  return {{QMessageBox::Ok, BoxAnswer::Ok}};
+}
+
+/// Closing the box is its last button.
+void AddButtons(QMessageBox& box, const std::vector<BoxButton>& buttons) {
+  for (const BoxButton& each : buttons) {
+    QPushButton* button = box.addButton(each.Button);
+    if (each.Text) button->setText(each.Text);
+  }
+  box.setDefaultButton(buttons.front().Button);
+  box.setEscapeButton(buttons.back().Button);
+}
+
+/// Lines of usual length are not broken: some texts stand in columns.
+void WidenToLines(QMessageBox& box) {
+  constexpr int widest = 600;
+  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+    const int width = label->fontMetrics().boundingRect({}, Qt::AlignLeft, box.text()).width();
+    label->setMinimumWidth(std::min(width + 1, widest));
+  }
+}
+
+BoxAnswer AnswerOf(int pressed, const std::vector<BoxButton>& buttons) {
+  for (const BoxButton& each : buttons) {
+    if (each.Button == pressed) return each.Answer;
+  }
+  return buttons.back().Answer;
+}
+
+}  // namespace
+
+BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
+                               const std::string& caption) {
+  QWidget* asking = QApplication::activeWindow();
+  if (!asking) asking = QApplication::activeModalWidget();
+  QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton, asking);
+  box.setTextFormat(Qt::PlainText);  // a name or a path may hold anything
+  box.setText(Shown(text));
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  const std::vector<BoxButton> buttons = ButtonsOf(style);
+  AddButtons(box, buttons);
+  WidenToLines(box);
+  return AnswerOf(box.exec(), buttons);
+}
+
+}  // namespace starfolds

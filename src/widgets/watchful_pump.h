@@ -1,0 +1,37 @@
+// The pump of a run inside a dialog.
+#pragma once
+
+#include "process/process_state.h"
+
+namespace starfolds {
+
+/// The process's pump, for a run that has a state of its own: it is here that such a run notices
+/// the end of the process.
+class WatchfulPump : public Pump {
+ public:
+  WatchfulPump(ProcessState& process, ProcessState& run) : process_(process), run_(run) {}
+
+  Long TickCount() override { return process_.Events->TickCount(); }
+  void PumpEvents() override {
+    process_.Events->PumpEvents();
+    Watch();
+  }
+  void WaitForEvents(Long milliseconds) override {
+    process_.Events->WaitForEvents(milliseconds);
+    Watch();
+  }
+  void WaitForRefresh() override {
+    process_.Events->WaitForRefresh();
+    Watch();
+  }
+
+ private:
+  void Watch() {
+    if (process_.QuitApp) run_.StopRun = true;
+  }
+
+  ProcessState& process_;
+  ProcessState& run_;
+};
+
+}  // namespace starfolds

@@ -1,0 +1,342 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <set>
+
+#include "body_editors/body_editors_test.h"
+#include "numbers/text.h"
+#include "settings/stored_records.h"
+#include "settings/templates.h"
+
+namespace starfolds {
+namespace {
+
+TEST_F(BodyEditorsTest, AreCalledPlacedAndExplained) {
+  struct Row {
+    Kind Which;
+    std::string_view Section;
+    Integer Topic;
+  };
+  for (const auto& [kind, section, topic] :
+       {Row{Kind::Levels, sections::kLevelsPlace, help::kLevels},
+        Row{Kind::Ifs, sections::kIfsPlace, help::kIfs},
+        Row{Kind::Molecule, sections::kAtomicsPlace, help::kMolecule}}) {
+    Open(kind);
+    EXPECT_TRUE(Dialog->windowTitle().startsWith("Mine & Yours "));
+    EXPECT_TRUE(The<QGroupBox>("fraPreview").title().endsWith(" - Mine && Yours"));
+    Click("cmdHelp");
+    EXPECT_EQ(HelpBook.Topics.back(), topic);
+    Click("cmdDismiss");
+    EXPECT_NE(RegistryReadText(Tree, section, "WindowSize"), "");
+  }
+}
+
+/// Everybody can reach and understand every control, and the window fits a small screen.
+TEST_F(BodyEditorsTest, AreForTheKeyboardAndForSmallScreens) {
+  for (const Kind kind : kKinds) {
+    Open(kind);
+    EXPECT_LE(Dialog->width(), 1366);
+    EXPECT_LE(Dialog->height(), 700);
+    for (QWidget* widget : Dialog->findChildren<QWidget*>()) {
+      const bool isPopup = widget->window() != Dialog.get();
+      if (!(widget->focusPolicy() & Qt::TabFocus) || isPopup) continue;
+      const QAccessibleInterface* about = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(about, nullptr);
+      if (qobject_cast<QLineEdit*>(widget) && qobject_cast<NumberBox*>(widget->parentWidget())) {
+        continue;  // the box speaks for it
+      }
+      EXPECT_FALSE(about->text(QAccessible::Name).isEmpty())
+          << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+    }
+    const QString end = kind == Kind::Levels ? "" : "cmdClear ";
+    EXPECT_TRUE(TabOrder().endsWith("cmdPreview " + end + "cmdOK cmdDismiss cmdHelp"))
+        << TabOrder().toStdString();
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "spnStarfold_0");
+    Press(*Dialog, Qt::Key_Escape);
+    EXPECT_FALSE(Dialog->isVisible());
+  }
+}
+
+TEST_F(BodyEditorsTest, EveryThemeGoesThroughRecordTreeAndTemplateAndBack) {
+  for (const Kind kind : {Kind::Ifs, Kind::Molecule}) {
+    const auto themes = kind == Kind::Ifs ? IfsThemes() : MoleculeThemes();
+    for (std::size_t i = 0; i < themes.size(); ++i) {
+      const BodyTheme& theme = themes[i];
+      Record() = {};
+      Open(kind);
+      List("cboTheme").setCurrentIndex(static_cast<int>(i) + 1);
+      EXPECT_EQ(The<QLabel>("lblTheme").text().toStdString(), theme.Description);
+      Click("cmdOK");
+      EXPECT_TRUE(Boxes.Log.empty()) << theme.Name;
+      const std::map<int, std::string> body = {{0, std::to_string(theme.Body[0])},
+                                               {1, std::to_string(theme.Body[1])},
+                                               {2, std::to_string(theme.Body[2])}};
+      EXPECT_EQ(Props.Texts, body);
+      EXPECT_EQ(Record().Starfold_Radius, 300) << "is the properties dialog's to store";
+      for (std::size_t k = 0; k < theme.Rows.size(); ++k) {
+        const IfsPoint& p = Record().IFS.Points[std::min<std::size_t>(k, kMaxIfsPoints - 1)];
+        const AtomPoint& a = Record().Atom.Atoms[k];
+        const ThemeRow point = {p.IFS_LocX, p.IFS_LocY,  p.IFS_LocZ,  p.IFS_Scale,
+                                p.IFS_Axis, p.IFS_Angle, p.IFS_RelPct};
+        const ThemeRow atom = {a.Atom_Element, a.Atom_Structure, a.Atom_LocX,  a.Atom_LocY,
+                               a.Atom_LocZ,    a.Atom_Size,      a.Atom_Radius};
+        EXPECT_EQ(kind == Kind::Ifs ? point : atom, theme.Rows[k]) << theme.Name << " " << k;
+      }
+      Open(kind);
+      const std::string before = Contents();
+
+      SaveAllProfiles(Tree, Process->Profiles);
+      LoadAllProfiles(Tree, Process->Profiles, RootSelector::CurrentUser);
+      MemoryFiles disk;
+      TemplateFile file(disk);
+      file.TemplateFileName = "a.sfd";
+      WriteTemplate(file, Tree, {}, Process->Profiles, Process->Composites, {});
+      SettingsRecords read;
+      ReadTemplate(file, "a.sfd", read);
+      Process->Profiles = read.Profiles;
+      Open(kind);
+      EXPECT_EQ(Contents(), before) << theme.Name;
+    }
+  }
+}
+
+/// Also a body without extent that the eye stands in, which no theme is.
+TEST_F(BodyEditorsTest, EveryThemeIsPreviewed) {
+  for (const Kind kind : {Kind::Ifs, Kind::Molecule}) {
+    for (int theme = 1; theme <= 10; ++theme) {
+      for (const bool asPoint : {false, true}) {
+        Open(kind);
+        List("cboTheme").setCurrentIndex(theme);
+        for (const char* box : {"txtStarfold_0", "txtStarfold_1", "txtStarfold_2"}) {
+          if (asPoint) Put(box, "0");
+        }
+        Preview(40);
+        EXPECT_EQ(Events.Pumps, 40);
+        EXPECT_EQ(Record().Starfold_Radius == 0, asPoint) << "a run gives back what it clamps";
+        const QImage shot = The<PictureBox>("picPreview").grab().toImage();
+        std::set<QRgb> colours;
+        for (int y = 0; y < shot.height(); ++y) {
+          for (int x = 0; x < shot.width(); ++x) colours.insert(shot.pixel(x, y));
+        }
+        EXPECT_TRUE(asPoint || colours.size() > 3) << "nothing to see of theme " << theme;
+      }
+    }
+  }
+}
+
+TEST_F(BodyEditorsTest, LevelsAreHeldToTheirRangesAndHandedOn) {
+  struct Row {
+    std::string Typed[5], Held[5];
+  };
+  const Row rows[] = {
+      {{"", "0", "100", "0", ""}, {"1", "1", "99.9", "1", "1"}},
+      {{"11", "30001", "0.25", "99999", "777"}, {"10", "30000", "0.25", "30000", "777"}}};
+  const char* const boxes[] = {"txtLevel_0", "txtLevel_1", "txtLevel_2", "txtStarfold_0",
+                               "txtStarfold_1"};
+  for (const auto& [typed, held] : rows) {
+    Open(Kind::Levels);
+    for (int i = 0; i < 5; ++i) Put(boxes[i], typed[i]);
+    The<QCheckBox>("chkToggle_1").toggle();
+    const bool interleaved = The<QCheckBox>("chkToggle_1").isChecked();
+    Click("cmdOK");
+    const StarfoldProfile& body = Record();
+    EXPECT_EQ(NumberText(Long{body.Starfold_StdLevels}), held[0]);
+    EXPECT_EQ(NumberText(body.Starfold_StdLevDRad), held[1]);
+    EXPECT_EQ(NumberText(body.Starfold_StdLevHSca), held[2]);
+    EXPECT_EQ(body.Starfold_StdLevB_A0, interleaved ? 1 : 0);
+    EXPECT_EQ(body.Starfold_StdLevB_HS + body.Starfold_StdLevB_A1, 0);
+    const std::map<int, std::string> handedOn = {{9, held[0]}, {0, held[3]}, {2, held[4]}};
+    EXPECT_EQ(Props.Texts, handedOn);
+    Open(Kind::Levels);
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(Text(boxes[i]), held[i]);
+    EXPECT_EQ(The<QCheckBox>("chkToggle_1").isChecked(), interleaved);
+  }
+  Record().Starfold_StdLevDRad = 1234567;
+  Open(Kind::Levels);
+  EXPECT_EQ(Text("txtLevel_1"), "1234567") << "as it stands in the record";
+}
+
+TEST_F(BodyEditorsTest, WhatAPreviewGathersStaysAlsoAfterCancel) {
+  Open(Kind::Levels);
+  Put("txtLevel_0", "6");
+  Put("txtStarfold_1", "1500");
+  Preview(3);
+  Put("txtLevel_0", "8");
+  Click("cmdDismiss");
+  EXPECT_EQ(Record().Starfold_StdLevels, 6);
+  EXPECT_EQ(Record().Starfold_Distance, 1500);
+
+  Open(Kind::Ifs);
+  Put("txtStarfold_1", "222");
+  Put("txtCenter_2", "33");
+  Click("cmdPreview");  // refused
+  EXPECT_EQ(Record().Starfold_Rotation, 222);
+  EXPECT_EQ(Record().IFS.IFS_CenterZ, 33);
+  Click("cmdDismiss");
+  EXPECT_TRUE(Props.Texts.empty());
+}
+
+TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDroppedAndTheOthersCloseUp) {
+  Record().Starfold_IFS_Points = 5;
+  for (IfsPoint& point : Record().IFS.Points) point = {1, 2, 3, 4, 2, 6, 7};
+  Open(Kind::Ifs);
+  EXPECT_EQ(List("cboRAxis_4").currentText(), "Z");
+  Put("txtPercent_1", "");
+  Put("txtPercent_3", "0");
+  Put("txtScale_2", "101");
+  Put("txtAngle_2", "400");
+  Put("txtLocX_2", "");
+  List("cboRAxis_4").setCurrentIndex(-1);
+  Click("cmdOK");
+  EXPECT_EQ(Record().Starfold_IFS_Points, 3);
+  const auto& points = Record().IFS.Points;
+  EXPECT_EQ(points[0].IFS_Scale, 4);
+  EXPECT_EQ(points[1].IFS_Scale, 100);
+  EXPECT_EQ(points[1].IFS_Angle, 360);
+  EXPECT_EQ(points[1].IFS_LocX, 0);
+  EXPECT_EQ(points[2].IFS_Axis, 0);
+  EXPECT_EQ(points[3].IFS_RelPct, 0);
+  EXPECT_EQ(points[4].IFS_RelPct, 0);
+
+  Open(Kind::Ifs);
+  EXPECT_EQ(Text("txtPercent_2"), "7");
+  EXPECT_EQ(Text("txtPercent_3"), "") << "a row that is not in use is blank";
+  for (int row = 3; row < 5; ++row) Put("txtPercent_" + std::to_string(row), "9");
+  List("cboTheme").setCurrentIndex(5);  // of three points
+  for (int row = 3; row < 5; ++row) {
+    EXPECT_EQ(Text("txtPercent_" + std::to_string(row)), "");
+    EXPECT_EQ(List("cboRAxis_" + std::to_string(row)).currentIndex(), -1);
+  }
+  Put("txtLocX_1", "1");
+  emit List("cboTheme").activated(5);  // once more
+  EXPECT_EQ(Text("txtLocX_1"), "1000");
+  Click("cmdClear");
+  for (const char* box : {"txtCenter_0", "txtLocX_1", "txtPercent_0"}) {
+    Leave(*Edit(box).parentWidget());
+    EXPECT_EQ(Text(box), "") << box;
+  }
+  EXPECT_EQ(Text("txtStarfold_0"), "300") << "the body's own numbers are not cleared";
+}
+
+TEST_F(BodyEditorsTest, WhatIsNoBodyIsRefusedAndTheEditorStays) {
+  struct Row {
+    Kind Which;
+    std::string Message;
+  };
+  const Row rows[] = {
+      {Kind::Ifs,
+       "You must specify two or more Attractor Points in order to Preview the I.F.S.  \nConsider "
+       "selecting one of the Themes in order to see a sample I.F.S.  \nor press Cancel to return "
+       "to the Starfold Settings."},
+      {Kind::Molecule,
+       "You must specify at least one Atomic Structure in order to Preview the Molecule.  \n"
+       "Consider selecting one of the Themes in order to see a sample Molecule  \nor press Cancel "
+       "to return to the Starfold Settings."}};
+  for (const auto& [kind, message] : rows) {
+    Record().Starfold_IFS_Points = Record().Starfold_Atoms = 3;
+    Open(kind);
+    Click("cmdClear");
+    if (kind == Kind::Ifs) Put("txtPercent_2", "50");
+    for (const char* button : {"cmdOK", "cmdPreview"}) {
+      Click(button);
+      EXPECT_EQ(LastBox(), message);
+      EXPECT_TRUE(Dialog->isVisible());
+    }
+    const auto& body = Record();
+    EXPECT_EQ(kind == Kind::Ifs ? body.Starfold_IFS_Points : body.Starfold_Atoms, 0);
+    EXPECT_TRUE(Props.Texts.empty());
+  }
+}
+
+TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
+  Open(Kind::Ifs);
+  List("cboTheme").setCurrentIndex(1);
+  auto& preview = The<QPushButton>("cmdPreview");
+  Edit("txtLocX_0").parentWidget()->setFocus();
+  EXPECT_TRUE(The<QPushButton>("cmdOK").isDefault());
+  Events.Plan[4] = [&] {
+    EXPECT_EQ(preview.text(), "Stop");
+    EXPECT_TRUE(preview.isDefault());
+    EXPECT_FALSE(The<QPushButton>("cmdDismiss").isEnabled());
+    EXPECT_TRUE(The<QPushButton>("cmdOK").isEnabled());
+    Put("txtLocX_0", "5");
+    Press(*Edit("txtLocX_0").parentWidget(), Qt::Key_Return);
+  };
+  Click("cmdPreview");
+  EXPECT_EQ(Events.Pumps, 4);
+  EXPECT_EQ(preview.text(), "Preview I.F.S.");
+  EXPECT_TRUE(The<QPushButton>("cmdOK").isDefault());
+  EXPECT_TRUE(The<QPushButton>("cmdDismiss").isEnabled());
+  EXPECT_EQ(Record().IFS.Points[0].IFS_LocX, 1000) << "of the preview";
+
+  Events.Pumps = 0;
+  Events.Plan = {{4, [&] { Dialog->resize(Dialog->size() + QSize(80, 50)); }},
+                 {30, [&] { Press(*Dialog, Qt::Key_Escape); }}};
+  Click("cmdPreview");
+  EXPECT_EQ(Events.Pumps, 30) << "it goes on in the new size";
+  EXPECT_TRUE(Dialog->isVisible()) << "Escape ended the preview only";
+
+  for (const bool closes : {true, false}) {
+    Dialog->show();
+    Events.Pumps = 0;
+    Events.Plan = {{4, [&] {
+                      closes ? void(Dialog->close()) : Click("cmdOK");
+                      EXPECT_TRUE(Dialog->isVisible()) << "the run draws on it";
+                    }}};
+    Click("cmdPreview");
+    EXPECT_EQ(Events.Pumps, 4);
+    EXPECT_EQ(Dialog->result(), closes ? QDialog::Rejected : QDialog::Accepted);
+    EXPECT_FALSE(Dialog->isVisible());
+  }
+  EXPECT_EQ(Record().IFS.Points[0].IFS_LocX, 5);
+  EXPECT_EQ(Props.Texts[0], "250");
+}
+
+TEST_F(BodyEditorsTest, AWindowThatCannotBeResizedKeepsItsSize) {
+  Open(Kind::Molecule);
+  Dialog->resize(1300, 640);
+  auto& mnuResize = Part<QAction>(*Dialog, "mnuResize");
+  EXPECT_TRUE(mnuResize.isChecked());
+  mnuResize.trigger();
+  Dialog->resize(1350, 660);
+  EXPECT_EQ(Dialog->size(), QSize(1300, 640));
+  mnuResize.trigger();
+  Dialog->resize(1350, 660);
+  EXPECT_EQ(Dialog->size(), QSize(1350, 660));
+}
+
+/// Whoever presses, types and chooses anywhere leaves a record that a tree can hold.
+TEST_F(BodyEditorsTest, RandomEventsLeaveAValidRecord) {
+  RandomHands hands(11);
+  for (const Kind kind : kKinds) {
+    Open(kind);
+    for (int i = 1; i < 400; ++i) Events.Plan[i * 5] = [&] { Press(*Dialog, Qt::Key_Escape); };
+    for (int i = 0; i < 4000; ++i) {
+      Events.Pumps = 0;
+      hands.Act(*Dialog, [&](const QString& name) {
+        if (name == "cmdOK" || name == "cmdDismiss") return true;
+        const bool seldom = name == "cmdPreview" || name == "cmdClear" || name == "cboTheme";
+        return seldom && hands.Draw(20) > 0;
+      });
+    }
+    Click("cmdOK");
+    StarfoldProfile held = Record();
+    ClampProfile(held);
+    for (int i = 0; i < held.Starfold_Atoms; ++i) {
+      EXPECT_EQ(held.Atom.Atoms[i].Atom_Element, Record().Atom.Atoms[i].Atom_Element);
+      EXPECT_EQ(held.Atom.Atoms[i].Atom_LocX, Record().Atom.Atoms[i].Atom_LocX);
+    }
+    MemoryTree once;
+    MemoryTree twice;
+    SaveAllProfiles(once, Process->Profiles);
+    LoadAllProfiles(once, Process->Profiles, RootSelector::CurrentUser);
+    SaveAllProfiles(twice, Process->Profiles);
+    EXPECT_EQ(once, twice);
+  }
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,522 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QTimer>
+#include <set>
+
+#include "template_dialogs/frm_file_io.h"
+#include "properties/frm_welcome.h"
+#include "numbers/text.h"
+#include "properties/props_dialog.h"
+#include "settings/first_run.h"
+#include "settings/overrides.h"
+#include "settings/random_records.h"
+#include "settings/templates.h"
+
+namespace starfolds {
+namespace {
+
+std::string Shortest(double number) { return NumberText(static_cast<Single>(number)); }
+
+TEST_F(FrmPropsTest, EveryUniverseRowIsHeldStoredAndShownAgain) {
+  StoreFactory();
+  for (const bool high : {true, false}) {
+    Open();
+    for (const UniverseRow& row : UniverseRows()) {
+      Enter("txtUni_" + std::to_string(row.Index), high ? "99999999" : "0");
+      const NumberRange range = RangeOf(row);
+      EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
+                Shortest(high ? range.High : range.Low))
+          << row.Name;
+    }
+    Click("cmdAccept");
+    EXPECT_FALSE(Dialog->IsOpen());
+    Open();
+    for (const UniverseRow& row : UniverseRows()) {
+      const NumberRange range = RangeOf(row);
+      const std::string expected = Shortest(high ? range.High : range.Low);
+      EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, row.Name), expected) << row.Name;
+      EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(), expected);
+    }
+    Click("cmdDismiss");
+  }
+}
+
+TEST_F(FrmPropsTest, ListsAndChecksOfTheUniverseAreStoredToo) {
+  StoreFactory();
+  Open();
+  The<QCheckBox>("chkUniTour").setChecked(true);
+  The<QCheckBox>("chkVisitSeq").setChecked(true);
+  EXPECT_FALSE(Edit("txtUni_34").parentWidget()->isEnabled());
+  The<QCheckBox>("chkRotCamera").setChecked(true);
+  EXPECT_TRUE(Edit("txtUni_34").parentWidget()->isEnabled());
+  auto& tour = The<QComboBox>("cboTourStarfolds");
+  tour.setEditText(" 4 ");
+  emit tour.lineEdit()->textEdited(" 4 ");
+  tour.setCurrentIndex(65);
+  emit tour.activated(65);  // a body chosen from the list adds its number
+  The<QComboBox>("cboUniProfile").setCurrentIndex(50);
+  The<QCheckBox>("chkUniTour").setChecked(false);
+  EXPECT_FALSE(tour.isEnabled());
+  Click("cmdAccept");
+  const UniverseSettings stored = LoadUniverseFromRegistry(Tree);
+  EXPECT_FALSE(stored.Universe_Tour);
+  EXPECT_TRUE(stored.Universe_GVisit);
+  EXPECT_TRUE(stored.Universe_RotCam);
+  EXPECT_EQ(stored.Universe_GS_Idx, "4 66");
+  EXPECT_EQ(stored.Universe_Profile, 50);
+}
+
+/// Which of the boxes that not all styles have each style shows, apart from the dialog's own table.
+const std::set<int> kBoxesOfStyle[kStyleCount] = {{3, 4, 5, 6, 9, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 90},
+                                                  {3, 4, 90},
+                                                  {3, 4, 5, 6, 90, 91, 92},
+                                                  {3, 4, 5, 6, 8, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 6, 8, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 6, 90, 91},
+                                                  {},
+                                                  {}};
+
+TEST_F(FrmPropsTest, EachStyleShowsItsRowsUnderTheirNames) {
+  StoreFactory();
+  Open();
+  OpenType(0);
+  for (int style = 0; style < kStyleCount; ++style) {
+    The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
+    for (const int box : {3, 4, 5, 6, 8, 9, 90, 91, 92, 95, 96}) {
+      EXPECT_EQ(!Edit("txtStarfold_" + std::to_string(box)).parentWidget()->isHidden(),
+                kBoxesOfStyle[style].contains(box))
+          << "style " << style << ", box " << box;
+    }
+    const auto isShown = [&](const char* name) { return !The<QWidget>(name).isHidden(); };
+    EXPECT_EQ(isShown("cboFoldProfile"), style <= 1 || style == 5 || style == 6);
+    EXPECT_EQ(isShown("picFoldProfile"), isShown("cboFoldProfile"));
+    EXPECT_EQ(isShown("cboFoldColor"), style != 4 && style != 9);
+    EXPECT_EQ(isShown("chkCP_Closed"), style == 4);
+    EXPECT_EQ(isShown("chkCP_AdvHW"), style == 4);
+    EXPECT_EQ(isShown("cmdIFS_Chem"), style >= 8);
+    EXPECT_EQ(isShown("cmdFoldLevels"), style == 0);
+    if (style != 0 && style != 4) continue;
+    EXPECT_EQ(The<QLabel>("lblStarfold_91").text(),
+              style == 4 ? "Expansion from Spline Path (0.0 - 99.9):"
+                         : "Radius Distribution Exponent (0.0 - 99.9):");
+  }
+  EXPECT_EQ(The<QPushButton>("cmdIFS_Chem").text(), "User Defined Molecular Structure...");
+  EXPECT_EQ(The<QLabel>("lblOtherColorCycles").text(),
+            "Atomic Sphere Color Blending  (0 - 30000):");
+}
+
+TEST_F(FrmPropsTest, EveryStarfoldRowOfEveryStyleReachesItsSetting) {
+  StoreFactory();
+  for (int style = 0; style < kStyleCount; ++style) {
+    Open();
+    OpenType(7);
+    The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
+    for (const bool hue : {false, true}) {
+      for (const StarfoldRow& row : hue ? PixHueRows() : StarfoldRows()) {
+        if (!IsShown(row, style)) continue;
+        const std::string box = (hue ? "txtPixHue_" : "txtStarfold_") + std::to_string(row.Index);
+        Enter(box, "99999999");
+        EXPECT_EQ(Edit(box).text().toStdString(), Shortest(RangeOf(row, style).High)) << box;
+      }
+    }
+    Click("cmdAccept");  // to the universe
+    Click("cmdAccept");
+    const StarfoldProfile stored = LoadSettings(Tree).Profiles[7];
+    EXPECT_EQ(stored.Starfold_FoldStyle, style);
+    for (const StarfoldRow& row : StarfoldRows()) {
+      if (!IsShown(row, style)) continue;
+      const Field<StarfoldProfile>& field = FieldOf(row, style);
+      EXPECT_EQ(FieldText(stored, field), Shortest(RangeOf(row, style).High)) << field.Name;
+    }
+    EXPECT_EQ(stored.Starfold_HueBlend, 60);
+    EXPECT_EQ(stored.Starfold_ColorComp == 5, style == 4);
+    EXPECT_EQ(stored.Starfold_ColorComp == 6, style == 9);
+  }
+}
+
+TEST_F(FrmPropsTest, LookingAtATypeChangesNothingAndNeitherDoesTryingAStyle) {
+  SettingsRecords records = RandomRecords(71).Make();
+  for (StarfoldProfile& profile : records.Profiles) {
+    const bool ruled =
+        profile.Style() == FoldStyle::Nebula || profile.Style() == FoldStyle::Molecule;
+    const int forced = profile.Style() == FoldStyle::Nebula ? 5 : 6;
+    profile.Starfold_ColorComp =
+        static_cast<Integer>(ruled ? forced : profile.Starfold_ColorComp % 5);
+  }
+  Store(records);
+  Open();
+  for (int type = 0; type < kProfileCount; type += 7) {
+    OpenType(type);
+    auto& style = The<QComboBox>("cboFoldStyle");
+    const int own = style.currentIndex();
+    for (int other = 0; other < kStyleCount; ++other) style.setCurrentIndex(other);
+    style.setCurrentIndex(own);
+    Click("cmdAccept");
+  }
+  Click("cmdAccept");
+  const SettingsRecords after = LoadSettings(Tree);
+  for (int type = 0; type < kProfileCount; ++type) {
+    for (const Field<StarfoldProfile>& field : ProfileFields()) {
+      EXPECT_EQ(FieldText(after.Profiles[type], field), FieldText(records.Profiles[type], field))
+          << field.Name << " of " << type;
+    }
+  }
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    EXPECT_EQ(FieldText(after.Universe, field), FieldText(records.Universe, field)) << field.Name;
+  }
+}
+
+TEST_F(FrmPropsTest, ANewStyleMendsANumberWhenItsBoxIsLeft) {
+  StoreFactory();
+  Open();
+  OpenType(0);
+  Enter("txtStarfold_3", "1");
+  The<QComboBox>("cboFoldStyle").setCurrentIndex(2);
+  EXPECT_EQ(Edit("txtStarfold_3").text(), "1");
+  Leave(*Edit("txtStarfold_3").parentWidget());
+  EXPECT_EQ(Edit("txtStarfold_3").text(), "4");
+}
+
+TEST_F(FrmPropsTest, CancelLeavesTheTreeAsItWas) {
+  Store(RandomRecords(81).Make());
+  Open();
+  const MemoryTree before = Tree;
+  Enter("txtUni_0", "77");
+  The<QComboBox>("cboUniTheme").setCurrentIndex(3);
+  The<BodyList>("lstUniStarfold").setCurrentRow(4);
+  Edit("txtUniFoldName").setText("Mine");
+  Click("cmdFoldCommit");
+  OpenType(5);
+  EXPECT_TRUE(The<QPushButton>("cmdDismiss").isHidden()) << "Cancel is for the universe's view";
+  Click("cmdAccept");
+  Click("cmdDismiss");
+  EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
+  EXPECT_TRUE(Process->NewRun);
+  EXPECT_NE(RegistryReadText(Tree, sections::kMain, "WindowSize"), "");
+}
+
+TEST_F(FrmPropsTest, TheHelpOpensWhereTheUserIs) {
+  StoreFactory();
+  Open();
+  const auto f1 = [&] {
+    emit Part<QShortcut>(*Dialog, "helpHere").activated();
+    return HelpBook.Topics.back();
+  };
+  The<BodyList>("lstUniStarfold").setFocus();
+  EXPECT_EQ(f1(), help::kUniverseView);
+  The<QComboBox>("cboPropCopyList").setFocus();
+  EXPECT_EQ(f1(), help::kPropertyCopy);
+  The<QComboBox>("cboUniExtras").setFocus();
+  for (int page = 0; page < kUniversePageCount; ++page) {
+    The<QComboBox>("cboUniExtras").setCurrentIndex(page);
+    EXPECT_EQ(f1(), help::kUniversePage + page);
+  }
+  OpenType(0);
+  for (int page = 0; page < kStarfoldPageCount; ++page) {
+    The<QComboBox>("cboFoldExtras").setCurrentIndex(page);
+    EXPECT_EQ(f1(), help::kStarfoldPage + page);
+  }
+  Choose("mnuContents");
+  EXPECT_EQ(HelpBook.Contents, 1);
+  Choose("mnuSearch");
+  EXPECT_EQ(HelpBook.Searches, 1);
+  EXPECT_EQ(HelpBook.Quits, 0);
+  Dialog->close();
+  EXPECT_EQ(HelpBook.Quits, 1);
+}
+
+TEST_F(FrmPropsTest, TheHomePageIsATopicUnlessThereIsAnAddress) {
+  StoreFactory();
+  Open();
+  Choose("mnuHomePage");
+  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kProject});
+  EXPECT_TRUE(Desktop.WebPages.empty());
+
+  HomePage = "https://example.org/starfolds";
+  Open();
+  Choose("mnuHomePage");
+  EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{HomePage});
+}
+
+TEST_F(FrmPropsTest, TheWheelChangesAListOnlyWhereTheFocusIs) {
+  StoreFactory();
+  Open();
+  auto& themes = The<QComboBox>("cboUniTheme");
+  const int before = themes.currentIndex();
+  The<QPushButton>("cmdAccept").setFocus();
+  TurnWheel(themes, -120);
+  EXPECT_EQ(themes.currentIndex(), before);
+  EXPECT_FALSE(themes.hasFocus());
+  themes.setFocus();
+  TurnWheel(themes, -120);
+  EXPECT_EQ(themes.currentIndex(), before + 1);
+}
+
+TEST_F(FrmPropsTest, NamesAndWeightsAreCommitted) {
+  StoreFactory();
+  Open();
+  auto& list = The<BodyList>("lstUniStarfold");
+  list.setCurrentRow(4);
+  Edit("txtUniFoldName").selectAll();
+  Type(Edit("txtUniFoldName"), "[a=b],");
+  EXPECT_EQ(Edit("txtUniFoldName").text(), "ab") << "typed over, without what breaks formats";
+  Enter("txtUniFoldPct", "9999");
+  Click("cmdFoldCommit");
+  EXPECT_EQ(list.EntryName(4), "ab");
+  EXPECT_TRUE(list.item(4)->text().endsWith("   9999"));
+  EXPECT_EQ(The<QComboBox>("cboUniProfile").itemText(4).left(2), "ab");
+  Edit("txtResetFoldPct").clear();
+  Click("cmdResetFoldPct");
+  EXPECT_EQ(LastBox(), "Please enter a value for the Reset percent.");
+  Enter("txtResetFoldPct", "7");
+  Click("cmdResetFoldPct");
+  EXPECT_TRUE(list.item(4)->text().endsWith("   7"));
+  Click("cmdAccept");
+  const SettingsRecords stored = LoadSettings(Tree);
+  EXPECT_EQ(stored.Profiles[4].UniFoldName, "ab");
+  for (const StarfoldProfile& profile : stored.Profiles) EXPECT_EQ(profile.UniFoldPct, 7);
+}
+
+TEST_F(FrmPropsTest, WhatNeedsASelectionAsksForOne) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstUniStarfold").clearSelection();
+  The<BodyList>("lstCompStarfold").clearSelection();
+  Click("cmdFoldProps");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Profile.");
+  Click("cmdFoldCommit");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Profile.");
+  Click("cmdPreviewFold");
+  EXPECT_EQ(LastBox(), "Please select a Starfold Type.");
+  Click("cmdPreviewComp");
+  EXPECT_EQ(LastBox(), "Please select a Composite Starfold Type.");
+}
+
+TEST_F(FrmPropsTest, ThemesFillThePages) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstCompStarfold").setCurrentRow(1);
+  The<QComboBox>("cboUniTheme").setCurrentIndex(8);
+  UniverseSettings theme;
+  LoadFactoryTheme(theme, 8, false);
+  for (const UniverseRow& row : UniverseRows()) {
+    if (row.Name == "Universe_C_Ramp") continue;  // no theme has it
+    EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
+              FieldText(theme, *FindField(UniverseFields(), row.Name)))
+        << row.Name;
+  }
+  EXPECT_EQ(The<BodyList>("lstCompStarfold").Selected(), -1);
+  OpenType(30);
+  for (int position = 1; position <= kProfileCount; ++position) {
+    The<QComboBox>("cboFoldTheme").setCurrentIndex(position);
+    StarfoldProfile body;
+    LoadFactoryProfile(body, FactorySet::Starfolds4x, position - 1);
+    EXPECT_EQ(The<QComboBox>("cboFoldStyle").currentIndex(), body.Starfold_FoldStyle);
+    EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), NumberText(body.Starfold_Radius));
+  }
+}
+
+TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
+  StoreFactory();
+  Open();
+  The<BodyList>("lstUniStarfold").setCurrentRow(2);
+  The<QCheckBox>("chkUniTour").setChecked(false);
+  Events.Plan[5] = [&] {
+    EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Stop");
+    EXPECT_FALSE(Edit("txtUni_0").parentWidget()->isEnabled());
+    EXPECT_FALSE(The<QPushButton>("cmdAccept").isEnabled());
+    EXPECT_FALSE(The<QPushButton>("cmdPreviewUni").isEnabled());
+    Click("cmdPreviewFold");
+  };
+  Click("cmdPreviewFold");
+  EXPECT_EQ(Events.Pumps, 5);
+  EXPECT_EQ(The<QPushButton>("cmdPreviewFold").text(), "Preview Starfold");
+  EXPECT_TRUE(Edit("txtUni_0").parentWidget()->isEnabled());
+  EXPECT_TRUE(The<QPushButton>("cmdAccept").isEnabled());
+  EXPECT_FALSE(The<QCheckBox>("chkRotCamera").isEnabled()) << "it was not enabled before";
+
+  Events.Plan = {{12, [&] { Press(*Dialog, Qt::Key_Escape); }}};
+  Click("cmdPreviewUni");
+  EXPECT_LE(Events.Pumps, 13);
+  EXPECT_TRUE(Dialog->IsOpen());
+  The<BodyList>("lstCompStarfold").setCurrentRow(0);
+  Events.Plan = {{20, [&] { Dialog->close(); }}};
+  Click("cmdPreviewComp");
+  EXPECT_LE(Events.Pumps, 21);
+  EXPECT_FALSE(Dialog->IsOpen()) << "it closes when the run has ended";
+}
+
+TEST_F(FrmPropsTest, APreviewEndsWithTheProcess) {
+  StoreFactory();
+  Open();
+  Events.Plan[9] = [&] { Process->QuitApp = true; };
+  Click("cmdPreviewUni");
+  EXPECT_LE(Events.Pumps, 10);
+}
+
+TEST_F(FrmPropsTest, APageThatIsOpenDuringAResetShowsAndStoresTheFactorysValues) {
+  StoreFactory();
+  Open();
+  OpenType(3);
+  const std::string factory = Edit("txtStarfold_0").text().toStdString();
+  Enter("txtStarfold_0", "4321");
+  Boxes.Answers = {BoxAnswer::Cancel};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(Edit("txtStarfold_0").text(), "4321") << "what was typed outlives a cancelled reset";
+  Boxes.Answers = {BoxAnswer::No};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), factory);
+  Click("cmdAccept");
+  OpenType(3);
+  EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), factory);
+}
+
+TEST_F(FrmPropsTest, ResetsFromTheMenuAskFirst) {
+  Store(RandomRecords(91).Make());
+  Open();
+  Boxes.Answers = {BoxAnswer::Cancel, BoxAnswer::Yes};
+  Choose("mnuResetProps_0");
+  EXPECT_TRUE(Disk.Contents.empty());
+  Choose("mnuResetProps_0");
+  EXPECT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
+  EXPECT_EQ(Edit("txtUni_0").text(), "2500") << "theme 1 in its variant for 2.0";
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Pancake-Like Disk");
+  EXPECT_FALSE(Part<QAction>(*Dialog, "mnuResetProps_0").isChecked());
+  Boxes.Answers = {BoxAnswer::No};
+  Choose("mnuResetProps_2");
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").count(), kProfileCount);
+}
+
+TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
+  StoreFactory();
+  Open();
+  Enter("txtUni_0", "1234");
+  Tree.Writable = false;
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::TryAgain, BoxAnswer::Ok, BoxAnswer::Cancel};
+  Click("cmdAccept");
+  ASSERT_EQ(Boxes.Log.size(), 4U);
+  EXPECT_TRUE(Boxes.Log[2].Text.starts_with("The Registry is read-only."));
+  EXPECT_TRUE(Dialog->IsOpen());
+  EXPECT_EQ(Edit("txtUni_0").text(), "1234");
+
+  WhenShown<FrmFileIo>([](FrmFileIo& dialog) { dialog.reject(); });
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::SaveAsTemplate};
+  Click("cmdAccept");
+  EXPECT_TRUE(Dialog->IsOpen());
+
+  Boxes.Answers = {BoxAnswer::Ok, BoxAnswer::CloseWithoutSaving};
+  Click("cmdAccept");
+  EXPECT_FALSE(Dialog->IsOpen());
+  Tree.Writable = true;
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
+
+  Open();
+  Enter("txtUni_0", "1234");
+  Tree.WritesUntilFull = 300;
+  Click("cmdAccept");
+  EXPECT_TRUE(Dialog->IsOpen()) << "a disk that fills up in the middle";
+  Tree.WritesUntilFull = -1;
+  Click("cmdAccept");
+  EXPECT_FALSE(Dialog->IsOpen());
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 1234);
+}
+
+TEST_F(FrmPropsTest, SettingsOfTheRunAreToldAndNotStored) {
+  StoreFactory();
+  EXPECT_FALSE(Part<QLabel>(Open(), "lblOverrides").isVisible());
+  Click("cmdDismiss");
+  OverriddenTree ofRun(Tree);
+  const std::vector<SettingChange> changes(28, {"Universe_Stars", "123"});
+  ofRun.Override(changes);
+  Overrides = ChangesInWords(changes);
+  EXPECT_NE(Part<QLabel>(Open(), "lblOverrides").text().indexOf("Starfolds = 123."), -1);
+  EXPECT_TRUE(The<QLabel>("lblOverrides").isVisible());
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Click("cmdAccept");
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
+  EXPECT_EQ(LoadUniverseFromRegistry(ofRun).Universe_Stars, 123);
+}
+
+TEST_F(FrmPropsTest, ExitEndsTheProcess) {
+  StoreFactory();
+  Open();
+  Choose("mnuExit");
+  EXPECT_TRUE(Process->QuitApp);
+  EXPECT_FALSE(Dialog->IsOpen());
+}
+
+/// Presses a button of the welcome that comes up modally.
+void AnswerWelcome(const char* button) {
+  WhenShown<FrmWelcome>(
+      [button](FrmWelcome& welcome) { Part<QPushButton>(welcome, button).click(); });
+}
+
+TEST_F(FrmPropsTest, WelcomesANewUserWithTheFactorysUniverse) {
+  AnswerWelcome("cmdDismiss");
+  Open();
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Click("cmdAccept");
+  EXPECT_TRUE(HasMark(Tree, kAnimationType));
+  Open();  // no second welcome
+  EXPECT_TRUE(Boxes.Log.empty());
+}
+
+TEST_F(FrmPropsTest, WelcomesAnUpgradeWithASafetyCopy) {
+  SettingsRecords mine = RandomRecords(95).Make();
+  SaveSettings(Tree, mine);
+  RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
+  AnswerWelcome("cmdReset");
+  Open();
+  SettingsRecords saved;
+  TemplateFile file(Disk);
+  ASSERT_EQ(ReadTemplate(file, "/prog/propsave.sfd", saved), std::nullopt);
+  EXPECT_EQ(saved.Universe.Universe_GSteps, mine.Universe.Universe_GSteps);
+  EXPECT_EQ(saved.Universe.Universe_Profile, mine.Universe.Universe_Profile);
+  EXPECT_EQ(saved.Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName);
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName)
+      << "until the dialog is accepted";
+}
+
+/// Whoever presses, types and chooses anywhere, previews included, leaves a tree that is valid.
+TEST_F(FrmPropsTest, TenThousandRandomEventsLeaveAValidTree) {
+  StoreFactory();
+  Open();
+  RandomHands hands(7);
+  for (int i = 1; i < 400; ++i) Events.Plan[i * 6] = [&] { Press(*Dialog, Qt::Key_Escape); };
+  QTimer closer;  // of the editors, which wait modally
+  closer.callOnTimeout([] {
+    auto* editor = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (editor) editor->close();
+  });
+  closer.start(0);
+  for (int i = 0; i < 10000; ++i) {
+    Events.Pumps = 0;
+    hands.Act(*Dialog, [&](const QString& name) {
+      const bool accepts = The<QPushButton>("cmdAccept").text() == "&Accept Settings";
+      return name == "cmdDismiss" || (name == "cmdAccept" && accepts) ||
+             (name.startsWith("cmdPreview") && hands.Draw(20) > 0);
+    });
+    if (hands.Draw(500) == 0) Choose(i % 2 == 0 ? "mnuResetProps_0" : "mnuResetProps_2");
+  }
+  if (The<QPushButton>("cmdAccept").text() != "&Accept Settings") Click("cmdAccept");
+  Click("cmdAccept");
+  for (const UniverseRow& row : UniverseRows()) {
+    const std::string stored = RegistryReadText(Tree, sections::kUniverse, row.Name);
+    EXPECT_EQ(stored, ClampedText(stored, RangeOf(row))) << row.Name;
+  }
+  SettingsRecords stored = LoadSettings(Tree);
+  MemoryTree again;
+  EXPECT_TRUE(SaveSettings(again, stored));
+  EXPECT_EQ(Contents(LoadSettings(again)), again);
+}
+
+}  // namespace
+}  // namespace starfolds

@@ -1,0 +1,165 @@
+#include "template_dialogs/template_menu.h"
+
+#include <gtest/gtest.h>
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+#include "template_dialogs/frm_file_io.h"
+#include "properties/props_dialog.h"
+#include "settings/templates.h"
+#include "storage/disk_files.h"
+#include "test_folder.h"
+
+namespace starfolds {
+namespace {
+
+/// A user with the factory's settings, and a template of another universe, "other.sfd".
+class TemplateMenuTest : public FrmPropsTest {
+ protected:
+  TemplateMenuTest() {
+    UsedFiles = &RealDisk;
+    StoreFactory();
+    SettingsRecords records = LoadSettings(Tree);
+    records.Universe.Universe_Stars = 1234;
+    records.Profiles[5].UniFoldName = "Mine";
+    records.Profiles[5].Starfold_Radius = 777;
+    MemoryTree advanced;
+    RegistryWrite(advanced, sections::kAdvanced, "LockMessage", "Hello");
+    TemplateFile file(RealDisk);
+    file.TemplateFileName = Folder.Path("other.sfd");
+    WriteTemplate(file, advanced, records.Universe, records.Profiles, records.Composites, {});
+    RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Folder.Path(""));
+    Open();
+  }
+
+  QAction& Entry(const char* name) { return Part<QAction>(*Dialog, name); }
+  QString Box(const char* name) { return The<QLineEdit>(name).text(); }
+  QString Name(int type) { return The<BodyList>("lstUniStarfold").EntryName(type).c_str(); }
+  bool InStarfoldView() { return The<QPushButton>("cmdDismiss").isHidden(); }
+
+  /// Chooses an entry, and a name in the dialog that comes up.
+  void ChooseFile(const char* entry, const QString& name) {
+    WhenShown<FrmFileIo>([name](FrmFileIo& dialog) {
+      Part<QLineEdit>(dialog, "txtFile").setText(name);
+      Part<QPushButton>(dialog, "cmdOK").click();
+      if (dialog.isVisible()) dialog.reject();
+    });
+    Entry(entry).trigger();
+  }
+
+  SettingsRecords Saved(const std::string& name) {
+    SettingsRecords records;
+    TemplateFile file(RealDisk);
+    EXPECT_EQ(ReadTemplate(file, Folder.Path(name), records), std::nullopt);
+    return records;
+  }
+
+  /// Drags files over a box in the window, as file managers do, and drops them if they are taken.
+  bool Drop(const std::vector<std::string>& paths) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const std::string& path : paths) urls.append(QUrl::fromLocalFile(path.c_str()));
+    data.setUrls(urls);
+    data.setText("/some/path");
+    QWidget* box = &The<QLineEdit>("txtUniFoldName");
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(box, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(box, &drop);
+    QApplication::processEvents();
+    return drop.isAccepted();
+  }
+
+  TestFolder Folder;
+  DiskFiles RealDisk;
+};
+
+TEST_F(TemplateMenuTest, AnOpenedTemplateIsShownAndSavedAgain) {
+  The<QComboBox>("cboUniTheme").setCurrentIndex(3);
+  ChooseFile("mnuOpen", "other.sfd");
+  EXPECT_EQ(Box("txtUni_0"), "1234");
+  EXPECT_EQ(Name(5), "Mine");
+  EXPECT_EQ(The<QComboBox>("cboUniTheme").currentIndex(), 0);
+  EXPECT_EQ(RegistryReadText(Tree, sections::kAdvanced, "LockMessage"), "Hello");
+  EXPECT_EQ(LoadSettings(Tree).Profiles[5].UniFoldName, "Rapid Rotator");
+  The<QLineEdit>("txtUni_0").setText("99999999");  // the entry's key leaves no box
+  Choose("mnuSave");
+  EXPECT_EQ(Saved("other.sfd").Universe.Universe_Stars, 30000);
+  EXPECT_EQ(Saved("other.sfd").Profiles[5].Starfold_Radius, 777);
+  EXPECT_TRUE(Boxes.Log.empty());
+}
+
+TEST_F(TemplateMenuTest, SaveAsksForANameOnce) {
+  ChooseFile("mnuSave", "first");
+  The<QLineEdit>("txtUni_0").setText("55");
+  Choose("mnuSave");
+  EXPECT_EQ(Saved("first.sfd").Universe.Universe_Stars, 55);
+}
+
+TEST_F(TemplateMenuTest, TheOpenPageIsSavedAndALoadedTemplateTakesItsPlace) {
+  OpenType(5);
+  The<QLineEdit>("txtStarfold_0").setText("4321");
+  ChooseFile("mnuSaveAs", "page");
+  EXPECT_EQ(Saved("page.sfd").Profiles[5].Starfold_Radius, 4321);
+  EXPECT_TRUE(InStarfoldView());
+  ChooseFile("mnuOpen", "missing.sfd");
+  EXPECT_TRUE(InStarfoldView());
+  EXPECT_EQ(Box("txtStarfold_0"), "4321");
+  ChooseFile("mnuOpen", "other.sfd");
+  EXPECT_FALSE(InStarfoldView());
+  OpenType(5);
+  EXPECT_EQ(Box("txtStarfold_0"), "777");
+}
+
+TEST_F(TemplateMenuTest, WhatCannotBeReadOrWrittenIsToldAndChangesNothing) {
+  std::ofstream(Folder.Path("broken.sfd")) << "no template";
+  ChooseFile("mnuOpen", "broken.sfd");
+  ASSERT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_EQ(Boxes.Log.back().Text, "The template could not be opened:\n" +
+                                       Folder.Path("broken.sfd") +
+                                       "\n\nIt holds no settings of a universe");
+  EXPECT_EQ(Box("txtUni_0"), "5000");
+  ChooseFile("mnuOpen", "other.sfd");
+  std::filesystem::remove(Folder.Path("other.sfd"));
+  std::filesystem::create_directory(Folder.Path("other.sfd"));
+  Choose("mnuSave");
+  ASSERT_EQ(Boxes.Log.size(), 2U);
+  EXPECT_TRUE(Boxes.Log.back().Text.starts_with("The template could not be saved to:\n"));
+}
+
+TEST_F(TemplateMenuTest, OneTemplateCanBeDropped) {
+  const std::string odd = Folder.Path("it's 100% \"odd\" .SFD");
+  std::filesystem::copy_file(Folder.Path("other.sfd"), odd);
+  std::ofstream(Folder.Path("x.txt")) << "x";
+  EXPECT_FALSE(Drop({}));
+  EXPECT_FALSE(Drop({Folder.Path("x.txt")}));
+  EXPECT_FALSE(Drop({Folder.Path("other.sfd"), odd}));
+  EXPECT_EQ(Box("txtUni_0"), "5000");
+  EXPECT_TRUE(Drop({odd}));
+  EXPECT_EQ(Box("txtUni_0"), "1234");
+  EXPECT_TRUE(Boxes.Log.empty());
+  EXPECT_TRUE(Drop({Folder.Path("gone.sfd")}));
+  ASSERT_EQ(Boxes.Log.size(), 1U);
+  EXPECT_TRUE(Boxes.Log.back().Text.ends_with("\n\nNo such file or directory"));
+}
+
+TEST_F(TemplateMenuTest, NothingIsOpenedWhileAPreviewRuns) {
+  Events.Plan[1] = [&] {
+    for (const char* entry : {"mnuOpen", "mnuSave", "mnuSaveAs"}) {
+      EXPECT_FALSE(Entry(entry).isEnabled());
+    }
+    EXPECT_FALSE(Drop({Folder.Path("other.sfd")}));
+    Click("cmdPreviewUni");
+  };
+  Click("cmdPreviewUni");
+  EXPECT_EQ(Events.Pumps, 1);
+  EXPECT_TRUE(Entry("mnuOpen").isEnabled());
+  EXPECT_TRUE(Drop({Folder.Path("other.sfd")}));
+}
+
+}  // namespace
+}  // namespace starfolds

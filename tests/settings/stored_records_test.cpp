@@ -1,0 +1,265 @@
+#include "settings/stored_records.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "random_records.h"
+#include "settings/first_run.h"
+
+namespace starfolds {
+namespace {
+
+TEST(Storage, RandomRecordsComeBackWhole) {
+  RandomRecords random(4);
+  for (int round = 0; round < 5; ++round) {
+    SettingsRecords records = random.Make();
+    MemoryTree tree;
+    ASSERT_TRUE(SaveSettings(tree, records));
+    EXPECT_EQ(Contents(LoadSettings(tree)), Contents(records));
+  }
+}
+
+/// What a stored text becomes, for every setting of a kind of record. `load` reads and clamps.
+template <class Record, class Load>
+void ExpectEveryFieldHolds(std::span<const Field<Record>> fields, std::string_view section,
+                           const Load& load) {
+  const Record defaults = load(MemoryTree());
+  for (const Field<Record>& field : fields) {
+    const auto loaded = [&](std::string_view text) {
+      MemoryTree tree;
+      RegistryWrite(tree, section, field.Name, text);
+      return FieldText(load(std::move(tree)), field);
+    };
+    if (std::holds_alternative<std::string Record::*>(field.Where)) {
+      EXPECT_EQ(loaded("Some text"), "Some text") << field.Name;
+      continue;
+    }
+    const std::string unset = FieldText(defaults, field);
+    EXPECT_EQ(unset, FieldText(Record(), field)) << field.Name;
+    for (const char* rubbish : {"abc", "", "1 2 x", "0x10"}) {
+      EXPECT_EQ(loaded(rubbish), unset) << field.Name;
+    }
+    if (field.Rule != RangeRule::Fixed) continue;
+    const auto text = [](double number) { return NumberText(static_cast<Single>(number)); };
+    EXPECT_EQ(loaded(text(field.Low)), text(field.Low)) << field.Name;
+    EXPECT_EQ(loaded(text(field.High)), text(field.High)) << field.Name;
+    EXPECT_EQ(loaded("-1"), text(field.Low)) << field.Name;
+    EXPECT_EQ(loaded(text(field.High + 1)), text(field.High)) << field.Name;
+    // Too large for the type: 0 from the reader, which the clamp lifts to the low limit.
+    const bool readAsLong = field.Odd.ReadAs == Oddities::Reader::AsLong;
+    EXPECT_EQ(loaded("1e40"), text(field.Low)) << field.Name;
+    if (std::holds_alternative<Integer Record::*>(field.Where)) {
+      EXPECT_EQ(loaded("70000"), text(readAsLong ? field.High : field.Low)) << field.Name;
+    }
+  }
+}
+
+TEST(Storage, EveryFieldIsHeldToItsRangeAndRubbishIsTheDefault) {
+  ExpectEveryFieldHolds(UniverseFields(), "Universe", [](MemoryTree tree) {
+    UniverseSettings universe = LoadUniverseFromRegistry(tree);
+    ClampUniverse(universe);
+    return universe;
+  });
+  ExpectEveryFieldHolds(AdvancedFields(), "Advanced",
+                        [](MemoryTree tree) { return LoadAdvancedFromRegistry(tree); });
+  ExpectEveryFieldHolds(ProfileFields(), ProfileSection(3),
+                        [](MemoryTree tree) { return LoadSettings(tree).Profiles[3]; });
+  ExpectEveryFieldHolds(CompositeFields(), CompositeSection(15),
+                        [](MemoryTree tree) { return LoadSettings(tree).Composites[15]; });
+}
+
+TEST(Storage, PointsAndAtomsArePackedInColumns) {
+  struct Case {
+    const char* Packed;
+    std::array<Integer, 7> Numbers;
+  };
+  for (const Case& c : {Case{"*    1    2    3   50    1   90  100", {1, 2, 3, 50, 1, 90, 100}},
+                        Case{"*    1  2 3", {1, 23, 0, 0, 0, 0, 0}}, Case{"", {}},
+                        Case{"*   -5 9999x7777", {0, 9999, 0, 0, 0, 0, 0}}}) {
+    MemoryTree tree;
+    RegistryWrite(tree, "P", "Starfold_IFS_Points", Long{1});
+    RegistryWrite(tree, "P\\IFS", "IFS_P0", c.Packed);
+    const IfsPoint point =
+        LoadProfileFromRegistry(tree, 0, "P", RootSelector::CurrentUser).IFS.Points[0];
+    const std::array numbers{point.IFS_LocX, point.IFS_LocY,  point.IFS_LocZ,  point.IFS_Scale,
+                             point.IFS_Axis, point.IFS_Angle, point.IFS_RelPct};
+    EXPECT_EQ(numbers, c.Numbers) << c.Packed;
+  }
+  StarfoldProfile molecule;
+  molecule.Starfold_Atoms = 11;
+  molecule.Atom.Atoms[10] = {8, 1, 2, 3, 5, 60, 70, 38};
+  MemoryTree tree;
+  SaveProfileToRegistry(tree, molecule, "P");
+  EXPECT_EQ(RegistryReadText(tree, "P\\ATOMIC", "Atom_P10"),
+            "*    8    1    2    3    5   60   70");
+  EXPECT_EQ(
+      LoadProfileFromRegistry(tree, 0, "P", RootSelector::CurrentUser).Atom.Atoms[10].Atom_Count,
+      38);
+}
+
+TEST(Storage, CountsBeyondTheRoomReadWhatThereIsRoomFor) {
+  MemoryTree tree;
+  for (const char* count : {"32767", "-5", "6", "33", "49"}) {
+    RegistryWrite(tree, ProfileSection(0), "Starfold_IFS_Points", count);
+    RegistryWrite(tree, ProfileSection(0), "Starfold_Atoms", count);
+    RegistryWrite(tree, CompositeSection(0), "CompFold_Count", count);
+    SettingsRecords records = LoadSettings(tree);
+    EXPECT_LE(records.Profiles[0].Starfold_IFS_Points, kMaxIfsPoints);
+    EXPECT_LE(records.Profiles[0].Starfold_Atoms, kMaxAtoms);
+    MemoryTree again;
+    EXPECT_TRUE(SaveSettings(again, records));
+  }
+}
+
+TEST(Storage, PointsOfALongerListStayBehindInTheUsersTreeOnly) {
+  MemoryTree tree;
+  StarfoldProfile profile;
+  profile.Starfold_IFS_Points = 2;
+  SaveProfileToRegistry(tree, profile, "P");
+  RegistryWrite(tree, "P\\IFS", "IFS_P1", "old", RootSelector::LocalMachine);
+  profile.Starfold_IFS_Points = 1;
+  SaveProfileToRegistry(tree, profile, "P");
+  EXPECT_NE(RegistryReadText(tree, "P\\IFS", "IFS_P1"), "");
+  EXPECT_EQ(RegistryReadText(tree, "P\\IFS", "IFS_P1", {}, RootSelector::LocalMachine), "");
+}
+
+TEST(Storage, LongNamesAreCutToWholeCharactersRatherThanLost) {
+  SettingsRecords records;
+  const std::string most = std::string(126, 'x') + "\xE2\x98\x85";
+  records.Profiles[7].UniFoldName = most + " star";
+  MemoryTree tree;
+  SaveSettings(tree, records);
+  EXPECT_EQ(LoadSettings(tree).Profiles[7].UniFoldName, most);
+}
+
+TEST(Storage, ABulkIsAllOrNothing) {
+  RandomRecords random(9);
+  SettingsRecords before = random.Make();
+  SettingsRecords after = random.Make();
+  MemoryTree tree;
+  ASSERT_TRUE(SaveSettings(tree, before));
+  for (const int writes : {0, 1, 700, 3000}) {
+    tree.WritesUntilFull = writes;
+    EXPECT_FALSE(SaveSettings(tree, after));
+    EXPECT_EQ(tree, Contents(before)) << writes;
+  }
+}
+
+TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
+  const auto machine = RootSelector::LocalMachine;
+  MemoryTree tree;
+  RegistryWrite(tree, "Universe", "Universe_Stars", Long{777}, machine);
+  MigrateMachineSettings(tree);
+  EXPECT_FALSE(HasMark(tree, kAnimationType)) << "the machine's tree is not complete";
+  EXPECT_EQ(RegistryReadText(tree, "Universe", "Universe_Stars"), "");
+
+  RegistryWrite(tree, "General", kAnimationType, Long{0}, machine);
+  RegistryWrite(tree, ProfileSection(2), "_UniFoldName", "Mine", machine);
+  RegistryWrite(tree, ProfileSection(2), "Starfold_Radius", Long{99999}, machine);
+  MigrateMachineSettings(tree);
+  EXPECT_TRUE(HasMark(tree, kAnimationType));
+  const SettingsRecords records = LoadSettings(tree);
+  EXPECT_EQ(records.Universe.Universe_Stars, 777);
+  EXPECT_EQ(records.Profiles[2].UniFoldName, "Mine");
+  EXPECT_EQ(records.Profiles[2].Starfold_Radius, 30000);
+  EXPECT_EQ(RegistryReadText(tree, "Advanced", "FocalLength"), "1.0") << "the default, no gap";
+  EXPECT_EQ(RegistryReadText(tree, "Advanced", "Adv_Randomize", "none"), "none");
+
+  RegistryWrite(tree, "Universe", "Universe_Stars", Long{888}, machine);
+  MigrateMachineSettings(tree);
+  EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 777);
+}
+
+/// Notes the names that are written to the user's hive, and the paths that are deleted.
+class NotedTree : public MemoryTree {
+ public:
+  std::vector<std::string> Notes;
+  bool Write(Hive hive, std::string_view path, std::string_view name,
+             std::string_view text) override {
+    if (hive == Hive::CurrentUser) Notes.emplace_back(name);
+    return MemoryTree::Write(hive, path, name, text);
+  }
+  bool DeleteKey(Hive hive, std::string_view path) override {
+    Notes.emplace_back(path.substr(path.rfind('\\')));
+    return MemoryTree::DeleteKey(hive, path);
+  }
+
+  /// Where a name was noted first.
+  std::ptrdiff_t Place(std::string_view name) const {
+    return std::find(Notes.begin(), Notes.end(), name) - Notes.begin();
+  }
+};
+
+TEST(Storage, AProfileIsWrittenInItsOrder) {
+  NotedTree tree;
+  StarfoldProfile profile;
+  profile.Starfold_IFS_Points = 1;
+  profile.Starfold_Atoms = 1;
+  SaveProfileToRegistry(tree, profile, ProfileSection(3));
+  EXPECT_EQ(tree.Place("Starfold_ColorMult"), tree.Place("Starfold_RadBFill") + 1);
+  EXPECT_EQ(tree.Place("Starfold_HueRed"), 2);
+  const std::vector<std::string> tail(tree.Notes.begin() + tree.Place("Starfold_QG_Force"),
+                                      tree.Notes.end());
+  const std::vector<std::string> expected = {"Starfold_QG_Force",
+                                             "Starfold_StdLevels",
+                                             "Starfold_StdLevDRad",
+                                             "Starfold_StdLevHSca",
+                                             "Starfold_StdLevB_HS",
+                                             "Starfold_StdLevB_A0",
+                                             "Starfold_StdLevB_A1",
+                                             "Starfold_IFS_Points",
+                                             "\\IFS",
+                                             "IFS_CenterX",
+                                             "IFS_CenterY",
+                                             "IFS_CenterZ",
+                                             "IFS_P0",
+                                             "Starfold_Atoms",
+                                             "\\ATOMIC",
+                                             "Atom_CenterX",
+                                             "Atom_CenterY",
+                                             "Atom_CenterZ",
+                                             "Atom_P00"};
+  EXPECT_EQ(tail, expected);
+}
+
+TEST(FirstRun, SettingsOfTheMachineArriveInTheirOrder) {
+  NotedTree tree;
+  RegistryWrite(tree, "General", kAnimationType, Long{0}, RootSelector::LocalMachine);
+  MigrateMachineSettings(tree);
+  EXPECT_EQ(tree.Place("WindowState"), 0);
+  EXPECT_EQ(tree.Place("FocalLength"), 2);
+  EXPECT_EQ(tree.Place("Universe_Stars"), 11);
+  EXPECT_EQ(tree.Place("_UniFoldPct"), tree.Place("Universe_GS_Idx") + 1);
+  EXPECT_EQ(tree.Notes.back(), kAnimationType);
+}
+
+TEST(FirstRun, AnEmptyTreeGetsTheFactorysBodiesAndStaysMarkedAsEmpty) {
+  MemoryTree tree;
+  EXPECT_TRUE(EnsureFactoryProfiles(tree));
+  EXPECT_EQ(LoadSettings(tree).Profiles[0].UniFoldName,
+            RegistryReadText(tree, ProfileSection(0), "_UniFoldName"));
+  EXPECT_GT(LoadSettings(tree).Profiles[1].UniFoldPct, 0);
+  EXPECT_FALSE(HasMark(tree, kAnimationType));
+
+  RegistryWrite(tree, ProfileSection(1), "_UniFoldPct", Long{0});
+  RegistryWrite(tree, "General", kAnimationType, Long{0});
+  EXPECT_TRUE(EnsureFactoryProfiles(tree));
+  EXPECT_EQ(LoadSettings(tree).Profiles[1].UniFoldPct, 0) << "the user's own are left alone";
+}
+
+TEST(FirstRun, ATreeThatCannotBeReadIsNotTakenForAnEmptyOne) {
+  SettingsRecords records = RandomRecords(5).Make();
+  MemoryTree tree;
+  SaveSettings(tree, records);
+  RegistryWrite(tree, "General", kAnimationType, Long{0});
+  const MemoryTree before = tree;
+  tree.Readable = false;  // locked by another process, say
+  EXPECT_FALSE(EnsureFactoryProfiles(tree));
+  EXPECT_EQ(tree, before);
+}
+
+}  // namespace
+}  // namespace starfolds

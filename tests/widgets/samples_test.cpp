@@ -1,0 +1,158 @@
+#include "widgets/samples.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <memory>
+#include <vector>
+
+#include "widgets/dialog_test.h"
+#include "widgets/picture_box.h"
+#include "settings/factory.h"
+
+namespace starfolds {
+namespace {
+
+constexpr SampleSize kSize{{160, 120}, 1};
+
+class SamplesTest : public testing::Test {
+ protected:
+  SamplesTest() { LoadFactorySet(*Records, FactorySet::Starfolds4x); }
+
+  ProfileArray& Profiles() { return Records->Profiles; }
+
+  std::unique_ptr<SettingsRecords> Records = std::make_unique<SettingsRecords>();
+};
+
+QRect LitPart(const QImage& picture) {
+  QRect part;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if ((picture.pixel(x, y) & RGB_MASK) != 0) part |= QRect(x, y, 1, 1);
+    }
+  }
+  return part;
+}
+
+TEST_F(SamplesTest, EveryBodyFillsItsPictureAndLooksLikeNoOther) {
+  std::vector<QImage> pictures;
+  for (int i = 0; i < kCycleSequentially + 1; ++i) {
+    const QImage picture = ProfileSample(Profiles(), i, kSize);
+    const QRect lit = LitPart(picture);
+    EXPECT_TRUE(lit.width() > 120 || lit.height() > 90) << i;
+    for (const QImage& other : pictures) EXPECT_NE(picture, other) << i;
+    EXPECT_EQ(picture, ProfileSample(Profiles(), i, kSize)) << i << " is another one each time";
+    pictures.push_back(picture);
+  }
+}
+
+TEST_F(SamplesTest, ABodyIsFramedWhateverItsSizeAndItsPlace) {
+  struct Row {
+    Long Radius, Distance;
+  };
+  for (const Row& row : {Row{300, 400}, {3, 30000}, {30000, 1000}, {30000, 0}, {0, 0}}) {
+    Profiles()[0].Starfold_Radius = row.Radius;
+    Profiles()[0].Starfold_Distance = row.Distance;
+    const QImage picture = ProfileSample(Profiles(), 0, kSize);
+    EXPECT_EQ(picture.size(), kSize.Size);
+    if (row.Radius > 0 && row.Distance > row.Radius) {
+      EXPECT_GT(LitPart(picture).width(), 100) << row.Radius;
+    }
+  }
+}
+
+TEST_F(SamplesTest, ABodyOutOfItsRangesIsDrawnAllTheSame) {
+  StarfoldProfile& profile = Profiles()[0];
+  for (const Integer word : {std::numeric_limits<Integer>::min(), Integer{-1}, Integer{0},
+                             std::numeric_limits<Integer>::max()}) {
+    for (const auto& field : ProfileFields()) SetFieldNumber(profile, field, word);
+    for (Integer style = 0; style < kStyleCount; ++style) {
+      profile.Starfold_FoldStyle = style;
+      EXPECT_EQ(ProfileSample(Profiles(), 0, {{40, 30}, 1}).width(), 40);
+    }
+  }
+}
+
+TEST_F(SamplesTest, AreSharpOnDenseScreens) {
+  const SampleSize dense{{80, 60}, 2};
+  const QPalette palette;
+  for (const QImage& picture :
+       {ProfileSample(Profiles(), 1, dense), ProfileSample(Profiles(), kCycleRandomly, dense),
+        ShapeSample({}, dense, palette), HueWheelSample(10, 300, dense),
+        PixHueSample(Profiles()[0], dense)}) {
+    EXPECT_EQ(picture.size(), QSize(160, 120));
+    EXPECT_EQ(picture.devicePixelRatio(), 2);
+  }
+}
+
+TEST_F(SamplesTest, ASampleStandsInTheMiddleOfItsBox) {
+  PictureBox box;
+  box.resize(100, 80);
+  QImage picture(120, 80, QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  picture.setDevicePixelRatio(2);
+  box.ShowPicture(picture);
+  EXPECT_EQ(LitPart(box.grab().toImage()), QRect(20, 20, 60, 40));
+}
+
+TEST_F(SamplesTest, AShapeShowsEachOfItsSettings) {
+  const QPalette palette;
+  std::vector<QImage> pictures;
+  const auto add = [&](const ShapeSetting& setting) {
+    const QImage picture = ShapeSample(setting, kSize, palette);
+    for (const QImage& other : pictures) EXPECT_NE(picture, other) << pictures.size();
+    EXPECT_EQ(picture, ShapeSample(setting, kSize, palette));
+    pictures.push_back(picture);
+  };
+  for (int shape = 0; shape < 7; ++shape) add({.Shape = shape});
+  add({.Shape = 0, .RadiusExp = 3});
+  add({.Shape = 0, .HeightExp = 3});
+  add({.Shape = 0, .Ratio = 0.3});
+  // What no body has, and what only a body beyond all use has.
+  for (const ShapeSetting& odd :
+       {ShapeSetting{-5}, {99, 1, 1, 1}, {2, 99.9, 99.9, 99.9}, {2, 0, 0, 0}, {0, 1, 1, 1e9}}) {
+    EXPECT_EQ(ShapeSample(odd, {{1, 1}, 1}, palette).size(), QSize(1, 1));
+    EXPECT_EQ(ShapeSample(odd, kSize, palette).size(), kSize.Size);
+  }
+}
+
+/// A sphere as high as it is wide: the curve is a circle that touches top and bottom of the box.
+TEST_F(SamplesTest, AShapeIsMirroredAboutItsAxes) {
+  QPalette palette;
+  palette.setColor(QPalette::Base, Qt::black);
+  palette.setColor(QPalette::Highlight, Qt::red);
+  const QImage picture = ShapeSample({.Shape = 2}, kSize, palette);
+  for (const QPoint place : {QPoint(80, 4), {80, 115}, {24, 60}, {135, 60}, {40, 20}, {119, 99}}) {
+    EXPECT_GT(qRed(picture.pixel(place)), 90) << place.x() << "," << place.y();
+  }
+  EXPECT_EQ(picture.pixel(10, 10), qRgb(0, 0, 0));
+}
+
+TEST_F(SamplesTest, TheWheelTurnsClockwiseFromRedAndItsStripFromTheLeft) {
+  StarfoldProfile profile;
+  const QImage ring = PixHueSample(profile, {{100, 100}, 1});
+  EXPECT_EQ(ring.pixel(50, 12), qRgb(254, 0, 0));
+  EXPECT_GT(qGreen(ring.pixel(84, 69)), 240);  // 120 degrees
+  EXPECT_GT(qBlue(ring.pixel(15, 69)), 240);   // 240 degrees
+  EXPECT_EQ(qAlpha(ring.pixel(50, 50)), 0);
+  EXPECT_EQ(qAlpha(ring.pixel(1, 1)), 0);
+  const QImage strip = PixHueSample(profile, {{360, 20}, 1});
+  EXPECT_EQ(strip.pixel(5, 10), qRgb(254, 21, 0));
+  EXPECT_GT(qGreen(strip.pixel(120, 10)), 250);
+  profile.Starfold_HueBase = 100;
+  EXPECT_EQ(PixHueSample(profile, {{360, 20}, 1}).pixel(200, 10), qRgb(255, 255, 255));
+}
+
+TEST_F(SamplesTest, AFlareFadesFromWhiteOverItsHuesIntoTheDark) {
+  const QImage strip = HueWheelSample(0, 240, {{400, 20}, 1});
+  EXPECT_EQ(strip.pixel(2, 10), qRgb(255, 255, 255));
+  const QRgb early = strip.pixel(45, 10);
+  EXPECT_GT(qRed(early), qBlue(early));
+  const QRgb late = strip.pixel(355, 10);
+  EXPECT_GT(qBlue(late), qRed(late));
+  EXPECT_LT(qBlue(strip.pixel(397, 10)), qBlue(late));
+  EXPECT_EQ(HueWheelSample(-5000, 32767, {{40, 20}, 1}).width(), 40);
+}
+
+}  // namespace
+}  // namespace starfolds
