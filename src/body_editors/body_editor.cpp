@@ -103,7 +103,7 @@ void BodyEditor::AddBodyBox(QGridLayout& page, const char* array, int index, con
   box->setAccessibleName(tr(row.Label));
   AddLine(page, tr(row.Label), box, {box});
   connect(box, &NumberBox::Changed, this, &BodyEditor::Touched);
-  bodyBoxes_.push_back({box, FindField(ProfileFields(), row.Setting)});
+  bodyBoxes_.push_back({box, &FieldOf(row.What)});
   propsBoxes_.push_back(row.PropsBox);
 }
 

@@ -11,12 +11,12 @@
 #include <string>
 #include <vector>
 
-#include "widgets/number_box.h"
+#include "numbers/text.h"
 #include "widgets/dialog_model.h"
+#include "widgets/number_box.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
 #include "widgets/preview_runs.h"
-#include "numbers/text.h"
 
 namespace starfolds {
 
@@ -43,13 +43,13 @@ struct BodyEditing {
 template <class Record>
 struct BoundBox {
   NumberBox* Box;
-  const Field<Record>* Setting;
+  const Field<Record>* Row;
 
-  void Show(const Record& record) const { Box->SetText(FieldText(record, *Setting)); }
+  void Show(const Record& record) const { Box->SetText(FieldText(record, *Row)); }
   void Clear() const { Box->SetText({}); }
   /// The number in the box, held to its range.
   std::string Text() const { return ClampedText(Box->Text(), Box->Range()); }
-  void Store(Record& record) const { SetFieldNumber(record, *Setting, LenientNumber(Text())); }
+  void Store(Record& record) const { SetFieldNumber(record, *Row, LenientNumber(Text())); }
 };
 
 /// The range of a setting that its dialog takes from the field table.
@@ -83,7 +83,7 @@ class BodyEditor : public PlacedDialog {
 
   /// A number of the profile itself.
   struct BodyBox {
-    std::string_view Setting;
+    Setting<StarfoldProfile> What;
     const char* Label;
     NumberRange Range;
     int PropsBox;  // which `txtStarfold` of the properties dialog takes it with "OK"; or none

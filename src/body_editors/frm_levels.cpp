@@ -3,8 +3,8 @@
 #include <QGroupBox>
 #include <iterator>
 
-#include "widgets/lines.h"
 #include "settings/registry.h"
+#include "widgets/lines.h"
 
 namespace starfolds {
 namespace {
@@ -25,18 +25,20 @@ FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
                   "Starfold Levels:  ", "Levels Preview - ", "Preview"},
                  editing, parent) {
   const BodyBox bodyRows[] = {
-      {"Starfold_Radius", "Radius:", {NumberKind::AsLong, 1, 30000}, 0},
-      {"Starfold_Distance", "Distance:", {NumberKind::AsLong, 1, 30000}, 2}};
-  const BodyBox levelRows[] = {
-      {"Starfold_StdLevels", "Levels (1 - 10):", {NumberKind::AsInteger, 1, kMaxLevels}, 9},
-      {"Starfold_StdLevDRad",
-       "Radius Increment (1 - 30000):",
-       {NumberKind::AsLong, 1, 30000},
-       kNoPropsBox},
-      {"Starfold_StdLevHSca",
-       "Height Multiplier (0.0 - 99.9):",
-       {NumberKind::AsSingle, 0, 99.9},
-       kNoPropsBox}};
+      {&StarfoldProfile::Starfold_Radius, "Radius:", {NumberKind::AsLong, 1, 30000}, 0},
+      {&StarfoldProfile::Starfold_Distance, "Distance:", {NumberKind::AsLong, 1, 30000}, 2}};
+  const BodyBox levelRows[] = {{&StarfoldProfile::Starfold_StdLevels,
+                                "Levels (1 - 10):",
+                                {NumberKind::AsInteger, 1, kMaxLevels},
+                                9},
+                               {&StarfoldProfile::Starfold_StdLevDRad,
+                                "Radius Increment (1 - 30000):",
+                                {NumberKind::AsLong, 1, 30000},
+                                kNoPropsBox},
+                               {&StarfoldProfile::Starfold_StdLevHSca,
+                                "Height Multiplier (0.0 - 99.9):",
+                                {NumberKind::AsSingle, 0, 99.9},
+                                kNoPropsBox}};
 
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);

@@ -5,14 +5,14 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
-#include "colour/tables.h"
 #include "body_editors/atom_rows.h"
-#include "widgets/lines.h"
+#include "colour/tables.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/elements.h"
 #include "settings/factory.h"
 #include "settings/registry.h"
+#include "widgets/lines.h"
 
 namespace starfolds {
 namespace {
@@ -23,14 +23,14 @@ constexpr int kListLines = 11;
 
 /// The boxes of `txtProps`, with the labels that they have for shells.
 struct PropRow {
-  std::string_view Setting;
+  Setting<AtomPoint> What;
   const char* Label;
 };
-constexpr PropRow kProps[] = {{"Atom_LocX", "Loc X\n(0-9999):"},
-                              {"Atom_LocY", "Loc Y\n(0-9999):"},
-                              {"Atom_LocZ", "Loc Z\n(0-9999):"},
-                              {"Atom_Size", "Radius"},
-                              {"Atom_Radius", "Symmetry Radius"}};
+constexpr PropRow kProps[] = {{&AtomPoint::Atom_LocX, "Loc X\n(0-9999):"},
+                              {&AtomPoint::Atom_LocY, "Loc Y\n(0-9999):"},
+                              {&AtomPoint::Atom_LocZ, "Loc Z\n(0-9999):"},
+                              {&AtomPoint::Atom_Size, "Radius"},
+                              {&AtomPoint::Atom_Radius, "Symmetry Radius"}};
 constexpr int kPropX = 0;
 constexpr int kPropY = 1;
 constexpr int kPropZ = 2;
@@ -186,7 +186,7 @@ void FrmMolecule::AddElementLines(QGridLayout& page) {
 void FrmMolecule::AddProps(QGridLayout& page) {
   for (const PropRow& row : kProps) {
     const auto index = static_cast<int>(txtProps_.size());
-    const Field<AtomPoint>* field = FindField(AtomPointFields(), row.Setting);
+    const Field<AtomPoint>* field = &FieldOf(row.What);
     auto* box = new NumberBox;
     box->SetNames("Props", index);
     box->SetRange(WholeRange(*field));
@@ -235,7 +235,7 @@ void FrmMolecule::ShowStructure(int structure) {
   lblProps_[kPropX]->setText(tr(lattice ? kPointsPerEdge : kProps[kPropX].Label));
   lblProps_[kPropSymmetry]->setText(tr(lattice ? kAtomOffset : kProps[kPropSymmetry].Label));
   const auto& x = txtProps_[kPropX];
-  x.Box->SetRange(lattice ? kEdgeRange : WholeRange(*x.Setting));
+  x.Box->SetRange(lattice ? kEdgeRange : WholeRange(*x.Row));
   txtProps_[kPropY].Box->setEnabled(!lattice);
   txtProps_[kPropZ].Box->setEnabled(!lattice);
   txtProps_[kPropSymmetry].Box->setEnabled(structure != 0);

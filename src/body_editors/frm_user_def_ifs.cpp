@@ -2,11 +2,11 @@
 
 #include <QGroupBox>
 
-#include "widgets/lines.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
 #include "settings/registry.h"
+#include "widgets/lines.h"
 
 namespace starfolds {
 namespace {
@@ -15,14 +15,17 @@ namespace {
 /// of a theme has its fields in the same order.
 struct PointColumn {
   const char* Array;
-  std::string_view Setting;
+  Setting<IfsPoint> What;
   const char* Heading;
 };
 constexpr PointColumn kColumns[kThemeRowFields] = {
-    {"LocX", "IFS_LocX", "Loc X\n(0-9999):"},        {"LocY", "IFS_LocY", "Loc Y\n(0-9999):"},
-    {"LocZ", "IFS_LocZ", "Loc Z\n(0-9999):"},        {"Scale", "IFS_Scale", "Scale\n(0-100):"},
-    {"cboRAxis", "IFS_Axis", "Axis\n(X,Y,Z):"},      {"Angle", "IFS_Angle", "Angle\n(0-360):"},
-    {"Percent", "IFS_RelPct", "Rel.Pct.\n(0-9999):"}};
+    {"LocX", &IfsPoint::IFS_LocX, "Loc X\n(0-9999):"},
+    {"LocY", &IfsPoint::IFS_LocY, "Loc Y\n(0-9999):"},
+    {"LocZ", &IfsPoint::IFS_LocZ, "Loc Z\n(0-9999):"},
+    {"Scale", &IfsPoint::IFS_Scale, "Scale\n(0-100):"},
+    {"cboRAxis", &IfsPoint::IFS_Axis, "Axis\n(X,Y,Z):"},
+    {"Angle", &IfsPoint::IFS_Angle, "Angle\n(0-360):"},
+    {"Percent", &IfsPoint::IFS_RelPct, "Rel.Pct.\n(0-9999):"}};
 constexpr int kAxisColumn = 4;
 constexpr int kWeightColumn = 6;
 constexpr int kLeastPoints = 2;
@@ -67,7 +70,7 @@ void FrmUserDefIfs::AddPoint(QGridLayout& grid) {
   PointRow row;
   for (int column = 0; column < kThemeRowFields; ++column) {
     const PointColumn& about = kColumns[column];
-    const Field<IfsPoint>* field = FindField(IfsPointFields(), about.Setting);
+    const Field<IfsPoint>* field = &FieldOf(about.What);
     QWidget* control = nullptr;
     if (column == kAxisColumn) {
       control = row.cboRAxis = new QComboBox;
@@ -128,7 +131,7 @@ void FrmUserDefIfs::LoadThemeText(const std::string& text) {
     if (LenientNumber(GetField(text, first + kWeightColumn)) <= 0) continue;
     IfsPoint point;
     for (int column = 0; column < kThemeRowFields; ++column) {
-      const Field<IfsPoint>* field = FindField(IfsPointFields(), kColumns[column].Setting);
+      const Field<IfsPoint>* field = &FieldOf(kColumns[column].What);
       SetFieldText(point, *field, GetField(text, first + column));
     }
     ShowPoint(points_[i], point);

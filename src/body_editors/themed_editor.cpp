@@ -3,8 +3,8 @@
 #include <QGroupBox>
 #include <iterator>
 
-#include "widgets/lines.h"
 #include "settings/factory.h"
+#include "widgets/lines.h"
 
 namespace starfolds {
 
@@ -33,9 +33,9 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
 
 QLayout* ThemedEditor::MakeBodyAndCenter() {
   const NumberRange bodyRange{NumberKind::AsLong, 0, 30000};
-  const BodyBox bodyRows[] = {{"Starfold_Radius", "Radius:", bodyRange, 0},
-                              {"Starfold_Rotation", "Rotation:", bodyRange, 1},
-                              {"Starfold_Distance", "Distance:", bodyRange, 2}};
+  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", bodyRange, 0},
+                              {&StarfoldProfile::Starfold_Rotation, "Rotation:", bodyRange, 1},
+                              {&StarfoldProfile::Starfold_Distance, "Distance:", bodyRange, 2}};
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);
   for (int i = 0; i < static_cast<int>(std::size(bodyRows)); ++i) {

@@ -10,11 +10,11 @@
 #include <algorithm>
 
 #include "colour/tables.h"
+#include "settings/registry.h"
+#include "widgets/dialog_model.h"
 #include "widgets/lines.h"
 #include "widgets/number_box.h"
-#include "widgets/dialog_model.h"
 #include "widgets/picture_box.h"
-#include "settings/registry.h"
 
 namespace starfolds {
 namespace {
@@ -23,13 +23,16 @@ constexpr QSize kHueSize{40, 20};
 constexpr QSize kMessageSize{460, 84};
 constexpr int kMessageMargin = 6;
 
-constexpr std::string_view kFont = "Adv_FontName";
-constexpr std::string_view kMessage = "LockMessage";
-constexpr std::string_view kDrift = "Adv_FontDrift";
+using A = AdvancedSettings;
+using AdvancedField = Field<A>;
+
+constexpr Setting<A> kFont = &A::Adv_FontName;
+constexpr Setting<A> kMessage = &A::LockMessage;
+constexpr Setting<A> kDrift = &A::Adv_FontDrift;
 
 /// A setting and its control, in the order in which they are read and stored.
 struct Row {
-  std::string_view Setting;
+  Setting<A> What;
   const char* Control;
   int Index;      // of `txtAdv`; less than 0: a control of its own
   char Mnemonic;  // in the setting's label
@@ -38,32 +41,26 @@ constexpr int kAlone = -1;
 constexpr Row kRows[] = {
     {kFont, "cboFont", kAlone, 'n'},
     {kMessage, "txtMessage", kAlone, 'T'},
-    {"Adv_TimeDelay", "Adv", 0, 'd'},
-    {"FocalLength", "Adv", 1, 'c'},
-    {"Adv_FontSize", "Adv", 2, 'S'},
-    {"Adv_FontHueV", "Adv", 3, 'u'},
-    {"Adv_Randomize", "chkRandom", kAlone, 'R'},
-    {"Adv_RandomMag", "Adv", 9, 'M'},
-    {"Adv_RandomExp", "Adv", 10, 'B'},
-    {"Adv_WinResize", "chkResize", kAlone, 'W'},
-    {"Adv_MouseMove", "chkMouseM", kAlone, 'I'},
-    {"Adv_DispBackG", "chkBackGr", kAlone, 'k'},
+    {&A::Adv_TimeDelay, "Adv", 0, 'd'},
+    {&A::FocalLength, "Adv", 1, 'c'},
+    {&A::Adv_FontSize, "Adv", 2, 'S'},
+    {&A::Adv_FontHueV, "Adv", 3, 'u'},
+    {&A::Adv_Randomize, "chkRandom", kAlone, 'R'},
+    {&A::Adv_RandomMag, "Adv", 9, 'M'},
+    {&A::Adv_RandomExp, "Adv", 10, 'B'},
+    {&A::Adv_WinResize, "chkResize", kAlone, 'W'},
+    {&A::Adv_MouseMove, "chkMouseM", kAlone, 'I'},
+    {&A::Adv_DispBackG, "chkBackGr", kAlone, 'k'},
     {kDrift, "chkDrift", kAlone, 'L'},
 };
-
-using AdvancedField = Field<AdvancedSettings>;
-
-const AdvancedField& FieldOf(std::string_view setting) {
-  return *FindField(AdvancedFields(), setting);
-}
 
 bool IsCheck(const AdvancedField& field) {
   return std::holds_alternative<bool AdvancedSettings::*>(field.Where);
 }
 
-QString LabelOf(std::string_view setting) {
+QString LabelOf(const Setting<A>& setting) {
   const auto row = std::find_if(std::begin(kRows), std::end(kRows),
-                                [&](const Row& each) { return each.Setting == setting; });
+                                [&](const Row& each) { return each.What == setting; });
   QString label = Escaped(FieldOf(setting).Label);
   return label.insert(label.indexOf(QLatin1Char(row->Mnemonic)), '&');
 }
@@ -176,7 +173,7 @@ FrmAdvanced::FrmAdvanced(KeyValueTree& tree, Help& helpBook, QWidget* parent)
 void FrmAdvanced::MakeControls() {
   for (const Row& row : kRows) {
     QWidget* control = nullptr;
-    const AdvancedField& field = FieldOf(row.Setting);
+    const AdvancedField& field = FieldOf(row.What);
     if (row.Index != kAlone) {
       auto* box = new NumberBox;
       box->SetNames(row.Control, row.Index);
@@ -184,8 +181,8 @@ void FrmAdvanced::MakeControls() {
       connect(box, &NumberBox::Changed, this, &FrmAdvanced::ShowSamples);
       control = box;
     } else if (IsCheck(field)) {
-      control = new QCheckBox(LabelOf(row.Setting));
-    } else if (row.Setting == kFont) {
+      control = new QCheckBox(LabelOf(row.What));
+    } else if (row.What == kFont) {
       auto* list = MakeFontList();
       connect(list, &QComboBox::currentIndexChanged, this, &FrmAdvanced::ShowSamples);
       control = list;
@@ -199,15 +196,16 @@ void FrmAdvanced::MakeControls() {
       control = box;
     }
     if (row.Index == kAlone) control->setObjectName(row.Control);
-    controls_[row.Setting] = control;
+    controls_[&field] = control;
   }
 }
 
 QGroupBox* FrmAdvanced::MakeOperationFrame() {
   auto* frame = new QGroupBox(tr("Operation Properties"));
   auto* page = MakePage(frame);
-  for (const char* setting :
-       {"Adv_TimeDelay", "FocalLength", "Adv_WinResize", "Adv_MouseMove", "Adv_DispBackG"}) {
+  for (const Setting<A>& setting :
+       std::initializer_list<Setting<A>>{&A::Adv_TimeDelay, &A::FocalLength, &A::Adv_WinResize,
+                                         &A::Adv_MouseMove, &A::Adv_DispBackG}) {
     AddSetting(*page, setting);
   }
   return frame;
@@ -220,8 +218,8 @@ QGroupBox* FrmAdvanced::MakeMessageFrame() {
   picMessage_ = MakeSamplePlace("picMessage", tr("The message as it will look"), kMessageSize);
   AddSetting(*page, kMessage);
   AddSetting(*page, kFont);
-  AddSetting(*page, "Adv_FontSize");
-  AddSetting(*page, "Adv_FontHueV", {picHueStart_});
+  AddSetting(*page, &A::Adv_FontSize);
+  AddSetting(*page, &A::Adv_FontHueV, {picHueStart_});
   AddSetting(*page, kDrift);
   AddWideLine(*page, picMessage_);
   page->setAlignment(picMessage_, Qt::AlignHCenter);
@@ -231,7 +229,8 @@ QGroupBox* FrmAdvanced::MakeMessageFrame() {
 QGroupBox* FrmAdvanced::MakeEnhancementFrame() {
   auto* frame = new QGroupBox(tr("Display Enhancement"));
   auto* page = MakePage(frame);
-  for (const char* setting : {"Adv_Randomize", "Adv_RandomMag", "Adv_RandomExp"}) {
+  for (const Setting<A>& setting :
+       std::initializer_list<Setting<A>>{&A::Adv_Randomize, &A::Adv_RandomMag, &A::Adv_RandomExp}) {
     AddSetting(*page, setting);
   }
   return frame;
@@ -257,9 +256,9 @@ QLayout* FrmAdvanced::MakeButtons() {
 }
 
 /// The line of a setting: its check box, or its label and its box.
-void FrmAdvanced::AddSetting(QGridLayout& page, std::string_view setting,
+void FrmAdvanced::AddSetting(QGridLayout& page, const Setting<AdvancedSettings>& setting,
                              const std::vector<QWidget*>& alsoInLine) {
-  QWidget* control = controls_.at(setting);
+  QWidget* control = controls_.at(&FieldOf(setting));
   if (IsCheck(FieldOf(setting))) return AddWideLine(page, control);
   std::vector<QWidget*> widgets{control};
   widgets.insert(widgets.end(), alsoInLine.begin(), alsoInLine.end());
@@ -269,12 +268,12 @@ void FrmAdvanced::AddSetting(QGridLayout& page, std::string_view setting,
 void FrmAdvanced::LoadAdvancedToDialog() {
   TreeBulk look = TreeBulk::Look(tree_);
   for (const Row& row : kRows) {
-    const AdvancedField& field = FieldOf(row.Setting);
+    const AdvancedField& field = FieldOf(row.What);
     const std::string text =
         IsCheck(field)
-            ? std::to_string(RegistryReadInteger(tree_, sections::kAdvanced, row.Setting, 0))
-            : RegistryReadText(tree_, sections::kAdvanced, row.Setting, DefaultText(field));
-    SetText(controls_.at(row.Setting), text);
+            ? std::to_string(RegistryReadInteger(tree_, sections::kAdvanced, field.Name, 0))
+            : RegistryReadText(tree_, sections::kAdvanced, field.Name, DefaultText(field));
+    SetText(controls_.at(&FieldOf(row.What)), text);
   }
   look.Commit();
 }
@@ -285,23 +284,24 @@ void FrmAdvanced::SaveAdvancedFromDialog() {
   if (auto* number = qobject_cast<NumberBox*>(focusWidget())) number->ClampTextField();
   TreeBulk change = TreeBulk::Change(tree_);
   for (const Row& row : kRows) {
-    const std::string text = TextOf(controls_.at(row.Setting));
-    RegistryWrite(tree_, sections::kAdvanced, row.Setting, StorableText(text));
+    const AdvancedField& field = FieldOf(row.What);
+    RegistryWrite(tree_, sections::kAdvanced, field.Name,
+                  StorableText(TextOf(controls_.at(&field))));
   }
   change.Commit();
 }
 
 void FrmAdvanced::ShowDefaults() {
   for (const Row& row : kRows) {
-    if (row.Setting == kMessage) continue;
-    SetText(controls_.at(row.Setting), DefaultText(FieldOf(row.Setting)));
+    if (row.What == kMessage) continue;
+    SetText(controls_.at(&FieldOf(row.What)), DefaultText(FieldOf(row.What)));
   }
 }
 
 AdvancedSettings FrmAdvanced::Settings() const {
   AdvancedSettings advanced;
   for (const Row& row : kRows) {
-    SetFieldText(advanced, FieldOf(row.Setting), TextOf(controls_.at(row.Setting)));
+    SetFieldText(advanced, FieldOf(row.What), TextOf(controls_.at(&FieldOf(row.What))));
   }
   ClampAdvanced(advanced);
   return advanced;

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "widgets/placed_dialog.h"
 #include "settings/fields.h"
+#include "widgets/placed_dialog.h"
 
 namespace starfolds {
 
@@ -28,7 +28,7 @@ class FrmAdvanced : public PlacedDialog {
   QGroupBox* MakeMessageFrame();
   QGroupBox* MakeEnhancementFrame();
   QLayout* MakeButtons();
-  void AddSetting(QGridLayout& page, std::string_view setting,
+  void AddSetting(QGridLayout& page, const Setting<AdvancedSettings>& setting,
                   const std::vector<QWidget*>& alsoInLine = {});
 
   void LoadAdvancedToDialog();
@@ -39,7 +39,7 @@ class FrmAdvanced : public PlacedDialog {
   AdvancedSettings Settings() const;
 
   KeyValueTree& tree_;
-  std::map<std::string_view, QWidget*> controls_;  // by the setting's stored name
+  std::map<const Field<AdvancedSettings>*, QWidget*> controls_;
   QLabel* picHueStart_ = nullptr;
   QLabel* picMessage_ = nullptr;  // the message as it will look
 };

@@ -9,73 +9,78 @@ namespace starfolds {
 namespace {
 
 using enum NumberKind;
+using P = StarfoldProfile;
 
 constexpr Styles kNone{};
 constexpr Styles kIfs{1, 2, 3};
 constexpr Styles kAllButNebula{0, 1, 2, 3, 5, 6, 7, 8, 9};
 
 /// An entry with a number that goes into the setting it is called after.
-constexpr CopyRow Number(std::string_view setting, Styles skipped = kNone, NumberRange range = {}) {
-  return {.Entry = setting, .Range = range, .Target = setting, .Skipped = skipped};
+constexpr CopyRow Number(Setting<P> setting, Styles skipped = kNone, NumberRange range = {}) {
+  return {.Labelled = setting, .Range = range, .Target = setting, .Skipped = skipped};
 }
 
 /// The same with a position in a list.
-constexpr CopyRow Choice(std::string_view setting, NameList choices) {
-  return {.Entry = setting, .Control = CopyControl::Choice, .Choices = choices, .Target = setting};
+constexpr CopyRow Choice(Setting<P> setting, NameList choices) {
+  return {
+      .Labelled = setting, .Control = CopyControl::Choice, .Choices = choices, .Target = setting};
 }
 
 /// An entry that can be chosen and changes nothing. Users of earlier versions know them like that.
-constexpr CopyRow Dead(std::string_view entry, NumberRange range = {}) {
-  return {.Entry = entry, .Range = range};
+constexpr CopyRow Dead(std::string_view text, NumberRange range) {
+  return {.Text = text, .Range = range};
+}
+constexpr CopyRow Dead(Setting<P> labelled, NumberRange range = {}) {
+  return {.Labelled = labelled, .Range = range};
 }
 
 constexpr CopyRow kRows[] = {
-    Number("Starfold_HueRed"),
-    Number("Starfold_HueGrn"),
-    Number("Starfold_HueBlu"),
-    Number("Starfold_HueBase"),
-    Number("Starfold_HueBlend"),
-    Number("Starfold_Radius", Styles{7}),
-    Number("Starfold_Rotation"),
-    Number("Starfold_Distance"),
-    Number("Starfold_RadSegs", kIfs, {AsInteger, 1, 99}),
-    Number("Starfold_RadFill", kIfs, {AsInteger, 0, 100}),
-    Number("Starfold_RadBands", Styles{1, 2, 7}, {AsInteger, 1, 99}),
-    Number("Starfold_RadBFill", Styles{7}, {AsInteger, 0, 100}),
-    Choice("Starfold_FoldStyle", StyleNames),
-    Choice("Starfold_AxisPlane", PlaneNames),
-    Choice("Starfold_Profile", ShapeNames),
-    Number("Starfold_GHW_Ratio"),
-    Number("Starfold_RadiusExp", Styles{4, 7}),
-    Number("Starfold_HeightExp", Styles{4}),
-    Number("Starfold_AngleTilt", kNone, {AsInteger, 0, 359}),
-    Number("Starfold_AngleTInc"),
-    Choice("Starfold_ColorComp", ColorRuleNames),
-    Number("Starfold_ColorMult"),
-    Number("Starfold_HueStart"),
-    Number("Starfold_HWheelInc"),
-    Number("Starfold_NewFreq"),
-    Number("Starfold_NewFrames", kNone, {AsInteger, 1, 999}),
-    Number("Starfold_NewExtMult"),
-    Number("Starfold_NovaFreq"),
-    Number("Starfold_NovaFrames"),
-    Number("Starfold_NovaExtMult"),
-    Number("Starfold_PulsarFreq"),
-    Number("Starfold_PulsarDepth"),
-    Number("Starfold_PulsarCycles"),
-    Number("Starfold_PulsarFrames"),
-    Number("Starfold_PulsarMinExt"),
-    Number("Starfold_PulsarMaxExt"),
-    Choice("Starfold_PulsarShape", PulsarShapeNames),
-    Number("Starfold_CometFreq"),
-    Dead("Starfold_CometStars"),
-    Dead("Starfold_CometOrbit"),
-    Number("Starfold_CometSpeed"),
-    Number("Starfold_CometSWind"),
-    Number("Starfold_CometCPersist"),
-    Number("Starfold_CometSPersist"),
-    Number("Starfold_HWC_Start"),
-    Number("Starfold_HWC_End"),
+    Number(&P::Starfold_HueRed),
+    Number(&P::Starfold_HueGrn),
+    Number(&P::Starfold_HueBlu),
+    Number(&P::Starfold_HueBase),
+    Number(&P::Starfold_HueBlend),
+    Number(&P::Starfold_Radius, Styles{7}),
+    Number(&P::Starfold_Rotation),
+    Number(&P::Starfold_Distance),
+    Number(&P::Starfold_RadSegs, kIfs, {AsInteger, 1, 99}),
+    Number(&P::Starfold_RadFill, kIfs, {AsInteger, 0, 100}),
+    Number(&P::Starfold_RadBands, Styles{1, 2, 7}, {AsInteger, 1, 99}),
+    Number(&P::Starfold_RadBFill, Styles{7}, {AsInteger, 0, 100}),
+    Choice(&P::Starfold_FoldStyle, StyleNames),
+    Choice(&P::Starfold_AxisPlane, PlaneNames),
+    Choice(&P::Starfold_Profile, ShapeNames),
+    Number(&P::Starfold_GHW_Ratio),
+    Number(&P::Starfold_RadiusExp, Styles{4, 7}),
+    Number(&P::Starfold_HeightExp, Styles{4}),
+    Number(&P::Starfold_AngleTilt, kNone, {AsInteger, 0, 359}),
+    Number(&P::Starfold_AngleTInc),
+    Choice(&P::Starfold_ColorComp, ColorRuleNames),
+    Number(&P::Starfold_ColorMult),
+    Number(&P::Starfold_HueStart),
+    Number(&P::Starfold_HWheelInc),
+    Number(&P::Starfold_NewFreq),
+    Number(&P::Starfold_NewFrames, kNone, {AsInteger, 1, 999}),
+    Number(&P::Starfold_NewExtMult),
+    Number(&P::Starfold_NovaFreq),
+    Number(&P::Starfold_NovaFrames),
+    Number(&P::Starfold_NovaExtMult),
+    Number(&P::Starfold_PulsarFreq),
+    Number(&P::Starfold_PulsarDepth),
+    Number(&P::Starfold_PulsarCycles),
+    Number(&P::Starfold_PulsarFrames),
+    Number(&P::Starfold_PulsarMinExt),
+    Number(&P::Starfold_PulsarMaxExt),
+    Choice(&P::Starfold_PulsarShape, PulsarShapeNames),
+    Number(&P::Starfold_CometFreq),
+    Dead(&P::Starfold_CometStars),
+    Dead(&P::Starfold_CometOrbit),
+    Number(&P::Starfold_CometSpeed),
+    Number(&P::Starfold_CometSWind),
+    Number(&P::Starfold_CometCPersist),
+    Number(&P::Starfold_CometSPersist),
+    Number(&P::Starfold_HWC_Start),
+    Number(&P::Starfold_HWC_End),
     Dead("Attractor Iteration Points", {AsInteger, 1, 99}),
     Dead("Attractor Iteration Scale %", {AsInteger, 0, 100}),
     Dead("Attractor Rotation Angle", {AsInteger, 0, 360}),
@@ -85,14 +90,14 @@ constexpr CopyRow kRows[] = {
     Dead("Fractal Iteration Points", {AsInteger, 4, 10}),
     Dead("Fractal Iteration Scale %", {AsInteger, 0, 100}),
     // Changes another setting than it says.
-    {.Entry = "Starfold_CP_Points", .Target = "Starfold_CP_Close", .Skipped = kAllButNebula},
-    Dead("Starfold_CP_Steps", {AsInteger, 1, 9999}),
-    Dead("Starfold_CP_B_Pts"),
-    Dead("Starfold_CP_B_Exp"),
-    Dead("Starfold_CP_B_Spd"),
+    {.Labelled = &P::Starfold_CP_Points, .Target = &P::Starfold_CP_Close, .Skipped = kAllButNebula},
+    Dead(&P::Starfold_CP_Steps, {AsInteger, 1, 9999}),
+    Dead(&P::Starfold_CP_B_Pts),
+    Dead(&P::Starfold_CP_B_Exp),
+    Dead(&P::Starfold_CP_B_Spd),
     Dead("Nebula Expansion Speed", {AsSingle, 0, 99.9}),
     Dead("Nebula Solar Wind Magnitude", {AsSingle, 0, 99.9}),
-    {.Entry = "Starfold_CP_Close", .Control = CopyControl::Check},
+    {.Labelled = &P::Starfold_CP_Close, .Control = CopyControl::Check},
     Dead("Quasar Emit Speed", {AsSingle, 0, 99.9}),
     Dead("Graviton Force", {AsSingle, 0, 99.9}),
     Dead("Starwave Expansion Rate", {AsInteger, 1, 30000}),
@@ -112,14 +117,13 @@ NumberKind KindOf(const Field<StarfoldProfile>& field) {
 std::span<const CopyRow> CopyRows() { return kRows; }
 
 std::string EntryText(const CopyRow& row) {
-  const auto* field = FindField(ProfileFields(), row.Entry);
-  return std::string(field ? field->Label : row.Entry);
+  return std::string(row.Labelled ? FieldOf(*row.Labelled).Label : row.Text);
 }
 
 NumberRange RangeOf(const CopyRow& row) {
-  const auto* field = FindField(ProfileFields(), row.Entry);
-  if (row.Range.High > 0 || !field) return row.Range;
-  return {KindOf(*field), field->Low, field->High};
+  if (row.Range.High > 0 || !row.Labelled) return row.Range;
+  const Field<P>& field = FieldOf(*row.Labelled);
+  return {KindOf(field), field.Low, field.High};
 }
 
 /// The point of "360.0" says that fractions are taken.
@@ -130,11 +134,11 @@ std::string RangeText(const NumberRange& range) {
 }
 
 bool CopyProperty(const CopyRow& row, Single value, ProfileArray& profiles) {
-  const auto* target = FindField(ProfileFields(), row.Target);
-  if (!target) return false;
+  if (!row.Target) return false;
+  const Field<P>& target = FieldOf(*row.Target);
   for (StarfoldProfile& profile : profiles) {
     if (row.Skipped.Has(profile.Starfold_FoldStyle)) continue;
-    SetFieldNumber(profile, *target, value);
+    SetFieldNumber(profile, target, value);
   }
   return true;
 }

@@ -1,13 +1,14 @@
 // What can be copied into all profiles at once, without the widgets.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "widgets/number_box.h"
 #include "properties/property_tables.h"
 #include "settings/records.h"
+#include "widgets/number_box.h"
 
 namespace starfolds {
 
@@ -18,12 +19,14 @@ using NameList = std::span<const std::string_view> (*)();
 
 /// An entry of `cboPropCopyList`.
 struct CopyRow {
-  std::string_view Entry;  // a setting, whose label is the entry's text; or the text itself
+  std::optional<Setting<StarfoldProfile>> Labelled =
+      {};                      // the setting whose label the entry has, or
+  std::string_view Text = {};  // its own text
   CopyControl Control = CopyControl::Text;
-  NumberRange Range = {};        // of the number; `High` of 0: the range of the setting `Entry`
-  NameList Choices = nullptr;    // of the list
-  std::string_view Target = {};  // the setting that is changed; empty: none, which is as it must be
-  Styles Skipped{};              // profiles of these styles are left alone
+  NumberRange Range = {};      // of the number; `High` of 0: the range of `Labelled`
+  NameList Choices = nullptr;  // of the list
+  std::optional<Setting<StarfoldProfile>> Target = {};  // what is changed; nullopt: nothing
+  Styles Skipped{};                                     // profiles of these styles are left alone
 };
 
 /// In the order of the list.

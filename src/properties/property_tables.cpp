@@ -8,6 +8,8 @@ namespace starfolds {
 namespace {
 
 using enum NumberKind;
+using P = StarfoldProfile;
+using U = UniverseSettings;
 using UP = UniversePage;
 using SP = StarfoldPage;
 
@@ -16,30 +18,30 @@ constexpr std::string_view kUniversePages[kUniversePageCount] = {
     "Composite Starfolds", "Gravity between Starfolds"};
 
 constexpr UniverseRow kUniverseRows[] = {
-    {0, "Universe_Stars", AsLong, UP::Always},
-    {1, "Universe_Starfold", AsInteger, UP::Always},
-    {2, "Universe_STrail", AsInteger, UP::Always},
-    {10, "Universe_Expand", AsLong, UP::Creation},
-    {11, "Universe_ESteps", AsInteger, UP::Creation},
-    {12, "Universe_Persist", AsSingle, UP::Creation},
-    {14, "Universe_Damping", AsSingle, UP::Creation},
-    {16, "Universe_HW_Start", AsInteger, UP::Creation},
-    {17, "Universe_HW_End", AsInteger, UP::Creation},
-    {18, "Universe_Recycle", AsInteger, UP::Creation},
-    {20, "Universe_NewFreq", AsInteger, UP::NewAndAmbient},
-    {21, "Universe_NewPctStEx", AsInteger, UP::NewAndAmbient},
-    {40, "Universe_AmStar", AsInteger, UP::NewAndAmbient},
-    {41, "Universe_AmPers", AsSingle, UP::NewAndAmbient},
-    {42, "Universe_AmCAge", AsSingle, UP::NewAndAmbient},
-    {43, "Universe_AmFrames", AsInteger, UP::NewAndAmbient},
-    {44, "Universe_AmMaxExt", AsLong, UP::NewAndAmbient},
-    {30, "Universe_GSteps", AsInteger, UP::Tour},
-    {31, "Universe_GPCtrl", AsInteger, UP::Tour},
-    {32, "Universe_GCCtrl", AsInteger, UP::Tour},
-    {33, "Universe_DstCen", AsLong, UP::Tour},
-    {34, "Universe_C_Ramp", AsInteger, UP::Tour},
-    {50, "Universe_GravForce", AsLong, UP::Gravity},
-    {51, "Universe_GravFrame", AsInteger, UP::Gravity},
+    {0, &U::Universe_Stars, AsLong, UP::Always},
+    {1, &U::Universe_Starfold, AsInteger, UP::Always},
+    {2, &U::Universe_STrail, AsInteger, UP::Always},
+    {10, &U::Universe_Expand, AsLong, UP::Creation},
+    {11, &U::Universe_ESteps, AsInteger, UP::Creation},
+    {12, &U::Universe_Persist, AsSingle, UP::Creation},
+    {14, &U::Universe_Damping, AsSingle, UP::Creation},
+    {16, &U::Universe_HW_Start, AsInteger, UP::Creation},
+    {17, &U::Universe_HW_End, AsInteger, UP::Creation},
+    {18, &U::Universe_Recycle, AsInteger, UP::Creation},
+    {20, &U::Universe_NewFreq, AsInteger, UP::NewAndAmbient},
+    {21, &U::Universe_NewPctStEx, AsInteger, UP::NewAndAmbient},
+    {40, &U::Universe_AmStar, AsInteger, UP::NewAndAmbient},
+    {41, &U::Universe_AmPers, AsSingle, UP::NewAndAmbient},
+    {42, &U::Universe_AmCAge, AsSingle, UP::NewAndAmbient},
+    {43, &U::Universe_AmFrames, AsInteger, UP::NewAndAmbient},
+    {44, &U::Universe_AmMaxExt, AsLong, UP::NewAndAmbient},
+    {30, &U::Universe_GSteps, AsInteger, UP::Tour},
+    {31, &U::Universe_GPCtrl, AsInteger, UP::Tour},
+    {32, &U::Universe_GCCtrl, AsInteger, UP::Tour},
+    {33, &U::Universe_DstCen, AsLong, UP::Tour},
+    {34, &U::Universe_C_Ramp, AsInteger, UP::Tour},
+    {50, &U::Universe_GravForce, AsLong, UP::Gravity},
+    {51, &U::Universe_GravFrame, AsInteger, UP::Gravity},
 };
 
 constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
@@ -47,53 +49,53 @@ constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
     "Comet and Color Properties"};
 
 constexpr StarfoldRow kStarfoldRows[] = {
-    {0, "Starfold_Radius", {}, AsLong, SP::Shape, 0},
-    {1, "Starfold_Rotation", {}, AsLong, SP::Shape, 0},
-    {2, "Starfold_Distance", {}, AsLong, SP::Shape, 1},
-    {3, "Starfold_RadSegs", "Starfold_CP_Points", AsInteger, SP::Shape, 2, StyleBox::Radials},
-    {4, "Starfold_RadFill", "Starfold_CP_Steps", AsInteger, SP::Shape, 2, StyleBox::Radials},
-    {5, "Starfold_RadBands", "Starfold_CP_B_Pts", AsInteger, SP::Shape, 3, StyleBox::Bands},
-    {6, "Starfold_RadBFill", "Starfold_CP_B_Exp", AsInteger, SP::Shape, 3, StyleBox::BandFill},
-    {9, "Starfold_StdLevels", {}, AsInteger, SP::Shape, 90, StyleBox::Levels},
-    {8, "Starfold_QG_Force", {}, AsSingle, SP::Shape, 90, StyleBox::Force},
-    {90, "Starfold_GHW_Ratio", {}, AsSingle, SP::Shape, 90, StyleBox::Ratio},
-    {91, "Starfold_RadiusExp", {}, AsSingle, SP::Shape, 91, StyleBox::RadiusExponent},
-    {92, "Starfold_HeightExp", {}, AsSingle, SP::Shape, 92, StyleBox::HeightExponent},
-    {93, "Starfold_AngleTilt", "Starfold_CP_B_Spd", AsSingle, SP::Shape, 93},
-    {94, "Starfold_AngleTInc", {}, AsSingle, SP::Shape, 94},
-    {95, "Starfold_HueStart", {}, AsInteger, SP::Shape, 96, StyleBox::HueWheel},
-    {96, "Starfold_HWheelInc", {}, AsSingle, SP::Shape, 96, StyleBox::HueWheel},
-    {7, "Starfold_ColorMult", {}, AsLong, SP::Shape, 7},
-    {10, "Starfold_NewFreq", {}, AsInteger, SP::Flares, 10},
-    {11, "Starfold_NewFrames", {}, AsInteger, SP::Flares, 11},
-    {12, "Starfold_NewExtMult", {}, AsInteger, SP::Flares, 12},
-    {20, "Starfold_NovaFreq", {}, AsInteger, SP::Flares, 20},
-    {21, "Starfold_NovaFrames", {}, AsInteger, SP::Flares, 21},
-    {22, "Starfold_NovaExtMult", {}, AsInteger, SP::Flares, 22},
-    {30, "Starfold_PulsarFreq", {}, AsInteger, SP::Flares, 30},
-    {31, "Starfold_PulsarDepth", {}, AsInteger, SP::Flares, 31},
-    {32, "Starfold_PulsarCycles", {}, AsInteger, SP::Flares, 32},
-    {33, "Starfold_PulsarFrames", {}, AsInteger, SP::Flares, 33},
-    {34, "Starfold_PulsarMinExt", {}, AsInteger, SP::Flares, 34},
-    {35, "Starfold_PulsarMaxExt", {}, AsInteger, SP::Flares, 35},
-    {40, "Starfold_CometFreq", {}, AsInteger, SP::Comets, 40},
-    {41, "Starfold_CometStars", {}, AsInteger, SP::Comets, 41},
-    {42, "Starfold_CometOrbit", {}, AsInteger, SP::Comets, 42},
-    {43, "Starfold_CometSpeed", {}, AsInteger, SP::Comets, 43},
-    {44, "Starfold_CometSWind", {}, AsInteger, SP::Comets, 44},
-    {45, "Starfold_CometCPersist", {}, AsSingle, SP::Comets, 45},
-    {46, "Starfold_CometSPersist", {}, AsSingle, SP::Comets, 46},
-    {47, "Starfold_HWC_Start", {}, AsInteger, SP::Comets, 47},
-    {48, "Starfold_HWC_End", {}, AsInteger, SP::Comets, 48},
-    {49, "Starfold_HWC_Inc", {}, AsSingle, SP::Comets, 49},
+    {0, &P::Starfold_Radius, {}, AsLong, SP::Shape, 0},
+    {1, &P::Starfold_Rotation, {}, AsLong, SP::Shape, 0},
+    {2, &P::Starfold_Distance, {}, AsLong, SP::Shape, 1},
+    {3, &P::Starfold_RadSegs, &P::Starfold_CP_Points, AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {4, &P::Starfold_RadFill, &P::Starfold_CP_Steps, AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {5, &P::Starfold_RadBands, &P::Starfold_CP_B_Pts, AsInteger, SP::Shape, 3, StyleBox::Bands},
+    {6, &P::Starfold_RadBFill, &P::Starfold_CP_B_Exp, AsInteger, SP::Shape, 3, StyleBox::BandFill},
+    {9, &P::Starfold_StdLevels, {}, AsInteger, SP::Shape, 90, StyleBox::Levels},
+    {8, &P::Starfold_QG_Force, {}, AsSingle, SP::Shape, 90, StyleBox::Force},
+    {90, &P::Starfold_GHW_Ratio, {}, AsSingle, SP::Shape, 90, StyleBox::Ratio},
+    {91, &P::Starfold_RadiusExp, {}, AsSingle, SP::Shape, 91, StyleBox::RadiusExponent},
+    {92, &P::Starfold_HeightExp, {}, AsSingle, SP::Shape, 92, StyleBox::HeightExponent},
+    {93, &P::Starfold_AngleTilt, &P::Starfold_CP_B_Spd, AsSingle, SP::Shape, 93},
+    {94, &P::Starfold_AngleTInc, {}, AsSingle, SP::Shape, 94},
+    {95, &P::Starfold_HueStart, {}, AsInteger, SP::Shape, 96, StyleBox::HueWheel},
+    {96, &P::Starfold_HWheelInc, {}, AsSingle, SP::Shape, 96, StyleBox::HueWheel},
+    {7, &P::Starfold_ColorMult, {}, AsLong, SP::Shape, 7},
+    {10, &P::Starfold_NewFreq, {}, AsInteger, SP::Flares, 10},
+    {11, &P::Starfold_NewFrames, {}, AsInteger, SP::Flares, 11},
+    {12, &P::Starfold_NewExtMult, {}, AsInteger, SP::Flares, 12},
+    {20, &P::Starfold_NovaFreq, {}, AsInteger, SP::Flares, 20},
+    {21, &P::Starfold_NovaFrames, {}, AsInteger, SP::Flares, 21},
+    {22, &P::Starfold_NovaExtMult, {}, AsInteger, SP::Flares, 22},
+    {30, &P::Starfold_PulsarFreq, {}, AsInteger, SP::Flares, 30},
+    {31, &P::Starfold_PulsarDepth, {}, AsInteger, SP::Flares, 31},
+    {32, &P::Starfold_PulsarCycles, {}, AsInteger, SP::Flares, 32},
+    {33, &P::Starfold_PulsarFrames, {}, AsInteger, SP::Flares, 33},
+    {34, &P::Starfold_PulsarMinExt, {}, AsInteger, SP::Flares, 34},
+    {35, &P::Starfold_PulsarMaxExt, {}, AsInteger, SP::Flares, 35},
+    {40, &P::Starfold_CometFreq, {}, AsInteger, SP::Comets, 40},
+    {41, &P::Starfold_CometStars, {}, AsInteger, SP::Comets, 41},
+    {42, &P::Starfold_CometOrbit, {}, AsInteger, SP::Comets, 42},
+    {43, &P::Starfold_CometSpeed, {}, AsInteger, SP::Comets, 43},
+    {44, &P::Starfold_CometSWind, {}, AsInteger, SP::Comets, 44},
+    {45, &P::Starfold_CometCPersist, {}, AsSingle, SP::Comets, 45},
+    {46, &P::Starfold_CometSPersist, {}, AsSingle, SP::Comets, 46},
+    {47, &P::Starfold_HWC_Start, {}, AsInteger, SP::Comets, 47},
+    {48, &P::Starfold_HWC_End, {}, AsInteger, SP::Comets, 48},
+    {49, &P::Starfold_HWC_Inc, {}, AsSingle, SP::Comets, 49},
 };
 
 constexpr StarfoldRow kPixHueRows[] = {
-    {0, "Starfold_HueRed", {}, AsInteger, SP::Comets, 0},
-    {1, "Starfold_HueGrn", {}, AsInteger, SP::Comets, 1},
-    {2, "Starfold_HueBlu", {}, AsInteger, SP::Comets, 2},
-    {3, "Starfold_HueBase", {}, AsInteger, SP::Comets, 3},
-    {4, "Starfold_HueBlend", {}, AsInteger, SP::Comets, 4},
+    {0, &P::Starfold_HueRed, {}, AsInteger, SP::Comets, 0},
+    {1, &P::Starfold_HueGrn, {}, AsInteger, SP::Comets, 1},
+    {2, &P::Starfold_HueBlu, {}, AsInteger, SP::Comets, 2},
+    {3, &P::Starfold_HueBase, {}, AsInteger, SP::Comets, 3},
+    {4, &P::Starfold_HueBlend, {}, AsInteger, SP::Comets, 4},
 };
 
 /// The captions that all styles share but for those below.
@@ -143,7 +145,7 @@ std::string_view UniversePageName(int page) { return kUniversePages[page]; }
 std::span<const UniverseRow> UniverseRows() { return kUniverseRows; }
 
 NumberRange RangeOf(const UniverseRow& row) {
-  const Field<UniverseSettings>& field = *FindField(UniverseFields(), row.Name);
+  const Field<UniverseSettings>& field = FieldOf(row.What);
   const double high = field.Odd.DialogHigh > 0 ? field.Odd.DialogHigh : field.High;
   return {row.Kind, field.Low, high};
 }
@@ -158,8 +160,8 @@ bool IsShown(const StarfoldRow& row, int style) {
 }
 
 const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style) {
-  const bool nebula = style == static_cast<int>(FoldStyle::Nebula) && !row.NebulaName.empty();
-  return *FindField(ProfileFields(), nebula ? row.NebulaName : row.Name);
+  const bool isNebula = style == static_cast<int>(FoldStyle::Nebula);
+  return FieldOf(isNebula ? row.OfNebula.value_or(row.What) : row.What);
 }
 
 NumberRange RangeOf(const StarfoldRow& row, int style) {

@@ -6,9 +6,9 @@
 #include <span>
 #include <string_view>
 
-#include "widgets/number_box.h"
 #include "settings/fields.h"
 #include "settings/styles.h"
+#include "widgets/number_box.h"
 
 namespace starfolds {
 
@@ -22,7 +22,7 @@ std::string_view UniversePageName(int page);
 /// An element of `txtUni`. Neighbours with one label stand in one line.
 struct UniverseRow {
   int Index;
-  std::string_view Name;  // of the setting
+  Setting<UniverseSettings> What;
   NumberKind Kind;
   UniversePage Page;
 };
@@ -51,8 +51,8 @@ class Styles {
 /// An element of `txtStarfold`, or of `txtPixHue`.
 struct StarfoldRow {
   int Index;
-  std::string_view Name;        // of the setting
-  std::string_view NebulaName;  // of the setting that style 4 edits here; empty: the same
+  Setting<StarfoldProfile> What;
+  std::optional<Setting<StarfoldProfile>> OfNebula;  // what a Nebula edits here, if it differs
   NumberKind Kind;
   StarfoldPage Page;
   int Label;                           // of `lblStarfold`; rows with one label stand in one line

@@ -6,15 +6,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "widgets/lines.h"
-#include "widgets/samples.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
 #include "settings/registry.h"
+#include "widgets/lines.h"
+#include "widgets/samples.h"
 
 namespace starfolds {
 namespace {
+
+using U = UniverseSettings;
 
 constexpr NumberRange kWeightRange{NumberKind::AsInteger, 0, 9999};
 constexpr int kProfileNameLength = 30;  // characters of an entry of `cboUniProfile`
@@ -23,16 +25,16 @@ constexpr QSize kHueSize{188, 14};
 
 /// The three settings of a universe that are on or off, and what their boxes are called.
 struct Check {
-  std::string_view Setting;
+  Setting<UniverseSettings> What;
   const char* Name;
 };
-constexpr Check kChecks[] = {{"Universe_Tour", "chkUniTour"},
-                             {"Universe_GVisit", "chkVisitSeq"},
-                             {"Universe_RotCam", "chkRotCamera"}};
+constexpr Check kChecks[] = {{&U::Universe_Tour, "chkUniTour"},
+                             {&U::Universe_GVisit, "chkVisitSeq"},
+                             {&U::Universe_RotCam, "chkRotCamera"}};
 
-constexpr std::string_view kProfileSetting = "Universe_Profile";
-constexpr std::string_view kHueSetting = "Universe_HW_Start";
-constexpr std::string_view kTourListSetting = "Universe_GS_Idx";
+constexpr Setting<U> kProfileSetting = &U::Universe_Profile;
+constexpr Setting<U> kHueSetting = &U::Universe_HW_Start;
+constexpr Setting<U> kTourListSetting = &U::Universe_GS_Idx;
 
 constexpr const char* kGravityNote =
     "Note:  The time required to compute the gravitational attraction \n"
@@ -45,10 +47,6 @@ QGroupBox* MakeFrame(const QString& title, const char* name) {
   auto* frame = new QGroupBox(title);
   frame->setObjectName(name);
   return frame;
-}
-
-const Field<UniverseSettings>& UniverseField(std::string_view name) {
-  return *FindField(UniverseFields(), name);
 }
 
 }  // namespace
@@ -69,25 +67,25 @@ UniverseView::UniverseView(const PropsModel& model, QWidget* parent)
 }
 
 std::string UniverseView::Text(const Field<UniverseSettings>& field) const {
-  if (const auto check = checks_.find(field.Name); check != checks_.end()) {
+  if (const auto check = checks_.find(&field); check != checks_.end()) {
     return check->second->isChecked() ? "1" : "0";
   }
-  if (field.Name == kProfileSetting) return std::to_string(cboUniProfile_->currentIndex());
-  if (field.Name == kTourListSetting) return cboTourStarfolds_->currentText().toStdString();
-  return Box(field.Name)->Text();
+  if (field.Where == kProfileSetting) return std::to_string(cboUniProfile_->currentIndex());
+  if (field.Where == kTourListSetting) return cboTourStarfolds_->currentText().toStdString();
+  return Box(field.Where)->Text();
 }
 
 void UniverseView::SetText(const Field<UniverseSettings>& field, const std::string& text) {
-  if (const auto check = checks_.find(field.Name); check != checks_.end()) {
+  if (const auto check = checks_.find(&field); check != checks_.end()) {
     check->second->setChecked(LenientNumber(text) != 0);
-  } else if (field.Name == kProfileSetting) {
+  } else if (field.Where == kProfileSetting) {
     const int last = cboUniProfile_->count() - 1;
     cboUniProfile_->setCurrentIndex(ClampTo(RoundedToLimits<Long>(LenientNumber(text)), 0, last));
-  } else if (field.Name == kTourListSetting) {
+  } else if (field.Where == kTourListSetting) {
     cboTourStarfolds_->setEditText(Shown(text));
     tourText_ = cboTourStarfolds_->currentText();
   } else {
-    Box(field.Name)->SetText(text);
+    Box(field.Where)->SetText(text);
   }
 }
 
@@ -98,7 +96,7 @@ void UniverseView::ClampTextFields() {
 UniverseSettings UniverseView::Settings() const {
   UniverseSettings universe;
   for (const Field<UniverseSettings>& field : UniverseFields()) {
-    if (field.Name == kTourListSetting) {
+    if (field.Where == kTourListSetting) {
       universe.Universe_GS_Idx = Text(field);
     } else {
       SetFieldNumber(universe, field, LenientNumber(Text(field)));
@@ -257,13 +255,13 @@ QWidget* UniverseView::MakePages() {
 void UniverseView::FillCreationPage(QGridLayout& page) {
   picUniHue_ = MakeSamplePlace("picUniHue", tr("Hues from start to end"), kHueSize);
   AddRows(page, UniversePage::Creation);
-  for (const char* name : {"Universe_HW_Start", "Universe_HW_End"}) {
-    connect(Box(name), &NumberBox::Changed, this, &UniverseView::ShowHueSample);
+  for (const auto hue : {&U::Universe_HW_Start, &U::Universe_HW_End}) {
+    connect(Box(hue), &NumberBox::Changed, this, &UniverseView::ShowHueSample);
   }
   cboUniProfile_ = new QComboBox;
   cboUniProfile_->setObjectName("cboUniProfile");
   LetShrink(cboUniProfile_);
-  AddLine(page, Escaped(UniverseField(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_});
+  AddLine(page, Escaped(FieldOf(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_});
   picUniProfile_ =
       MakeSamplePlace("picUniProfile", tr("Sample of the universe profile"), kSampleSize);
   page.addWidget(picUniProfile_, page.rowCount(), 1);
@@ -272,16 +270,16 @@ void UniverseView::FillCreationPage(QGridLayout& page) {
 
 void UniverseView::FillTourPage(QGridLayout& page) {
   for (const Check& check : kChecks) {
-    auto* box = new QCheckBox(Escaped(UniverseField(check.Setting).Label));
+    auto* box = new QCheckBox(Escaped(FieldOf(check.What).Label));
     box->setObjectName(check.Name);
-    checks_[check.Setting] = box;
+    checks_[&FieldOf(check.What)] = box;
   }
-  QCheckBox* tour = checks_["Universe_Tour"];
-  QCheckBox* visit = checks_["Universe_GVisit"];
-  QCheckBox* rotate = checks_["Universe_RotCam"];
+  QCheckBox* tour = checks_.at(&FieldOf(&U::Universe_Tour));
+  QCheckBox* visit = checks_.at(&FieldOf(&U::Universe_GVisit));
+  QCheckBox* rotate = checks_.at(&FieldOf(&U::Universe_RotCam));
   AddWideLine(page, tour);
   AddRows(page, UniversePage::Tour);
-  rampBox_ = Box("Universe_C_Ramp");
+  rampBox_ = Box(&U::Universe_C_Ramp);
   for (QWidget* check : {visit, rotate}) AddWideLine(page, check);
   cboTourStarfolds_ = new QComboBox;
   cboTourStarfolds_->setObjectName("cboTourStarfolds");
@@ -290,7 +288,7 @@ void UniverseView::FillTourPage(QGridLayout& page) {
   cboTourStarfolds_->setCompleter(nullptr);
   cboTourStarfolds_->lineEdit()->setMaxLength(static_cast<int>(kLongestValue));
   cboTourStarfolds_->setToolTip(tr("Choosing a body from the list adds its number"));
-  auto* label = new QLabel(Escaped(UniverseField(kTourListSetting).Label));
+  auto* label = new QLabel(Escaped(FieldOf(kTourListSetting).Label));
   label->setBuddy(cboTourStarfolds_);
   AddWideLine(page, label);
   AddWideLine(page, cboTourStarfolds_);
@@ -316,7 +314,7 @@ void UniverseView::FillGravityPage(QGridLayout& page) {
 /// Rows that follow each other and have one label stand in one line.
 void UniverseView::AddRows(QGridLayout& page, UniversePage which) {
   std::vector<const UniverseRow*> line;
-  const auto label = [](const UniverseRow& row) { return UniverseField(row.Name).Label; };
+  const auto label = [](const UniverseRow& row) { return FieldOf(row.What).Label; };
   for (const UniverseRow& row : UniverseRows()) {
     if (row.Page != which) continue;
     if (!line.empty() && label(*line.front()) != label(row)) {
@@ -334,15 +332,15 @@ QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const Univ
     auto* box = new NumberBox;
     box->SetNames("Uni", row->Index);
     box->SetRange(RangeOf(*row));
-    boxes_[row->Name] = box;
+    boxes_[&FieldOf(row->What)] = box;
     widgets.push_back(box);
   }
-  const std::string_view label = UniverseField(rows.front()->Name).Label;
+  const std::string_view label = FieldOf(rows.front()->What).Label;
   if (rows.size() > 1) {
     for (QWidget* box : widgets) box->setAccessibleName(Shown(label));
   }
   QLabel* text = AddLine(page, Escaped(label), widgets.front(), widgets);
-  if (rows.front()->Name == kHueSetting) page.addWidget(picUniHue_, page.rowCount(), 1);
+  if (rows.front()->What == kHueSetting) page.addWidget(picUniHue_, page.rowCount(), 1);
   if (rows.front()->Page == UniversePage::Tour) {
     tourWidgets_.push_back(text);
     tourWidgets_.insert(tourWidgets_.end(), widgets.begin(), widgets.end());
@@ -392,9 +390,9 @@ void UniverseView::ShowHueSample() {
 }
 
 void UniverseView::EnableTour() {
-  const bool tour = checks_["Universe_Tour"]->isChecked();
+  const bool tour = checks_.at(&FieldOf(&U::Universe_Tour))->isChecked();
   for (QWidget* widget : tourWidgets_) widget->setEnabled(tour);
-  rampBox_->setEnabled(tour && checks_["Universe_RotCam"]->isChecked());
+  rampBox_->setEnabled(tour && checks_.at(&FieldOf(&U::Universe_RotCam))->isChecked());
 }
 
 /// The toolkit has put the entry in place of the text already.
@@ -407,6 +405,8 @@ void UniverseView::AddTourBody(int position) {
   tourText_ = text;
 }
 
-NumberBox* UniverseView::Box(std::string_view name) const { return boxes_.at(name); }
+NumberBox* UniverseView::Box(Setting<UniverseSettings> setting) const {
+  return boxes_.at(&FieldOf(setting));
+}
 
 }  // namespace starfolds

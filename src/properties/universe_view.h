@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "widgets/body_list.h"
 #include "properties/composite_editor.h"
-#include "widgets/name_box.h"
-#include "widgets/number_box.h"
 #include "properties/property_copy.h"
 #include "properties/property_tables.h"
+#include "widgets/body_list.h"
 #include "widgets/dialog_model.h"
+#include "widgets/name_box.h"
+#include "widgets/number_box.h"
 
 namespace starfolds {
 
@@ -81,13 +81,13 @@ class UniverseView : public QWidget {
   void EnableTour();
   void AddTourBody(int position);
 
-  NumberBox* Box(std::string_view name) const;
+  NumberBox* Box(Setting<UniverseSettings> setting) const;
 
   PropsModel model_;
-  std::map<std::string_view, NumberBox*> boxes_;   // txtUni, by the setting's name
-  std::map<std::string_view, QCheckBox*> checks_;  // by the setting's name
-  std::vector<QWidget*> tourWidgets_;              // what `chkUniTour` enables
-  QWidget* rampBox_ = nullptr;                     // what `chkRotCamera` enables
+  std::map<const Field<UniverseSettings>*, NumberBox*> boxes_;  // txtUni
+  std::map<const Field<UniverseSettings>*, QCheckBox*> checks_;
+  std::vector<QWidget*> tourWidgets_;  // what `chkUniTour` enables
+  QWidget* rampBox_ = nullptr;         // what `chkRotCamera` enables
 
   BodyList* lstUniStarfold_ = nullptr;
   NameBox* txtUniFoldName_ = nullptr;

@@ -1,5 +1,7 @@
 #include "settings/factory.h"
 
+#include <optional>
+
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory_rows.h"
@@ -8,108 +10,114 @@
 namespace starfolds {
 namespace {
 
-/// The setting at each position of a row; an empty name is a position that is not read.
-constexpr std::string_view kProfileLayout[] = {
-    "Starfold_Radius",
-    "Starfold_Rotation",
-    "Starfold_Distance",
-    "Starfold_FoldStyle",
-    "Starfold_AxisPlane",
-    "Starfold_RadSegs",
-    "Starfold_RadFill",
-    "Starfold_RadBands",
-    "Starfold_RadBFill",
-    "Starfold_ColorMult",
-    "Starfold_GHW_Ratio",
-    "Starfold_RadiusExp",
-    "Starfold_HeightExp",
-    "Starfold_AngleTilt",
-    "Starfold_AngleTInc",
-    "Starfold_HueStart",
-    "Starfold_HWheelInc",
-    "Starfold_ColorComp",
-    "Starfold_Profile",
-    "Starfold_NewFreq",
-    "Starfold_NewFrames",
-    "Starfold_NewExtMult",
-    "Starfold_NovaFreq",
-    "Starfold_NovaFrames",
-    "Starfold_NovaExtMult",
-    "Starfold_PulsarFreq",
-    "Starfold_PulsarDepth",
-    "Starfold_PulsarCycles",
-    "Starfold_PulsarFrames",
-    "Starfold_PulsarMinExt",
-    "Starfold_PulsarMaxExt",
-    "Starfold_PulsarShape",
-    "",
-    "",
-    "",
-    "Starfold_CometFreq",
-    "Starfold_CometStars",
-    "Starfold_CometOrbit",
-    "Starfold_CometSpeed",
-    "Starfold_CometSWind",
-    "Starfold_CometCPersist",
-    "Starfold_CometSPersist",
-    "Starfold_HWC_Start",
-    "Starfold_HWC_End",
-    "Starfold_HWC_Inc",
-    "Starfold_HueRed",
-    "Starfold_HueGrn",
-    "Starfold_HueBlu",
-    "Starfold_HueBase",
-    "Starfold_HueBlend",
-    "Starfold_CP_Points",
-    "Starfold_CP_Steps",
-    "Starfold_CP_B_Pts",
-    "Starfold_CP_B_Exp",
-    "Starfold_CP_B_Spd",
-    "Starfold_CP_Close",
-    "Starfold_CP_AdvHW",
-    "Starfold_QG_Force",
-    "Starfold_StdLevels",
+using P = StarfoldProfile;
+using U = UniverseSettings;
+
+/// The setting at each position of a row; nullopt for a position that is not read.
+template <class Record>
+using Layout = std::optional<Setting<Record>>;
+
+constexpr Layout<P> kProfileLayout[] = {
+    &P::Starfold_Radius,
+    &P::Starfold_Rotation,
+    &P::Starfold_Distance,
+    &P::Starfold_FoldStyle,
+    &P::Starfold_AxisPlane,
+    &P::Starfold_RadSegs,
+    &P::Starfold_RadFill,
+    &P::Starfold_RadBands,
+    &P::Starfold_RadBFill,
+    &P::Starfold_ColorMult,
+    &P::Starfold_GHW_Ratio,
+    &P::Starfold_RadiusExp,
+    &P::Starfold_HeightExp,
+    &P::Starfold_AngleTilt,
+    &P::Starfold_AngleTInc,
+    &P::Starfold_HueStart,
+    &P::Starfold_HWheelInc,
+    &P::Starfold_ColorComp,
+    &P::Starfold_Profile,
+    &P::Starfold_NewFreq,
+    &P::Starfold_NewFrames,
+    &P::Starfold_NewExtMult,
+    &P::Starfold_NovaFreq,
+    &P::Starfold_NovaFrames,
+    &P::Starfold_NovaExtMult,
+    &P::Starfold_PulsarFreq,
+    &P::Starfold_PulsarDepth,
+    &P::Starfold_PulsarCycles,
+    &P::Starfold_PulsarFrames,
+    &P::Starfold_PulsarMinExt,
+    &P::Starfold_PulsarMaxExt,
+    &P::Starfold_PulsarShape,
+    std::nullopt,
+    std::nullopt,
+    std::nullopt,
+    &P::Starfold_CometFreq,
+    &P::Starfold_CometStars,
+    &P::Starfold_CometOrbit,
+    &P::Starfold_CometSpeed,
+    &P::Starfold_CometSWind,
+    &P::Starfold_CometCPersist,
+    &P::Starfold_CometSPersist,
+    &P::Starfold_HWC_Start,
+    &P::Starfold_HWC_End,
+    &P::Starfold_HWC_Inc,
+    &P::Starfold_HueRed,
+    &P::Starfold_HueGrn,
+    &P::Starfold_HueBlu,
+    &P::Starfold_HueBase,
+    &P::Starfold_HueBlend,
+    &P::Starfold_CP_Points,
+    &P::Starfold_CP_Steps,
+    &P::Starfold_CP_B_Pts,
+    &P::Starfold_CP_B_Exp,
+    &P::Starfold_CP_B_Spd,
+    &P::Starfold_CP_Close,
+    &P::Starfold_CP_AdvHW,
+    &P::Starfold_QG_Force,
+    &P::Starfold_StdLevels,
 };
-constexpr std::string_view kLevelLayout[] = {"Starfold_StdLevDRad", "Starfold_StdLevHSca",
-                                             "Starfold_StdLevB_HS", "Starfold_StdLevB_A0",
-                                             "Starfold_StdLevB_A1"};
+constexpr Layout<P> kLevelLayout[] = {&P::Starfold_StdLevDRad, &P::Starfold_StdLevHSca,
+                                      &P::Starfold_StdLevB_HS, &P::Starfold_StdLevB_A0,
+                                      &P::Starfold_StdLevB_A1};
 constexpr int kLevelsAt = 59;
 constexpr int kCountAt = 67;
 constexpr int kCenterAt = 68;
 constexpr int kEntriesAt = 71;
 
-constexpr std::string_view kIfsCenterLayout[] = {"IFS_CenterX", "IFS_CenterY", "IFS_CenterZ"};
-constexpr std::string_view kIfsLayout[] = {"IFS_LocX", "IFS_LocY",  "IFS_LocZ",  "IFS_Scale",
-                                           "IFS_Axis", "IFS_Angle", "IFS_RelPct"};
-constexpr std::string_view kAtomCenterLayout[] = {"Atom_CenterX", "Atom_CenterY", "Atom_CenterZ"};
+constexpr Layout<IfsRecord> kIfsCenterLayout[] = {&IfsRecord::IFS_CenterX, &IfsRecord::IFS_CenterY,
+                                                  &IfsRecord::IFS_CenterZ};
+constexpr Layout<IfsPoint> kIfsLayout[] = {
+    &IfsPoint::IFS_LocX, &IfsPoint::IFS_LocY,  &IfsPoint::IFS_LocZ,  &IfsPoint::IFS_Scale,
+    &IfsPoint::IFS_Axis, &IfsPoint::IFS_Angle, &IfsPoint::IFS_RelPct};
+constexpr Layout<AtomRecord> kAtomCenterLayout[] = {
+    &AtomRecord::Atom_CenterX, &AtomRecord::Atom_CenterY, &AtomRecord::Atom_CenterZ};
 /// Not the packed order of the record: the structure stands second.
-constexpr std::string_view kAtomLayout[] = {"Atom_Element", "Atom_Structure", "Atom_LocX",
-                                            "Atom_LocY",    "Atom_LocZ",      "Atom_Size",
-                                            "Atom_Radius"};
+constexpr Layout<AtomPoint> kAtomLayout[] = {&AtomPoint::Atom_Element, &AtomPoint::Atom_Structure,
+                                             &AtomPoint::Atom_LocX,    &AtomPoint::Atom_LocY,
+                                             &AtomPoint::Atom_LocZ,    &AtomPoint::Atom_Size,
+                                             &AtomPoint::Atom_Radius};
 
-constexpr std::string_view kThemeLayout[] = {
-    "Universe_Stars",      "Universe_Starfold", "Universe_STrail",
-    "Universe_Expand",     "Universe_ESteps",   "Universe_Persist",
-    "Universe_Damping",    "Universe_HW_Start", "Universe_HW_End",
-    "Universe_Recycle",    "Universe_Profile",  "Universe_NewFreq",
-    "Universe_NewPctStEx", "Universe_GSteps",   "Universe_GPCtrl",
-    "Universe_GCCtrl",     "Universe_DstCen",   "Universe_Tour",
-    "Universe_GVisit",     "Universe_RotCam",   "",
-    "Universe_AmStar",     "Universe_AmPers",   "Universe_AmCAge",
-    "Universe_AmFrames",   "Universe_AmMaxExt", "Universe_GravForce",
-    "Universe_GravFrame",  "Universe_GS_Idx"};
+constexpr Layout<U> kThemeLayout[] = {
+    &U::Universe_Stars,      &U::Universe_Starfold, &U::Universe_STrail,
+    &U::Universe_Expand,     &U::Universe_ESteps,   &U::Universe_Persist,
+    &U::Universe_Damping,    &U::Universe_HW_Start, &U::Universe_HW_End,
+    &U::Universe_Recycle,    &U::Universe_Profile,  &U::Universe_NewFreq,
+    &U::Universe_NewPctStEx, &U::Universe_GSteps,   &U::Universe_GPCtrl,
+    &U::Universe_GCCtrl,     &U::Universe_DstCen,   &U::Universe_Tour,
+    &U::Universe_GVisit,     &U::Universe_RotCam,   std::nullopt,
+    &U::Universe_AmStar,     &U::Universe_AmPers,   &U::Universe_AmCAge,
+    &U::Universe_AmFrames,   &U::Universe_AmMaxExt, &U::Universe_GravForce,
+    &U::Universe_GravFrame,  &U::Universe_GS_Idx};
 
-/// Reads the settings that `layout` names from the fields from `first` on. A field that is no
+/// Reads the settings of `layout` from the fields of a row, from `first` on. A field that is no
 /// number leaves its setting as it was.
-template <class Record>
-void Decode(Record& record, std::span<const Field<Record>> fields, std::string_view row, int first,
-            std::span<const std::string_view> layout) {
-  int position = first;
-  for (const std::string_view name : layout) {
-    if (const Field<Record>* field = FindField(fields, name)) {
-      SetFieldText(record, *field, GetField(row, position));
-    }
-    ++position;
+template <class Record, std::size_t Size>
+void Decode(Record& record, std::string_view row, int first, const Layout<Record> (&layout)[Size]) {
+  for (std::size_t i = 0; i < Size; ++i) {
+    if (!layout[i]) continue;
+    SetFieldText(record, FieldOf(*layout[i]), GetField(row, first + static_cast<int>(i)));
   }
 }
 
@@ -126,18 +134,18 @@ int EntryAt(int k) { return kEntriesAt + 7 * k; }
 
 void DecodeIfs(StarfoldProfile& record, std::string_view row) {
   record.Starfold_IFS_Points = EntryCount(row, kMaxIfsPoints);
-  Decode(record.IFS, IfsCenterFields(), row, kCenterAt, kIfsCenterLayout);
+  Decode(record.IFS, row, kCenterAt, kIfsCenterLayout);
   for (int k = 0; k < record.Starfold_IFS_Points; ++k) {
-    Decode(record.IFS.Points[k], IfsPointFields(), row, EntryAt(k), kIfsLayout);
+    Decode(record.IFS.Points[k], row, EntryAt(k), kIfsLayout);
   }
 }
 
 void DecodeAtoms(StarfoldProfile& record, std::string_view row) {
   record.Starfold_Atoms = EntryCount(row, kMaxAtoms);
-  Decode(record.Atom, AtomCenterFields(), row, kCenterAt, kAtomCenterLayout);
+  Decode(record.Atom, row, kCenterAt, kAtomCenterLayout);
   for (int k = 0; k < record.Starfold_Atoms; ++k) {
     AtomPoint& atom = record.Atom.Atoms[k];
-    Decode(atom, AtomPointFields(), row, EntryAt(k), kAtomLayout);
+    Decode(atom, row, EntryAt(k), kAtomLayout);
     atom.Atom_Count = AtomPoints(atom.Atom_Structure);
   }
 }
@@ -210,8 +218,8 @@ void LoadFactoryProfile(StarfoldProfile& record, FactorySet set, int index) {
 }
 
 void DecodeProfileRow(StarfoldProfile& record, std::string_view row) {
-  Decode(record, ProfileFields(), row, 0, kProfileLayout);
-  if (record.Starfold_StdLevels > 1) Decode(record, ProfileFields(), row, kLevelsAt, kLevelLayout);
+  Decode(record, row, 0, kProfileLayout);
+  if (record.Starfold_StdLevels > 1) Decode(record, row, kLevelsAt, kLevelLayout);
   record.Starfold_IFS_Points = 0;
   record.Starfold_Atoms = 0;
   if (FieldInteger(row, kCountAt) <= 0) return;
@@ -245,7 +253,7 @@ void LoadFactoryTheme(UniverseSettings& universe, int theme, bool is20) {
 }
 
 void DecodeThemeRow(UniverseSettings& universe, std::string_view row) {
-  Decode(universe, UniverseFields(), row, 0, kThemeLayout);
+  Decode(universe, row, 0, kThemeLayout);
 }
 
 void LoadFactorySettings(SettingsRecords& records, FactorySet set, int theme) {

@@ -3,14 +3,15 @@
 namespace starfolds {
 
 const FieldOrder<StarfoldProfile>& StoredProfileOrder() {
-  static constexpr Moved moves[] = {{"Starfold_ColorMult", "Starfold_RadBFill"},
-                                    {"Starfold_StdLevels", "Starfold_QG_Force"},
-                                    {"Starfold_StdLevDRad", "Starfold_StdLevels"},
-                                    {"Starfold_StdLevHSca", "Starfold_StdLevDRad"},
-                                    {"Starfold_StdLevB_HS", "Starfold_StdLevHSca"},
-                                    {"Starfold_StdLevB_A0", "Starfold_StdLevB_HS"},
-                                    {"Starfold_StdLevB_A1", "Starfold_StdLevB_A0"}};
-  static const FieldOrder<StarfoldProfile> order = OrderOf(ProfileFields(), moves);
+  using P = StarfoldProfile;
+  static constexpr Moved<P> moves[] = {{&P::Starfold_ColorMult, &P::Starfold_RadBFill},
+                                       {&P::Starfold_StdLevels, &P::Starfold_QG_Force},
+                                       {&P::Starfold_StdLevDRad, &P::Starfold_StdLevels},
+                                       {&P::Starfold_StdLevHSca, &P::Starfold_StdLevDRad},
+                                       {&P::Starfold_StdLevB_HS, &P::Starfold_StdLevHSca},
+                                       {&P::Starfold_StdLevB_A0, &P::Starfold_StdLevB_HS},
+                                       {&P::Starfold_StdLevB_A1, &P::Starfold_StdLevB_A0}};
+  static const FieldOrder<StarfoldProfile> order = OrderOf<P>(ProfileFields(), moves);
   return order;
 }
 

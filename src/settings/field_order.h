@@ -1,10 +1,9 @@
-// Orders of settings in which some do not stand where the record has them.
+// Orders of settings that differ from the order of their record.
 #pragma once
 
 #include <algorithm>
 #include <iterator>
 #include <span>
-#include <string_view>
 #include <vector>
 
 #include "settings/fields.h"
@@ -14,21 +13,21 @@ namespace starfolds {
 template <class Record>
 using FieldOrder = std::vector<const Field<Record>*>;
 
-/// A field that stands behind another one.
+/// A setting that follows another one.
+template <class Record>
 struct Moved {
-  std::string_view Name;
-  std::string_view Behind;
+  Setting<Record> What;
+  Setting<Record> Behind;
 };
 
-/// Moves fields, one after the other. All names must be in the order.
+/// Moves settings, one after the other. All of them must be in the order.
 template <class Record>
-void MoveFields(FieldOrder<Record>& order, std::span<const Moved> moves) {
-  const auto place = [&](std::string_view name) {
-    return std::find_if(order.begin(), order.end(),
-                        [&](const Field<Record>* field) { return field->Name == name; });
+void MoveFields(FieldOrder<Record>& order, std::span<const Moved<Record>> moves) {
+  const auto place = [&](const Setting<Record>& setting) {
+    return std::ranges::find(order, setting, &Field<Record>::Where);
   };
-  for (const Moved& move : moves) {
-    const auto from = place(move.Name);
+  for (const Moved<Record>& move : moves) {
+    const auto from = place(move.What);
     const Field<Record>* field = *from;
     order.erase(from);
     order.insert(std::next(place(move.Behind)), field);
@@ -36,7 +35,8 @@ void MoveFields(FieldOrder<Record>& order, std::span<const Moved> moves) {
 }
 
 template <class Record>
-FieldOrder<Record> OrderOf(std::span<const Field<Record>> fields, std::span<const Moved> moves) {
+FieldOrder<Record> OrderOf(std::span<const Field<Record>> fields,
+                           std::span<const Moved<Record>> moves) {
   FieldOrder<Record> order;
   for (const Field<Record>& field : fields) order.push_back(&field);
   MoveFields(order, moves);

@@ -1,6 +1,8 @@
 #include "settings/fields.h"
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 #include <cmath>
 
 #include "numbers/characters.h"
@@ -247,6 +249,13 @@ void ClampFields(Record& record, std::span<const Field<Record>> fields) {
   }
 }
 
+template <class Record>
+const Field<Record>& RowOf(std::span<const Field<Record>> fields, const Setting<Record>& setting) {
+  const auto row = std::ranges::find(fields, setting, &Field<Record>::Where);
+  assert(row != fields.end() && "a setting without a row in the field table");
+  return *row;
+}
+
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 template <class Record>
@@ -290,6 +299,31 @@ std::span<const Field<IfsRecord>> IfsCenterFields() { return kIfsCenterFields; }
 std::span<const Field<IfsPoint>> IfsPointFields() { return kIfsPointFields; }
 std::span<const Field<AtomRecord>> AtomCenterFields() { return kAtomCenterFields; }
 std::span<const Field<AtomPoint>> AtomPointFields() { return kAtomPointFields; }
+
+const Field<UniverseSettings>& FieldOf(Setting<UniverseSettings> setting) {
+  return RowOf(UniverseFields(), setting);
+}
+const Field<StarfoldProfile>& FieldOf(Setting<StarfoldProfile> setting) {
+  return RowOf(ProfileFields(), setting);
+}
+const Field<CompositeProfile>& FieldOf(Setting<CompositeProfile> setting) {
+  return RowOf(CompositeFields(), setting);
+}
+const Field<AdvancedSettings>& FieldOf(Setting<AdvancedSettings> setting) {
+  return RowOf(AdvancedFields(), setting);
+}
+const Field<IfsRecord>& FieldOf(Setting<IfsRecord> setting) {
+  return RowOf(IfsCenterFields(), setting);
+}
+const Field<IfsPoint>& FieldOf(Setting<IfsPoint> setting) {
+  return RowOf(IfsPointFields(), setting);
+}
+const Field<AtomRecord>& FieldOf(Setting<AtomRecord> setting) {
+  return RowOf(AtomCenterFields(), setting);
+}
+const Field<AtomPoint>& FieldOf(Setting<AtomPoint> setting) {
+  return RowOf(AtomPointFields(), setting);
+}
 
 Limits StyleLimits(RangeRule rule, Integer style) {
   const StyleFacts& facts = FactsOf(style);

@@ -62,6 +62,20 @@ std::span<const Field<IfsPoint>> IfsPointFields();
 std::span<const Field<AtomRecord>> AtomCenterFields();
 std::span<const Field<AtomPoint>> AtomPointFields();
 
+/// A setting, named by its member of the record.
+template <class Record>
+using Setting = typename Field<Record>::Member;
+
+/// The row of a setting. The member must have one.
+const Field<UniverseSettings>& FieldOf(Setting<UniverseSettings> setting);
+const Field<StarfoldProfile>& FieldOf(Setting<StarfoldProfile> setting);
+const Field<CompositeProfile>& FieldOf(Setting<CompositeProfile> setting);
+const Field<AdvancedSettings>& FieldOf(Setting<AdvancedSettings> setting);
+const Field<IfsRecord>& FieldOf(Setting<IfsRecord> setting);
+const Field<IfsPoint>& FieldOf(Setting<IfsPoint> setting);
+const Field<AtomRecord>& FieldOf(Setting<AtomRecord> setting);
+const Field<AtomPoint>& FieldOf(Setting<AtomPoint> setting);
+
 /// The row of the setting called `name`, as it is stored; null where there is none.
 template <class Record>
 const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name) {

@@ -17,19 +17,21 @@ bool HasMarkIn(KeyValueTree& tree, std::string_view mark, RootSelector root) {
 }
 
 /// The values of section "Advanced" that earlier versions knew.
-constexpr std::string_view kEarlierAdvanced[] = {"FocalLength",   "Adv_TimeDelay", "Adv_FontName",
-                                                 "Adv_FontSize",  "Adv_FontHueV",  "LockMessage",
-                                                 "Adv_MouseMove", "Adv_DispBackG", "Adv_WinResize"};
+using A = AdvancedSettings;
+using U = UniverseSettings;
+constexpr Setting<A> kEarlierAdvanced[] = {&A::FocalLength,   &A::Adv_TimeDelay, &A::Adv_FontName,
+                                           &A::Adv_FontSize,  &A::Adv_FontHueV,  &A::LockMessage,
+                                           &A::Adv_MouseMove, &A::Adv_DispBackG, &A::Adv_WinResize};
 
 void CopyPlainValues(KeyValueTree& tree) {
   CopyMachineValueToUser(tree, sections::kMain, "WindowState", "0");
   CopyMachineValueToUser(tree, sections::kMain, "WindowSize", {});
-  for (const std::string_view name : kEarlierAdvanced) {
-    CopyMachineValueToUser(tree, sections::kAdvanced, name,
-                           DefaultText(*FindField(AdvancedFields(), name)));
+  for (const Setting<A>& setting : kEarlierAdvanced) {
+    const Field<A>& field = FieldOf(setting);
+    CopyMachineValueToUser(tree, sections::kAdvanced, field.Name, DefaultText(field));
   }
-  static constexpr Moved listLast[] = {{"Universe_GS_Idx", "Universe_GravFrame"}};
-  for (const Field<UniverseSettings>* field : OrderOf(UniverseFields(), listLast)) {
+  static constexpr Moved<U> listLast[] = {{&U::Universe_GS_Idx, &U::Universe_GravFrame}};
+  for (const Field<UniverseSettings>* field : OrderOf<U>(UniverseFields(), listLast)) {
     CopyMachineValueToUser(tree, sections::kUniverse, field->Name, DefaultText(*field));
   }
 }

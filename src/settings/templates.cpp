@@ -16,28 +16,31 @@
 namespace starfolds {
 namespace {
 
+using P = StarfoldProfile;
+using U = UniverseSettings;
+
 /// What templates hold of an order, with some fields moved once more.
 template <class Record>
-FieldOrder<Record> InTemplates(FieldOrder<Record> order, std::span<const Moved> moves) {
+FieldOrder<Record> InTemplates(FieldOrder<Record> order, std::span<const Moved<Record>> moves) {
   std::erase_if(order, [](const Field<Record>* field) { return !field->Odd.InTemplate; });
   MoveFields(order, moves);
   return order;
 }
 
 const FieldOrder<UniverseSettings>& UniverseOrder() {
-  static constexpr Moved moves[] = {{"Universe_Profile", "Universe_GravFrame"},
-                                    {"Universe_Tour", "Universe_GS_Idx"}};
+  static constexpr Moved<U> moves[] = {{&U::Universe_Profile, &U::Universe_GravFrame},
+                                       {&U::Universe_Tour, &U::Universe_GS_Idx}};
   static const FieldOrder<UniverseSettings> order =
-      InTemplates(OrderOf(UniverseFields(), {}), moves);
+      InTemplates<U>(OrderOf<U>(UniverseFields(), {}), moves);
   return order;
 }
 
 const FieldOrder<StarfoldProfile>& ProfileOrder() {
-  static constexpr Moved moves[] = {{"_UniFoldPct", "_UniFoldName"},
-                                    {"Starfold_PulsarShape", "Starfold_PulsarMaxExt"},
-                                    {"Starfold_CP_Close", "Starfold_CP_B_Spd"},
-                                    {"Starfold_CP_AdvHW", "Starfold_CP_Close"}};
-  static const FieldOrder<StarfoldProfile> order = InTemplates(StoredProfileOrder(), moves);
+  static constexpr Moved<P> moves[] = {{&P::UniFoldPct, &P::UniFoldName},
+                                       {&P::Starfold_PulsarShape, &P::Starfold_PulsarMaxExt},
+                                       {&P::Starfold_CP_Close, &P::Starfold_CP_B_Spd},
+                                       {&P::Starfold_CP_AdvHW, &P::Starfold_CP_Close}};
+  static const FieldOrder<StarfoldProfile> order = InTemplates<P>(StoredProfileOrder(), moves);
   return order;
 }
 

@@ -11,8 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "properties/property_tables.h"
 #include "numbers/text.h"
+#include "properties/property_tables.h"
 
 namespace starfolds {
 namespace {
@@ -180,12 +180,13 @@ TEST_F(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
 
 TEST_F(HelpOfSettingsTest, TellsTheRangeOfEveryBoxOfTheProperties) {
   for (const UniverseRow& row : UniverseRows()) {
-    EXPECT_TRUE(Described.contains(std::string(row.Name))) << row.Name;
+    EXPECT_TRUE(Described.contains(std::string(FieldOf(row.What).Name))) << FieldOf(row.What).Name;
   }
   for (const auto rows : {StarfoldRows(), PixHueRows()}) {
     for (const StarfoldRow& row : rows) {
       if (FieldOf(row, 0).Rule != RangeRule::Fixed) continue;  // the style decides
-      EXPECT_TRUE(Described.contains(std::string(row.Name))) << row.Name;
+      EXPECT_TRUE(Described.contains(std::string(FieldOf(row.What).Name)))
+          << FieldOf(row.What).Name;
     }
   }
 }

@@ -6,14 +6,14 @@
 #include <QTimer>
 #include <set>
 
-#include "template_dialogs/frm_file_io.h"
-#include "properties/frm_welcome.h"
 #include "numbers/text.h"
+#include "properties/frm_welcome.h"
 #include "properties/props_dialog.h"
 #include "settings/first_run.h"
 #include "settings/overrides.h"
 #include "settings/random_records.h"
 #include "settings/templates.h"
+#include "template_dialogs/frm_file_io.h"
 
 namespace starfolds {
 namespace {
@@ -29,7 +29,7 @@ TEST_F(FrmPropsTest, EveryUniverseRowIsHeldStoredAndShownAgain) {
       const NumberRange range = RangeOf(row);
       EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
                 Shortest(high ? range.High : range.Low))
-          << row.Name;
+          << FieldOf(row.What).Name;
     }
     Click("cmdAccept");
     EXPECT_FALSE(Dialog->IsOpen());
@@ -37,7 +37,8 @@ TEST_F(FrmPropsTest, EveryUniverseRowIsHeldStoredAndShownAgain) {
     for (const UniverseRow& row : UniverseRows()) {
       const NumberRange range = RangeOf(row);
       const std::string expected = Shortest(high ? range.High : range.Low);
-      EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, row.Name), expected) << row.Name;
+      EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, FieldOf(row.What).Name), expected)
+          << FieldOf(row.What).Name;
       EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(), expected);
     }
     Click("cmdDismiss");
@@ -305,10 +306,10 @@ TEST_F(FrmPropsTest, ThemesFillThePages) {
   UniverseSettings theme;
   LoadFactoryTheme(theme, 8, false);
   for (const UniverseRow& row : UniverseRows()) {
-    if (row.Name == "Universe_C_Ramp") continue;  // no theme has it
+    if (FieldOf(row.What).Name == "Universe_C_Ramp") continue;  // no theme has it
     EXPECT_EQ(Edit("txtUni_" + std::to_string(row.Index)).text().toStdString(),
-              FieldText(theme, *FindField(UniverseFields(), row.Name)))
-        << row.Name;
+              FieldText(theme, *FindField(UniverseFields(), FieldOf(row.What).Name)))
+        << FieldOf(row.What).Name;
   }
   EXPECT_EQ(The<BodyList>("lstCompStarfold").Selected(), -1);
   OpenType(30);
@@ -509,8 +510,8 @@ TEST_F(FrmPropsTest, TenThousandRandomEventsLeaveAValidTree) {
   if (The<QPushButton>("cmdAccept").text() != "&Accept Settings") Click("cmdAccept");
   Click("cmdAccept");
   for (const UniverseRow& row : UniverseRows()) {
-    const std::string stored = RegistryReadText(Tree, sections::kUniverse, row.Name);
-    EXPECT_EQ(stored, ClampedText(stored, RangeOf(row))) << row.Name;
+    const std::string stored = RegistryReadText(Tree, sections::kUniverse, FieldOf(row.What).Name);
+    EXPECT_EQ(stored, ClampedText(stored, RangeOf(row))) << FieldOf(row.What).Name;
   }
   SettingsRecords stored = LoadSettings(Tree);
   MemoryTree again;
