@@ -1,4 +1,4 @@
-// An alarm that wakes the sleeping event loop at a time.
+// A timer that wakes the sleeping event loop.
 #pragma once
 
 #include <chrono>
@@ -6,20 +6,20 @@
 
 namespace starfolds {
 
-/// Waking is all it does: whoever sleeps looks at the clock himself.
+/// Only wakes the event loop; the caller then checks the clock.
 class Alarm {
  public:
   virtual ~Alarm() = default;
 
-  /// Goes off once, this far from now. What was set before is forgotten.
+  /// Fires once, `fromNow` later. Replaces an earlier setting.
   virtual void Arm(std::chrono::nanoseconds fromNow) = 0;
   virtual void Disarm() = 0;
 };
 
-/// The best of this system: on Linux exact to some microseconds, elsewhere the toolkit's.
+/// The most precise timer of the system: on Linux exact to some microseconds, elsewhere Qt's.
 std::unique_ptr<Alarm> MakeAlarm();
 
-/// The toolkit's own timer, a millisecond off at worst. It works everywhere.
+/// Qt's timer, up to a millisecond off. Available on all systems.
 std::unique_ptr<Alarm> MakeToolkitAlarm();
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// Further processes of this program that live no longer than this one, however it ends.
+// Further processes of this program that end when this one ends, however it ends.
 #pragma once
 
 #include <functional>
@@ -10,21 +10,21 @@ class QProcess;
 
 namespace starfolds {
 
-/// The owner's side. A companion's standard input is a pipe that nothing is ever written to: it
-/// ends with the owner, whatever happens to him. Where the system can, it is told to kill the
-/// companion then as well.
+/// The owner's side. A companion's standard input is a pipe that is never written to: it closes
+/// when the owner ends for any reason. Where the system supports it, the companion is also killed
+/// then.
 class Companions {
  public:
-  /// `left` is called from inside the pump when a companion has ended by itself, in good order. One
-  /// that fails is not heard of.
+  /// `left` is called from inside the pump when a companion has exited with code 0. A companion
+  /// that fails is not reported.
   explicit Companions(std::function<void()> left);
-  /// Ends them all.
+  /// Ends all companions.
   ~Companions();
 
-  /// Starts this program once more.
+  /// Starts one more process of this program.
   void Start(const std::vector<std::string>& arguments);
 
-  /// Lets all of them end, and waits until they have.
+  /// Asks all companions to end, and waits until they have ended.
   void EndAll();
 
  private:
@@ -34,10 +34,10 @@ class Companions {
   std::vector<std::unique_ptr<QProcess>> processes_;
 };
 
-/// A companion's side.
+/// The companion's side.
 class OwnerWatch {
  public:
-  /// Calls `gone` from inside the pump when the owner has ended, or wants the companion to end.
+  /// Calls `gone` from inside the pump when the owner has ended or asks the companion to end.
   explicit OwnerWatch(std::function<void()> gone);
   ~OwnerWatch();
 

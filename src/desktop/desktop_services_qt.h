@@ -1,4 +1,4 @@
-// The desktop that this process runs on.
+// The desktop environment of this process.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace starfolds {
 
-/// The services of the window system that the application object has connected to.
+/// The services of the window system that the application object is connected to.
 std::unique_ptr<DesktopServices> MakeDesktopServices();
 
 }  // namespace starfolds

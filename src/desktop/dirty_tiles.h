@@ -15,30 +15,31 @@ struct TileRect {
   bool operator==(const TileRect&) const = default;
 };
 
-/// The tiles of a surface that were touched since they were last taken. Stars lie scattered, so
-/// one bounding rectangle would nearly always be the whole screen; and rectangles much smaller than
-/// these cost the window system more than the pixels that they save.
+/// The tiles of a surface that changed since the last `Take`. Stars are scattered, so one bounding
+/// rectangle would nearly always be the whole screen; rectangles much smaller than these tiles cost
+/// the window system more than the pixels that they save.
 class DirtyTiles {
  public:
   static constexpr int kTileShift = 6;
   static constexpr int kTileSize = 1 << kTileShift;  // surface pixels
-  /// From this share of their bounding rectangle on, tiles are shown as that one rectangle: its
-  /// few idle pixels are cheaper than the many requests.
+  /// If the tiles fill at least this share of their bounding rectangle, that rectangle is returned:
+  /// its unchanged pixels are cheaper than many requests.
   static constexpr double kFullShare = 0.7;
-  /// More rectangles than this are one rectangle too.
+  /// Above this number of rectangles the bounding rectangle is returned.
   static constexpr std::size_t kMaxRects = 256;
 
-  /// Takes the size of the surface, in pixels; nothing is touched then.
+  /// Sets the size of the surface in pixels, and marks all tiles as unchanged.
   void Resize(int width, int height);
 
-  /// `x` and `y` lie on the surface.
+  /// Marks the tile of a pixel. `x` and `y` must be on the surface.
   void Touch(int x, int y) {
     touched_[static_cast<std::size_t>(y >> kTileShift) * columns_ +
              static_cast<std::size_t>(x >> kTileShift)] = 1;
   }
 
-  /// What was touched, in rectangles that do not overlap, sorted by row and then by column, each as
-  /// long as its row allows and none beyond the surface. Nothing is touched afterwards.
+  /// The changed tiles as rectangles that do not overlap, sorted by row and then by column, each as
+  /// wide as possible within its row and clipped to the surface. All tiles are unchanged
+  /// afterwards.
   const std::vector<TileRect>& Take();
 
  private:

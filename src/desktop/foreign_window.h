@@ -10,46 +10,46 @@ class QWindow;
 
 namespace starfolds {
 
-/// What becomes of the window. Called from inside the pump.
+/// Reports what happens to the window. Called from inside the pump.
 class ForeignWindowEvents {
  public:
   virtual ~ForeignWindowEvents() = default;
 
-  /// The child that was put into it has been given the new size.
+  /// The window has another size, and its child has been resized to it.
   virtual void HostResized() = 0;
 
-  /// The window is gone, or the child in it is: nothing can be shown any more.
+  /// The window or the child in it was destroyed; nothing can be shown any more.
   virtual void HostGone() = 0;
 };
 
-/// Where a guest stands among what else is inside its host's window. A saver stands below it, so
-/// that a host can show a question for the password; a preview is what its place is for.
+/// The position of a guest in the stacking order inside its host's window. A saver is at the
+/// bottom, so that a host can show a password prompt above it; a preview is at the top.
 enum class GuestOrder { Bottom, Top };
 
 class ForeignWindow {
  public:
   virtual ~ForeignWindow() = default;
 
-  /// Makes `child` a window inside this one that covers it, and keeps its size. `order` is its
-  /// place among the windows that are inside already. The child is destroyed before this object.
-  /// False: the window is gone.
+  /// Makes `child` a child of this window that covers it and follows its size. `order` is its place
+  /// among the existing children. `child` must be destroyed before this object. False if the window
+  /// is gone.
   virtual bool TakeIn(QWindow& child, GuestOrder order) = 0;
 
-  /// In logical pixels, a part of one counted as a whole.
+  /// In logical pixels, rounded up.
   virtual QSize Size() const = 0;
 };
 
-/// Listens to the window `handle` from now on. Nothing where there is no such window, or none that
-/// can show anything, or where programs have no way into each other's windows. `events` outlives
-/// the result.
+/// Subscribes to the events of the window `handle`. Null if there is no such window, if it cannot
+/// show anything, or if the window system has no access to windows of other programs. `events` must
+/// outlive the result.
 std::unique_ptr<ForeignWindow> OpenForeignWindow(Long handle, ForeignWindowEvents& events);
 
-/// Whether the application object has connected to a window system that lets programs into each
-/// other's windows.
+/// Whether the application object is connected to a window system that gives access to windows of
+/// other programs.
 bool CanOpenForeignWindows();
 
-/// To be called before the application object is made: makes it connect to such a window system,
-/// even where another one is preferred. False: there is none.
+/// Makes the application object, which must not exist yet, connect to such a window system even if
+/// another one is preferred. False if there is none.
 bool ChooseForeignWindowSystem();
 
 }  // namespace starfolds

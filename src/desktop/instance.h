@@ -1,4 +1,4 @@
-// Finding the windows of other processes where the window system hides them.
+// Finds the windows of other processes where the window system hides them.
 #pragma once
 
 #include <memory>
@@ -7,14 +7,14 @@
 
 namespace starfolds {
 
-/// The services of a desktop whose programs cannot see each other's windows. Our own processes meet
-/// by files instead: one for each caption, which is locked by the process whose window has it, and
-/// a socket beside it through which that window is asked to come forward.
+/// The services of a desktop whose programs cannot see each other's windows. Processes of this
+/// program find each other by files: each caption has a lock file, locked by the process whose
+/// window has the caption, and a socket, through which that window is asked to come to the front.
 ///
-/// Whoever asks `WindowExists` and is told no has the caption from then on, until his process ends:
-/// of several starts at once only one is told no. A window that is shown takes its caption too.
+/// A process for which `WindowExists` returns false owns the caption from then on until it ends: of
+/// several simultaneous starts only one gets false. A window that is shown takes its caption too.
 ///
-/// The application object exists already, and outlives the result.
+/// The application object must exist, and outlive the result.
 std::unique_ptr<DesktopServices> MakeInstanceDesktop();
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// A line of text that stands above a window's pixels.
+// A line of text above the pixels of a window.
 #pragma once
 
 #include <memory>
@@ -10,36 +10,35 @@ class QWindow;
 
 namespace starfolds {
 
-/// How a message looks.
+/// The look of a message.
 struct MessageStyle {
-  std::string FontName;  // one that does not exist is replaced by the window system's choice
+  std::string FontName;  // if it does not exist, the window system substitutes one
   int FontSize = 20;     // points
   Colour Ink = 0xFFFFFF;
 };
 
-/// At which edge of the outer window a message stands, in its middle.
+/// The edge of the outer window at which a message is centred.
 enum class MessagePlace { UpperEdge, LowerEdge };
 
 /// Width of the text in logical pixels.
 int MessageWidth(const std::string& utf8, const MessageStyle& style);
 
-/// A window of its own inside another one: the window system keeps the pixels of the outer window
-/// away from it, so it is printed once and stays. It passes all input through to the outer window.
+/// A child window: the window system clips the outer window's drawing to its outside, so the text
+/// is painted once and stays. All input passes through to the outer window.
 class MessageWindow {
  public:
-  /// Nothing shows before the first `Print`. The outer window outlives it.
+  /// Hidden until the first `Print`. `outer` must outlive it.
   explicit MessageWindow(QWindow& outer, const char* name = "picMessage",
                          MessagePlace place = MessagePlace::UpperEdge);
   ~MessageWindow();
 
-  /// Shows one line at its edge of the outer window as it is now, in a box no larger than the text.
-  /// A line wider than the window is cut off at both sides.
+  /// Shows one line at its edge of the outer window's current size, in a box as large as the text.
+  /// A line wider than the window is clipped at both sides.
   void Print(const std::string& utf8, const MessageStyle& style);
   void Hide();
 
-  /// From now on the text wanders, from its place of rest through the whole outer window and back,
-  /// a logical pixel a second, so that it burns into no screen. False: it rests, where `Print` puts
-  /// it.
+  /// True: the text moves one logical pixel a second, from its resting position across the whole
+  /// outer window and back, to prevent burn-in. False: it stays where `Print` puts it.
   void SetDrift(bool drifts);
 
  private:

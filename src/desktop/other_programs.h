@@ -1,18 +1,18 @@
-// Other programs of the desktop that the saver hands somebody over to.
+// Other programs of the desktop that the saver opens files and pages with.
 #pragma once
 
 #include "platform/desktop_services.h"
 
 namespace starfolds {
 
-/// What desktops do in the same way, whatever window system they are on.
+/// The services that are the same on all desktops, whatever the window system.
 class StartsOtherPrograms : public DesktopServices {
  public:
   bool OpenWebPage(const std::string& url) override;
   bool ShowSystemInfo() override;
 
-  /// No desktop but the one that the system was written for has a password of its own for savers:
-  /// hosts lock the screen themselves.
+  /// Does nothing: only Windows 9x has a password of its own for savers; on other desktops the
+  /// hosts lock the screen.
   void ChangePassword(Long) override {}
 };
 

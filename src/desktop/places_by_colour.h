@@ -1,4 +1,4 @@
-// The pixels of a journal, sorted by the colour that they have now.
+// The pixels of a journal, grouped by their current colour.
 #pragma once
 
 #include <array>
@@ -11,11 +11,11 @@
 
 namespace starfolds {
 
-/// A frame writes thousands of pixels and a few hundred colours: most writes wipe to black, and the
-/// stars take theirs from tables. Memory is kept from frame to frame.
+/// A frame writes thousands of pixels in a few hundred colours: most writes erase to black, and
+/// stars take their colours from tables. Memory is reused from frame to frame.
 class PlacesByColour {
  public:
-  /// Beyond this many a frame is better shown in another way.
+  /// With more colours than this, sending tiles of the picture is cheaper.
   static constexpr std::size_t kMostColours = 1024;
 
   struct Group {
@@ -24,21 +24,21 @@ class PlacesByColour {
     std::size_t Count = 0;
   };
 
-  /// Sorts places of the surface. False: they have too many colours.
+  /// Groups pixels of the surface. False if they have too many colours.
   bool Sort(const Surface& surface, std::span<const Surface::PixelPlace> places);
 
   std::span<const Group> Groups() const { return groups_; }
   std::span<const Surface::PixelPlace> Places() const { return sorted_; }
 
  private:
-  /// Four times the groups, so that a search ends soon.
+  /// Four times the number of groups, so that probe sequences are short.
   static constexpr std::size_t kSlots = 4 * kMostColours;
   static constexpr std::uint16_t kFree = 0;
 
   bool Count(const Surface& surface, std::span<const Surface::PixelPlace> places);
   std::size_t SlotOf(Colour ink) const;
 
-  std::array<std::uint16_t, kSlots> groupOfSlot_{};  // its number from 1
+  std::array<std::uint16_t, kSlots> groupOfSlot_{};  // group number from 1; 0: empty
   std::vector<std::size_t> usedSlots_;
   std::vector<Group> groups_;
   std::vector<std::uint16_t> groupOfPlace_;

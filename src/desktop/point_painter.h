@@ -1,4 +1,4 @@
-// Drawing single pixels on the screen without sending pictures of them.
+// Draws single pixels on the screen without sending images.
 #pragma once
 
 #include <cstdint>
@@ -12,20 +12,20 @@ class QWindow;
 
 namespace starfolds {
 
-/// Draws the pixels of a journal into a window, colour by colour, so that a frame costs what it
-/// changed: a star is a few bytes, and the part of the picture that it stands in some kilobytes.
+/// Draws the pixels of a journal into a window, grouped by colour, so that the cost of a frame
+/// depends on what changed: a star is a few bytes, while the tile around it is some kilobytes.
 class PointPainter {
  public:
   virtual ~PointPainter() = default;
 
-  /// `area`: the physical pixels that a picture of these places would have. False: nothing was
-  /// drawn, as that picture is the cheaper way.
+  /// `area` is the number of physical pixels of the tiles that contain these pixels. False if
+  /// nothing was drawn, because sending the tiles is cheaper.
   virtual bool Draw(const Surface& surface, std::span<const Surface::PixelPlace> places,
                     const PixelScale& scale, std::int64_t area) = 0;
 };
 
-/// Nothing where the window system cannot do that, or shows colours in another way. The window
-/// exists there already.
+/// Null if the window system has no such requests or another pixel format. The native window must
+/// exist.
 std::unique_ptr<PointPainter> MakePointPainter(QWindow& window);
 
 }  // namespace starfolds

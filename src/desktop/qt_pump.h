@@ -1,4 +1,4 @@
-// The clock and the message pump of a process with windows.
+// The clock and the event pump of a process with windows.
 #pragma once
 
 #include <chrono>
@@ -9,12 +9,12 @@
 
 namespace starfolds {
 
-/// Sleeps in the toolkit's event loop, so a waiting saver takes no processor time and input still
-/// arrives at once. The loop is only ever entered for one round (`processEvents`): a loop that was
-/// entered for good (`exec`) would end by itself, for good, when the last window closes.
+/// Waits in Qt's event loop, so that a waiting saver uses no processor time and input arrives at
+/// once. It only processes single rounds (`processEvents`), because a loop started with `exec` ends
+/// for good when the last window closes.
 class QtPump : public Pump {
  public:
-  /// The application object exists already; without it the alarm would never be heard.
+  /// The application object must exist; without it the alarm is not delivered.
   explicit QtPump(std::unique_ptr<Alarm> alarm = MakeAlarm());
 
   Long TickCount() override;

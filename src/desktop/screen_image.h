@@ -1,4 +1,4 @@
-// Writing a surface into the 32-bit picture that a window shows.
+// Writes a surface into the 32-bit image that a window shows.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace starfolds {
 
-/// A colour word as a window shows it: opaque, and red and blue change places.
+/// Converts 0x00BBGGRR to 0xffRRGGBB.
 constexpr std::uint32_t ScreenWord(Colour colour) {
   return 0xFF000000U | (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
 }
@@ -19,8 +19,8 @@ constexpr std::uint32_t ScreenWord(Colour colour) {
 constexpr int ColumnOf(Surface::PixelPlace place) { return static_cast<int>(place & 0xFFFFU); }
 constexpr int RowOf(Surface::PixelPlace place) { return static_cast<int>(place >> 16U); }
 
-/// Somebody else's picture in memory, in physical pixels, one word 0xffRRGGBB each. It is good only
-/// until the owner lays his picture out anew, so it is made fresh for every frame.
+/// An image in memory that another object owns, in physical pixels of one word 0xffRRGGBB each. It
+/// is valid only until the owner reallocates the image, so it is created for every frame.
 class ScreenImage {
  public:
   ScreenImage(void* bits, std::ptrdiff_t bytesPerLine, int width, int height)
@@ -29,12 +29,12 @@ class ScreenImage {
         width_(width),
         height_(height) {}
 
-  /// The pixels of the surface that a journal names.
+  /// Paints the pixels of the surface that a journal lists.
   void PaintPlaces(const PixelScale& scale, const Surface& surface,
                    std::span<const Surface::PixelPlace> places);
 
-  /// The whole surface, and black around it where it does not reach. The scale has the surface's
-  /// size.
+  /// Paints the whole surface, and black outside of it. `scale` must have been measured for the
+  /// size of the surface.
   void PaintAll(const PixelScale& scale, const Surface& surface);
 
  private:

@@ -1,4 +1,4 @@
-// The screens of the desktop, and what becomes of them.
+// The screens of the desktop, and their changes.
 #pragma once
 
 #include <QObject>
@@ -9,22 +9,22 @@ class QScreen;
 
 namespace starfolds {
 
-/// The screen of this number, counted from 0 with the primary one first. Nothing where there are
-/// not that many.
+/// The screen with this number, counted from 0 with the primary screen first. Null if there are not
+/// that many.
 QScreen* FindScreen(int number);
 
-/// Hears of screens that come, go, or change their place or size.
+/// Notices screens that are added, removed, moved or resized.
 class ScreenWatch {
  public:
-  /// `changed` is called from inside the pump. A change of the desktop is many small ones, told as
-  /// one when they have come to rest.
+  /// `changed` is called from inside the pump. A change of the desktop arrives as many events,
+  /// which are reported once when no more follow.
   explicit ScreenWatch(std::function<void()> changed);
 
  private:
   void Watch(QScreen* screen);
 
   QTimer rest_;
-  QObject context_;  // cuts the connections
+  QObject context_;  // its destruction disconnects the signals
 };
 
 }  // namespace starfolds

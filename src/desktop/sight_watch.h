@@ -1,4 +1,4 @@
-// Whether anybody could see a window.
+// Whether a window is visible to the user.
 #pragma once
 
 #include <memory>
@@ -7,17 +7,17 @@ class QWindow;
 
 namespace starfolds {
 
-/// Watches a window. The toolkit takes one for visible that others cover, or whose screen sleeps.
+/// Watches a window. Qt reports windows as visible that are covered, or whose screen is off.
 class SightWatch {
  public:
   virtual ~SightWatch() = default;
 
-  /// Whether nothing of the window can be seen. Asked once a frame. A manager that composes its
-  /// windows keeps the picture of each and never calls one covered.
+  /// Whether nothing of the window is visible. Called once a frame. Under a compositing window
+  /// manager a covered window is never reported as hidden.
   virtual bool IsHidden() = 0;
 };
 
-/// Nothing where the window system does not tell. The window exists there already.
+/// Null if the window system does not report visibility. The native window must exist.
 std::unique_ptr<SightWatch> MakeSightWatch(QWindow& window);
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// A polite end when the system asks the process to stop.
+// Ends the process cleanly when the system asks it to stop.
 #pragma once
 
 #include <functional>
@@ -6,9 +6,9 @@
 
 namespace starfolds {
 
-/// From its making on, the requests to end (SIGTERM, SIGINT, SIGHUP) are caught instead of killing
-/// the process; screen-saver hosts stop their saver so, and count anything but exit code 0 as a
-/// crash. At most one of these lives at a time. On systems without such signals it does nothing.
+/// While it exists, requests to end (SIGTERM, SIGINT, SIGHUP) are caught and do not kill the
+/// process: screen-saver hosts stop their saver by them, and treat any exit code but 0 as a crash.
+/// At most one instance may exist at a time. Does nothing on systems without such signals.
 class StopSignals {
  public:
   StopSignals();
@@ -16,11 +16,11 @@ class StopSignals {
   StopSignals(const StopSignals&) = delete;
   StopSignals& operator=(const StopSignals&) = delete;
 
-  /// Calls `stop` from inside the pump when a request comes, and for one that has come already.
-  /// Needs the application object.
+  /// Calls `stop` from inside the pump when a request arrives, and for one that has arrived
+  /// already. The application object must exist.
   void Watch(std::function<void()> stop);
 
-  /// Whether a request has come that `Watch` has not reported yet.
+  /// Whether a request has arrived that `Watch` has not reported yet.
   bool Asked() const;
 
  private:

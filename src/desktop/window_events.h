@@ -1,30 +1,31 @@
-// What a window tells the host of the effect.
+// The events that a window reports to the host of a run.
 #pragma once
 
 #include <Qt>
 
 namespace starfolds {
 
-/// Called from inside the pump, between two frames. A host leaves out what it does not care for.
+/// Called from inside the pump, between two frames. A host overrides what it needs.
 class WindowEvents {
  public:
   virtual ~WindowEvents() = default;
 
-  /// A press that counts (see `KeyPresses`): `key` is a Qt::Key, `modifiers` what is held with it.
+  /// A key press that counts (see `KeyPresses`). `key` is a Qt::Key, `modifiers` the held
+  /// modifiers.
   virtual void KeyDown(int /*key*/, Qt::KeyboardModifiers /*modifiers*/) {}
 
-  /// The wheel was turned, or two fingers moved over a touchpad. Not told of what only rolls on
-  /// after the fingers have gone.
+  /// The wheel was turned, or two fingers moved on a touchpad. Momentum events after the fingers
+  /// have left the touchpad are not reported.
   virtual void Scroll() {}
 
-  /// Any button. A double click is told as two presses with a `DoubleClick` behind the second.
+  /// Any button. A double click is reported as two presses with a `DoubleClick` after the second.
   virtual void MouseDown() {}
   virtual void DoubleClick() {}
 
-  /// The pointer is at this place of the window, in logical pixels.
+  /// The pointer's new position in the window, in logical pixels.
   virtual void MouseMove(int /*x*/, int /*y*/) {}
 
-  /// The desktop asks the window to go. It stays until the host lets it go.
+  /// The user or the desktop asks the window to close. It stays open until the host closes it.
   virtual void CloseRequested() {}
 
   /// The window came to be seen. It has the size that the desktop gave it.

@@ -1,5 +1,5 @@
-// What a window tells the window system and which the toolkit has no call for. Each does nothing
-// where the window system knows no such thing.
+// Window properties that Qt has no call for. The functions do nothing on window systems that have
+// no such property.
 #pragma once
 
 class QWindow;
@@ -10,12 +10,12 @@ namespace starfolds {
 /// by its caption.
 inline constexpr char kUnlistedProperty[] = "starfolds_unlisted";
 
-/// Marks a window that `DesktopServices` of other processes do not find by its caption either. The
-/// window has been created.
+/// Marks a window that `DesktopServices` of other processes must not find by its caption either.
+/// The native window must exist.
 void MarkUnlisted(QWindow& window);
 
-/// Marks a window as part of the desktop's background: it is on all workspaces, and in no task bar
-/// or window switcher. The window has been created and is not shown.
+/// Marks a window as part of the desktop's background: it is on all workspaces, and not in task
+/// bars or window switchers. The native window must exist and not be shown yet.
 void MarkAsBackground(QWindow& window);
 
 }  // namespace starfolds

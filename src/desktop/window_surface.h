@@ -23,59 +23,58 @@
 
 namespace starfolds {
 
-/// Where a full-screen window stands among the others. At the bottom it takes no focus either, and
-/// is no window to switch to.
+/// Where a full-screen window is in the stacking order. A window at the bottom takes no focus, and
+/// is not listed in window switchers.
 enum class Stacking { AtBottom, Ordinary, OnTop };
 
 /// Which screen a full-screen window covers.
 struct ScreenPlace {
   int Number = 0;     // from 0, the primary screen first
-  bool Leads = true;  // of a saver's windows on several screens one does, and takes the focus
+  bool Leads = true;  // of a saver's windows on several screens, the one that takes the focus
 };
 
-/// The canvas is the truth; `Present` copies what the journal names into the window's own picture
-/// and shows the touched tiles of it, or draws the pixels one by one where that is cheaper. The
-/// surface has a size of its own: it takes over the window's only by `TakeWindowSize`, and until
-/// then a resized window shows its middle, or all of it with black around.
+/// `Present` copies the pixels that the journal lists from the canvas into the window's image, and
+/// shows the changed tiles of it, or draws the pixels one by one where that is cheaper. The surface
+/// has its own size, which only `TakeWindowSize` and `TakeSize` change; until then a resized window
+/// shows the middle of the surface, or all of it with a black border.
 class WindowSurface : public Surface {
  public:
-  /// `events` outlives the surface. Nothing is shown yet.
+  /// `events` must outlive the surface. The window is not shown yet.
   explicit WindowSurface(WindowEvents& events);
   ~WindowSurface() override;
 
   void SetName(const std::string& objectName);
   void SetCaption(const std::string& caption);
-  /// From now on `DesktopServices` do not find the window by its caption, in whatever process.
+  /// `DesktopServices` of all processes no longer find the window by its caption.
   void HideFromSearch();
   void HidePointer();
   void ShowPointer();
 
-  /// Covers a screen, without a frame, and goes on to do so if the screens change. If there is no
-  /// such screen any more, that is the primary one.
+  /// Covers a screen, without a frame, and follows changes of the screens. If the screen does not
+  /// exist (any more), the window covers the primary one.
   void ShowFullScreen(Stacking stacking, ScreenPlace place = {});
-  /// An ordinary window with a frame, free to be resized, of 1280 x 720 logical pixels or as much
-  /// of that as the screen has room for. `place` may give it another size and puts it somewhere,
-  /// before it is shown.
+  /// Shows a resizable window with a frame, of 1280 x 720 logical pixels or as much of that as fits
+  /// on the screen. `place` can change its size and position before it is shown.
   void ShowResizable(const std::function<void(QWindow&)>& place);
-  /// Covers a window of this program from inside, without taking any input from it. It has the
-  /// other's size now and does not follow it by itself. The surface goes before that window.
+  /// Covers a window of this program from inside and takes no input. It has that window's current
+  /// size and does not follow it. The surface must be destroyed before that window.
   void ShowInOwn(QWindow& outer);
-  /// Covers `host` from inside, without taking any input from it. False: the host is gone.
+  /// Covers `host` from inside and takes no input. False if the host is gone.
   bool ShowInside(ForeignWindow& host, GuestOrder order);
 
-  /// Whether the window system has the window drawn.
+  /// Whether the window system shows the window.
   bool IsExposed() const;
-  /// Whether anybody could see it drawn: other windows do not cover it, and the screen is awake.
+  /// Whether the window is visible to the user: not covered, and its screen is on.
   bool IsSeen() const;
 
-  /// Makes the surface as large as the window; it is black afterwards.
+  /// Resizes the surface to the window; it is black afterwards.
   void TakeWindowSize();
-  /// The same with a size that the window has been given, but may not have yet.
+  /// Resizes the surface to a size that the window was given, but may not have yet.
   void TakeSize(QSize size);
   bool HasWindowSize() const;
 
-  /// Shows the changes. While the window cannot be seen they cost nothing: it is painted whole from
-  /// the canvas when it comes back.
+  /// Shows the changes. Does nothing while the window is not visible: when it becomes visible it is
+  /// painted from the whole canvas.
   void Present() override;
 
   QWindow& Window();
@@ -98,8 +97,8 @@ class WindowSurface : public Surface {
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
-  std::unique_ptr<SightWatch> sight_;     // none where the window system does not tell
-  std::unique_ptr<PointPainter> points_;  // none where the window system cannot
+  std::unique_ptr<SightWatch> sight_;     // null if the window system does not report visibility
+  std::unique_ptr<PointPainter> points_;  // null if the window system has no such requests
   std::optional<ScreenWatch> screens_;
   bool atBottom_ = false;
   bool repaintAll_ = true;
@@ -107,8 +106,8 @@ class WindowSurface : public Surface {
   DirtyTiles tiles_;
   PixelScale scale_;
   QPoint origin_;             // of the surface in the window, logical pixels
-  QSize pictureSize_;         // that `scale_` was measured for, physical pixels
-  std::vector<QRect> rects_;  // kept between frames for its memory
+  QSize pictureSize_;         // the size for which `scale_` was measured, in physical pixels
+  std::vector<QRect> rects_;  // kept between frames to reuse its memory
 };
 
 }  // namespace starfolds

@@ -7,7 +7,7 @@
 
 namespace starfolds {
 
-/// Nothing where the application does not run on an X server.
+/// Null if the application does not run on an X server.
 std::unique_ptr<DesktopServices> MakeX11Desktop();
 
 }  // namespace starfolds

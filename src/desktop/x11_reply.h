@@ -1,4 +1,4 @@
-// What an X server answers, for the units that talk to one.
+// Replies of an X server.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -9,18 +9,18 @@
 
 namespace starfolds {
 
-/// Whatever the client library hands out comes from malloc.
+/// Replies of libxcb are allocated by malloc.
 struct Freed {
   void operator()(void* memory) const { std::free(memory); }
 };
 
-/// What the server answered; nothing where it answered with an error, as for a window that has gone
-/// in the meantime.
+/// A reply; null if the server returned an error, for example because the window was destroyed in
+/// the meantime.
 template <class Reply>
 using Answer = std::unique_ptr<Reply, Freed>;
 
-/// Waits for the answer to `request`. `reply` is the library's routine for it. Errors are swallowed
-/// here: without a place for them they would reach the toolkit's event loop as complaints.
+/// Waits for the reply to `request`. `reply` is the function of libxcb for it. Errors are discarded
+/// here: otherwise they would reach Qt's event loop, which prints them.
 template <class Reply, class Request>
 Answer<Reply> Ask(xcb_connection_t* connection, Request request,
                   Reply* (*reply)(xcb_connection_t*, Request, xcb_generic_error_t**)) {
@@ -34,7 +34,7 @@ inline void DropErrors(xcb_connection_t* connection, xcb_void_cookie_t checkedRe
   std::free(xcb_request_check(connection, checkedRequest));
 }
 
-/// The number of a name; `XCB_ATOM_NONE` if the connection is broken.
+/// The atom of a name; `XCB_ATOM_NONE` if the connection is broken.
 inline xcb_atom_t InternAtom(xcb_connection_t* connection, std::string_view name) {
   const auto request =
       xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
@@ -42,7 +42,7 @@ inline xcb_atom_t InternAtom(xcb_connection_t* connection, std::string_view name
   return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-/// Property of windows that are not to be found by their caption.
+/// Property of windows that must not be found by their caption.
 inline constexpr std::string_view kUnlistedMark = "_STARFOLDS_UNLISTED";
 
 }  // namespace starfolds
