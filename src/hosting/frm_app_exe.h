@@ -26,17 +26,17 @@ struct AppWindowShape {
   bool IsForThisRun() const { return FullScreen || Size; }
 };
 
-/// Runs the effect for somebody who started the program as an application: full-screen, or in a
-/// window that can be resized. Esc leaves, F5 begins anew, Ctrl+P pauses, Ctrl+S saves a picture;
-/// any other key asks for the properties dialog, and F1 for the help with it.
+/// Runs the effect for a user who started the program as an application: full-screen, or in a
+/// resizable window. Esc closes it, F5 restarts the run, Ctrl+P pauses, Ctrl+S saves a picture; any
+/// other key opens the properties dialog, and F1 the help with it.
 class FrmAppExe : private WindowEvents {
  public:
   FrmAppExe(ProcessState& process, SeedSource seed, ShowPropertiesDialog frmProps,
             AppWindowShape shape = {});
   ~FrmAppExe() override;
 
-  /// Shows the window and runs the effect. Returns when the user has left; the window goes with
-  /// this object.
+  /// Shows the window and runs the effect. Returns when the user has closed it; the window is
+  /// destroyed with this object.
   void Activate();
 
   QWindow& Window() { return surface_.Window(); }
@@ -64,11 +64,11 @@ class FrmAppExe : private WindowEvents {
   SeedSource seed_;
   ShowPropertiesDialog frmProps_;
   AppWindowShape shape_;
-  bool started_ = false;  // Started: false when the effect is to begin (again)
-  bool running_ = false;  // the surface has the size of its run
+  bool started_ = false;  // Started: false when the effect must begin (again)
+  bool running_ = false;  // the surface has the size of the current run
   bool paused_ = false;
   bool keysShown_ = false;
-  std::optional<bool> framed_;  // how the window is shown; nullopt before it is
+  std::optional<bool> framed_;  // how the window is shown; nullopt before that
   WindowSurface surface_;
   MessageWindow picMessage_;
   HintLine hints_;

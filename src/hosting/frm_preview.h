@@ -1,16 +1,16 @@
-// The little preview in the window of a control panel.
+// The preview in the window of a control panel.
 #pragma once
 
 #include "hosting/guest_window.h"
 
 namespace starfolds {
 
-/// Runs the full effect with fewer stars inside `ProcessState::PreviewParent`.
+/// Runs the whole effect with fewer stars inside `ProcessState::PreviewParent`.
 class FrmPreview {
  public:
   FrmPreview(ProcessState& process, SeedSource seed);
 
-  /// Shows the preview. Returns when the host's window is gone; the process is to end then.
+  /// Shows the preview. Returns when the host's window is gone; the process must end then.
   void Load();
 
  private:

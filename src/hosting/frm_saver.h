@@ -7,16 +7,16 @@
 
 namespace starfolds {
 
-/// Covers a screen and runs the effect until the user comes back.
+/// Covers a screen and runs the effect until input ends it.
 class FrmSaver : private WindowEvents {
  public:
-  /// Of the windows of a saver on several screens only the one that leads has the caption by which
-  /// other processes know that a saver runs.
+  /// Of the windows of a saver on several screens, only that of the first process has the caption
+  /// by which other processes find a running saver.
   FrmSaver(ProcessState& process, SeedSource seed, ScreenPlace place = {});
   ~FrmSaver() override;
 
-  /// Shows the window and runs the effect. Returns when the saver is to go; the window goes with
-  /// this object.
+  /// Shows the window and runs the effect. Returns when the saver must end; the window closes when
+  /// this object is destroyed.
   void Load();
 
   QWindow& Window() { return surface_.Window(); }
@@ -37,11 +37,11 @@ class FrmSaver : private WindowEvents {
   ProcessState& process_;
   SeedSource seed_;
   ScreenPlace place_;
-  bool backG_;  // BackG: a background of the desktop that input does not disturb
+  bool backG_;  // BackG: a background of the desktop, which input does not end
   SaverInput input_;
   bool running_ = false;
-  bool outgrown_ = false;  // the run ends because the window has another size
-  bool leaving_ = false;   // the user may go, or is being asked for the password
+  bool outgrown_ = false;  // the run ends because the window was resized
+  bool leaving_ = false;   // input has ended the saver, or the password is being asked for
   WindowSurface surface_;
   MessageWindow picMessage_;
 };

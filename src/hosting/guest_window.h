@@ -1,4 +1,4 @@
-// The effect as a guest in the window of another program.
+// The effect inside the window of another program.
 #pragma once
 
 #include <memory>
@@ -9,17 +9,17 @@
 
 namespace starfolds {
 
-/// Covers the host's window and follows its size. Input is the host's business: the guest takes
-/// none and never ends on any. It ends with the host's window.
+/// Covers the host's window and follows its size. Takes no input, which goes to the host, and ends
+/// with the host's window.
 class GuestWindow : private WindowEvents, private ForeignWindowEvents {
  public:
-  /// Shows nothing yet.
+  /// Does not show the window yet.
   GuestWindow(ProcessState& process, SeedSource seed, Long host);
   ~GuestWindow() override;
 
-  /// Shows the window and runs the effect. Returns when the host is gone or the process is to end.
-  /// False: there is no such window, or not any more, and nothing was run. A preview does not show
-  /// the user's message.
+  /// Shows the window and runs the effect. Returns when the host is gone or the process must end.
+  /// False if the host's window does not exist (any more) and nothing was run. A preview does not
+  /// show the user's message.
   bool Run(bool smallPreview);
 
   WindowSurface& Drawing() { return surface_; }
@@ -38,7 +38,7 @@ class GuestWindow : private WindowEvents, private ForeignWindowEvents {
   bool smallPreview_ = false;
   bool hostGone_ = false;
   bool beginAnew_ = false;
-  WindowSurface surface_;  // inside `host_`, and so to go before it
+  WindowSurface surface_;  // inside `host_`, so destroyed before it
   MessageWindow picMessage_;
 };
 

@@ -1,4 +1,4 @@
-// A quiet line at the lower edge of a window that goes by itself.
+// A line of hints at the lower edge of a window, hidden after some time.
 #pragma once
 
 #include <QTimer>
@@ -11,15 +11,15 @@ namespace starfolds {
 
 class HintLine {
  public:
-  /// `outer` outlives the line.
+  /// `outer` must outlive the line.
   explicit HintLine(QWindow& outer);
 
-  /// Shows `text`, or `shortText` if the window is too narrow for it, until the time is over or
+  /// Shows `text`, or `shortText` if the window is too narrow for it, until `time` is over or
   /// another text is shown. With a time of 0 it stays.
   void Show(const std::string& text, const std::string& shortText, std::chrono::milliseconds time);
   void Hide();
 
-  /// Moves the line to where the window's lower edge is now.
+  /// Moves the line to the current lower edge of the window.
   void FollowWindow();
 
  private:

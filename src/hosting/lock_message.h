@@ -1,4 +1,4 @@
-// The user's own line of text over the effect.
+// The user's message over the effect.
 #pragma once
 
 #include "desktop/message_window.h"
@@ -6,8 +6,8 @@
 
 namespace starfolds {
 
-/// Shows `LockMessage` in its font, size and hue, drifting if `Adv_FontDrift` is on, or nothing if
-/// it is empty. The settings have been held to their limits.
+/// Shows `LockMessage` in its font, size and hue, drifting if `Adv_FontDrift` is on; shows nothing
+/// if it is empty. The settings must be within their ranges.
 void ShowLockMessage(MessageWindow& picMessage, const AdvancedSettings& advanced);
 
 }  // namespace starfolds

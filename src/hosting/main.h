@@ -1,4 +1,4 @@
-// How the process was started decides what it is.
+// Chooses what the process does from how it was started.
 #pragma once
 
 #include <string>
@@ -7,15 +7,14 @@
 
 namespace starfolds {
 
-/// What a start looks at.
+/// How the process was started.
 struct StartUp {
-  std::string ProgramFolder;  // of the running file
-  std::string ProgramName;    // its name without the extension
-  std::string CommandLine;    // all that stood behind the program's name, not split
+  std::string ProgramFolder;  // of the executable file
+  std::string ProgramName;    // the executable's name without the extension
+  std::string CommandLine;    // all arguments, joined, not split
 };
 
-/// What a start may do, beside asking the desktop. Each of the windows lives until its routine
-/// returns.
+/// What a start can open. Each function shows a window and returns when it has closed.
 class StartActions {
  public:
   virtual ~StartActions() = default;
@@ -28,8 +27,8 @@ class StartActions {
   virtual void LoadTemplate(const std::string& path) = 0;
 };
 
-/// Takes the role from the file's name and the command line, and opens at most one window: the
-/// saver, the application window, the properties dialog or the preview.
+/// Takes the role from the executable's name and the command line, and opens at most one window:
+/// the saver, the application window, the properties dialog or the preview.
 void Main(ProcessState& process, const StartUp& start, StartActions& actions);
 
 /// Whether a command line asks for the properties dialog.
@@ -38,11 +37,11 @@ bool AsksForProperties(const std::string& commandLine);
 /// Whether a command line asks for the preview in a host's window.
 bool AsksForPreview(const std::string& commandLine);
 
-/// The part of `Main` that looks at the command line alone.
+/// The part of `Main` that depends on the command line alone.
 void DispatchCommandLine(ProcessState& process, const std::string& commandLine,
                          StartActions& actions);
 
-/// Runs the effect in the window that belongs to `ProcessState::Mode`.
+/// Runs the effect in the window for `ProcessState::Mode`.
 void ShowEffectWindow(ProcessState& process, StartActions& actions);
 
 }  // namespace starfolds

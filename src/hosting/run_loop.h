@@ -1,4 +1,4 @@
-// What the windows that host the effect have in common.
+// What the windows that host the effect share.
 #pragma once
 
 #include <cstdint>
@@ -9,21 +9,21 @@
 
 namespace starfolds {
 
-/// Gives a seed for each run that a window sets up.
+/// Returns a seed for each run of a window.
 using SeedSource = std::function<std::uint64_t()>;
 
-/// Another seed every time, so that each window opens on another universe.
+/// A seed from the clock, so that each window shows another universe.
 std::uint64_t ClockSeed();
 
-/// By the local clock, with fractions.
+/// Local time, with fractions of a second.
 double SecondsSinceMidnight();
 
-/// Runs events until the desktop shows the window, so that it has its final size and the first
-/// stars are seen. Where nothing is ever shown (a screen that sleeps) it does not wait for long.
+/// Processes events until the window system shows the window, so that it has its final size and the
+/// first stars are visible. Gives up after a short time if it is never shown (the screen is off).
 void WaitUntilShown(ProcessState& process, const WindowSurface& surface);
 
-/// Bodies to show, where there are none yet; then universes, run after run with freshly read
-/// settings, until `StopRun`. A small preview shows fewer stars, and stores nothing.
+/// Stores the factory's bodies if there are none yet, then runs universes, each with settings read
+/// anew, until `StopRun`. A small preview shows fewer stars, and stores nothing.
 void RunEffect(ProcessState& process, Surface& surface, bool smallPreview = false);
 
 }  // namespace starfolds

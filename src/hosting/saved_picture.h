@@ -1,4 +1,4 @@
-// A picture of the effect as a file.
+// Saves a picture of the effect.
 #pragma once
 
 #include <QImage>
@@ -6,14 +6,14 @@
 
 namespace starfolds {
 
-/// What became of a picture that was to be saved.
+/// The result of saving a picture.
 struct SavedPicture {
-  QString Path;   // of the file; empty if there is none
-  QString Fault;  // why there is none
+  QString Path;   // of the file; empty if none was saved
+  QString Fault;  // the reason why none was saved
 };
 
 /// Saves the picture as PNG in the user's folder for pictures, under a new name made of the
-/// product's and the time. The file is there as a whole or not at all.
+/// product's name and the time. The file is complete or does not exist.
 SavedPicture SavePicture(const QImage& picture);
 
 }  // namespace starfolds

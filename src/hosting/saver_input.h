@@ -5,12 +5,12 @@
 
 namespace starfolds {
 
-/// The rules of the saver's window. Each routine takes an event and tells whether the saver is to
-/// be closed now.
+/// The rules for the saver's window. Each function takes an event and returns whether the saver
+/// must end now.
 class SaverInput {
  public:
-  /// `mouseMoveOff`: the pointer's movement never ends the saver. `backG`: it runs as a background
-  /// of the desktop, which only a double click ends.
+  /// `mouseMoveOff`: pointer movement never ends the saver. `backG`: it runs as a background of the
+  /// desktop, which only a double click ends.
   SaverInput(bool mouseMoveOff, bool backG) : mouseMoveOff_(mouseMoveOff), backG_(backG) {}
 
   bool KeyDown() const { return !backG_; }
@@ -18,9 +18,9 @@ class SaverInput {
   bool MouseDown() const { return !backG_; }
   bool DoubleClick() const { return backG_; }
 
-  /// Four moves within ten seconds of the first end the saver; a move that comes later begins a new
-  /// series and is its first. So a knocked table does not end it, nor does the place that a new
-  /// window is told of first: nobody has moved then.
+  /// Four moves within ten seconds of the first end the saver; a later move starts a new series as
+  /// its first. So a bump of the table does not end the saver, nor does the initial position that a
+  /// new window receives without any movement.
   bool MouseMove(double secondsSinceMidnight);
 
  private:
@@ -29,7 +29,7 @@ class SaverInput {
   bool mouseMoveOff_;
   bool backG_;
   bool placeKnown_ = false;
-  Long moveCount_ = 0;      // MoveCount, of the series
+  Long moveCount_ = 0;      // MoveCount, in the series
   Long firstMoveTime_ = 0;  // FirstMoveTime, in seconds since midnight
 };
 
