@@ -15,13 +15,13 @@
 namespace starfolds {
 
 enum class Role {
-  FromCommandLine,  // no role was asked for by an option: `Main` decides
+  FromCommandLine,  // no option asked for a role: `Main` decides
   Help,
   Version,
   Saver,
   Window,
   Settings,
-  Guest,  // of a saver host, in the host's window
+  Guest,  // inside the window of a saver host
 };
 
 /// Client size of the application's window, in logical pixels, each side 1 to 16384.
@@ -33,25 +33,25 @@ struct WindowSize {
 struct StartOptions {
   Role AskedFor = Role::FromCommandLine;
   std::optional<std::uint64_t> Seed;
-  std::optional<int> Screen;       // that the saver covers, from 1; nullopt: all screens
-  bool Companion = false;          // of a saver on several screens, and not the first of them
+  std::optional<int> Screen;       // the screen to cover, from 1; nullopt: all screens
+  bool Companion = false;          // started by a saver on several screens, for one of the others
   std::optional<WindowSize> Size;  // of the application's window; nullopt: not given
   bool FullScreen = false;         // the application's window covers the screen
   std::string Template;            // path of the file that a window shows; empty: none
-  std::optional<Long> HostWindow;  // of a guest; else the host names it in the environment
-  /// Names and values of settings that hold for this process only, each one valid.
+  std::optional<Long> HostWindow;  // of a guest; nullopt: the host names it in the environment
+  /// Names and values of settings for this process only, each one valid.
   std::vector<std::pair<std::string, std::string>> Changes;
   std::vector<std::string> Given;  // the arguments, if they are options
-  std::string CommandLine;         // for `Main`: every argument, joined by blanks
+  std::string CommandLine;         // for `Main`: all arguments, joined by blanks
 };
 
-/// Parses the arguments behind the program's name, of several roles the last one. What a system
-/// says to its screen saver (a switch such as "/S", a template's name alone) is no option: it goes
-/// to `CommandLine` as it stands. Returns what is wrong with the arguments.
+/// Parses the arguments after the program's name; of several roles the last one counts. What a
+/// system passes to its screen saver (a switch such as "/S", or only a template's name) is not an
+/// option and goes to `CommandLine` unchanged. Returns what is wrong with the arguments.
 Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options);
 
-/// The number of a window as hosts write it, decimal or "0x" and hexadecimal; nullopt if it is
-/// none.
+/// Parses a window's number as hosts write it, decimal or "0x" and hexadecimal; nullopt if `text`
+/// is not a number from 1 to the largest Long.
 std::optional<Long> WindowNumber(std::string_view text);
 
 /// What `--help` prints.

@@ -1,4 +1,4 @@
-// The saver on several screens: one process for each, so that each has a universe of its own.
+// The saver on several screens: one process per screen, each with its own universe.
 #pragma once
 
 #include <functional>
@@ -13,18 +13,17 @@
 
 namespace starfolds {
 
-/// Whether this process covers a screen by itself, and which one. Nothing: there is no such screen.
+/// The screen that the saver of this process covers, and how; nullopt if the screen does not exist.
 std::optional<ScreenPlace> PlaceOfSaver(const StartOptions& options);
 
-/// What the companion on a screen is started with, by a process with these options. Screens count
-/// from 0.
+/// The arguments of a companion on `screen` (counted from 0), started by a process with `options`.
 std::vector<std::string> CompanionArguments(const StartOptions& options, int screen);
 
-/// Covers all screens but the primary one with companions, and does so anew when the screens
-/// change. Does nothing where the saver covers one screen only.
+/// Covers all screens but the primary one with companions, and restarts them when the screens
+/// change. Does nothing if the saver covers one screen only.
 class OtherScreens {
  public:
-  /// `left` is called when a companion has ended, because the user came back on its screen.
+  /// `left` is called when a companion has ended because of input on its screen.
   OtherScreens(const StartOptions& options, std::function<void()> left);
 
  private:

@@ -1,4 +1,4 @@
-// The start of the toolkit, which aborts the process if it cannot reach the desktop.
+// Starts Qt, which aborts the process if it cannot connect to the display.
 #pragma once
 
 #include <QApplication>
@@ -7,21 +7,21 @@
 
 namespace starfolds {
 
-/// Whether the environment names a desktop: an X server, a Wayland compositor or a platform of Qt.
+/// Whether the environment names a display: an X server, a Wayland compositor or a Qt platform.
 bool NamesDesktop();
 
-/// Whether a message box would be seen: there is a desktop, it has a screen, and the program was
-/// not started on a terminal, where messages are read instead.
+/// Whether a message box would be visible: there is a display with a screen, and the program was
+/// not started from a terminal, which shows messages instead.
 bool MessageBoxesAreSeen();
 
-/// The application object. If the desktop cannot be reached or the platform plug-in is missing, the
-/// constructor writes one line to the standard error and ends the process with exit code 1.
+/// The application object. If the display cannot be reached or the platform plug-in is missing, the
+/// constructor writes one line to standard error and ends the process with exit code 1.
 class Toolkit {
  public:
   explicit Toolkit(char* program);
 
  private:
-  /// Only the program's name: the toolkit would take some of the system's switches for its own.
+  /// Only the program's name: Qt would take some of the system's switches for its own options.
   int argumentCount_ = 1;
   std::array<char*, 2> arguments_;
   std::optional<QApplication> application_;

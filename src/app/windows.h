@@ -1,4 +1,4 @@
-// The windows that a start may open.
+// The windows that the program opens at its start.
 #pragma once
 
 #include <QWindow>
@@ -12,12 +12,12 @@
 
 namespace starfolds {
 
-/// Opens the windows that exist. For the ones that do not it says so on stderr, and the process is
-/// to end with `ExitCode`.
+/// Opens the windows. If one cannot be opened, it reports that on standard error, and the process
+/// must end with `ExitCode`.
 class AppWindows : public StartActions {
  public:
-  /// `edited` is what the dialogs read and store: the tree of the run without the settings of the
-  /// options. `saver.Tree` is the tree of the run.
+  /// `edited` is the tree that the dialogs read and store: that of the run without the values of
+  /// the options. `process.Tree` is the tree of the run.
   AppWindows(ProcessState& process, const StartOptions& options, KeyValueTree& edited);
 
   bool FileExists(const std::string& path) override;
@@ -27,17 +27,17 @@ class AppWindows : public StartActions {
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
-  /// Brings a template into `tree`, the values that the process begins with. False: it cannot be
-  /// read, and the user knows why.
+  /// Loads a template into `tree`, the initial values of the process. False if it cannot be read,
+  /// which the user has been told.
   bool BeginWithTemplate(const std::string& path, KeyValueTree& tree);
 
-  /// The full effect inside the window of a saver host.
+  /// Runs the effect inside the window of a saver host.
   void ShowInHost(Long hostWindow);
 
   int ExitCode() const { return exitCode_; }
 
  private:
-  /// The properties dialog over `owner`, or alone.
+  /// Opens the properties dialog with the parent `owner`, or without one.
   void RunFrmProps(QWindow* owner);
   void Fail(const std::string& message, int exitCode);
 
