@@ -1,4 +1,4 @@
-// How a routine says that something went wrong.
+// How a function reports an error.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// A program's options as one table, from which its command line is parsed and its help is made.
+// A program's options as one table, from which its command line is parsed and its help is printed.
 #pragma once
 
 #include <charconv>
@@ -17,34 +17,35 @@
 namespace starfolds {
 
 /// Stores the value of an option, or returns what is wrong with it. The value is empty for an
-/// option that takes none.
+/// option without a value.
 using TakeValue = std::function<Fault(std::string_view value)>;
 
 struct Option {
   const char* Names;     // such as "-h,--help"; without a hyphen: the positional argument
-  const char* Argument;  // placeholder of the value in the help; empty: the option takes none
+  const char* Argument;  // placeholder of the value in the help; empty: no value
   const char* Help;      // one or more lines
   TakeValue Take;
-  bool Alone = false;  // if given anywhere, all else on the command line is ignored
+  bool Alone = false;  // if given anywhere, the rest of the command line is ignored
 };
 
-/// A row without a name is the heading of a group of options. Those of a group with an empty
-/// heading are not listed in the help.
+/// A row without a name is the heading of a group of options. A group with an empty heading is not
+/// listed in the help.
 using OptionTable = std::vector<Option>;
 inline Option Heading(const char* text) { return {"", "", text, {}}; }
 
-/// Parses the arguments behind the program's name. Options may stand in any order, their value
-/// behind a blank or "=", and are taken from left to right. Returns what is wrong with them.
+/// Parses the arguments after the program's name. Options may be in any order, with their value
+/// after a blank or "=", and are applied from left to right. Returns what is wrong with them.
 Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments);
 
-/// The listed options, a group after the other.
+/// The help text of the listed options, group by group.
 std::string OptionsHelp(const OptionTable& table);
 
-/// The text between quotation marks, shortened where it is long. Control characters stay as they
-/// are: `Complain` replaces them.
+/// The text in quotation marks, shortened if it is long. Control characters are kept: `Complain`
+/// replaces them.
 std::string Quoted(std::string_view text);
 
-/// The number, if all of the text is one that fits. No sign but "-", no blanks.
+/// Parses all of `text` as a number of this type; nullopt if it is not one or does not fit. The
+/// only sign is "-"; blanks are not accepted.
 template <class Number>
 std::optional<Number> WholeNumber(std::string_view text, int base = 10) {
   Number number{};
@@ -54,23 +55,23 @@ std::optional<Number> WholeNumber(std::string_view text, int base = 10) {
   return number;
 }
 
-// Values of options by their kind. Each keeps a reference to its target.
+// Functions that store values of one kind. Each keeps a reference to its target.
 
 TakeValue TakeText(std::string& target);
 
-/// "WIDTHxHEIGHT" in pixels. The longest side is 16384: the engine's coordinates are 16-bit, and
-/// half of their range is left for flares that begin outside of the surface.
+/// "WIDTHxHEIGHT" in pixels, each 1 to 16384: the engine's coordinates are 16-bit, and half of
+/// their range is needed for flares that begin outside of the surface.
 TakeValue TakeSize(int& width, int& height);
 
 /// Names and values of settings.
 using Changes = std::vector<std::pair<std::string, std::string>>;
 
-/// "Name=value", for a setting that there is and a value that it can have.
+/// "Name=value". Fails if there is no such setting or it cannot have that value.
 TakeValue TakeChange(Changes& target);
-/// The value of one setting, or a fixed one for an option that takes none.
+/// The value of one setting, or `fixed` for an option without a value.
 TakeValue TakeChange(Changes& target, std::string_view setting, std::string_view fixed = {});
 
-/// A fixed value, for an option that takes none.
+/// Stores `fixed`, for an option without a value.
 template <class Value>
 TakeValue TakeFixed(Value& target, std::type_identity_t<Value> value) {
   return [&target, value](std::string_view) {
