@@ -1,4 +1,4 @@
-// What the programs say on a terminal.
+// Output of the programs on a terminal.
 #pragma once
 
 #include <string>
@@ -6,14 +6,14 @@
 
 namespace starfolds {
 
-/// The text with "?" for each byte of a control character (C0, DEL and C1). Prevents arguments and
-/// file names that come back in messages from sending escape sequences to the terminal.
+/// The text with "?" for each byte of a control character (C0, DEL and C1). Prevents
+/// escape-sequence injection by arguments and file names that are repeated in messages.
 std::string Harmless(std::string_view text);
 
-/// One line on the standard error, "program: message".
+/// Writes one line to standard error: "program: message", both made harmless.
 void Complain(std::string_view program, std::string_view message);
 
-/// Text on the standard output. False: it could not be written.
+/// Writes text to standard output. False if it could not be written.
 bool Print(const std::string& text);
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// What the program asks of the desktop around it, beside windows of its own.
+// The services of the desktop environment, apart from windows of the program's own.
 #pragma once
 
 #include <string>
@@ -12,27 +12,27 @@ class DesktopServices {
  public:
   virtual ~DesktopServices() = default;
 
-  /// Whether a top-level window with exactly this caption exists, in whatever process. Windows that
-  /// are hidden from this search by their program do not count.
+  /// Whether a top-level window with exactly this caption exists in any process. Windows that their
+  /// program has excluded from this search do not count.
   virtual bool WindowExists(const std::string& caption) = 0;
 
-  /// Finds that window and gives it the focus; nothing where there is none.
+  /// Finds that window and gives it the focus; does nothing if there is none.
   virtual void BringToFront(const std::string& caption) = 0;
 
-  /// Whether `handle` names a living window. 0 never does.
+  /// Whether `handle` is an existing window. Always false for 0.
   virtual bool IsWindow(Long handle) = 0;
 
-  /// Opens a web page in the user's browser. False: it could not be reached.
+  /// Opens a web page in the user's browser. False if the browser could not be started.
   virtual bool OpenWebPage(const std::string& url) = 0;
 
-  /// Starts the program that tells about this machine. False: there is none.
+  /// Starts the program that shows information about this machine. False if there is none.
   virtual bool ShowSystemInfo() = 0;
 
-  /// Lets the platform's own dialog change the saver's password; nothing where it has none.
+  /// Opens the platform's dialog for changing the saver's password; does nothing if it has none.
   virtual void ChangePassword(Long ownerWindow) = 0;
 };
 
-/// A desktop without windows but those that a test names; it notes what it was asked.
+/// A desktop whose windows a test lists; it records the calls.
 class MemoryDesktop : public DesktopServices {
  public:
   std::vector<std::string> Captions;

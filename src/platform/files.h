@@ -9,7 +9,7 @@
 
 namespace starfolds {
 
-/// Bytes, or why there are none.
+/// The bytes of a file, or the reason why it could not be read.
 struct FileContents {
   std::optional<std::string> Bytes;
   std::string Fault;  // a reason for the user, without the path: "No such file or directory"
@@ -20,22 +20,23 @@ class Files {
  public:
   virtual ~Files() = default;
 
-  /// Reads a plain file of at most `limit` bytes. Larger ones are refused unread; so is what is no
-  /// plain file, as a device or a pipe might never end.
+  /// Reads a regular file of at most `limit` bytes. Fails for larger files, without reading them,
+  /// and for anything that is not a regular file, because a device or a pipe might never end.
   virtual FileContents Read(const std::string& path, std::size_t limit) = 0;
 
-  /// Whether there is anything of that name, even a link that leads nowhere.
+  /// Whether the name exists, even as a dangling symbolic link.
   virtual bool Exists(const std::string& path) = 0;
 
-  /// Replaces the file, or makes it. Gives the reason where it cannot, and then what was there is
-  /// untouched, even if the disk is full or the process is killed meanwhile.
+  /// Replaces the file, or creates it. nullopt on success, else the reason; the file is then
+  /// unchanged, even if the disk was full. A process that is killed meanwhile leaves the old or the
+  /// new file.
   virtual std::optional<std::string> Replace(const std::string& path, std::string_view bytes) = 0;
 
-  /// Whether files can be made in `folder`.
+  /// Whether files can be created in `folder`.
   virtual bool CanWriteFolder(const std::string& folder) = 0;
 };
 
-/// Files that a test has put there.
+/// Files in memory, set by a test.
 class MemoryFiles : public Files {
  public:
   std::map<std::string, std::string> Contents;

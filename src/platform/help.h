@@ -1,4 +1,4 @@
-// The help that comes with the program, by the numbers of its topics.
+// The help that comes with the program, by the context numbers of its topics.
 #pragma once
 
 #include <vector>
@@ -7,19 +7,19 @@
 
 namespace starfolds {
 
-/// Context numbers: each names one topic for good, so that a dialog finds its own whatever becomes
-/// of the topic's title and place.
+/// Context numbers: each belongs to one topic permanently, so that a dialog finds its topic
+/// whatever the topic's title and position are.
 namespace help {
 inline constexpr Integer kGettingStarted = 10;
 inline constexpr Integer kWindows = 15;
-inline constexpr Integer kProject = 20;  // where the project lives, and how to take part
+inline constexpr Integer kProject = 20;  // the project's home page, and how to contribute
 inline constexpr Integer kFileIo = 500;
 inline constexpr Integer kSystemDiag = 550;
 inline constexpr Integer kUniverseView = 1000;
-/// Plus the page's position: creation, new and ambient stars, tour, composites, gravity.
+/// Plus the index of the page: creation, new and ambient stars, tour, composites, gravity.
 inline constexpr Integer kUniversePage = 1010;
 inline constexpr Integer kStarfoldView = 2000;
-/// Plus the page's position: shape, flares, comets.
+/// Plus the index of the page: shape, flares, comets.
 inline constexpr Integer kStarfoldPage = 2010;
 inline constexpr Integer kPropertyCopy = 3000;
 inline constexpr Integer kIfs = 7100;
@@ -33,15 +33,15 @@ class Help {
  public:
   virtual ~Help() = default;
 
-  /// Opens the help at a topic, or brings it there. It can be read beside a dialog that waits.
+  /// Opens the help at a topic, or switches to it. It can be read while a dialog is open.
   virtual void ShowTopic(Integer context) = 0;
   virtual void ShowContents() = 0;
   virtual void ShowSearch() = 0;
-  /// Closes it, if it is open.
+  /// Closes the help if it is open.
   virtual void Quit() = 0;
 };
 
-/// Notes what was asked for.
+/// Records the calls.
 class MemoryHelp : public Help {
  public:
   std::vector<Integer> Topics;

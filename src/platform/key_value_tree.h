@@ -1,4 +1,4 @@
-// The stored tree: texts under a hive, a path and a name, as a registry keeps them.
+// The stored tree: texts addressed by hive, path and name, like a registry.
 #pragma once
 
 #include <map>
@@ -9,37 +9,39 @@
 
 namespace starfolds {
 
-/// The roots of the tree. Settings live under `CurrentUser`; `LocalMachine` is what an
-/// administrator or an earlier version left for everybody.
+/// The roots of the tree. Settings are under `CurrentUser`; `LocalMachine` has what an
+/// administrator or an earlier version stored for all users.
 enum class Hive { LocalMachine, CurrentUser, ClassesRoot, Users };
 
-/// Paths are names joined by "\". Paths and names compare without regard to the case of ASCII
-/// letters. A text is any bytes.
+/// Paths are names joined by "\". Paths and names are compared without regard to the case of ASCII
+/// letters. A text is any sequence of bytes.
 ///
-/// Nothing here throws. A tree that is missing, damaged, locked or forbidden reads as empty and
-/// refuses writes; what it holds stays as it is.
+/// Nothing here throws. A tree that is missing, damaged, locked or not accessible reads as empty
+/// and refuses writes; its contents are not changed.
 class KeyValueTree {
  public:
   virtual ~KeyValueTree() = default;
 
-  /// The text of a value; nothing where there is no such value or it cannot be read.
+  /// The text of a value; nullopt if it does not exist or cannot be read.
   virtual std::optional<std::string> Read(Hive hive, std::string_view path,
                                           std::string_view name) = 0;
 
-  /// Stores a text, and makes the path where it is missing. False: nothing was stored.
+  /// Stores a text, and creates the path if it is missing. False: nothing was stored.
   virtual bool Write(Hive hive, std::string_view path, std::string_view name,
                      std::string_view text) = 0;
 
-  /// Removes a path with its values and all that lies below. False where it is not there, or stays.
+  /// Removes a path with its values and everything below it. False if it does not exist or could
+  /// not be removed.
   virtual bool DeleteKey(Hive hive, std::string_view path) = 0;
 
  protected:
   enum class Access { Look, Change };
 
-  /// What `TreeBulk` asks for. Between the two calls all reads see one state of the user's hive and
-  /// all writes are pending. `Begin` is false where the tree cannot be used so; then reads find
-  /// nothing and writes are refused until `End`. `End` stores the writes if `keep`, all or none; it
-  /// is false if it could not, or if a read or a write in between met a fault.
+  /// Called by `TreeBulk`. Between the two calls all reads see one state of the user's hive, and
+  /// all writes are pending. `Begin` returns false if the tree cannot be used; then reads return
+  /// nullopt and writes are refused until `End`. `End` stores all of the writes or none if `keep`,
+  /// and discards them otherwise; it returns false if it could not, or if a read or write in
+  /// between failed.
   virtual bool Begin(Access access) = 0;
   virtual bool End(bool keep) = 0;
 
@@ -47,11 +49,11 @@ class KeyValueTree {
   friend class TreeBulk;
   int bulks_ = 0;
   Access access_ = Access::Look;
-  bool abandoned_ = false;  // by a bulk within the outermost one
+  bool abandoned_ = false;  // by a nested bulk
 };
 
-/// Many values at once: they are read from one state of the tree, and written all or none. Bulks
-/// nest; the outermost one counts, and fails if one within it was abandoned.
+/// A transaction: its reads see one state of the tree, and its writes are stored all or none. Bulks
+/// nest; the outermost one is the transaction, and fails if a nested one was abandoned.
 class TreeBulk {
  public:
   static TreeBulk Look(KeyValueTree& tree) { return {tree, KeyValueTree::Access::Look}; }
@@ -60,11 +62,11 @@ class TreeBulk {
   TreeBulk(const TreeBulk&) = delete;
   TreeBulk& operator=(const TreeBulk&) = delete;
 
-  /// Whether the tree can be used. If not, going on is harmless: reads find nothing.
+  /// Whether the tree can be used. If not, calls are harmless: reads return nullopt.
   bool Begun() const { return begun_; }
 
-  /// Ends the bulk. True: every value was stored, or could be looked for. A bulk that is never
-  /// committed changes nothing.
+  /// Ends the bulk. True if every write was stored and every read succeeded (a missing value counts
+  /// as success). A bulk that is never committed changes nothing.
   bool Commit();
 
  private:
@@ -76,10 +78,10 @@ class TreeBulk {
   bool open_ = true;
 };
 
-/// A tree in memory, for tests, and for a run that has no place to store anything.
+/// A tree in memory, for tests, and for runs without a place to store anything.
 class MemoryTree : public KeyValueTree {
  public:
-  // The faults that a test makes.
+  // Failures that a test sets.
   bool Readable = true;
   bool Writable = true;
   int WritesUntilFull = -1;  // negative: never full
@@ -89,7 +91,7 @@ class MemoryTree : public KeyValueTree {
              std::string_view text) override;
   bool DeleteKey(Hive hive, std::string_view path) override;
 
-  /// How many values it holds.
+  /// The number of values.
   std::size_t Size() const { return values_.size(); }
   bool operator==(const MemoryTree& other) const { return values_ == other.values_; }
 
@@ -102,8 +104,8 @@ class MemoryTree : public KeyValueTree {
   using Values = std::map<Place, std::string>;
 
   Values values_;
-  Values before_;        // of the bulk
-  bool faulty_ = false;  // a read or write of the bulk failed
+  Values before_;        // at the start of the bulk
+  bool faulty_ = false;  // a read or write of the bulk has failed
 };
 
 }  // namespace starfolds

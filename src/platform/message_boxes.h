@@ -1,4 +1,4 @@
-// Questions and warnings that wait for the user's answer.
+// Questions and messages that wait for the user's answer.
 #pragma once
 
 #include <deque>
@@ -32,12 +32,12 @@ class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows a box and waits for its answer. Closing the box means "OK" where that is its only
-  /// button, and otherwise "Cancel".
+  /// Shows a box and waits for the answer. Closing the box counts as "OK" if that is its only
+  /// button, and as "Cancel" otherwise.
   virtual BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) = 0;
 };
 
-/// A box that answers by itself: what a test has put there, then "OK". It notes what it was asked.
+/// Answers without showing a box: with the answers of a test, then with "OK". Records the calls.
 class ScriptedMessageBoxes : public MessageBoxes {
  public:
   struct Asked {

@@ -7,29 +7,29 @@
 
 namespace starfolds {
 
-/// The clock and the message pump. Window events run only inside the calls of this interface, so a
-/// flag that an event handler sets is seen by the run between two frames.
+/// The clock and the event pump. Window events are processed only inside the calls of this
+/// interface, so the run sees a flag that an event handler sets between two frames.
 class Pump {
  public:
   virtual ~Pump() = default;
 
-  /// A millisecond count that only goes up, and wraps.
+  /// Milliseconds, never decreasing until they wrap.
   virtual Long TickCount() = 0;
 
-  /// Runs all pending window events and returns.
+  /// Processes all pending window events and returns.
   virtual void PumpEvents() = 0;
 
-  /// Sleeps until a window event arrives (and runs it) or `milliseconds` have passed. May return
-  /// early; the caller looks at the clock.
+  /// Waits until a window event arrives (and processes it) or `milliseconds` have passed. May
+  /// return early; the caller checks the clock.
   virtual void WaitForEvents(Long milliseconds) = 0;
 
-  /// Sleeps, running events, until the screen can show another frame than the last one. Where
-  /// nobody looks at the surface it returns at once.
+  /// Waits, processing events, until the screen can show the next frame. Returns at once if the
+  /// surface is not visible.
   virtual void WaitForRefresh() = 0;
 };
 
 /// A pump with a counted clock: time passes only while the run waits, so that a run with a fixed
-/// seed is the same every time. `OnPump`, if set, runs in place of window events.
+/// seed is always the same. `OnPump`, if set, is called in place of window events.
 class CountedPump : public Pump {
  public:
   std::function<void()> OnPump;

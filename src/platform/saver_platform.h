@@ -1,5 +1,5 @@
-// What Windows 9x had for its screen savers and no other system has: a password that the saver
-// itself asks for, task-switch keys to be blocked, and windows that stack themselves.
+// Services for screen savers that only Windows 9x has: a password that the saver itself asks for, a
+// block of the task-switch keys, and the stacking order of windows.
 #pragma once
 
 #include <optional>
@@ -10,34 +10,35 @@
 
 namespace starfolds {
 
-/// What `GetPlatformId` says on Windows 95, 98 and ME.
+/// The platform number of Windows 95, 98 and ME.
 inline constexpr Long kWindows9x = 1;
-/// And on every later system, this one included: whoever locks the screen asks for the password.
+/// The platform number of every later system: there the program that locks the screen asks for the
+/// password.
 inline constexpr Long kLaterPlatform = 2;
 
-/// Where `StackWindow` puts a window.
+/// Positions for `StackWindow`.
 inline constexpr Long kStackAtBottom = 1;
 inline constexpr Long kStackTopMost = -1;
 
-/// As it stands it is a later platform, of which nothing is asked.
+/// By default a later platform, where every call does nothing.
 class SaverPlatform {
  public:
   virtual ~SaverPlatform() = default;
 
   virtual Long GetPlatformId() { return kLaterPlatform; }
 
-  /// Shows the system's dialog and returns its verdict: 1 for the right password. Nothing where the
+  /// Shows the system's dialog and returns its result: 1 for the right password; nullopt if the
   /// dialog is missing.
   virtual std::optional<Long> VerifyScreenSavePwd() { return std::nullopt; }
 
-  /// Raises or lowers the system's screen-saver-running flag, which blocks the task-switch keys.
+  /// Sets or clears the system's screen-saver-running flag, which blocks the task-switch keys.
   virtual void SetScreenSaverRunning(bool /*running*/) {}
 
-  /// Moves the saver's window behind `after`, without giving it the focus.
+  /// Moves the saver's window behind `after` without giving it the focus.
   virtual void StackWindow(Long /*after*/) {}
 };
 
-/// A platform that a test tells what it is. It notes what it was asked.
+/// A platform that a test configures. Records the calls.
 class ScriptedPlatform : public SaverPlatform {
  public:
   Long Id = kLaterPlatform;

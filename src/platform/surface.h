@@ -1,4 +1,4 @@
-// The drawing surface: the one place that knows how pixels lie in memory.
+// The drawing surface, the only class that knows the memory layout of pixels.
 #pragma once
 
 #include <cstddef>
@@ -9,19 +9,19 @@
 
 namespace starfolds {
 
-/// A colour word, 0x00BBGGRR.
+/// A colour, 0x00BBGGRR.
 using Colour = std::uint32_t;
 
-/// A canvas of colour words, and a journal of the pixels written since the last `Present`, from
-/// which a screen takes over just what changed. The engine draws with nothing but `SetPixelV`; a
-/// pixel stays until it is written again.
+/// A canvas of colours, and a journal of the pixels written since the last `Present`, from which a
+/// screen copies only what changed. The engine draws only with `SetPixelV`; a pixel keeps its
+/// colour until it is written again.
 class Surface {
  public:
   /// One journal entry: y in the high, x in the low 16 bits.
   using PixelPlace = std::uint32_t;
 
-  /// `journalCapacity` is the number of writes between two `Present`s that are remembered one by
-  /// one; beyond it (or with 0) the whole canvas counts as changed.
+  /// `journalCapacity` is the number of writes between two `Present`s that are recorded one by one;
+  /// after more (always with 0) the whole canvas counts as changed.
   explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0);
   virtual ~Surface() = default;
   Surface(const Surface&) = delete;
@@ -30,11 +30,11 @@ class Surface {
   int Width() const { return static_cast<int>(width_); }
   int Height() const { return static_cast<int>(height_); }
 
-  /// Writes one pixel. Coordinates off the surface do nothing, whatever they are.
+  /// Writes one pixel. Any coordinates are allowed; those off the surface are ignored.
   void SetPixelV(Long x, Long y, Colour colour) { Pen(*this).SetPixelV(x, y, colour); }
 
-  /// The writer of pixels. A loop that writes many keeps one, so that the surface's measures stay
-  /// in registers; it is good until the surface takes another size.
+  /// Writes pixels. A loop that writes many creates one `Pen`, which keeps the surface's size in
+  /// registers. It is invalid after the surface was resized.
   class Pen {
    public:
     explicit Pen(Surface& surface)
@@ -51,10 +51,10 @@ class Surface {
       }
     }
 
-    /// Whether a place is on the surface; negative coordinates come as large ones.
+    /// Whether a place is on the surface. Negative coordinates arrive as large numbers.
     bool Holds(std::uint64_t x, std::uint64_t y) const { return x < width_ && y < height_; }
 
-    /// `SetPixelV` for a place that the surface holds.
+    /// `SetPixelV` for a place on the surface; undefined elsewhere.
     void SetPixelWithin(Long x, Long y, Colour colour) {
       const auto column = static_cast<std::uint32_t>(x);
       const auto row = static_cast<std::uint32_t>(y);
@@ -75,16 +75,16 @@ class Surface {
     std::size_t journalCapacity_;
   };
 
-  /// The colour at a place on the surface; 0 (black) off it.
+  /// The colour at a place; 0 (black) off the surface.
   Colour Pixel(Long x, Long y) const;
 
-  /// Row-major, `Width() * Height()` words, no padding.
+  /// Row by row, `Width() * Height()` values, without padding.
   const std::vector<Colour>& Pixels() const { return pixels_; }
 
   /// Makes every pixel black.
   void Clear();
 
-  /// Takes a new size; the canvas is black afterwards. Negative sizes count as 0.
+  /// Changes the size; the canvas is black afterwards. Negative sizes count as 0.
   void Resize(Integer width, Integer height);
 
   /// Shows what was written since the last call. `FramePace` calls it once a frame.
@@ -95,7 +95,7 @@ class Surface {
   const PixelPlace* JournalBegin() const { return journal_.data(); }
   const PixelPlace* JournalEnd() const { return journal_.data() + journalSize_; }
 
-  /// Begins the next frame's journal. A presenter that could not show anything leaves it out.
+  /// Starts the journal of the next frame. Not called by a presenter that could not show anything.
   void ForgetJournal() {
     journalSize_ = 0;
     everythingChanged_ = false;
@@ -110,13 +110,13 @@ class Surface {
   bool everythingChanged_ = true;
 };
 
-/// A surface that nobody looks at while it is drawn. It never waits.
+/// A surface that is not shown while it is drawn. It never waits.
 class MemorySurface : public Surface {
  public:
   using Surface::Surface;
   void Present() override { ForgetJournal(); }
 
-  /// FNV-1a (Fowler, Noll, Vo) with a colour word as its unit, so the same number on every machine.
+  /// FNV-1a (Fowler, Noll, Vo) over colours instead of bytes, so the same number on every machine.
   std::uint64_t Hash() const;
 };
 
