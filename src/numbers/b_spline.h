@@ -1,11 +1,11 @@
-// The uniform cubic B-spline, which both the camera and the ribbons ride on.
+// The uniform cubic B-spline, used by the camera and the ribbons.
 #pragma once
 
 namespace starfolds {
 
-/// One coordinate of the curve at `t` in [0, 1) from four control values. It passes near its
-/// control points, and neighbouring windows join smoothly in place, slope and curvature. The factor
-/// is the Single nearest to a sixth, on purpose.
+/// One coordinate of the curve at `t` in [0, 1) from four control values. The curve passes near its
+/// control points; adjacent segments join with the same position, slope and curvature. The factor
+/// is the Single nearest to 1/6: pictures depend on it.
 inline double BSpline(double t, double p0, double p1, double p2, double p3) {
   constexpr double sixth = 0.16666667F;
   const double cubic = 3 * p1 - p0 - 3 * p2 + p3;

@@ -1,4 +1,4 @@
-// Characters as people count them.
+// Characters as users count them (grapheme clusters).
 #pragma once
 
 #include <cstddef>
@@ -7,9 +7,9 @@
 
 namespace starfolds {
 
-/// The first `count` characters of UTF-8 text, fewer where there are no more or where `bytes` bytes
-/// hold no more of them. A letter with its accents and vowel signs is one character, and so is an
-/// emoji of several parts or a flag. A single character of more than `bytes` bytes is left out.
+/// The first `count` characters of UTF-8 text, or fewer if the text or `bytes` bytes hold no more.
+/// A letter with its accents and vowel signs is one character, and so is an emoji of several parts
+/// or a flag. A single character of more than `bytes` bytes is left out.
 std::string_view FirstCharacters(std::string_view text, std::size_t count,
                                  std::size_t bytes = std::numeric_limits<std::size_t>::max());
 

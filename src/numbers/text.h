@@ -1,5 +1,5 @@
-// Numbers in text: the lenient scan, the numeric test and the shortest text of a number. All of
-// them are free of the locale: a point is always the decimal mark.
+// Numbers in text: lenient parsing, the test for a number, and the shortest text of a number. None
+// of them depends on the locale: the decimal mark is always a point.
 #pragma once
 
 #include <string>
@@ -9,17 +9,18 @@
 
 namespace starfolds {
 
-/// The value of the longest number at the start of the text; blanks anywhere before or inside it
-/// do not count ("1 2.5x" is 12.5). Text that starts with no number gives 0. Magnitudes above
-/// double's range give the largest double, those below it 0.
+/// The value of the longest number at the start of the text; blanks before and inside it are
+/// ignored
+/// ("1 2.5x" is 12.5). 0 if the text does not start with a number. Magnitudes above the range of
+/// double give the largest double, those below it 0.
 double LenientNumber(std::string_view text);
 
-/// Whether the whole text is one number: optional blanks around it, a sign, digits, a point, an
-/// exponent. Empty text is none.
+/// Whether the whole text is one number: optional blanks around it, sign, digits, point, exponent.
+/// False for empty text.
 bool IsNumeric(std::string_view text);
 
-/// The shortest decimal text that reads back as the same number, without an exponent wherever 15
-/// digits or fewer will do.
+/// The shortest decimal text that parses to the same number, without an exponent if 15 digits or
+/// fewer suffice.
 std::string NumberText(Single value);
 std::string NumberText(Long value);
 
