@@ -9,10 +9,10 @@
 
 namespace starfolds {
 
-/// A file is replaced by a temporary one beside it, which takes its name when it is whole and on
-/// the disk. It keeps the rights of the old one; a symbolic link goes on pointing where it did.
-/// What a killed process leaves behind ("NAME.part-1") is removed by the next one that replaces the
-/// file.
+/// A file is replaced by a temporary one beside it, which is renamed when it is complete and
+/// flushed to disk. The new file has the permissions of the old one; a symbolic link is followed. A
+/// temporary file that a killed process left behind ("NAME.part-1") is removed by the next process
+/// that replaces the file.
 class DiskFiles : public Files {
  public:
   FileContents Read(const std::string& path, std::size_t limit) override;

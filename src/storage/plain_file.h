@@ -1,4 +1,4 @@
-// What the stored tree asks of the file system beside SQLite.
+// File operations that the stored tree needs beside SQLite.
 #pragma once
 
 #include <chrono>
@@ -8,7 +8,7 @@
 
 namespace starfolds {
 
-/// A file whatever its name, which it may lose to another one.
+/// Identifies a file independently of its name.
 struct FileIdentity {
   std::uint64_t Device = 0;
   std::uint64_t Number = 0;
@@ -18,26 +18,26 @@ struct FileIdentity {
 struct FoundFile {
   enum class State { Missing, Plain, OutOfReach };
   State Is = State::OutOfReach;
-  FileIdentity Identity;  // of a plain file
+  FileIdentity Identity;  // of a regular file
 };
 
-/// Symbolic links are followed. What is no plain file is out of reach: to open a pipe could take
-/// for ever.
+/// Follows symbolic links. Anything but a regular file counts as unreachable, because opening a
+/// pipe could block.
 FoundFile LookAtFile(const std::string& path);
 
-/// Makes a folder and those above it that are missing, with these rights. False: it is not there.
+/// Creates a folder and its missing parents with these permissions. False if it does not exist
+/// afterwards.
 bool MakeFolders(const std::string& folder, unsigned rights);
 
-/// Whether files can be made in the folder in which this file is in the end.
+/// Whether files can be created in the folder of this file, after following symbolic links.
 bool CanMakeFilesBeside(const std::string& path);
 
-/// Gives the tree's file the first free name of "PATH.damaged-1", "PATH.damaged-2" and so on, its
-/// journal with it, and returns that name. Nothing where it does not happen: another file has the
-/// path by now, another process still works with this one after `patience`, or the name cannot be
-/// changed.
+/// Renames the tree's file and its journal to the first free name of "PATH.damaged-1",
+/// "PATH.damaged-2" and so on, and returns that name. nullopt if another file has the path by now,
+/// another process still uses the file after `patience`, or renaming fails.
 ///
-/// This process must have no connection to the file: closing any descriptor of it drops the locks
-/// that SQLite holds.
+/// This process must have no connection to the file: closing any descriptor of it releases the
+/// locks that SQLite holds.
 std::optional<std::string> SetAside(const std::string& path, const FileIdentity& identity,
                                     std::chrono::milliseconds patience);
 

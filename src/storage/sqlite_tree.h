@@ -1,4 +1,4 @@
-// The stored tree in SQLite files, one of the user's and one of the machine's.
+// The stored tree in SQLite files, one for the user and one for the machine.
 #pragma once
 
 #include <chrono>
@@ -14,33 +14,32 @@
 
 namespace starfolds {
 
-/// How long a tree may keep the program waiting.
+/// Time limits of the tree.
 struct TreePatience {
-  std::chrono::milliseconds Look{1000};    // for another process that holds a file
+  std::chrono::milliseconds Look{1000};    // wait for another process that holds a file
   std::chrono::milliseconds Change{3000};  // the same
-  std::chrono::milliseconds Work{1000};    // of the processor, in one look or change
-  /// After a look that was given up, nobody waits or works long for this time: a start looks
-  /// several times, and is not to wait each time.
+  std::chrono::milliseconds Work{1000};    // processor time of one look or change
+  /// After a look has timed out, later calls do not wait or work long for this time: a start looks
+  /// several times, and must not wait each time.
   std::chrono::milliseconds Rest{3000};
 };
 
-/// A file is locked only while a value, or a bulk, is read or written. The user's file stays open
-/// for the next look, as a start looks several times. The first write makes the file, and its
-/// folder. A file of the user's that turns out to be damaged when something is to be stored is set
-/// aside under another name, and the complaint says so in one line; then a new one is begun. A look
-/// that was given up is complained about as well: the file is locked or holds too much.
+/// A file is locked only during a bulk, or the read or write of a single value. The user's file
+/// stays open for the next look, because a start looks several times. The first write creates the
+/// file and its folder. If the user's file turns out to be damaged at a write, it is renamed, which
+/// the complaint says in one line, and a new one is created. A look that timed out is complained
+/// about as well: the file is locked or holds too much.
 ///
-/// Bulks hold the user's hive. In a bulk, too, what is written to the machine's hive is stored at
-/// once, and what cannot be read there counts as missing: nobody shall be kept from his own
-/// settings by a file that only an administrator can mend. The other hives are empty and refuse
-/// writes.
+/// Bulks cover the user's hive only. Inside a bulk, writes to the machine's hive are stored at
+/// once, and what cannot be read there counts as missing: a file that only an administrator can
+/// repair must not keep users from their own settings. The other hives are empty and refuse writes.
 ///
-/// Texts may be up to a megabyte less the names; paths and names must not hold NUL bytes.
+/// Texts may be up to a megabyte including the names; paths and names must not contain NUL bytes.
 class SqliteTree : public KeyValueTree {
  public:
   using Complaint = std::function<void(const std::string& line)>;
 
-  /// Whether waiting is to end at once, because the process is to end.
+  /// Returns true if waiting must end at once, because the process is to end.
   using GiveUp = std::function<bool()>;
 
   SqliteTree(const TreeFiles& files, Complaint complain, TreePatience patience = {},
@@ -58,8 +57,8 @@ class SqliteTree : public KeyValueTree {
  private:
   struct Bulk {
     TreeTransaction Change;
-    TreeTransaction* User = &Change;         // or the tree's look
-    std::optional<TreeTransaction> Machine;  // only looked at, once something is read there
+    TreeTransaction* User = &Change;         // or the tree's `look_`
+    std::optional<TreeTransaction> Machine;  // read-only, opened with the first read from it
     TreeOutcome Worst = TreeOutcome::Done;
   };
   using Deed = std::function<TreeOutcome(TreeTransaction&)>;
@@ -82,7 +81,7 @@ class SqliteTree : public KeyValueTree {
   TreePatience patience_;
   GiveUp giveUp_;
   std::chrono::steady_clock::time_point restUntil_;
-  TreeTransaction look_;  // at the user's file, which stays open for the next one
+  TreeTransaction look_;  // of the user's file, which stays open for the next one
   std::unique_ptr<Bulk> bulk_;
 };
 

@@ -1,4 +1,4 @@
-// Where the stored tree's files are.
+// The locations of the stored tree's files.
 #pragma once
 
 #include <functional>
@@ -7,16 +7,16 @@
 
 namespace starfolds {
 
-/// Absolute paths. A hive with an empty path has no place: it reads as empty and refuses writes.
+/// Absolute paths. A hive with an empty path has no file: it reads as empty and refuses writes.
 struct TreeFiles {
   std::string User;
   std::string Machine;
 };
 
-/// What the places depend on.
+/// What the locations depend on.
 struct Surroundings {
   std::function<std::optional<std::string>(const char* name)> Environment;
-  std::function<std::string()> HomeOfUser;  // asked only where the environment names none
+  std::function<std::string()> HomeOfUser;  // called only if the environment names none
 };
 
 TreeFiles TreeFilesIn(const Surroundings& surroundings);

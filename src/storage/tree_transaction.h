@@ -16,38 +16,38 @@ struct sqlite3_stmt;
 
 namespace starfolds {
 
-/// What came of an attempt.
+/// The result of an operation.
 enum class TreeOutcome {
   Done,
-  Nothing,  // there is no such file or value
-  Refused,  // locked, forbidden, full or out of reach: nobody knows what is there
-  Damaged,  // the file holds no tree
+  Nothing,  // the file or value does not exist
+  Refused,  // locked, no permission, disk full or I/O error: the contents are unknown
+  Damaged,  // the file is not a tree
 };
 
-/// Where a hive is kept.
+/// The location of a hive.
 struct TreePlace {
-  std::string File;           // absolute; without a place otherwise
-  unsigned FolderRights = 0;  // of the folders that are made for it
+  std::string File;           // absolute; otherwise there is no location
+  unsigned FolderRights = 0;  // permissions of the folders that are created for it
 };
 
-/// What an attempt may cost.
+/// Limits of a transaction.
 struct TreeLimits {
-  std::chrono::milliseconds Wait{0};  // for other processes' locks, in all
-  std::chrono::milliseconds Work{0};  // of the processor, for all statements
-  std::function<bool()> GiveUp;       // asked while waiting; empty: never
+  std::chrono::milliseconds Wait{0};  // for locks of other processes, in total
+  std::chrono::milliseconds Work{0};  // processor time of all statements
+  std::function<bool()> GiveUp;       // polled while waiting; empty: never true
 };
 
-/// Why an attempt was given up.
+/// Why a transaction was given up.
 enum class TreeTrouble { None, Locked, TooMuch, AskedToStop };
 
-/// Opens the file, takes its lock, and gives both back at the end. What is not committed is not
-/// stored. After a failure nothing more is stored either.
+/// Opens the file, locks it, and releases both at the end. What is not committed is not stored, and
+/// nothing can be committed after a failure.
 class TreeTransaction {
  public:
   enum class Kind {
     Look,    // all reads see one state
-    Change,  // of a file that is there
-    Make     // a change that makes the file where it is missing
+    Change,  // of an existing file
+    Make     // a change that creates the file if it is missing
   };
 
   TreeTransaction() = default;
@@ -55,25 +55,24 @@ class TreeTransaction {
   TreeTransaction(const TreeTransaction&) = delete;
   TreeTransaction& operator=(const TreeTransaction&) = delete;
 
-  /// Whatever comes of it, the calls below are allowed and harmless. A file that the last look has
-  /// left open is not opened anew, if it still is the one of that place; so the places of all looks
-  /// have to be the same.
+  /// The calls below are allowed whatever this returns. A file that the last look has left open is
+  /// reused if it is still the one with that path; so all looks must have the same location.
   TreeOutcome Begin(const TreePlace& place, Kind kind, TreeLimits limits);
 
   TreeOutcome Get(std::string_view path, std::string_view name, std::string& text);
   TreeOutcome Put(std::string_view path, std::string_view name, std::string_view text);
-  /// The values of a path and of all below it.
+  /// Removes the values of a path and of everything below it.
   TreeOutcome Remove(std::string_view path);
 
   TreeOutcome Commit();
   void Close();
-  /// Gives the lock back, and leaves the file open for the next look.
+  /// Releases the lock, and leaves the file open for the next look.
   void EndLook();
 
   Kind Is() const { return kind_; }
-  /// Known after `Close` as well.
+  /// Valid after `Close` as well.
   TreeTrouble Trouble() const { return trouble_; }
-  /// The file that was there before it was opened. Known after `Close` as well.
+  /// The file that existed before it was opened. Valid after `Close` as well.
   const std::optional<FileIdentity>& Identity() const { return identity_; }
 
  private:
@@ -104,13 +103,13 @@ class TreeTransaction {
   sqlite3* db_ = nullptr;
   Statement get_, put_, remove_;
   std::optional<FileIdentity> identity_;
-  TreeOutcome withoutFile_ = TreeOutcome::Refused;  // the answer while there is no connection
+  TreeOutcome withoutFile_ = TreeOutcome::Refused;  // the result of calls without a connection
   Kind kind_ = Kind::Look;
   bool hasTable_ = false;
   TreeLimits limits_;
   TreeTrouble trouble_ = TreeTrouble::None;
   std::chrono::steady_clock::duration waited_{};
-  std::clock_t worked_ = 0;  // in statements that have ended
+  std::clock_t worked_ = 0;  // in finished statements
   std::clock_t runningSince_ = 0;
 };
 
