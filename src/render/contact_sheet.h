@@ -1,4 +1,4 @@
-// Many frames in one picture, to look a run over at a glance.
+// Many frames in one picture, for an overview of a run.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace starfolds {
 
-/// A tile that is filled from a surface: each of its pixels takes, channel by channel, the largest
-/// value of the surface's pixels that fall on it. A mean would drown a star of one pixel.
+/// A scaled-down surface: each channel of a pixel is the maximum over the surface's pixels that
+/// fall on it. With the mean, a star of one pixel would be too dark to see.
 struct Tile {
   int Width = 0;
   int Height = 0;
@@ -17,12 +17,12 @@ struct Tile {
 };
 Tile MakeTile(const Picture& picture);
 
-/// The tiles in a grid as square as can be, each with the number of its frame below it.
+/// The tiles in a grid that is as square as possible, each with its frame number below it.
 class ContactSheet : public FrameSink {
  public:
   static constexpr int kMaxTiles = 400;  // 20 x 20: a picture of 6,440 x 5,140 at the most
 
-  /// The sheet is written to `path` when all frames were taken.
+  /// The sheet is written to `path` by `Finish`.
   explicit ContactSheet(std::string path) : path_(std::move(path)) {}
 
   Fault Take(FrameNumber frame, const MemorySurface& surface) override;

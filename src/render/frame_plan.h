@@ -5,7 +5,7 @@
 
 namespace starfolds {
 
-/// Frames are counted from 1, so that the last frame of a run has the number of its frames.
+/// Frames are counted from 1, so the last frame of a run has the number of its frames.
 using FrameNumber = std::int64_t;
 
 struct FramePlan {

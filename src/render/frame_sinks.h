@@ -1,4 +1,4 @@
-// Where written frames go. A sink is made per output that the command line asks for.
+// Outputs for frames. One sink is created per output that the command line asks for.
 #pragma once
 
 #include <memory>
@@ -17,10 +17,10 @@ class FrameSink {
  public:
   virtual ~FrameSink() = default;
 
-  /// Takes a frame. It is called only for frames that are to be written, in their order.
+  /// Takes a frame. Called only for the frames that are to be written, in order.
   virtual Fault Take(FrameNumber frame, const MemorySurface& surface) = 0;
 
-  /// All frames were taken: what is still open is ended.
+  /// Completes the output after the last frame.
   virtual Fault Finish() = 0;
 };
 

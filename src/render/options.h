@@ -31,14 +31,14 @@ struct RenderOptions {
   std::optional<Integer> Profile;
   std::optional<Integer> Composite;
 
-  // What the settings start from, one of three, and the changes to them in the order given.
+  // The source of the settings, one of three, and the changes to them in the order given.
   std::string TemplateFile;
   bool Stored = false;
   std::optional<FactorySet> Factory;
   std::optional<int> Theme;
   std::vector<std::pair<std::string, std::string>> Changes;
 
-  // What is written; an empty path is not.
+  // The outputs; an empty path means none.
   std::string SaveFile;
   std::string PngFolder;
   std::string VideoFile;
@@ -50,18 +50,18 @@ struct RenderOptions {
   }
 };
 
-/// Parses the arguments behind the program's name from left to right; of an option that is given
-/// twice the last one counts. If it returns a fault, `options` is of no use.
+/// Parses the arguments after the program's name from left to right; of an option that is given
+/// twice the last one counts. If it returns a fault, `options` must not be used.
 Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& options);
 
 /// What `--help` prints.
 std::string HelpText();
 
-/// Puts the settings together that the options ask for. `tree` is the user's.
+/// Makes the settings that the options ask for. `tree` is the user's.
 Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,
                    SettingsRecords& records);
 
-/// What `--list` prints: the profiles, composites and themes that there are, a line each.
+/// What `--list` prints: the profiles, composites and themes, one per line.
 std::string ListText(const SettingsRecords& records);
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// A file that appears whole or not at all.
+// A file that is written completely or not at all.
 #pragma once
 
 #include <cstdint>
@@ -10,9 +10,9 @@
 
 namespace starfolds {
 
-/// Writes beside the wanted file and takes its name at the end, so that a full disk or a killed
-/// process leaves no half picture under a good name. The standard output ("-"), pipes and devices
-/// are written directly.
+/// Writes a temporary file beside the target and renames it at the end, so that a full disk or a
+/// killed process leaves no partial file under the target's name. Standard output ("-"), pipes and
+/// devices are written directly.
 class OutputFile {
  public:
   OutputFile() = default;
@@ -26,10 +26,10 @@ class OutputFile {
 
   Fault Write(std::span<const std::uint8_t> bytes);
 
-  /// Ends the file. All that was written has arrived if there is no fault.
+  /// Completes the file. Without a fault everything has been written.
   Fault Commit();
 
-  /// The message for an `errno` of writing this file; 0 is an unknown reason.
+  /// The message for an `errno` of writing this file; 0 means an unknown reason.
   std::string CannotWrite(int error) const;
 
  private:

@@ -1,4 +1,4 @@
-// A finished picture, as the writers of files take it.
+// A finished picture for the file writers.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace starfolds {
 
-/// `Width * Height` colour words, row by row, without padding. The words belong to someone else.
+/// `Width * Height` colours, row by row, without padding. Does not own the colours.
 struct Picture {
   int Width = 0;
   int Height = 0;

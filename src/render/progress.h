@@ -1,4 +1,4 @@
-// A bar that grows on the terminal while a rendering runs.
+// A progress bar on the terminal.
 #pragma once
 
 #include "render/frame_plan.h"
@@ -7,12 +7,12 @@ namespace starfolds {
 
 class Progress {
  public:
-  /// Where `shown` is false all calls do nothing.
+  /// If `shown` is false all calls do nothing.
   Progress(FrameNumber frames, bool shown) : frames_(frames), shown_(shown) {}
 
   void Show(FrameNumber frame);
 
-  /// Leaves the bar's line.
+  /// Ends the bar's line.
   void End() const;
 
  private:

@@ -7,21 +7,21 @@
 
 namespace starfolds {
 
-/// Hands each planned frame to the sinks when the engine shows it, and tells the run to stop after
-/// the last frame or when a sink has failed.
+/// Passes each planned frame to the sinks when the engine presents it, and stops the run after the
+/// last frame or when a sink has failed.
 class RecordingSurface : public MemorySurface {
  public:
   /// Called after every frame, written or not.
   std::function<void(FrameNumber)> OnFrame;
 
-  /// `stopRun` is the run's flag. All arguments but `plan` outlive the surface.
+  /// `stopRun` is the run's flag. All arguments but `plan` must outlive the surface.
   RecordingSurface(Integer width, Integer height, const FramePlan& plan, const FrameSinks& sinks,
                    bool& stopRun)
       : MemorySurface(width, height), plan_(plan), sinks_(sinks), stopRun_(stopRun) {}
 
   void Present() override;
 
-  /// What went wrong in a sink, if anything did.
+  /// The first fault of a sink, if any.
   const Fault& Trouble() const { return trouble_; }
 
  private:

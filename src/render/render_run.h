@@ -6,7 +6,7 @@
 
 namespace starfolds {
 
-/// `records` are what the run is to show; they are clamped.
+/// Renders `records`, which are clamped. Returns what went wrong, if anything.
 Fault Render(const RenderOptions& options, SettingsRecords& records);
 
 }  // namespace starfolds

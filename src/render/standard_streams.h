@@ -1,12 +1,12 @@
-// What the three standard streams are on this machine.
+// Properties of the three standard streams.
 #pragma once
 
 namespace starfolds {
 
-/// Whether a person reads the standard error output as it is written.
+/// Whether standard error is a terminal.
 bool ErrorIsTerminal();
 
-/// Keeps the standard output from translating line ends.
+/// Switches off the translation of line ends on standard output.
 void MakeOutputBinary();
 
 }  // namespace starfolds

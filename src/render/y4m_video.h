@@ -11,17 +11,17 @@
 
 namespace starfolds {
 
-/// A colour as video has it.
+/// A colour in the video's colour space.
 struct YCbCr {
   std::uint8_t Y = 16, Cb = 128, Cr = 128;
 };
 
-/// By ITU-R BT.709 with the range of video (luma 16 to 235, chroma 16 to 240): players take that
-/// for granted in pictures of 720 lines and more.
+/// ITU-R BT.709 with limited range (luma 16 to 235, chroma 16 to 240), which players assume for 720
+/// lines and more.
 YCbCr ToYCbCr(Colour colour);
 
 /// Chroma at full resolution (C444), so that a star of one pixel keeps its colour and odd sizes
-/// are nothing special. 25 frames a second, as the saver runs with its frame delay of 40 ms.
+/// need no special case. 25 frames a second, the saver's rate with its frame delay of 40 ms.
 class Y4mVideo : public FrameSink {
  public:
   Y4mVideo(std::string path, int scale) : path_(std::move(path)), scale_(scale) {}
