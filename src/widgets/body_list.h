@@ -6,22 +6,23 @@
 
 namespace starfolds {
 
-/// An entry is a name, blanks up to a column, and the weight in four characters. It is drawn with
-/// the weight at the right edge, whatever the font.
+/// The text of an entry is a name, blanks up to a column, and the weight in four characters. It is
+/// painted with the weight at the right edge, whatever the font.
 class BodyList : public QListWidget {
   Q_OBJECT
 
  public:
   explicit BodyList(QWidget* parent = nullptr);
 
-  /// `AddListEntry`: a new entry at the end, or in place of the one at `position`.
+  /// `AddListEntry`: appends an entry, or replaces the one at `position`.
   void AddEntry(const std::string& name, int weight);
   void ReplaceEntry(int position, const std::string& name, int weight);
 
-  /// The name in an entry: its text less the last four characters, trimmed. Empty beyond the end.
+  /// The name in an entry: its text without the last four characters, trimmed. Empty if `position`
+  /// is beyond the end.
   std::string EntryName(int position) const;
 
-  /// The selected entry, or -1.
+  /// Index of the selected entry, or -1.
   int Selected() const;
 
  private:

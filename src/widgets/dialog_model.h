@@ -12,8 +12,8 @@
 
 namespace starfolds {
 
-/// The records that are edited are the profiles and composites of a process state that belongs to
-/// the dialog: a run beside it has its own.
+/// The edited records are the profiles and composites of a process state that belongs to the
+/// dialog; a run of the same process has another one.
 struct PropsModel {
   ProcessState& Process;
   MessageBoxes& Boxes;
@@ -22,7 +22,7 @@ struct PropsModel {
   ProfileArray& Profiles() const { return Process.Profiles; }
   CompositeArray& Composites() const { return Process.Composites; }
 
-  /// A box with "OK" that tells what is missing.
+  /// Shows a message with the button "OK".
   void Inform(const std::string& text) const {
     Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
   }

@@ -1,4 +1,4 @@
-// Small parts that all dialogs are made of.
+// Helpers for all dialogs.
 #pragma once
 
 #include <QPushButton>
@@ -7,7 +7,7 @@
 
 namespace starfolds {
 
-/// Text of ours as the toolkit has it.
+/// Converts UTF-8 to Qt's text.
 inline QString Shown(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

@@ -1,4 +1,4 @@
-// Lines of a page: a label, and behind it the boxes that it speaks of.
+// Lines of a form: a label, and beside it its input boxes.
 #pragma once
 
 #include <QComboBox>
@@ -11,26 +11,26 @@
 
 namespace starfolds {
 
-/// Adds a line at the end of a page's grid: the label takes the left column, whose text may have a
-/// mnemonic for `buddy`; the widgets stand side by side in the right one.
+/// Appends a line to a form's grid: the label is in the left column, and its text may have a
+/// mnemonic for `buddy`; the widgets are side by side in the right column.
 QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
                 const std::vector<QWidget*>& widgets);
 
-/// A widget that takes the whole width of the page.
+/// Appends a widget that spans both columns.
 void AddWideLine(QGridLayout& page, QWidget* widget);
 
-/// A page of lines that stays together at its top.
+/// A form whose lines stay together at the top.
 QGridLayout* MakePage(QWidget* page);
 void EndPage(QGridLayout& page);
 
-/// A place for a sample, which `ShowSample` fills.
+/// A label for a sample picture, filled by `ShowSample`.
 QLabel* MakeSamplePlace(const char* name, const QString& description, QSize size);
 void ShowSample(QLabel* place, const QImage& sample);
 
-/// Lets a list be narrower than its longest entry, which shows when it is opened.
+/// Allows a list to be narrower than its longest entry, which is shown in full when it is opened.
 void LetShrink(QComboBox* list);
 
-/// Text of ours on a label or button, where "&" stands for itself.
+/// Text for a label or button, with "&" escaped.
 QString Escaped(std::string_view text);
 
 }  // namespace starfolds

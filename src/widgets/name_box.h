@@ -5,15 +5,15 @@
 
 namespace starfolds {
 
-/// Drops "[", ",", "]" and "=", which would break the formats of templates and rows, with a beep;
-/// from what is pasted as well. Names are as long as a stored value may be.
+/// Removes "[", ",", "]" and "=", which would break the formats of templates and rows, from typed
+/// and pasted text, with a beep. Names are limited to the length of a stored value.
 class NameBox : public QLineEdit {
   Q_OBJECT
 
  public:
   explicit NameBox(QWidget* parent = nullptr);
 
-  /// Of one that is longer than the box its beginning.
+  /// Shows a name from its beginning, if it is longer than the box.
   void ShowName(const QString& name);
 
  protected:

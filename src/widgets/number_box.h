@@ -6,7 +6,7 @@
 
 namespace starfolds {
 
-/// What a box takes: the whole kinds let through digits only, `AsSingle` one point as well.
+/// What can be typed: digits only for the whole kinds, one point as well for `AsSingle`.
 enum class NumberKind { AsInteger = 0, AsSingle = 1, AsLong = 2 };
 
 struct NumberRange {
@@ -15,41 +15,40 @@ struct NumberRange {
   double High = 0;
 };
 
-/// The text that is left of what was typed: a lenient number, rounded where the kind is a whole
-/// one, held to the range.
+/// The typed text as a number: parsed leniently, rounded for the whole kinds, clamped to the range.
 std::string ClampedText(const std::string& text, const NumberRange& range);
 
-/// Keys that belong to no number are dropped with a beep. What is out of range is held to it when
-/// the box is left. The wheel turns it only while it has the focus, so that a page can be scrolled
-/// over it.
+/// Rejects keys that are not part of a number, with a beep. Clamps to the range when it loses the
+/// focus. Ignores wheel events without the focus, so that the page under it can be scrolled.
 class NumberBox : public QAbstractSpinBox {
   Q_OBJECT
 
  public:
   explicit NumberBox(QWidget* parent = nullptr);
 
-  /// Names the parts of element `index` of a control array: the text box "txtUni_0", say, and the
-  /// spin buttons "spnUni_0".
+  /// Names the parts of element `index` of a control array, for example the text box "txtUni_0" and
+  /// the spin buttons "spnUni_0".
   void SetNames(const QString& array, int index);
 
-  /// Names the parts of a box that stands alone: "txtUniFoldPct" and "spnUniFoldPct".
+  /// Names the parts of a box without an array: "txtUniFoldPct" and "spnUniFoldPct".
   void SetNames(const QString& name);
 
-  /// Sets the range and with it the step of the buttons and the longest text. The present text
-  /// stays until the box is left: who tries another style of body and goes back loses nothing.
+  /// Sets the range, and from it the step of the buttons and the maximum length. The current text
+  /// is kept until the box loses the focus, so that trying another style of body and going back
+  /// loses nothing.
   void SetRange(const NumberRange& range);
   const NumberRange& Range() const { return range_; }
-  /// Takes no text at all until the next range is set.
+  /// Accepts no text until the next `SetRange`.
   void SetNoRange();
-  /// For a box in which no number is a choice: one that is empty when it is left stays so.
+  /// An empty box then stays empty when it loses the focus, instead of being clamped.
   void SetBlankAllowed() { blankAllowed_ = true; }
 
-  /// As it stands in the box, which may be out of range while somebody types.
+  /// The text in the box, which may be out of range while the user types.
   std::string Text() const;
-  /// Shows a text as it is.
+  /// Shows a text unchanged.
   void SetText(const std::string& text);
 
-  /// `ClampTextField`: holds the text to the range. Runs by itself when the box is left.
+  /// `ClampTextField`: clamps the text to the range. Called when the box loses the focus.
   void ClampTextField();
 
   void stepBy(int steps) override;
@@ -57,9 +56,9 @@ class NumberBox : public QAbstractSpinBox {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  signals:
-  /// The text has changed, by whatever means.
+  /// The text has changed, by the user or the program.
   void Changed();
-  /// The user has left the box, or pressed Return in it; its text is in range now.
+  /// The box has lost the focus, or Return was pressed in it; its text is in range.
   void Left();
 
  protected:

@@ -1,4 +1,4 @@
-// A box of a dialog that shows a run of the effect, a picture, or how far a save has come.
+// A box of a dialog that shows a run of the effect, a picture, or the progress of a save.
 #pragma once
 
 #include <QImage>
@@ -18,11 +18,12 @@ class PictureBox : public QWidget, public ProgressPicture {
   explicit PictureBox(QWidget* parent = nullptr);
   ~PictureBox() override;
 
-  /// The canvas of a run, as large as the box is now and black. It stays until the next call, even
-  /// if the box is resized meanwhile; then it is shown cut off, or with black around it.
+  /// Starts a run: returns a black canvas of the current size of the box. It is valid until the
+  /// next call; if the box is resized meanwhile, the canvas is shown clipped or with a black
+  /// border.
   Surface& BeginRun();
 
-  /// Shows a picture in the middle of the box, on black.
+  /// Shows a picture centred on black.
   void ShowPicture(const QImage& picture);
 
   int ScaleWidth() const override { return width(); }
@@ -39,10 +40,10 @@ class PictureBox : public QWidget, public ProgressPicture {
   QImage picture_;
 };
 
-/// A colour word as the toolkit has it.
+/// Converts 0x00BBGGRR to Qt's colour.
 QRgb ToRgb(Colour colour);
 
-/// All of a surface, as a picture.
+/// The whole surface as a picture.
 QImage ImageOf(const Surface& surface);
 
 }  // namespace starfolds

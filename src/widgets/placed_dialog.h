@@ -1,4 +1,4 @@
-// What the dialogs behind the properties dialog have in common.
+// What the dialogs opened from the properties dialog share.
 #pragma once
 
 #include <QDialog>
@@ -10,7 +10,7 @@
 
 namespace starfolds {
 
-/// Where a dialog stands between two of its openings, and which topic explains it.
+/// Under which name a dialog's placement is stored, and which help topic explains it.
 struct DialogPlace {
   KeyValueTree& Tree;
   std::string_view Section;  // of the stored placement
@@ -18,7 +18,7 @@ struct DialogPlace {
   Integer Topic;  // context number
 };
 
-/// A dialog over its parent, which waits meanwhile; the help does not. It opens where it stood, and
+/// A dialog that is modal to its parent, but not to the help. It opens at its stored position, and
 /// F1 opens its topic.
 class PlacedDialog : public QDialog {
   Q_OBJECT
@@ -26,12 +26,12 @@ class PlacedDialog : public QDialog {
  public:
   explicit PlacedDialog(const DialogPlace& place, QWidget* parent = nullptr);
 
-  /// Shows the dialog where it stood; for who runs the events otherwise.
+  /// Shows the dialog at its stored position, for callers with an event loop of their own.
   void ShowInPlace();
-  /// The same, and returns when it is closed. True: with "OK".
+  /// Shows the dialog and returns when it is closed. True if it was closed by "OK".
   bool RunModal();
 
-  /// Every way of closing comes through here.
+  /// Called by every way of closing.
   void done(int result) override;
 
  protected:

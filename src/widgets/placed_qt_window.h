@@ -1,4 +1,4 @@
-// A window of the toolkit, as its stored placement sees it.
+// A Qt window as an object of the stored placement.
 #pragma once
 
 #include <QWidget>
@@ -8,8 +8,8 @@
 
 namespace starfolds {
 
-/// Left and top are those of the frame, width and height those of what is inside. The window need
-/// not be shown yet.
+/// Left and top are those of the frame, width and height those of the client area. The window may
+/// still be hidden.
 class PlacedQtWindow : public PlacedWindow {
  public:
   explicit PlacedQtWindow(QWindow& window) : window_(window) {}
@@ -19,8 +19,8 @@ class PlacedQtWindow : public PlacedWindow {
   WindowBounds Bounds() const override;
   bool Sizable() const override { return true; }
   void ApplyState(WindowState state) override;
-  /// What was stored may come from another desktop: the window gets a size that can be worked with,
-  /// in a place where it can be reached.
+  /// The stored position may come from another desktop: the window gets a usable size and a
+  /// position on a screen.
   void Move(Long left, Long top) override;
   void Move(const WindowBounds& bounds) override;
   void CentreOnScreen() override;
@@ -29,7 +29,7 @@ class PlacedQtWindow : public PlacedWindow {
   QWindow& window_;
 };
 
-/// Shows a window where it stood when its placement was saved in `section`.
+/// Shows a window at the position that was stored in `section`.
 void ShowWherePlaced(QWidget& window, KeyValueTree& tree, std::string_view section);
 
 }  // namespace starfolds

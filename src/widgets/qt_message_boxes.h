@@ -1,12 +1,12 @@
-// Message boxes of the toolkit.
+// Message boxes with Qt.
 #pragma once
 
 #include "platform/message_boxes.h"
 
 namespace starfolds {
 
-/// Boxes over the window that the user works in, or else over the dialog that was opened last; they
-/// block both. Their text can be selected and copied. Esc answers as closing the box does.
+/// Boxes over the active window, or else over the dialog that was opened last; they are modal to
+/// both. Their text can be selected and copied. Esc answers like closing the box.
 class QtMessageBoxes : public MessageBoxes {
  public:
   BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) override;

@@ -1,4 +1,4 @@
-// Small pictures of what a setting means, drawn from the engine's own tables and routines.
+// Sample pictures for settings, drawn with the engine's tables and functions.
 #pragma once
 
 #include <QImage>
@@ -8,22 +8,22 @@
 
 namespace starfolds {
 
-/// The size of a picture in logical pixels, and device pixels to each of them: `devicePixelRatioF`
-/// of the widget that shows it.
+/// The size of a picture in logical pixels, and its physical pixels per logical pixel:
+/// `devicePixelRatioF` of the widget that shows it.
 struct SampleSize {
   QSize Size;
   qreal Ratio = 1;
 };
 
-/// `picUniProfile`: a body as it looks after some frames, on black; the same picture every time.
-/// `position` counts as `Universe_Profile` does: for the two that cycle through all profiles it is
-/// a collage of some.
+/// `picUniProfile`: a body after some frames, on black; always the same picture. `position` is a
+/// value of `Universe_Profile`: for the two that cycle through all profiles it shows several of
+/// them.
 QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size);
 
-/// The same of one body.
+/// The same for one body.
 QImage BodySample(const StarfoldProfile& body, SampleSize size);
 
-/// What decides about the section of a body.
+/// The settings that shape the section of a body.
 struct ShapeSetting {
   int Shape = 0;         // `Starfold_Profile`
   double RadiusExp = 1;  // `Starfold_RadiusExp`
@@ -31,17 +31,17 @@ struct ShapeSetting {
   double Ratio = 1;      // `Starfold_GHW_Ratio`
 };
 
-/// `picFoldProfile`: a body cut through its axis. The outline is the curve of `ShapeHeight` on both
-/// sides of the plane; the stars in it show how the two exponents spread them. Very flat and very
-/// tall bodies are drawn less so, to be seen at all.
+/// `picFoldProfile`: the section of a body through its axis. The outline is the curve of
+/// `ShapeHeight` on both sides of the plane; the stars show how the two exponents distribute them.
+/// The proportions of very flat and very tall bodies are reduced, so that they can be seen.
 QImage ShapeSample(const ShapeSetting& setting, SampleSize size, const QPalette& palette);
 
-/// The fade of flares from one hue to another, from white on the left into the dark on the right:
-/// the universe's wheel, and a profile's comets.
+/// The colours of flares from one hue to another, from white on the left to dark on the right:
+/// those of the universe, and those of a profile's comets.
 QImage HueWheelSample(int hueStart, int hueEnd, SampleSize size);
 
-/// `picPixHue`: the wheel of star colours of `profile`. A ring from red at the top on clockwise, or
-/// a strip where the picture is much wider than high. What it does not cover is transparent.
+/// `picPixHue`: the hue wheel of the stars of `profile`: a ring, clockwise from red at the top, or
+/// a strip if the picture is much wider than high. The rest is transparent.
 QImage PixHueSample(const StarfoldProfile& profile, SampleSize size);
 
 }  // namespace starfolds

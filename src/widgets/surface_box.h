@@ -1,4 +1,4 @@
-// A box of a dialog that is drawn on as the saver's own window is.
+// A box of a dialog that is drawn on like the saver's own window.
 #pragma once
 
 #include <QWidget>
@@ -8,12 +8,12 @@
 
 namespace starfolds {
 
-/// A window of its own inside the dialog: what is plotted takes the same way to the screen as the
-/// stars of the saver, which the pictures of other boxes do not.
+/// A native window inside the dialog: unlike the pictures of other boxes, its pixels are drawn on
+/// the screen in the same way as the saver's stars.
 class SurfaceBox : public QWidget, private WindowEvents {
  public:
-  /// Has `plot` called when the box has come to be seen, and after each change of its size, with a
-  /// black surface of the size of the box that is on the screen already.
+  /// Calls `plot` when the box becomes visible and after each change of its size, with a black
+  /// surface of the box's size that is on the screen already.
   explicit SurfaceBox(std::function<void(Surface&)> plot, QWidget* parent = nullptr);
 
  protected:

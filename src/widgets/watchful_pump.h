@@ -5,8 +5,8 @@
 
 namespace starfolds {
 
-/// The process's pump, for a run that has a state of its own: it is here that such a run notices
-/// the end of the process.
+/// The process's pump, for a run with a process state of its own: stops the run when the process is
+/// to end.
 class WatchfulPump : public Pump {
  public:
   WatchfulPump(ProcessState& process, ProcessState& run) : process_(process), run_(run) {}

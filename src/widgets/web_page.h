@@ -8,7 +8,7 @@
 
 namespace starfolds {
 
-/// Opens a web page in the user's browser, and says so where it cannot be reached.
+/// Opens a web page in the user's browser, or tells the user that it could not be opened.
 void OpenWebPage(DesktopServices& desktop, MessageBoxes& boxes, const std::string& url);
 
 }  // namespace starfolds

@@ -1,12 +1,12 @@
-// A turn of the wheel that only wants to pass.
+// Ignores wheel events on unfocused lists.
 #pragma once
 
 #include <QWidget>
 
 namespace starfolds {
 
-/// Lets the wheel change a list of `window` only while it has the focus: whoever turns it with the
-/// pointer over a list of themes would else lose what he has set. Knows the lists that are there.
+/// Ignores wheel events on the lists of `window` without the focus, so that scrolling over a list
+/// of themes does not change the settings. Applies to the lists that exist at the call.
 void LetWheelPass(QWidget& window);
 
 }  // namespace starfolds
