@@ -1,4 +1,4 @@
-// Atoms as rows of text in fixed columns, the way in which the molecule editor lists them.
+// Atoms as rows of text in fixed columns, the entries of the molecule editor's list.
 #pragma once
 
 #include <string>
@@ -10,18 +10,18 @@ namespace starfolds {
 
 inline constexpr int kAtomStructureCount = 12;
 
-/// The heading above the rows: each name stands over its column.
+/// The heading above the rows, aligned with their columns.
 inline constexpr std::string_view kAtomRowHeading =
     "Element Name(s)   Type        XLoc  YLoc  ZLoc  Radius  SymRad";
 
-/// The name of structure 0 to 11, ten characters with its blanks.
+/// The name of structure 0 to 11, padded with blanks to ten characters.
 std::string_view AtomStructureName(int structure);
 
-/// `FormatAtomRow`: numbers that no column has room for are held to it.
+/// `FormatAtomRow`: numbers are clamped to the width of their columns.
 std::string FormatAtomRow(const AtomPoint& atom);
 
-/// Reads a row back from its columns, every number held to its range. What a row does not tell is
-/// as in an atom that nobody has set: hydrogen, a single point.
+/// Parses a row by its columns and clamps every number to its range. Missing values are those of a
+/// default atom: hydrogen, a single point.
 AtomPoint ReadAtomRow(std::string_view row);
 
 }  // namespace starfolds

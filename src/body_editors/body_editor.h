@@ -1,4 +1,4 @@
-// What the editors of a single body have in common.
+// What the editors of a single body share.
 #pragma once
 
 #include <QBoxLayout>
@@ -20,7 +20,7 @@
 
 namespace starfolds {
 
-/// The boxes of the properties dialog, as an editor needs them.
+/// The properties dialog, as an editor accesses it.
 class PropsBoxes {
  public:
   virtual ~PropsBoxes() = default;
@@ -31,15 +31,15 @@ class PropsBoxes {
   virtual void SetStarfoldBox(int index, const std::string& text) = 0;
 };
 
-/// What an editor is opened with.
+/// The arguments of an editor.
 struct BodyEditing {
   PropsModel Model;
   PropsBoxes& Props;
-  std::function<std::uint64_t()> Seed;  // of each preview
-  int EditBody;                         // the profile
+  std::function<std::uint64_t()> Seed;  // called for each preview
+  int EditBody;                         // index of the profile
 };
 
-/// A box and the setting that it edits.
+/// An input box and the setting that it edits.
 template <class Record>
 struct BoundBox {
   NumberBox* Box;
@@ -47,28 +47,28 @@ struct BoundBox {
 
   void Show(const Record& record) const { Box->SetText(FieldText(record, *Row)); }
   void Clear() const { Box->SetText({}); }
-  /// The number in the box, held to its range.
+  /// The number in the box, clamped to its range.
   std::string Text() const { return ClampedText(Box->Text(), Box->Range()); }
   void Store(Record& record) const { SetFieldNumber(record, *Row, LenientNumber(Text())); }
 };
 
-/// The range of a setting that its dialog takes from the field table.
+/// The range of a setting in the field table.
 template <class Record>
 NumberRange WholeRange(const Field<Record>& field) {
   return {NumberKind::AsInteger, field.Low, field.High};
 }
 
-/// Edits a part of one profile's record and previews it in a box of its own. A preview puts what
-/// stands in the editor into the record, where it stays, also after "Cancel"; the boxes of the
-/// properties dialog are touched by "OK" only.
+/// Edits a part of one profile's record and previews it. A preview stores the values of the editor
+/// in the record, where they stay even after "Cancel"; only "OK" changes the boxes of the
+/// properties dialog.
 class BodyEditor : public PlacedDialog {
   Q_OBJECT
 
  public:
-  /// Closes it as "Cancel" does. A preview that is on ends first: its run stands on the stack above
-  /// the dialog.
+  /// Closes like "Cancel". Ends a running preview first, because its call frame is above the
+  /// dialog's.
   void reject() override;
-  /// At first the picture is larger than it has to be.
+  /// Initially the picture is larger than its minimum.
   QSize sizeHint() const override;
 
  protected:
@@ -76,17 +76,17 @@ class BodyEditor : public PlacedDialog {
     const char* Name;  // of the dialog
     std::string_view Section;
     Integer Topic;
-    std::string_view Caption;         // stands behind the profile's name
-    std::string_view PreviewCaption;  // stands before it
-    const char* Preview;              // on the button while there is none
+    std::string_view Caption;         // after the profile's name
+    std::string_view PreviewCaption;  // before the profile's name
+    const char* Preview;              // of the button while no preview runs
   };
 
-  /// A number of the profile itself.
+  /// A numeric setting of the profile.
   struct BodyBox {
     Setting<StarfoldProfile> What;
     const char* Label;
     NumberRange Range;
-    int PropsBox;  // which `txtStarfold` of the properties dialog takes it with "OK"; or none
+    int PropsBox;  // index of the `txtStarfold` that "OK" writes it to, or `kNoPropsBox`
   };
   static constexpr int kNoPropsBox = -1;
 
@@ -95,23 +95,23 @@ class BodyEditor : public PlacedDialog {
   StarfoldProfile& Record() const;
   const PropsModel& Model() const { return model_; }
 
-  // Where the editor's own controls go: under each other, beside the preview; and above both.
+  // The layouts for the editor's own controls: beside the preview, and above both.
   QVBoxLayout& Controls() { return *controls_; }
   QVBoxLayout& Head() { return *head_; }
-  /// Comes last, so that the keyboard reaches the preview and the buttons after the controls.
+  /// Must be called last, so that the preview and the buttons follow the controls in the tab order.
   void AddPreviewAndButtons(QPushButton* cmdClear = nullptr);
 
-  /// A line for element `index` of a control array.
+  /// Adds a line for element `index` of a control array.
   void AddBodyBox(QGridLayout& page, const char* array, int index, const BodyBox& row);
   void ShowBodyBoxes(const StarfoldProfile& body);
   void StoreBodyBoxes(StarfoldProfile& body) const;
   const std::vector<BoundBox<StarfoldProfile>>& BodyBoxes() const { return bodyBoxes_; }
 
-  /// Puts what stands in the editor into a record, the profile's or a copy of it. Returns what is
-  /// wrong with it; empty: nothing.
+  /// Stores the values of the editor in a record, the profile's or a copy of it. Returns what is
+  /// wrong with them; empty if nothing is.
   virtual std::string Gather(StarfoldProfile& body) const = 0;
 
-  /// The still of the body follows what was typed after a short pause.
+  /// Updates the still picture of the body a short time after the last change.
   void Touched() { stillTimer_.start(); }
 
   void keyPressEvent(QKeyEvent* event) override;
@@ -134,12 +134,12 @@ class BodyEditor : public PlacedDialog {
   int editBody_;  // EditBody
   Texts texts_;
   PreviewSwitch preview_;
-  bool resized_ = false;          // the picture, while a preview runs
+  bool resized_ = false;          // the picture was resized while a preview runs
   bool acceptsAfterRun_ = false;  // "OK" was pressed while a preview runs
   QTimer stillTimer_;
 
   std::vector<BoundBox<StarfoldProfile>> bodyBoxes_;
-  std::vector<int> propsBoxes_;  // of each of them
+  std::vector<int> propsBoxes_;  // `PropsBox` of each of `bodyBoxes_`
   QVBoxLayout* rows_ = nullptr;
   QVBoxLayout* head_ = nullptr;
   QHBoxLayout* columns_ = nullptr;

@@ -1,4 +1,4 @@
-// The bodies that two of the editors come with, to start from.
+// The themes of two of the editors.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 
 namespace starfolds {
 
-/// A point or an atom: its seven numbers in the order in which an editor shows them.
+/// The numbers of a point or an atom, in the order in which an editor shows them.
 inline constexpr int kThemeRowFields = 7;
 using ThemeRow = std::array<Integer, kThemeRowFields>;
 
@@ -22,12 +22,12 @@ struct BodyTheme {
   std::span<const ThemeRow> Rows;
 };
 
-/// Points of a row: place (x, y, z), scale, axis, angle, relative percent.
+/// The numbers of a point: location (x, y, z), scale, axis, angle, relative percent.
 std::span<const BodyTheme> IfsThemes();
-/// Atoms of a row: element, structure, place (x, y, z), radius, symmetry radius.
+/// The numbers of an atom: element, structure, location (x, y, z), radius, symmetry radius.
 std::span<const BodyTheme> MoleculeThemes();
 
-// Where things stand in the text of a theme, as fields of `GetField`.
+// Positions in the text of a theme, as field numbers of `GetField`.
 inline constexpr int kThemeDescription = 0;
 inline constexpr int kIfsThemeCenter = 1;
 inline constexpr int kIfsThemeBody = 4;
@@ -37,9 +37,9 @@ inline constexpr int kMoleculeThemeCenter = 2;
 inline constexpr int kMoleculeThemeBody = 5;
 inline constexpr int kMoleculeThemeRows = 8;
 
-/// The whole theme as one text of fields with commas between them. Its rows are padded to one
-/// width. The themes of the iterated function systems have all rows that there is room for, the
-/// unused ones of zeros; those of the molecules tell how many they have.
+/// The whole theme as one text of fields separated by commas, with numbers padded to one width. The
+/// text of an iterated function system has the maximum number of rows, unused ones filled with
+/// zeros; that of a molecule has its number of rows.
 std::string IfsThemeText(const BodyTheme& theme);
 std::string MoleculeThemeText(const BodyTheme& theme);
 

@@ -1,4 +1,4 @@
-// `frmLevels`: the discs that a body of the Standard style is made of.
+// `frmLevels`: the discs of a body of the Standard style.
 #pragma once
 
 #include <QCheckBox>
@@ -15,7 +15,7 @@ class FrmLevels : public BodyEditor {
   explicit FrmLevels(const BodyEditing& editing, QWidget* parent = nullptr);
 
  private:
-  /// `GatherLevels`. There is nothing that it refuses.
+  /// `GatherLevels`. Always returns empty text.
   std::string Gather(StarfoldProfile& body) const override;
 
   struct Toggle {

@@ -1,4 +1,4 @@
-// `frmMolecule`: a molecule of the user's own.
+// `frmMolecule`: the editor of molecules.
 #pragma once
 
 #include <QLineEdit>
@@ -10,7 +10,7 @@
 
 namespace starfolds {
 
-/// The list is the only copy of the atoms until they are gathered.
+/// The list is the only copy of the atoms until `Gather`.
 class FrmMolecule : public ThemedEditor {
   Q_OBJECT
 
@@ -34,12 +34,12 @@ class FrmMolecule : public ThemedEditor {
   void FillList(const std::vector<AtomPoint>& atoms);
 
   void Act(Action action);
-  /// Tells what the controls lack for an atom, and leads there. True: nothing.
+  /// Whether the controls define an atom. If not, shows what is missing and moves the focus there.
   bool HasAtom();
   void AddRow();
   void UpdateRow(int row);
   void RemoveRows(QList<int> rows);
-  /// From the top down.
+  /// In ascending order.
   QList<int> SelectedRows() const;
 
   std::string TextOf(const BodyTheme& theme) const override { return MoleculeThemeText(theme); }

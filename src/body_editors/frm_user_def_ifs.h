@@ -1,4 +1,4 @@
-// `frmUserDefIFS`: an iterated function system of the user's own.
+// `frmUserDefIFS`: the editor of iterated function systems.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ class FrmUserDefIfs : public ThemedEditor {
   explicit FrmUserDefIfs(const BodyEditing& editing, QWidget* parent = nullptr);
 
  private:
-  /// A point: the boxes of its numbers, and its axis.
+  /// The input boxes of a point.
   struct PointRow {
     std::vector<BoundBox<IfsPoint>> Boxes;
     QComboBox* cboRAxis = nullptr;
@@ -30,7 +30,7 @@ class FrmUserDefIfs : public ThemedEditor {
   std::string TextOf(const BodyTheme& theme) const override { return IfsThemeText(theme); }
   void LoadThemeText(const std::string& text) override;
   void Clear() override;
-  /// `GatherIfs`. Rows without a weight are skipped, so that the others close up.
+  /// `GatherIfs`. Skips rows without a weight, so the points stored are contiguous.
   std::string Gather(StarfoldProfile& body) const override;
 
   std::vector<BoundBox<IfsRecord>> center_;

@@ -1,5 +1,4 @@
-// What the editors have in common that build a body of points: a list of themes to start from, and
-// a centre.
+// What the editors of bodies made of points share: a list of themes, and a centre.
 #pragma once
 
 #include <QComboBox>
@@ -19,9 +18,9 @@ class ThemedEditor : public BodyEditor {
   ThemedEditor(const Texts& texts, const BodyEditing& editing, std::span<const BodyTheme> themes,
                QWidget* parent);
 
-  /// The frames of the body's own numbers and of the centre, side by side.
+  /// The frames with the body's numbers and with the centre, side by side.
   QLayout* MakeBodyAndCenter();
-  /// What the boxes of the centre edit.
+  /// Sets the record that the boxes of the centre edit.
   template <class Record>
   std::vector<BoundBox<Record>> BindCenter(std::span<const Field<Record>> fields) const {
     std::vector<BoundBox<Record>> bound;
@@ -30,16 +29,16 @@ class ThemedEditor : public BodyEditor {
     return bound;
   }
 
-  /// The theme at a position of `cboTheme`, as text; none at the first.
+  /// The text of the theme at a position of `cboTheme`; empty for position 0.
   std::string ThemeText(int index) const;
   virtual std::string TextOf(const BodyTheme& theme) const = 0;
-  /// Fills the controls from the text of a theme.
+  /// Shows the values of a theme in the controls.
   virtual void LoadThemeText(const std::string& text) = 0;
-  /// The part of it that all themes have.
+  /// Shows the values that all themes have.
   void LoadThemeHead(const std::string& text, int centerAt, int bodyAt);
 
   QPushButton* MakeClearButton();
-  /// `cmdClear`. The base empties the boxes of the centre.
+  /// `cmdClear`. The base class clears the boxes of the centre.
   virtual void Clear();
 
  private:
