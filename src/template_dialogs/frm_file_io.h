@@ -10,22 +10,22 @@
 #include <string>
 #include <vector>
 
+#include "platform/message_boxes.h"
 #include "template_dialogs/template_folders.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
-#include "platform/message_boxes.h"
 
 class QGridLayout;
 
 namespace starfolds {
 
-/// Loads or saves the file of a path, and shows in the picture how far it has come. Gives a reason
-/// for the user where it cannot.
+/// Loads or saves the file `path`, and shows the progress in the picture. Returns the reason for
+/// the user if it fails.
 using TemplateAction =
     std::function<std::optional<std::string>(const std::string& path, ProgressPicture* picture)>;
 
 struct FileIoSurroundings {
-  KeyValueTree& Tree;  // remembers the folder
+  KeyValueTree& Tree;  // stores the last folder
   Help& HelpBook;
   MessageBoxes& Boxes;
   std::string ProgramFolder;
@@ -33,7 +33,7 @@ struct FileIoSurroundings {
   TemplateAction Save;
 };
 
-/// What a user is told whose template cannot be loaded, or saved.
+/// The message for a template that could not be loaded or saved.
 std::string TemplateFaultText(bool open, const std::string& path, const std::string& reason);
 
 class FrmFileIo : public PlacedDialog {
@@ -42,10 +42,11 @@ class FrmFileIo : public PlacedDialog {
  public:
   explicit FrmFileIo(const FileIoSurroundings& surroundings, QWidget* parent = nullptr);
 
-  /// Shows the dialog and waits until the user has chosen a file to open, or a name to save under.
-  /// With `action` it also loads or saves, and stays open where that fails. `fileTypes` are pairs
-  /// of a description and a pattern, "|" behind each of them; `extension` goes behind a name
-  /// without a dot. Empty: nothing was chosen.
+  /// Shows the dialog until the user has chosen a file to open, or a name to save under; returns
+  /// its path, or empty text if the dialog was cancelled. If `action`, it also loads or saves the
+  /// file, and stays open if that fails. `fileTypes` are pairs of a description and a pattern, each
+  /// followed by
+  /// "|"; `extension` is appended to a name without a dot.
   std::string ChooseTemplate(bool open, bool action, const QString& title, const QString& fileTypes,
                              const QString& extension);
 
@@ -79,7 +80,7 @@ class FrmFileIo : public PlacedDialog {
   void StoreFolder();
   void FocusName();
   void Inform(const std::string& text);
-  /// What was typed is no good.
+  /// Rejects the typed name with a message.
   void Refuse(const std::string& text);
 
   FileIoSurroundings around_;
@@ -88,10 +89,10 @@ class FrmFileIo : public PlacedDialog {
   QString extension_;    // sFileExtension
   std::string selectedPath_;
 
-  QString templates_;              // the folder of the program's own; empty: there is none
-  std::vector<FolderRoot> roots_;  // the entries of drvTemp
-  QString folder_;                 // that is shown
-  QStringList way_;                // the first entries of dirTemp: from the root to that folder
+  QString templates_;              // folder of the program's templates; empty: none
+  std::vector<FolderRoot> roots_;  // entries of drvTemp
+  QString folder_;                 // the current folder
+  QStringList way_;  // the first entries of dirTemp: the folders from the root to `folder_`
   FolderDelegate* folderDelegate_;
   QComboBox* drvTemp_;
   QListWidget* dirTemp_;

@@ -1,4 +1,4 @@
-// Folders as the template dialog sees them. Paths have "/" between their names on every system.
+// Folders in the template dialog. Paths have "/" as separator on every system.
 #pragma once
 
 #include <QString>
@@ -8,41 +8,40 @@
 
 namespace starfolds {
 
-/// Where the way to a file begins.
+/// A folder in which a path can begin.
 struct FolderRoot {
   QString Name;  // for the user
   QString Path;
 };
 
-/// The home folder first, then the templates that came with the program (`templates` may be empty:
-/// there are none), then what is mounted.
+/// The home folder, then the templates of the program (unless `templates` is empty), then mounted
+/// drives.
 std::vector<FolderRoot> FolderRoots(const QString& templates);
 
-/// The position of the innermost root that holds `folder`; 0 where none does.
+/// Index of the innermost root that contains `folder`; 0 if none does.
 int RootOf(const std::vector<FolderRoot>& roots, const QString& folder);
 
-/// The folders from `root` down to `folder`, both of them included.
+/// The folders from `root` to `folder`, both included.
 QStringList WayTo(const QString& root, const QString& folder);
 
-/// Names in alphabetical order, without hidden ones.
+/// Names in alphabetical order, without hidden files.
 struct FolderContents {
   QStringList Folders;
   QStringList Files;
 };
 
-/// The files are those of the patterns, as "*.sfd" or "*.sfd;*.txt"; case does not count, and "*.*"
-/// means all files. Nothing where the folder cannot be read.
+/// The subfolders, and the files that match the patterns, such as "*.sfd" or "*.sfd;*.txt", without
+/// regard to case; "*.*" matches all files. nullopt if the folder cannot be read.
 std::optional<FolderContents> ReadFolder(const QString& folder, const QString& patterns);
 
-/// The path that a user means who types a text while `folder` is shown: a name, a way from there, a
-/// whole path, or one that begins at home ("~/...").
+/// The path for a text typed while `folder` is shown: a name, a relative path, an absolute path, or
+/// one relative to the home folder ("~/...").
 QString TypedPath(const QString& folder, const QString& typed);
 
-/// Whether a file can be written under the path, or replaced. Looks only: nothing is made, opened
-/// or changed.
+/// Whether a file can be created or replaced at the path. Nothing is created, opened or changed.
 bool CanBeWritten(const QString& path);
 
-/// Where the templates are that came with the program; empty where there are none.
+/// The folder of the templates that are installed with the program; empty if there is none.
 QString ShippedTemplates(const QString& programFolder);
 
 }  // namespace starfolds

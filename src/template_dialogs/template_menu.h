@@ -1,4 +1,4 @@
-// Templates in the properties dialog: the File menu's entries, and files that are dropped.
+// Templates in the properties dialog: entries of the File menu, and dropped files.
 #pragma once
 
 #include <QMenu>
@@ -13,17 +13,17 @@
 
 namespace starfolds {
 
-/// The dialog that the templates are loaded into and saved from. All of it outlives the menu.
+/// The dialog that templates are loaded into and saved from. All members must outlive the menu.
 struct TemplateHost {
   QWidget& Window;
   PropertySettings& Settings;
   PropertiesDialog& Dialog;
   Help& HelpBook;
-  /// Brings into the records and boxes what is still being edited.
+  /// Stores values that are still being edited in the records and boxes.
   std::function<void()> Settle;
-  /// A template has been loaded.
+  /// Called after a template was loaded.
   std::function<void()> Loaded;
-  /// Shows in the preview what it showed before the progress.
+  /// Shows the still picture in the preview again, after the progress.
   std::function<void()> ShowStill;
 };
 
@@ -36,18 +36,18 @@ class TemplateMenu : public QObject {
   /// Adds "Open", "Save" and "Save As".
   void AddTo(QMenu& file);
 
-  /// Asks for a name, and saves there.
+  /// Asks for a name, and saves the template under it.
   void SaveAs() { Choose(false); }
 
-  /// While it is disabled nothing can be dropped, either.
+  /// While disabled, drops are refused as well.
   void SetEnabled(bool enabled);
 
  signals:
-  /// A template was dropped onto the window.
+  /// A template file was dropped onto the window.
   void Dropped(const QString& path);
 
  protected:
-  /// Watches the dialog's window for what is dragged over it.
+  /// Handles drag events of the dialog's window.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
