@@ -1,4 +1,4 @@
-// What the diagnostics dialog finds out, without its widgets.
+// The measurements of the diagnostics dialog, without widgets.
 #pragma once
 
 #include <cstdint>
@@ -13,20 +13,21 @@ namespace starfolds {
 inline constexpr char kWriteTestPassed[] = "OK";
 inline constexpr char kWriteTestFailed[] = "No Access";
 
-/// Writes a value into the user's tree and reads it back. What came back, or `kWriteTestFailed` if
-/// it could not be written: it may still be there from an earlier test. The value stays.
+/// Writes a value into the user's tree and reads it back. Returns what was read, or
+/// `kWriteTestFailed` if it could not be written (an earlier test may have left the value there).
+/// The value stays.
 std::string TestRegistryAccess(KeyValueTree& tree);
 
-/// A circle in the middle of `surface`, plotted as the effect plots its stars.
+/// Plots a circle in the middle of `surface`, with the same calls as the effect.
 void PlotTestCircle(Surface& surface);
 
-/// A number with commas between its thousands; "0" for 0.
+/// A number with commas between groups of three digits; "0" for 0.
 std::string Grouped(std::uint64_t number);
 
-/// The colours that a display of `depth` bits a pixel shows; 0 where the depth is unknown.
+/// The number of colours of a display with `depth` bits per pixel; 0 if the depth is unknown.
 std::uint64_t ColoursOf(int depth);
 
-/// What a frame costs on this machine.
+/// The cost of a frame on this machine.
 struct FrameCost {
   int Frames = 0;
   double Seconds = 0;
@@ -36,8 +37,8 @@ struct FrameCost {
   int Height = 0;
 };
 
-/// Runs the universe that is stored in `tree` on a surface in memory, without any pause, for as
-/// long as it is told. No events are run meanwhile.
+/// Runs the universe that is stored in `tree` on a surface in memory, without delays, for the given
+/// time. No events are processed meanwhile.
 FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width, int height,
                         double seconds);
 

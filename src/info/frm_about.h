@@ -1,4 +1,4 @@
-// The About box: what this is, and a body that runs in it.
+// The About box, with a running body.
 #pragma once
 
 #include <QDialog>
@@ -15,16 +15,16 @@
 
 namespace starfolds {
 
-/// What the box needs of its surroundings. All of it outlives the box.
+/// The arguments of the box. All references must outlive it.
 struct AboutSurroundings {
-  ProcessState& Process;  // the state of the process: its pump and flags
+  ProcessState& Process;  // its pump and flags are used
   Help& HelpBook;
   std::string Version;                  // of this build
-  std::function<std::uint64_t()> Seed;  // of each body
+  std::function<std::uint64_t()> Seed;  // called for each body
 };
 
-/// Shows the factory's composites one after the other, whatever the user has made of his own. The
-/// run lives inside the box's own time: it begins when the box is shown, and closing ends it.
+/// Shows the factory's composites one after the other, whatever the user's are. The run begins when
+/// the box is shown, and closing ends it.
 class FrmAbout : public QDialog {
   Q_OBJECT
 
@@ -32,7 +32,7 @@ class FrmAbout : public QDialog {
   explicit FrmAbout(const AboutSurroundings& surroundings, QWidget* parent = nullptr);
   ~FrmAbout() override;
 
-  /// Every way of closing comes through here. A run that is on ends first.
+  /// Called by every way of closing. Ends the run first.
   void done(int result) override;
 
  protected:

@@ -8,25 +8,26 @@
 #include <memory>
 #include <vector>
 
-#include "widgets/picture_box.h"
 #include "info/star_letters.h"
+#include "widgets/picture_box.h"
 
 namespace starfolds {
 
-/// The pages, one after the other; each a few lines.
+/// The pages in order, each of a few lines.
 std::vector<QStringList> CreditPages();
 
-/// The pixels of some lines of text, centred in a picture of that size and as large as fits.
+/// The pixels of lines of text, centred in a picture of that size, in the largest font size that
+/// fits.
 std::vector<LetterPoint> PointsOfText(const QStringList& lines, QSize size, const QFont& font);
 
-/// Shows a page for a while, then the next one. A key or a click leads on; Esc closes.
+/// Shows each page for some seconds. A key or a click shows the next one; Esc closes.
 class FrmCredits : public QDialog {
   Q_OBJECT
 
  public:
   explicit FrmCredits(std::uint64_t seed, QWidget* parent = nullptr);
 
-  /// Which page is forming, or has.
+  /// Index of the current page.
   int Page() const { return page_; }
 
  protected:
@@ -44,7 +45,7 @@ class FrmCredits : public QDialog {
   std::uint64_t seed_;
   std::vector<QStringList> pages_ = CreditPages();
   int page_ = 0;
-  int frame_ = 0;  // of the page
+  int frame_ = 0;  // number within the page
   PictureBox* picCredits_;
   Surface* sky_ = nullptr;
   std::unique_ptr<StarLetters> letters_;

@@ -1,17 +1,17 @@
-// `frmSystemDiag`: the four conditions that the saver depends on, at a glance.
+// `frmSystemDiag`: the four conditions that the saver depends on.
 #pragma once
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 
-#include "widgets/placed_dialog.h"
 #include "info/report.h"
 #include "platform/message_boxes.h"
+#include "widgets/placed_dialog.h"
 
 namespace starfolds {
 
-/// What the dialog needs of its surroundings. All of it outlives the dialog.
+/// The arguments of the dialog. All references must outlive it.
 struct DiagSurroundings {
   KeyValueTree& Tree;
   DesktopServices& Desktop;
@@ -26,8 +26,8 @@ class FrmSystemDiag : public PlacedDialog {
  public:
   explicit FrmSystemDiag(const DiagSurroundings& surroundings, QWidget* parent = nullptr);
 
-  /// Fills the fields. Runs by itself when the dialog is shown. The circle of the graphics test is
-  /// drawn when its box has come to be seen.
+  /// Fills the fields. Called when the dialog is shown. The circle of the graphics test is drawn
+  /// when its box becomes visible.
   void RunDiagnostics();
 
   void ShowSystemInfo();
@@ -47,7 +47,7 @@ class FrmSystemDiag : public PlacedDialog {
   void CopyReport();
 
   DiagSurroundings around_;
-  int fields_ = 0;  // of txtDiagnostics
+  int fields_ = 0;  // number of txtDiagnostics
   QLineEdit* access_ = nullptr;
   QLineEdit* version_ = nullptr;
   QLineEdit* size_ = nullptr;

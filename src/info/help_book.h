@@ -1,4 +1,4 @@
-// The text of the help: its topics in the order of the contents, and the search over all of them.
+// The text of the help: its topics in the order of the contents, and the full-text search.
 #pragma once
 
 #include <QString>
@@ -11,19 +11,19 @@
 
 namespace starfolds {
 
-/// A topic that only the contents, a link or the search lead to.
+/// Of a topic that no dialog refers to.
 inline constexpr Integer kNoContext = 0;
 
 struct HelpTopic {
   Integer Context;  // context number, or `kNoContext`
   std::string_view File;
-  int Level;  // how deep it stands in the contents; 0 is the outermost
+  int Level;  // depth in the contents, from 0
 };
 
 /// In the order of the contents. The first one is the home page.
 std::span<const HelpTopic> HelpTopics();
 
-/// Where the files of the help stand in the program, with a slash at its end.
+/// Folder of the help's files in the program's resources, ending in a slash.
 inline constexpr char kHelpFolder[] = ":/help/";
 
 class HelpBook {
@@ -36,32 +36,32 @@ class HelpBook {
   const QString& Title(int topic) const { return pages_[topic].Title; }
   const QString& Markdown(int topic) const { return pages_[topic].Markdown; }
 
-  /// The topic of a context number; the home page where there is none of that number.
+  /// Index of the topic with a context number; that of the home page if there is none.
   int TopicOf(Integer context) const;
   std::optional<int> TopicOfFile(const QString& file) const;
 
   struct Hit {
     int Topic;
-    QString Line;  // the text around the first of the words
+    QString Line;  // the text around the first match
     int Score;
   };
-  /// The topics that hold every word of `text`, capitals or not, the best first.
+  /// The topics that contain every word of `text`, without regard to case, best match first.
   std::vector<Hit> Search(const QString& text) const;
 
  private:
   struct Page {
     QString Title;
     QString Markdown;
-    QString Headings;  // one in a line
-    QString Plain;     // the text without its markup
+    QString Headings;  // one per line
+    QString Plain;     // the text without markup
   };
   static Page ReadPage(const HelpTopic& topic);
 
   std::vector<Page> pages_;
 };
 
-/// The words that a search for `text` looks for. Quotation marks part words, too, and a text
-/// beyond all reason is cut.
+/// The words that a search for `text` looks for. Quotation marks separate words as blanks do. Very
+/// long text is truncated.
 QStringList SearchWords(const QString& text);
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// A page of the help as it is read.
+// The view of one page of the help.
 #pragma once
 
 #include <QTextBrowser>
@@ -6,15 +6,15 @@
 
 namespace starfolds {
 
-/// Shows Markdown with lines of a length that reads well, tables with rules, and pictures as sharp
-/// as the screen can show them. Follows the colours of the desktop.
+/// Shows Markdown with a limited line length, tables with rules, and pictures at the screen's
+/// resolution. Follows the desktop's colour scheme.
 class HelpPage : public QTextBrowser {
   Q_OBJECT
 
  public:
   explicit HelpPage(QWidget* parent = nullptr);
 
-  /// Shows a page with every place of some words marked, and the first of them in view.
+  /// Shows a page, highlights every match of some words, and scrolls to the first one.
   void ShowMarkdown(const QString& markdown, const QStringList& words = {});
 
   void ZoomBy(int steps);
@@ -26,7 +26,7 @@ class HelpPage : public QTextBrowser {
   void changeEvent(QEvent* event) override;
 
  private:
-  /// Marks every place of the words, and gives the first one.
+  /// Highlights every match of the words, and returns the first one.
   QTextCursor MarkWords();
   void FitLines();
   void LayOut();
@@ -39,8 +39,9 @@ class HelpPage : public QTextBrowser {
 
   QString markdown_;
   QStringList marked_;
-  int zoom_ = 0;    // steps
-  QTimer changed_;  // the page is laid out anew after the event, which may come in the middle of it
+  int zoom_ = 0;    // zoom steps
+  QTimer changed_;  // lays the page out again after the current event, which may come in the middle
+                    // of a layout
 };
 
 }  // namespace starfolds

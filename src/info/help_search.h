@@ -1,4 +1,4 @@
-// The search of the help: a line to type in, and what it finds.
+// The search of the help: an input line and its results.
 #pragma once
 
 #include <QLineEdit>
@@ -9,16 +9,16 @@
 
 namespace starfolds {
 
-/// Finds while one types. Enter opens the first topic, the arrow down leads to the list.
+/// Searches while the user types. Enter opens the first result, the down key moves to the list.
 class HelpSearch : public QWidget {
   Q_OBJECT
 
  public:
   explicit HelpSearch(const HelpBook& book, QWidget* parent = nullptr);
 
-  /// Leads the keyboard to the line, whose text is ready to be typed over.
+  /// Moves the focus to the line and selects its text.
   void Begin();
-  /// What is searched for.
+  /// The words of the current search.
   QStringList Words() const { return SearchWords(txtSearch_->text()); }
 
  signals:

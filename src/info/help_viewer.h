@@ -17,15 +17,15 @@
 
 namespace starfolds {
 
-/// Contents and search on the left, a topic on the right. It belongs to no other window, so that it
-/// can be read beside a dialog that waits for an answer.
+/// Contents and search on the left, a topic on the right. It has no parent, so that it can be used
+/// while a dialog is open.
 class HelpViewer : public QMainWindow {
   Q_OBJECT
 
  public:
   using WebPageOpener = std::function<void(const std::string& url)>;
 
-  /// Remembers its place in `tree`.
+  /// Stores its placement in `tree`.
   HelpViewer(KeyValueTree& tree, WebPageOpener openWebPage);
 
   void ShowContext(Integer context);
@@ -36,7 +36,7 @@ class HelpViewer : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// A page that was read, and how far.
+  /// An entry of the history: a page and its scroll position.
   struct Reading {
     int Topic;
     int Scrolled;
@@ -46,7 +46,7 @@ class HelpViewer : public QMainWindow {
   QAction* AddTool(QToolBar& tools, const QString& text, const char* name,
                    const QList<QKeySequence>& keys, const std::function<void()>& act);
   QWidget* MakeContents();
-  /// Shows the window, or brings it forward.
+  /// Shows the window, or raises it.
   void BringUp();
   void OpenTopic(int topic, const QStringList& words = {});
   void ShowPage(int topic, const QStringList& words);
@@ -57,11 +57,11 @@ class HelpViewer : public QMainWindow {
   WebPageOpener openWebPage_;
   HelpBook book_;
   std::vector<Reading> history_;
-  int reading_ = -1;  // position in it
+  int reading_ = -1;  // index of the current entry
 
   QTabWidget* tabs_ = nullptr;
   QTreeWidget* treContents_ = nullptr;
-  std::vector<QTreeWidgetItem*> entries_;  // of the contents, by topic
+  std::vector<QTreeWidgetItem*> entries_;  // of the contents, by topic index
   HelpSearch* search_ = nullptr;
   HelpPage* page_ = nullptr;
   QAction* back_ = nullptr;

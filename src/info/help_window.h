@@ -12,10 +12,10 @@ namespace starfolds {
 
 class HelpViewer;
 
-/// Costs nothing before it is asked for: its window is made when it is first shown.
+/// Creates its window when it is first shown.
 class HelpWindow : public Help {
  public:
-  /// Remembers its place in `tree`. A web page that cannot be opened is told of in `boxes`.
+  /// Stores its placement in `tree`. If a web page cannot be opened, it tells the user in `boxes`.
   HelpWindow(KeyValueTree& tree, DesktopServices& desktop, MessageBoxes& boxes);
   ~HelpWindow() override;
 

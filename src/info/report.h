@@ -7,7 +7,7 @@
 
 namespace starfolds {
 
-/// What the program alone knows of itself.
+/// Facts that the caller supplies.
 struct ProgramFacts {
   std::string Version;    // of this build
   std::string TreePlace;  // the path of the user's stored settings
@@ -19,8 +19,8 @@ std::string SystemName();
 /// The system's major version, ".", and its minor version.
 std::string SystemVersion();
 
-/// Versions, window system, screens, stored settings and what a frame costs, a line each. The
-/// user's name does not appear in it as part of his folders' paths.
+/// Versions, window system, screens, stored settings and the cost of a frame, one per line. Paths
+/// below the user's home folder do not show the user's name.
 std::string DiagnosticsReport(const ProgramFacts& facts, const std::string& registryAccess,
                               const FrameCost& cost);
 

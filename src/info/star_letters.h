@@ -1,4 +1,4 @@
-// Stars that fly together to form letters, and burst to form the next ones.
+// Stars that fly together to form letters, then burst and form the next ones.
 #pragma once
 
 #include <cstdint>
@@ -10,27 +10,27 @@
 
 namespace starfolds {
 
-/// A place on the surface, in pixels.
+/// A position on the surface, in pixels.
 struct LetterPoint {
   Long X = 0;
   Long Y = 0;
 };
 
-/// Plots as the effect does: a star wipes its last pixel and writes its next one, and nothing else
-/// touches the surface, which stays as large as it is meanwhile. A few stars never take part: they
-/// drift through the sky.
+/// Plots like the effect: a star erases its last pixel and plots its next one. Nothing else may
+/// draw on the surface, and it must keep its size. A few stars are not part of the letters and
+/// drift across the picture.
 class StarLetters {
  public:
   StarLetters(Surface& surface, int stars, std::uint64_t seed);
 
-  /// All stars burst from where they are, at first in the middle; then each makes for a place of
-  /// its own among `points`. Stars that find none fly on.
+  /// All stars burst from where they are, at first in the centre; then each flies to one of
+  /// `points`. Stars without a point fly on.
   void Form(const std::vector<LetterPoint>& points);
 
-  /// One frame.
+  /// Advances by one frame.
   void Step();
 
-  /// How many stars stand within a pixel of where they belong.
+  /// The number of stars within a pixel of their point.
   int Settled() const;
 
  private:
@@ -43,7 +43,7 @@ class StarLetters {
     Single HomeY = 0;
     Long PixelX = -1;
     Long PixelY = -1;
-    int Flare = 0;  // frames left of a new star
+    int Flare = 0;  // frames left of its new-star flare
     bool HasHome = false;
     bool Drifts = false;
   };
@@ -58,7 +58,7 @@ class StarLetters {
   Surface& surface_;
   Rnd random_;
   std::vector<Star> stars_;
-  int frame_ = 0;  // since the burst
+  int frame_ = 0;  // number since the burst
   int hue_ = 0;
 };
 
