@@ -1,4 +1,4 @@
-// The one uniform random generator of a process state.
+// The uniform random number generator; each process state has one.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +12,8 @@ namespace starfolds {
 /// Fast Space-Efficient Statistically Good Algorithms for Random Number Generation", 2014
 /// (Harvey Mudd College, HMC-CS-2014-0905). Small, quick, and the same on every machine.
 ///
-/// The order of draws is part of the system's behaviour, so each routine that draws keeps each draw
-/// in a named local: the order in which C++ evaluates operands is not a promise.
+/// The order of draws is part of the program's behaviour, so functions store each draw in a named
+/// local variable: C++ does not specify the order in which operands are evaluated.
 class Rnd {
  public:
   explicit Rnd(std::uint64_t seed = 0) { Seed(seed); }
@@ -32,8 +32,8 @@ class Rnd {
     return static_cast<Single>(Next() >> 8) * 0x1p-24F;
   }
 
-  /// Makes the next draws come from `draws`, in order, before the generator goes on. The caller
-  /// keeps the memory alive until they are used up. Used by tests that fix each draw.
+  /// The next draws return `draws`, in order, before the generator continues. `draws` must live
+  /// until they are used up. For tests that need given draws.
   void Script(std::span<const Single> draws) { script_ = draws; }
 
   std::size_t ScriptedDrawsLeft() const { return script_.size(); }
