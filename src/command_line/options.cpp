@@ -11,7 +11,7 @@
 namespace starfolds {
 namespace {
 
-constexpr std::size_t kHelpColumn = 22;     // in which the descriptions begin
+constexpr std::size_t kHelpColumn = 22;     // where the descriptions begin
 constexpr std::size_t kLongestQuote = 200;  // bytes
 constexpr int kMaxSide = 16384;
 
@@ -19,7 +19,7 @@ using Rows = std::map<const CLI::Option*, const Option*>;
 
 bool IsFlag(const Option& option) { return *option.Names == '-' && *option.Argument == '\0'; }
 
-/// The longest name, such as "--help".
+/// The longest of the names, such as "--help".
 std::string NameOf(const Option& option) {
   const std::string_view names = option.Names;
   return std::string(names.substr(names.find_last_of(',') + 1));
@@ -27,8 +27,8 @@ std::string NameOf(const Option& option) {
 
 Rows AddOptions(CLI::App& app, const OptionTable& table) {
   Rows rows;
-  app.set_help_flag();  // the table has one
-  app.allow_extras();   // and values that are missing: both are reported here, in plain words
+  app.set_help_flag();  // the table has its own
+  app.allow_extras();   // extra arguments and missing values are reported here
   app.allow_windows_style_options(false);
   const char* group = "";
   for (const Option& option : table) {
@@ -55,7 +55,7 @@ Fault Unexpected(const CLI::App& app) {
 }
 
 Fault Take(const Option& option, const std::string& value) {
-  const bool given = !IsFlag(option) || value != "true";  // what the library gives for no value
+  const bool given = !IsFlag(option) || value != "true";  // what CLI11 passes for a flag
   if (given && (IsFlag(option) || value.empty())) {
     return NameOf(option) + (IsFlag(option) ? " takes no value" : " needs a value");
   }
@@ -63,7 +63,7 @@ Fault Take(const Option& option, const std::string& value) {
   return fault ? NameOf(option) + ": " + *fault : fault;
 }
 
-/// Tries the change in records that nobody uses.
+/// Appends the change, and checks it on a temporary set of records.
 Fault AddChange(Changes& changes, std::string_view name, std::string_view value) {
   changes.emplace_back(name, value);
   return SetByName(*std::make_unique<SettingsRecords>(), name, value);

@@ -34,22 +34,22 @@ class ToolkitAlarm : public Alarm {
 
 #ifdef __linux__
 
-/// A timer of the kernel, seen by the event loop as a file that becomes readable.
+/// A kernel timer, which the event loop polls as a file descriptor that becomes readable.
 class KernelAlarm : public Alarm {
  public:
-  /// `file` is a timerfd; it belongs to the alarm.
+  /// `file` is a timerfd, owned by the alarm.
   explicit KernelAlarm(int file) : file_(file), notifier_(file, QSocketNotifier::Read) {
     QObject::connect(&notifier_, &QSocketNotifier::activated, [this] { Drain(); });
   }
   ~KernelAlarm() override { close(file_); }
 
   void Arm(nanoseconds fromNow) override {
-    // A time of zero would disarm it.
+    // A time of zero would disarm the timer.
     const auto wait = std::max(fromNow, nanoseconds(1)).count();
     constexpr std::int64_t second = 1'000'000'000;
     Set({.tv_sec = static_cast<time_t>(wait / second), .tv_nsec = wait % second});
   }
-  /// Setting the timer also forgets that it has gone off, so nothing is left to be read.
+  /// Setting the timer also resets its expiration, so nothing is left to be read.
   void Disarm() override { Set({}); }
 
  private:

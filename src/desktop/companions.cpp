@@ -19,10 +19,10 @@
 namespace starfolds {
 namespace {
 
-/// How long a companion may take to end before it is killed, in milliseconds.
+/// The time in milliseconds that a companion has to end before it is killed.
 constexpr int kLongestEnd = 1000;
 
-/// Runs in the companion before its program does. The owner may have died before he was watched.
+/// Called in the child process before the program is executed. The owner may have ended already.
 void DieWithOwner([[maybe_unused]] QProcess& process) {
 #ifdef __linux__
   process.setChildProcessModifier([owner = getpid()] {
@@ -42,7 +42,7 @@ void Companions::Start(const std::vector<std::string>& arguments) {
   QStringList list;
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
   auto process = std::make_unique<QProcess>();
-  // Not the errors alone: whoever listens to our output hears the companions' as well.
+  // Both channels: a reader of this program's output gets that of the companions as well.
   process->setProcessChannelMode(QProcess::ForwardedChannels);
   DieWithOwner(*process);
   Watch(*process);
@@ -71,7 +71,7 @@ void Companions::EndAll() {
 
 #ifdef __unix__
 
-/// The pipe's reading end. It becomes readable when there is nobody left who could write.
+/// The read end of the pipe. It becomes readable when no process has the write end open.
 class OwnerWatch::Pipe {
  public:
   explicit Pipe(std::function<void()> gone) : notifier_(STDIN_FILENO, QSocketNotifier::Read) {

@@ -38,7 +38,7 @@ const std::vector<TileRect>& DirtyTiles::Take() {
   return rects_;
 }
 
-/// Appends a row's runs of touched tiles.
+/// Appends the runs of changed tiles in a row.
 void DirtyTiles::TakeRow(std::size_t row) {
   const auto begin = touched_.begin() + static_cast<std::ptrdiff_t>(row * columns_);
   const auto end = begin + static_cast<std::ptrdiff_t>(columns_);

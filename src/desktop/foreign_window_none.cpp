@@ -1,4 +1,4 @@
-// Where programs have no way into each other's windows.
+// For window systems without access to the windows of other programs.
 #include "desktop/foreign_window.h"
 
 namespace starfolds {

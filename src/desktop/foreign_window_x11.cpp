@@ -12,17 +12,17 @@
 namespace starfolds {
 namespace {
 
-/// Tells an event from the copies of it that programs send each other.
+/// Set in events that clients have sent, as opposed to those of the server.
 constexpr std::uint8_t kSentByProgram = 0x80;
 
 int LogicalLength(int physical, double factor) {
   return static_cast<int>(std::ceil(physical / factor));
 }
 
-/// The server is the only one to know when a window of another program dies. It tells those who
-/// have asked for that window's events, so the asking comes first; a window that died just before
-/// it is found by looking once more afterwards. A process that missed the end of its host would
-/// stay behind for ever.
+/// Only the server knows when a window of another program is destroyed, and it reports that to
+/// clients that have selected the window's events. So the events are selected first, and then the
+/// window is checked, to notice one that was destroyed just before. A guest that missed the end of
+/// its host would never end.
 class X11ForeignWindow : public ForeignWindow, private QAbstractNativeEventFilter {
  public:
   X11ForeignWindow(xcb_connection_t* connection, xcb_window_t handle, ForeignWindowEvents& events)
@@ -67,7 +67,7 @@ class X11ForeignWindow : public ForeignWindow, private QAbstractNativeEventFilte
   }
 
  private:
-  /// Nothing where the window is gone.
+  /// nullopt if the window is gone.
   std::optional<QSize> PhysicalSize(xcb_window_t window) const {
     const auto answer =
         Ask(connection_, xcb_get_geometry(connection_, window), xcb_get_geometry_reply);

@@ -18,12 +18,11 @@
 namespace starfolds {
 namespace {
 
-/// How long another process has for its part of a conversation, in milliseconds. It answers between
-/// two frames.
+/// Timeout in milliseconds for the answer of another process, which answers between two frames.
 constexpr int kPatienceMs = 1000;
 
-/// With this a Wayland desktop lets a program give itself the focus. Whoever starts a program hands
-/// it over here.
+/// By this token a Wayland desktop allows a program to take the focus. The launcher of a program
+/// passes it in this environment variable.
 constexpr char kActivationToken[] = "XDG_ACTIVATION_TOKEN";
 constexpr qint64 kLongestToken = 256;
 
@@ -33,8 +32,8 @@ QByteArray DisplayName() {
          (wayland.isEmpty() ? qgetenv("DISPLAY") : wayland);
 }
 
-/// The same for the same caption on the same display, and short, as a socket's path has to be.
-/// Empty where the user has no folder for such things.
+/// A path derived from caption and display, short enough for a socket. Empty if the user has no
+/// runtime folder.
 QString MeetingPlace(const std::string& caption) {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
   if (folder.isEmpty()) return {};
@@ -43,7 +42,7 @@ QString MeetingPlace(const std::string& caption) {
   return QDir(folder).filePath("starfolds-" + QString::fromLatin1(digest.left(16)));
 }
 
-/// Boxes that belong to another window come and go with it.
+/// False for boxes that belong to another window, and are shown and hidden with it.
 bool StandsForItself(const QWindow& window) {
   return window.isTopLevel() && window.transientParent() == nullptr && !window.title().isEmpty() &&
          !window.property(kUnlistedProperty).toBool();
@@ -63,19 +62,19 @@ void BringForward(QWindow& window) {
   window.requestActivate();
 }
 
-/// A caption that belongs to this process, for as long as this object lives.
+/// A caption that belongs to this process during the lifetime of this object.
 class OwnedCaption {
  public:
   explicit OwnedCaption(std::string caption)
       : caption_(std::move(caption)),
         place_(MeetingPlace(caption_)),
         lock_(place_ + QStringLiteral(".lock")) {
-    // However old: it is stale if its process is gone, and only then.
+    // Never stale by age, only if its process has ended.
     lock_.setStaleLockTime(0);
   }
 
-  /// False: another process has it. Where nothing can be locked everybody has every caption: two
-  /// savers are better than none.
+  /// False if another process has the caption. If locking is not possible, every process gets every
+  /// caption: two savers are better than none.
   bool Take() {
     if (place_.isEmpty()) return true;
     if (!lock_.tryLock()) return lock_.error() != QLockFile::LockFailedError;
@@ -84,9 +83,10 @@ class OwnedCaption {
   }
 
  private:
-  /// Where it cannot listen the window is not brought forward, and that is all.
+  /// If listening fails, the window cannot be brought forward by others; nothing else depends on
+  /// it.
   void Listen() {
-    // What a process that was killed has left.
+    // Removes the socket of a process that was killed.
     QLocalServer::removeServer(place_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Answer(); });
@@ -101,7 +101,7 @@ class OwnedCaption {
     }
   }
 
-  /// A line with the caller's token, which may be empty.
+  /// Reads a line with the caller's token, which may be empty, and raises the window.
   void Obey(QLocalSocket& caller) const {
     if (!caller.canReadLine()) {
       if (caller.bytesAvailable() > kLongestToken) caller.abort();
@@ -126,7 +126,7 @@ void AskForward(const std::string& caption) {
   owner.connectToServer(place);
   if (!owner.waitForConnected(kPatienceMs)) return;
   owner.write(qgetenv(kActivationToken).left(kLongestToken - 2) + '\n');
-  // The owner hangs up when his window has come forward.
+  // The owner closes the connection when its window has come forward.
   owner.waitForDisconnected(kPatienceMs);
 }
 

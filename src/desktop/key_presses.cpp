@@ -59,8 +59,8 @@ bool IsMediaKey(int key) {
 
 }  // namespace
 
-/// An X server sends a release and a press for each repeat, both with the same time stamp. The
-/// toolkit takes the press for a new one if it has read the release before the press arrived.
+/// An X server sends a release and a press for each repeat, both with the same time stamp. Qt
+/// reports the press as a new one if it has read the release before the press arrived.
 bool KeyPresses::Counts(const QKeyEvent& press) const {
   const bool repeats =
       press.isAutoRepeat() || (releaseTime_ != 0 && press.timestamp() == releaseTime_ &&

@@ -14,13 +14,13 @@
 namespace starfolds {
 namespace {
 
-/// Room between the outer window's edge and the text, in logical pixels.
+/// Distance between the outer window's edge and the text, in logical pixels.
 constexpr int kRoom = 5;
 
 constexpr std::chrono::seconds kStepTime{1};
 
-/// Where something is after `steps` steps of a pixel, if it starts at `start` and turns round at 0
-/// and at `end`. Something too large to move stays.
+/// The position after `steps` steps of one pixel from `start`, reversing at 0 and at `end`. If
+/// there is no room to move, `start`.
 int Wandered(int start, int end, int steps) {
   if (end <= 0) return start;
   const int place = (start + steps) % (2 * end);

@@ -10,10 +10,10 @@ namespace {
 
 struct Program {
   const char* Name;
-  const char* Arguments;  // divided by blanks
+  const char* Arguments;  // separated by blanks
 };
 
-/// The first one that is installed is taken: the desktops' own before those that stand alone.
+/// The first one that is installed is started: those of desktops first, then stand-alone ones.
 constexpr Program kSystemInfo[] = {
     {"msinfo32.exe", ""},
     {"kinfocenter", ""},

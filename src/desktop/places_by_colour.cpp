@@ -45,8 +45,8 @@ bool PlacesByColour::Count(const Surface& surface, std::span<const Surface::Pixe
   return true;
 }
 
-/// Where the colour is, or would be: colours that meet stand in a row. The multiplier is the golden
-/// section of 32 bits, which spreads the neighbours of a colour table.
+/// The slot of the colour, or the empty slot where it would be inserted (linear probing). The
+/// multiplier is the golden ratio in 32 bits, which scatters similar colours.
 std::size_t PlacesByColour::SlotOf(Colour ink) const {
   std::size_t slot = (ink * 0x9E3779B9U) >> 20U;
   while (groupOfSlot_[slot] != kFree && groups_[groupOfSlot_[slot] - 1U].Ink != ink) {

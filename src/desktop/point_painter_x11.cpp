@@ -14,13 +14,14 @@
 namespace starfolds {
 namespace {
 
-// What program and server spend together, in nanoseconds as measured: on a point, on a change of
-// the colour, and on a pixel of a picture. Their ratios decide, and hold on other machines as well.
+// Measured cost for client and server together, in nanoseconds: of a point, of a change of the
+// colour, and of a pixel of an image. Only their ratios matter, which are similar on other
+// machines.
 constexpr std::int64_t kPointCost = 12;
 constexpr std::int64_t kColourCost = 150;
 constexpr double kPictureCost = 0.4;
 
-/// The longest request that every server takes is 65535 words.
+/// Every server accepts requests of up to 65535 words.
 constexpr std::size_t kMostShapes = 0x4000;
 
 class X11PointPainter : public PointPainter {
@@ -91,7 +92,7 @@ class X11PointPainter : public PointPainter {
   std::vector<xcb_rectangle_t> blocks_;
 };
 
-/// Nothing where the window has gone already.
+/// nullopt if the window is gone.
 std::optional<xcb_visualid_t> VisualOf(xcb_connection_t* connection, xcb_window_t window) {
   xcb_generic_error_t* error = nullptr;
   xcb_get_window_attributes_reply_t* const attributes = xcb_get_window_attributes_reply(
@@ -103,7 +104,7 @@ std::optional<xcb_visualid_t> VisualOf(xcb_connection_t* connection, xcb_window_
   return visual;
 }
 
-/// Whether the words that we paint with are the server's own: 0xRRGGBB.
+/// Whether the server's pixel format is 0xRRGGBB.
 bool HasOurColours(const xcb_visualtype_t& visual) {
   return visual._class == XCB_VISUAL_CLASS_TRUE_COLOR && visual.red_mask == 0xFF0000U &&
          visual.green_mask == 0xFF00U && visual.blue_mask == 0xFFU;

@@ -13,11 +13,11 @@ namespace {
 
 using std::chrono::nanoseconds;
 
-/// Refreshes in a second where the screen tells none, or nonsense as some virtual ones do.
+/// Hertz, for screens that report no or an implausible rate, as some virtual ones do.
 constexpr double kUsualRefreshRate = 60;
 constexpr double kLowestRefreshRate = 10;
 
-/// The longest that one pump goes on with events that keep coming, in milliseconds.
+/// The maximum time in milliseconds that one pump processes events.
 constexpr int kLongestPump = 10;
 
 nanoseconds RefreshInterval() {
@@ -27,8 +27,8 @@ nanoseconds RefreshInterval() {
   return nanoseconds(static_cast<std::int64_t>(1e9 / rate));
 }
 
-/// Objects that asked to be deleted later. The toolkit does it by itself only in loops that were
-/// entered for good.
+/// Deletes objects scheduled by `deleteLater`. Qt does that by itself only in event loops started
+/// by `exec`.
 void DeleteWhatIsDue() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 }  // namespace
@@ -50,8 +50,8 @@ void QtPump::WaitForEvents(Long milliseconds) {
   if (milliseconds > 0) SleepUntil(Clock::now() + std::chrono::milliseconds(milliseconds));
 }
 
-/// Counts from the former refresh and not from now, so that frames which are each a little early or
-/// late keep step with the screen. After a longer pause the count begins anew.
+/// Counts from the previous refresh and not from now, so that frames that are slightly early or
+/// late stay in step with the screen. After a longer pause the count restarts.
 void QtPump::WaitForRefresh() {
   const nanoseconds interval = RefreshInterval();
   const Clock::time_point due = lastRefresh_ + interval;
@@ -63,7 +63,7 @@ void QtPump::WaitForRefresh() {
   lastRefresh_ = due;
 }
 
-/// Returns at `end`, or earlier when events arrived, which have been run then.
+/// Returns at `end`, or earlier after events were processed.
 void QtPump::SleepUntil(Clock::time_point end) {
   alarm_->Arm(end - Clock::now());
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);

@@ -12,8 +12,8 @@ void ScreenImage::PaintBlock(const PixelScale& scale, int x, int y, std::uint32_
   }
 }
 
-/// Nearly all of a frame's cost is here, in memory that lies far apart: the usual scale gets a loop
-/// with nothing else in it.
+/// Most of a frame's cost is here, in scattered memory accesses: the one-to-one scale has a loop
+/// without any scaling.
 void ScreenImage::PaintPlaces(const PixelScale& scale, const Surface& surface,
                               std::span<const Surface::PixelPlace> places) {
   const Colour* const pixels = surface.Pixels().data();

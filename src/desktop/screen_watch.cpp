@@ -8,7 +8,7 @@
 namespace starfolds {
 namespace {
 
-/// Without a change for this long the desktop is at rest.
+/// A change is complete when no event has arrived for this long.
 constexpr std::chrono::milliseconds kRest{200};
 
 }  // namespace

@@ -13,10 +13,10 @@
 namespace starfolds {
 namespace {
 
-/// The server's own events carry no mark of having been sent by a client.
+/// Masks the bit that marks events sent by clients.
 constexpr std::uint8_t kEventType = 0x7F;
 
-/// The screens' power saving, of which a server tells only if asked.
+/// The power saving of the screens, which the server reports only on request.
 class PowerSaving {
  public:
   explicit PowerSaving(xcb_connection_t* connection) : connection_(connection) {
@@ -25,8 +25,8 @@ class PowerSaving {
     known_ = extension != nullptr && extension->present != 0;
   }
 
-  /// The answer may be as old as the wait between two questions. A screen that wakes up is to show
-  /// the stars again soon; one that falls asleep has time.
+  /// The result may be as old as the interval between two requests. The interval is short while the
+  /// screen sleeps, so that the stars are shown soon after it wakes.
   bool IsAsleep() {
     const auto now = Clock::now();
     if (known_ && now >= nextQuestion_) {
@@ -67,7 +67,7 @@ class X11SightWatch : public SightWatch, private QAbstractNativeEventFilter {
   bool IsHidden() override { return covered_ || screens_.IsAsleep(); }
 
  private:
-  /// Adds to the events that the toolkit has asked for.
+  /// Adds to the events that Qt has selected.
   void SelectVisibility(xcb_connection_t* connection) const {
     xcb_generic_error_t* error = nullptr;
     xcb_get_window_attributes_reply_t* const attributes = xcb_get_window_attributes_reply(

@@ -23,8 +23,8 @@ namespace {
 
 constexpr std::array<int, 3> kStopSignals{SIGTERM, SIGINT, SIGHUP};
 
-/// The writing end of the pipe through which a signal reaches the event loop: a handler may do
-/// hardly anything but write.
+/// The write end of the pipe by which a signal reaches the event loop: a signal handler may call
+/// `write`, but few other functions.
 volatile sig_atomic_t pipeEntrance = -1;
 
 void WriteToPipe(int) {
@@ -73,11 +73,11 @@ class StopSignals::Catcher {
 
   bool Asked() const {
     pollfd waiting{exit_, POLLIN, 0};
-    return poll(&waiting, 1, 0) > 0;  // no descriptor is none that is ready
+    return poll(&waiting, 1, 0) > 0;  // an invalid descriptor counts as not ready
   }
 
  private:
-  /// A signal that whoever started us told us to ignore stays ignored, as under nohup.
+  /// A signal that the parent process has set to be ignored stays ignored, as under nohup.
   void CatchSignal(std::size_t i) {
     struct sigaction former {};
     sigaction(kStopSignals[i], nullptr, &former);

@@ -26,7 +26,7 @@ void MarkUnlisted(QWindow& window) {
                       InternAtom(connection, kUnlistedMark), XCB_ATOM_CARDINAL, 32, 1, &yes);
 }
 
-/// The toolkit adds its own states to those that it finds when it shows the window.
+/// Qt keeps existing states and adds its own when it shows the window.
 void MarkAsBackground(QWindow& window) {
   xcb_connection_t* const connection = Connection();
   if (connection == nullptr) return;
@@ -37,7 +37,7 @@ void MarkAsBackground(QWindow& window) {
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
                       InternAtom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(),
                       states.data());
-  // Some managers put windows on all workspaces by this, and others by the state.
+  // Some window managers put windows on all workspaces by this, others by the state.
   const std::uint32_t allWorkspaces = 0xFFFFFFFFU;
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
                       InternAtom(connection, "_NET_WM_DESKTOP"), XCB_ATOM_CARDINAL, 32, 1,

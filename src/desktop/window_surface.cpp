@@ -18,14 +18,14 @@
 namespace starfolds {
 namespace {
 
-/// Writes between two frames that are remembered one by one: enough for 30000 stars that are each
-/// wiped and plotted, with their flares. A frame with more is painted whole. Half a megabyte.
+/// Writes between two frames that are recorded one by one: enough for 30000 stars that are erased
+/// and plotted, with their flares (512 KiB). A frame with more writes is painted as a whole.
 constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
-/// The size of a resizable window until the user gives it another, in logical pixels.
+/// The initial size of a resizable window, in logical pixels.
 constexpr QSize kUsualSize{1280, 720};
 
-/// What it takes of a small screen at most: its frame, and a bit of the desktop, have room as well.
+/// The maximum share of a small screen: the rest is for the window's frame and the desktop.
 constexpr double kWindowShare = 0.9;
 
 Qt::WindowFlags StackingFlags(Stacking stacking) {
@@ -113,8 +113,8 @@ void WindowSurface::HidePointer() { window_->setCursor(Qt::BlankCursor); }
 
 void WindowSurface::ShowPointer() { window_->unsetCursor(); }
 
-/// A window that does not lead gets no focus even when it is clicked: the keys go to the one that
-/// does.
+/// A window that does not lead gets no focus even when it is clicked, so that keys go to the one
+/// that leads.
 void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
   atBottom_ = stacking == Stacking::AtBottom;
   TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlags(stacking) |
@@ -124,7 +124,7 @@ void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
   screens_.emplace([this, place] { CoverScreen(place); });
 }
 
-/// A window that fills a screen already would not be moved to another one.
+/// A window that fills a screen already would not be moved to another one by the window manager.
 void WindowSurface::CoverScreen(ScreenPlace place) {
   QScreen* const named = FindScreen(place.Number);
   QScreen* const screen = named != nullptr ? named : QGuiApplication::primaryScreen();
@@ -150,8 +150,8 @@ void WindowSurface::ShowResizable(const std::function<void(QWindow&)>& place) {
   window_->requestActivate();
 }
 
-/// The toolkit's own `show` puts a window into the state that is usual on the platform, whatever
-/// state was set before, so the window manager would never be asked for full screen or maximised.
+/// `QWindow::show` sets the state that is usual on the platform, whatever state was set before, so
+/// the window manager would never be asked for full screen or maximised.
 void WindowSurface::ShowInState() {
   window_->create();
   if (atBottom_) {
@@ -161,15 +161,15 @@ void WindowSurface::ShowInState() {
   window_->setVisible(true);
 }
 
-/// A window that is shown changes its frame only when it comes up again. The toolkit selects its
-/// events anew then, and only its own.
+/// A window that is shown changes its frame only when it is shown again. Qt then selects its events
+/// anew, and only its own.
 void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
   window_->hide();
   window_->setFlags(flags);
   if (window_->handle() != nullptr) MeetWindow();
 }
 
-/// The window exists, or has been made anew.
+/// Called when the native window was created, or created again.
 void WindowSurface::MeetWindow() {
   if (window_->property(kUnlistedProperty).toBool()) MarkUnlisted(*window_);
   sight_ = MakeSightWatch(*window_);
@@ -177,7 +177,7 @@ void WindowSurface::MeetWindow() {
 }
 
 bool WindowSurface::ShowInside(ForeignWindow& host, GuestOrder order) {
-  // In the window of the whole desktop it would be an ordinary window, were it not for the bypass.
+  // Without the bypass it would be an ordinary window inside the root window.
   window_->setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                     Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
   if (!host.TakeIn(*window_, order)) return false;
@@ -223,7 +223,7 @@ void WindowSurface::Present() {
   ForgetJournal();
 }
 
-/// The window's picture has the changes as well, for when it is shown in parts or as a whole.
+/// Also updates the window's image, for later exposures.
 bool WindowSurface::DrawPoints(const QRegion& region) {
   if (!points_) return false;
   double area = 0;
@@ -237,7 +237,7 @@ void WindowSurface::Repaint() {
   Present();
 }
 
-/// The window may have another size, or stand on a screen of another density, than the last time.
+/// The window may have been resized, or moved to a screen of another density, since the last call.
 void WindowSurface::FitBackingStore() {
   if (store_->size() == window_->size() && factor_ == window_->devicePixelRatio()) return;
   factor_ = window_->devicePixelRatio();
@@ -245,8 +245,8 @@ void WindowSurface::FitBackingStore() {
   repaintAll_ = true;
 }
 
-/// The tiles that the journal touches, in logical pixels. The window system rounds their borders at
-/// a fractional factor in its own manner, so there they are grown by one.
+/// The tiles that the journal touches, in logical pixels. With a fractional factor the window
+/// system rounds their borders in its own way, so they are enlarged by one.
 QRegion WindowSurface::TouchedRegion() {
   for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
     tiles_.Touch(ColumnOf(*place), RowOf(*place));
@@ -264,8 +264,8 @@ QRegion WindowSurface::TouchedRegion() {
   return region & QRect(QPoint(), store_->size());
 }
 
-/// False: the window system has laid its picture out anew without a word, so the changes alone will
-/// not do and the next frame has to be painted whole.
+/// False if the window system has reallocated the image, so that painting the changes is not enough
+/// and the next frame must be painted as a whole.
 bool WindowSurface::Paint(QPaintDevice& picture, bool whole) {
   const QSize size(picture.width(), picture.height());
   if (whole) {
@@ -299,7 +299,7 @@ void WindowSurface::PaintDirectly(ScreenImage image, bool whole) {
   }
 }
 
-/// The slow way, for screens of fewer colours. The painter measures in logical pixels.
+/// The slow path, for screens with fewer colours. QPainter uses logical pixels.
 void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
   QPainter painter(&picture);
   painter.translate(origin_);

@@ -11,14 +11,14 @@
 namespace starfolds {
 namespace {
 
-/// How deep windows are searched where no window manager keeps a list of them: the root's children
-/// are programs' windows, or the frames around them.
+/// Depth to which windows are searched without a window manager's list: the root's children are
+/// programs' windows, or the frames around them.
 constexpr int kTreeDepth = 3;
 
-/// Longest property that is read, in units of four bytes.
+/// Maximum length of a property that is read, in units of four bytes.
 constexpr std::uint32_t kPropertyRoom = 64 * 1024;
 
-/// Tells the window manager that a person asked for it, not a program by itself.
+/// Tells the window manager that the request comes from the user.
 constexpr std::uint32_t kSourcePager = 2;
 
 class X11Desktop : public StartsOtherPrograms {
@@ -79,8 +79,8 @@ class X11Desktop : public StartsOtherPrograms {
     return caption.empty() ? TextProperty(window, XCB_ATOM_WM_NAME) : caption;
   }
 
-  /// A manager that has died leaves its mark on the root. The mark of a living one names a window
-  /// that names itself.
+  /// A window manager that has crashed leaves its property on the root window. That of a running
+  /// one names a window whose own property names that window.
   bool HasManager() {
     const auto mark = WindowProperty(root_, managerCheck_);
     return !mark.empty() && WindowProperty(mark.front(), managerCheck_) == mark;

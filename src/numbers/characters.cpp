@@ -12,9 +12,9 @@ struct Range {
   std::uint32_t Last;
 };
 
-/// Code points that belong to the character before them: marks (general categories Mn, Mc and Me of
+/// Code points that extend the character before them: marks (general categories Mn, Mc and Me of
 /// Unicode 14), skin tones, tags, half-width voicing marks, and the vowels and finals of Hangul.
-/// Code points without a meaning between two of them are counted in.
+/// Unassigned code points between two of them are included.
 constexpr std::array<Range, 247> kExtending{
     {{0x300, 0x36F},     {0x483, 0x489},     {0x591, 0x5BD},     {0x5BF, 0x5BF},
      {0x5C1, 0x5C2},     {0x5C4, 0x5C5},     {0x5C7, 0x5C7},     {0x610, 0x61A},
@@ -88,13 +88,13 @@ bool Extends(std::uint32_t codePoint) {
   return behind != kExtending.begin() && codePoint <= std::prev(behind)->Last;
 }
 
-/// Letters that stand for a country in pairs.
+/// Regional indicators: two of them are a flag.
 bool IsRegional(std::uint32_t codePoint) { return codePoint >= 0x1F1E6 && codePoint <= 0x1F1FF; }
 
 bool Continues(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
 
-/// Takes a code point from the front of `text`. Of text that is no UTF-8, a byte and what continues
-/// it are one, of whatever value.
+/// Removes a code point from the front of `text`. In invalid UTF-8, a byte with its continuation
+/// bytes counts as one code point, whose value is unspecified.
 std::uint32_t TakeCodePoint(std::string_view& text) {
   const auto lead = static_cast<unsigned char>(text.front());
   std::uint32_t codePoint = lead < 0x80   ? lead
@@ -109,7 +109,7 @@ std::uint32_t TakeCodePoint(std::string_view& text) {
   return codePoint;
 }
 
-/// Says of one code point after the other whether it begins a character.
+/// Tells for each code point in turn whether it begins a character.
 class CharacterBreaks {
  public:
   bool Begins(std::uint32_t codePoint) {
@@ -126,7 +126,7 @@ class CharacterBreaks {
  private:
   bool first_ = true;
   bool joined_ = false;    // the last code point was a joiner
-  bool halfPair_ = false;  // the last one was the first of two regional letters
+  bool halfPair_ = false;  // the last one was the first of a pair of regional indicators
 };
 
 }  // namespace
@@ -135,7 +135,7 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count, std::
   std::string_view rest = text;
   CharacterBreaks breaks;
   std::size_t begun = 0;
-  std::size_t end = 0;  // of the last whole character
+  std::size_t end = 0;  // of the last complete character
   while (!rest.empty()) {
     const std::size_t begin = text.size() - rest.size();
     if (breaks.Begins(TakeCodePoint(rest))) {

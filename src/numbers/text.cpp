@@ -11,8 +11,8 @@ namespace {
 constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Reads the grammar sign? digits* (point digits*)? (exponent sign? digits+)? from `text` and
-/// returns how many characters belong to it; 0 where no digit is found. A leading plus counts.
+/// Matches the grammar sign? digits* (point digits*)? (exponent sign? digits+)? at the start of
+/// `text` and returns the number of characters; 0 if there is no digit. The sign may be a plus.
 std::size_t NumberLength(std::string_view text) {
   std::size_t at = 0;
   auto skipDigits = [&] {
@@ -36,9 +36,9 @@ std::size_t NumberLength(std::string_view text) {
   return at;
 }
 
-/// The power of ten of the first digit that is not 0: 0 for "7.5", -2 for "0.05", 3 for "2e3".
-/// `text` is an unsigned number of the grammar above with at least one such digit. Exponents that
-/// no 64-bit number holds are clamped to a quarter of its range.
+/// The power of ten of the first non-zero digit: 0 for "7.5", -2 for "0.05", 3 for "2e3". `text` is
+/// an unsigned number of the grammar above with at least one such digit. Exponents beyond the
+/// 64-bit range are clamped to a quarter of that range.
 std::int64_t PowerOfTen(std::string_view text) {
   const std::size_t mark = text.find_first_of("eE");
   const std::string_view mantissa = text.substr(0, mark);
@@ -55,14 +55,14 @@ std::int64_t PowerOfTen(std::string_view text) {
   return power + std::clamp(shift, -limit, limit);
 }
 
-/// The value of a text of which every character belongs to the grammar above. Magnitudes beyond
-/// the range of double give the largest double, those below it 0.
+/// The value of a text that matches the grammar above as a whole. Magnitudes above the range of
+/// double give the largest double, those below it 0.
 double NumberValue(std::string_view text) {
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc::result_out_of_range) return value;
-  // Out of range, from_chars does not say in which direction.
+  // For numbers out of range, from_chars does not say in which direction.
   const bool negative = text.front() == '-';
   if (PowerOfTen(text.substr(negative ? 1 : 0)) < 0) return 0;
   const double largest = std::numeric_limits<double>::max();

@@ -8,7 +8,7 @@ namespace {
 
 constexpr bool Continues(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
 
-/// Length of the well-formed character at the start of `text`; 0 where there is none.
+/// Length of the well-formed character at the start of `text`; 0 if there is none.
 std::size_t CharacterLength(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char lead = byte(0);
@@ -18,20 +18,20 @@ std::size_t CharacterLength(std::string_view text) {
   for (std::size_t i = 1; i < length; ++i) {
     if (!Continues(text[i])) return 0;
   }
-  // What could be said shorter, surrogates, and what lies beyond the last plane.
+  // Overlong forms, surrogates, and code points beyond the last plane.
   const unsigned char second = byte(1);
   const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
   const bool forbidden = (lead == 0xED && second > 0x9F) || (lead == 0xF4 && second > 0x8F);
   return overlong || forbidden ? 0 : length;
 }
 
-/// Bytes 0x80 to 0x9F of Windows-1252; all others are the character of the same number.
+/// Bytes 0x80 to 0x9F of Windows-1252; all others are the code point of the same number.
 constexpr std::array<std::uint16_t, 32> kWindows1252{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// For characters below 0x10000.
+/// For code points below 0x10000.
 void AppendUtf8(std::string& text, std::uint16_t character) {
   const auto add = [&](unsigned byte) { text.push_back(static_cast<char>(byte)); };
   if (character < 0x80) {

@@ -11,7 +11,7 @@ namespace starfolds {
 namespace {
 
 // In pixels of the sheet.
-constexpr int kTileWidth = 320;  // the box that a tile must fit into
+constexpr int kTileWidth = 320;  // maximum size of a tile
 constexpr int kTileHeight = 240;
 constexpr int kGap = 2;  // between tiles, so that black frames have edges
 constexpr int kDigitScale = 2;
@@ -22,7 +22,7 @@ constexpr int kLabelHeight = (kDigitHeight + 2) * kDigitScale;
 constexpr Colour kPaper = 0x00202020;
 constexpr Colour kInk = 0x00C0C0C0;
 
-/// The digits, three dots a row, the top row in the highest bits.
+/// The digits as bitmaps, three bits a row, the top row in the highest bits.
 constexpr std::array<std::uint16_t, 10> kDigits = {
     0b111'101'101'101'111, 0b010'110'010'010'111, 0b111'001'111'100'111, 0b111'001'111'001'111,
     0b101'101'111'001'001, 0b111'100'111'001'111, 0b111'100'111'101'111, 0b111'001'001'001'001,
@@ -36,7 +36,7 @@ Colour Brighter(Colour a, Colour b) {
   return std::max(a & red, b & red) | std::max(a & green, b & green) | std::max(a & blue, b & blue);
 }
 
-/// The paper that tiles and labels are laid on.
+/// The picture that tiles and labels are drawn on.
 class Canvas {
  public:
   Canvas(int width, int height)
@@ -75,7 +75,7 @@ class Canvas {
     }
   }
 
-  /// What does not fit beside a very small tile is cut off.
+  /// Clips what does not fit beside a very small tile.
   void Dot(int left, int top) {
     for (int y = top; y < std::min(top + kDigitScale, height_); ++y) {
       for (int x = left; x < std::min(left + kDigitScale, width_); ++x) *At(x, y) = kInk;
@@ -86,7 +86,7 @@ class Canvas {
   std::vector<Colour> pixels_;
 };
 
-/// The first source pixel of each tile pixel along one side, and the end behind the last one.
+/// The first source pixel of each tile pixel along one side, followed by the number of pixels.
 std::vector<int> Cuts(int source, int tile) {
   std::vector<int> cuts;
   for (int i = 0; i <= tile; ++i) {

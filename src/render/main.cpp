@@ -26,7 +26,7 @@ int PrintAndEnd(const std::string& text) {
   return Print(text) ? 0 : Fail("cannot write to the standard output");
 }
 
-/// The settings as a file.
+/// Saves the settings as a template.
 Fault Save(const std::string& path, Files& disk, SettingsRecords& records) {
   MemoryTree tree;
   SaveSettings(tree, records);

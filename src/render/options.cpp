@@ -10,14 +10,14 @@
 namespace starfolds {
 namespace {
 
-/// Pixels of a written picture. 64 Mi are 256 MiB as a surface and 192 MiB more while a PNG is
-/// written; an 8K picture has 33 million.
+/// Maximum pixels of a written picture. 64 Mi need 256 MiB as a surface and 192 MiB more while a
+/// PNG is written; an 8K picture has 33 million.
 constexpr std::int64_t kMaxPicturePixels = std::int64_t{1} << 26;
 
-/// Frames of one run: some 46 days of video.
+/// About 46 days of video.
 constexpr FrameNumber kMaxFrames = 100'000'000;
 
-/// The program's options, which store what is given in `to`.
+/// The program's options, which store their values in `to`.
 OptionTable TableFor(RenderOptions& to) {
   const auto frame = [](FrameNumber& of) { return TakeNumber(of, FrameNumber{1}, kMaxFrames); };
   const auto acts = [&](RenderAction action) { return TakeFixed(to.Action, action); };

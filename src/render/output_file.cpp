@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Only what is not there yet, or is a plain file, can be replaced by another file.
+/// Whether a path can be replaced by renaming: it does not exist, or is a regular file.
 bool CanBeReplaced(const std::string& path) {
   std::error_code ignored;
   const fs::file_status status = fs::symlink_status(path, ignored);

@@ -14,7 +14,7 @@ namespace starfolds {
 namespace {
 
 void RunBody(ProcessState& process, Integer body, bool isComposite) {
-  // The recording surface counts the frames and ends the run.
+  // The recording surface counts the frames and stops the run.
   SingleBodyRun(process, {.Body = body,
                           .IsComposite = isComposite,
                           .Stars = ClampTo<Long>(process.Universe.Universe_Stars, 10, 30000),

@@ -5,7 +5,7 @@
 namespace starfolds {
 namespace {
 
-/// Fixed-point factors: whole numbers give the same bytes on every machine.
+/// Fixed-point factors: integer arithmetic gives the same bytes on every machine.
 constexpr int kFractionBits = 16;
 
 constexpr int Fixed(double factor) {
@@ -24,7 +24,7 @@ struct Weights {
   }
 };
 
-// BT.709: luma is a sum of the channels, chroma what blue and red have beyond it, scaled to 1.
+// BT.709: luma is a weighted sum of the channels; chroma is blue and red minus luma, scaled to 1.
 constexpr double kRedLuma = 0.2126;
 constexpr double kGreenLuma = 0.7152;
 constexpr double kBlueLuma = 0.0722;

@@ -19,15 +19,15 @@ namespace fs = std::filesystem;
 using Fault = std::optional<std::string>;
 
 constexpr const char* kNoPlainFile = "Not a plain file";
-constexpr mode_t kRights = 0666;  // less the umask
+constexpr mode_t kRights = 0666;  // before the umask
 constexpr mode_t kRightsMask = 0777;
-constexpr int kMostLinks = 40;       // as many as the system follows
-constexpr int kMostTemporaries = 8;  // processes that replace one file at the same time
+constexpr int kMostLinks = 40;       // the limit of the Linux kernel
+constexpr int kMostTemporaries = 8;  // for processes that replace one file at the same time
 constexpr std::size_t kReadAtOnce = std::size_t{64} * 1024;
 
 std::string Reason(int error) { return std::generic_category().message(error); }
 
-/// An open file, or why there is none.
+/// An open file, or the reason why it could not be opened.
 class Descriptor {
  public:
   Descriptor() = default;
@@ -53,7 +53,7 @@ class Descriptor {
   int error_ = 0;
 };
 
-/// Reads to the end, but at most `most` bytes.
+/// Reads to the end, but `most` bytes at most.
 Fault ReadAll(int file, std::size_t most, std::string& bytes) {
   while (bytes.size() < most) {
     const std::size_t size = bytes.size();
@@ -76,19 +76,19 @@ Fault WriteAll(int file, std::string_view bytes) {
   return std::nullopt;
 }
 
-/// Why a path does not lead to a plain file.
+/// The reason for the user why a path is not a regular file.
 Fault FaultOfKind(mode_t mode) {
   if (S_ISREG(mode)) return std::nullopt;
   return S_ISDIR(mode) ? Reason(EISDIR) : kNoPlainFile;
 }
 
-/// Where the path leads to in the end, which need not exist. Nothing where it leads in a circle.
+/// The final target of a path, which may not exist. nullopt for a cycle of links.
 std::optional<fs::path> TargetOf(fs::path path) {
   std::error_code error;
   for (int i = 0; i < kMostLinks; ++i) {
     const fs::path link = fs::read_symlink(path, error);
     if (error) return path;
-    path = path.parent_path() / link;  // an absolute link stands for itself
+    path = path.parent_path() / link;  // replaces the whole path if the link is absolute
   }
   return std::nullopt;
 }
@@ -97,8 +97,8 @@ std::string FolderOf(const fs::path& path) {
   return path.has_parent_path() ? path.parent_path().string() : ".";
 }
 
-/// A file of its own beside the one that is to be replaced. While it is written it is locked, so
-/// that one without a lock is known to be somebody's who was killed.
+/// A temporary file beside the target. It is locked while it is written, so an unlocked one is
+/// known to be left behind by a killed process.
 class TemporaryFile {
  public:
   ~TemporaryFile() {
@@ -119,9 +119,10 @@ class TemporaryFile {
         if (error != EEXIST) break;
         continue;
       }
-      // A file system without locks is no reason not to write: then nothing is ever removed.
+      // On a file system without locks writing continues, and left-behind files are not removed.
       if (flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) continue;
-      if (!HasName(file, path)) continue;  // somebody took it for left behind before it was locked
+      if (!HasName(file, path))
+        continue;  // another process removed it as left behind before it was locked
       file_ = std::move(file);
       path_ = path;
     }
@@ -141,11 +142,12 @@ class TemporaryFile {
   static void RemoveIfLeftBehind(const std::string& path) {
     const Descriptor file(path, O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
     if (!file.IsOpen() || flock(file.Number(), LOCK_EX | LOCK_NB) != 0) return;
-    // Its writer may have been quicker, and another one may have the name by now.
+    // Its writer may have renamed it meanwhile, and another process may have created the name
+    // again.
     if (HasName(file, path)) unlink(path.c_str());
   }
 
-  /// Whether this is the file of that name, a plain one of this user's.
+  /// Whether this file has that name, and is a regular file of this user.
   static bool HasName(const Descriptor& file, const std::string& path) {
     struct stat opened {};
     struct stat named {};
@@ -155,23 +157,23 @@ class TemporaryFile {
   }
 
   Descriptor file_;
-  std::string path_;  // empty: nothing to remove
+  std::string path_;  // empty: nothing to remove on destruction
 };
 
-/// The rename itself must outlive a power failure, too. By now it has happened: a folder that
-/// cannot be written out is no reason to say that it has not.
+/// Makes the rename durable. It has happened by now, so a failure to flush the folder is not
+/// reported.
 void WriteOutFolder(const std::string& folder) {
   const Descriptor file(folder, O_RDONLY | O_DIRECTORY);
   if (file.IsOpen()) fsync(file.Number());
 }
 
-/// Replaces a file that is no link.
+/// Replaces a file that is not a symbolic link.
 Fault ReplaceTarget(const std::string& target, std::string_view bytes) {
   struct stat old {};
   const bool exists = lstat(target.c_str(), &old) == 0;
   if (exists) {
     if (Fault fault = FaultOfKind(old.st_mode)) return fault;
-    // The folder's rights would do, but a file that is read-only is meant to stay as it is.
+    // The folder's permissions would allow it, but a read-only file must not be replaced.
     if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return Reason(errno);
   }
   TemporaryFile temporary;
@@ -197,7 +199,7 @@ FileContents DiskFiles::Read(const std::string& path, std::size_t limit) {
   if (std::cmp_greater(status.st_size, limit)) return {std::nullopt, Reason(EFBIG)};
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(status.st_size));
-  const std::size_t most = std::max(limit, limit + 1);  // without a limit there is no more
+  const std::size_t most = std::max(limit, limit + 1);  // no overflow without a limit
   if (Fault fault = ReadAll(file.Number(), most, bytes)) return {std::nullopt, *fault};
   if (bytes.size() > limit) return {std::nullopt, Reason(EFBIG)};  // it has grown meanwhile
   return {std::move(bytes), {}};

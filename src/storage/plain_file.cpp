@@ -14,23 +14,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The bytes that SQLite locks, as its file format lays down: who has them all to himself is the
-/// only one that works with the file.
+/// The bytes that SQLite locks, as defined by its file format: a process that holds all of them is
+/// the only one that uses the file.
 constexpr off_t kLockBytes = 0x40000000;
 constexpr off_t kLockByteCount = 512;
 
 constexpr int kMostSetAside = 999;
 constexpr std::chrono::milliseconds kLockPause{5};
 
-/// What lies beside a database and belongs to it. It goes first: a new database must not meet the
-/// old one's journal.
+/// Files that belong to a database. They are renamed first: a new database must not find the old
+/// one's journal.
 constexpr const char* kCompanions[] = {"-journal", "-wal", "-shm"};
 
 FileIdentity IdentityOf(const struct stat& status) {
   return {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino)};
 }
 
-/// A file that nobody else works with, for as long as this lives.
+/// Locks a file exclusively during its lifetime.
 class LockedFile {
  public:
   LockedFile(const std::string& path, std::chrono::milliseconds patience)
@@ -62,7 +62,7 @@ class LockedFile {
   bool locked_ = false;
 };
 
-/// Renames what is there. False: it is still there.
+/// Renames a file if it exists. False if it is still there.
 bool Moved(const std::string& from, const std::string& to) {
   return rename(from.c_str(), to.c_str()) == 0 || errno == ENOENT;
 }
@@ -112,7 +112,7 @@ std::optional<std::string> SetAside(const std::string& path, const FileIdentity&
   if (error) return std::nullopt;
   const LockedFile file(target, patience);
   if (!file.IsLocked()) return std::nullopt;
-  // Whoever has set it aside in the meantime held this lock, so the path is looked at under it.
+  // Another process may have set it aside under this lock, so the path is checked under it.
   if (LookAtFile(target).Identity != identity) return std::nullopt;
   std::optional<std::string> name = FreeName(target);
   if (!name) return std::nullopt;

@@ -12,11 +12,11 @@ using Kind = TreeTransaction::Kind;
 constexpr unsigned kUserFolderRights = 0700;
 constexpr unsigned kMachineFolderRights = 0755;
 
-/// A damaged file is set aside, and a new one begun; and once more, if another process has done the
-/// same in between.
+/// A damaged file is set aside, and a new one created; a third attempt follows if another process
+/// has done the same in between.
 constexpr int kAttempts = 3;
 
-/// Of the processor, for a look or a change while the tree rests.
+/// Processor time for a look or change during `TreePatience::Rest`.
 constexpr std::chrono::milliseconds kWorkAtRest{100};
 
 bool IsFault(TreeOutcome outcome) { return outcome == Refused || outcome == Damaged; }
@@ -106,14 +106,14 @@ TreeTransaction& SqliteTree::MachineOfBulk() {
   return *bulk_->Machine;
 }
 
-/// A transaction for a single value.
+/// Runs a transaction for a single value.
 TreeOutcome SqliteTree::Once(const TreePlace& place, Kind kind, const Deed& deed) {
   if (!bulk_ && kind == Kind::Look && &place == &user_) {
     const TreeOutcome outcome = Try(look_, place, kind, deed);
     EndLook(outcome);
     return outcome;
   }
-  if (bulk_) bulk_->Machine.reset();  // it would be in the way of a change
+  if (bulk_) bulk_->Machine.reset();  // its lock would block a change
   TreeOutcome outcome = Refused;
   for (int i = 0; i < kAttempts; ++i) {
     TreeTransaction transaction;
@@ -132,7 +132,7 @@ TreeOutcome SqliteTree::Try(TreeTransaction& transaction, const TreePlace& place
   return outcome;
 }
 
-/// After a fault the file is opened anew for the next look.
+/// After a failure the file is opened again for the next look.
 void SqliteTree::EndLook(TreeOutcome outcome) {
   if (IsFault(outcome)) look_.Close();
   look_.EndLook();
@@ -144,8 +144,8 @@ TreeOutcome SqliteTree::InBulk(const Deed& deed) {
   return outcome;
 }
 
-/// Ends a transaction that has found its file damaged on the way to store something, and sets the
-/// file aside. False: another try would meet the same.
+/// Ends a change that has found its file damaged, and sets the file aside. False if that did not
+/// happen, so that another attempt would fail in the same way.
 bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
                                    TreeTransaction& transaction) {
   if (outcome != Damaged || transaction.Is() != Kind::Make) return false;
@@ -167,7 +167,8 @@ TreeLimits SqliteTree::LimitsFor(Kind kind) const {
   return {kind == Kind::Look ? patience_.Look : patience_.Change, patience_.Work, giveUp_};
 }
 
-/// A change that has waited in vain is repeated by its user, who is told.
+/// Complains about a look that timed out, and starts the rest. A change that found the file locked
+/// is reported by its caller to the user, who can repeat it.
 void SqliteTree::NoteTrouble(const TreePlace& place, const TreeTransaction& transaction) {
   const TreeTrouble trouble = transaction.Trouble();
   const bool locked = trouble == TreeTrouble::Locked && transaction.Is() == Kind::Look;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kFileInFolder = "/Tessellane/settings.db";
 constexpr const char* kMachineFolder = "/etc/xdg";
-constexpr std::size_t kUserEntryRoom = 16384;  // bytes, for all texts of a user's entry
+constexpr std::size_t kUserEntryRoom = 16384;  // bytes, for all texts of a passwd entry
 
 bool IsAbsolute(const std::string& path) { return path.starts_with('/'); }
 
@@ -29,7 +29,7 @@ std::string HomeInUserDatabase() {
   return found && found->pw_dir ? found->pw_dir : std::string();
 }
 
-/// Relative paths would mean something else in each folder that the program is started from.
+/// Ignores relative paths, whose meaning depends on the current folder.
 std::string ConfigFolder(const Surroundings& surroundings) {
   const std::string named = surroundings.Environment("XDG_CONFIG_HOME").value_or("");
   if (IsAbsolute(named)) return named;

@@ -11,9 +11,9 @@ namespace {
 
 using enum TreeOutcome;
 
-/// NOCASE folds the letters of ASCII and no others. SQLite keeps this text in the file. A table or
-/// view with any other text is not ours, so if this one ever changes its name has to change as
-/// well.
+/// NOCASE ignores the case of ASCII letters only. SQLite stores this text in the file. A table or
+/// view with another text is treated as foreign, so if this text changes, the name of the table
+/// must change as well.
 constexpr const char* kMakeTable =
     "CREATE TABLE tree(path TEXT NOT NULL COLLATE NOCASE, name TEXT NOT NULL COLLATE NOCASE, "
     "text TEXT NOT NULL, PRIMARY KEY(path, name)) WITHOUT ROWID";
@@ -23,20 +23,20 @@ constexpr const char* kGet = "SELECT text FROM tree WHERE path = ?1 AND name = ?
 constexpr const char* kPut =
     "INSERT INTO tree VALUES (?1, ?2, ?3) "
     "ON CONFLICT (path, name) DO UPDATE SET text = excluded.text";
-/// "]" comes next after "\": what lies between is all that begins with the path and a "\".
+/// "]" is the character after "\": the range contains everything that begins with the path and "\".
 constexpr const char* kRemove =
     "DELETE FROM tree WHERE path = ?1 OR (path > ?1 || '\\' AND path < ?1 || ']')";
 
-/// No memory map, so that a file that becomes shorter meanwhile is an error and no signal; nothing
-/// in other folders; and cells that are checked before they are believed.
+/// No memory map, so that a file that is truncated meanwhile gives an error and not a signal; no
+/// files in other folders; and validation of cells before they are used.
 constexpr const char* kCareful =
     "PRAGMA mmap_size = 0; PRAGMA temp_store = MEMORY; PRAGMA cell_size_check = ON;";
-/// A journal whose deletion is lost with the power undoes what was saved: EXTRA writes the folder
-/// out, too, which costs some 4 ms more than FULL.
+/// If the deletion of a journal is lost by a power failure, the saved change is rolled back. EXTRA
+/// flushes the folder as well, which costs about 4 ms more than FULL.
 constexpr const char* kDurable = "PRAGMA synchronous = EXTRA; PRAGMA journal_mode = DELETE;";
 
-/// Far more than a tree of this program needs, and small enough that a file made by an enemy cannot
-/// fill the memory.
+/// Far more than this program's tree needs, and low enough that a malicious file cannot exhaust the
+/// memory.
 constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_LENGTH, 1 << 20},    {SQLITE_LIMIT_SQL_LENGTH, 10'000},
     {SQLITE_LIMIT_COLUMN, 32},         {SQLITE_LIMIT_EXPR_DEPTH, 20},
@@ -44,12 +44,13 @@ constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_FUNCTION_ARG, 8},    {SQLITE_LIMIT_ATTACHED, 0},
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
 };
-constexpr int kStepsAtOnce = 1000;  // of SQLite's machine; a value read or written takes some 30
+constexpr int kStepsAtOnce =
+    1000;  // of SQLite's virtual machine; reading or writing a value takes about 30
 
 constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
 constexpr int kMostPages = 10'000;  // that are copied; a full tree has some hundred
 
-constexpr int kLongestPause = 10;  // ms between two tries for a lock
+constexpr int kLongestPause = 10;  // ms between two attempts to lock
 
 TreeOutcome OutcomeOf(int code) {
   switch (code & 0xFF) {
@@ -62,17 +63,17 @@ TreeOutcome OutcomeOf(int code) {
   }
 }
 
-/// In SQLite's comparison without regard to case a NUL ends the text: names that differ after one
-/// would be the same.
+/// SQLite's comparison without regard to case stops at a NUL: names that differ after it would be
+/// equal.
 bool IsKey(std::string_view text) { return text.find('\0') == std::string_view::npos; }
 
-/// The text must live until the statement has run. A null pointer would be bound as no value.
+/// The text must live until the statement has run. A null pointer would be bound as NULL.
 bool Bind(sqlite3_stmt* statement, int place, std::string_view text) {
   return sqlite3_bind_text64(statement, place, text.empty() ? "" : text.data(), text.size(),
                              SQLITE_STATIC, SQLITE_UTF8) == SQLITE_OK;
 }
 
-/// The bytes of a column of the present row; nothing where it holds no value.
+/// The bytes of a column of the current row; nullopt if it is NULL.
 std::optional<std::string_view> Column(sqlite3_stmt* statement) {
   const unsigned char* const text = sqlite3_column_text(statement, 0);
   if (!text) return std::nullopt;
@@ -80,7 +81,7 @@ std::optional<std::string_view> Column(sqlite3_stmt* statement) {
                           static_cast<std::size_t>(sqlite3_column_bytes(statement, 0)));
 }
 
-/// Nothing that a file brings with it is run.
+/// Sets the limits, and disables everything in a file that could run code.
 void Distrust(sqlite3* db) {
   for (const auto& [limit, value] : kLimits) sqlite3_limit(db, limit, value);
   const std::pair<int, int> switches[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
@@ -90,7 +91,7 @@ void Distrust(sqlite3* db) {
   for (const auto& [which, on] : switches) sqlite3_db_config(db, which, on, nullptr);
 }
 
-/// Whether the whole database is sound.
+/// Checks the integrity of the whole database.
 TreeOutcome Examine(sqlite3* db) {
   sqlite3_stmt* check = nullptr;
   int code = sqlite3_prepare_v2(db, "PRAGMA integrity_check(1)", -1, &check, nullptr);
@@ -106,8 +107,8 @@ void TreeTransaction::Finalize::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
 }
 
-/// SQLite's own waiting pauses for up to a tenth of a second, in which a process that saves over
-/// and over would always come first.
+/// SQLite's own busy handler sleeps for up to a tenth of a second, during which a process that
+/// saves repeatedly would always win.
 int TreeTransaction::WaitForLock(void* self, int tries) {
   auto& transaction = *static_cast<TreeTransaction*>(self);
   const TreeLimits& limits = transaction.limits_;
@@ -129,7 +130,7 @@ int TreeTransaction::StopIfEndless(void* self) {
   return static_cast<TreeTransaction*>(self)->IsExhausted() ? 1 : 0;
 }
 
-/// Time of the processor, so that neither a busy machine nor a sleeping one makes a file endless.
+/// Uses processor time, so that neither a busy nor a suspended machine counts as a slow file.
 bool TreeTransaction::IsExhausted() {
   const auto worked = static_cast<double>(worked_ + std::clock() - runningSince_);
   if (worked / CLOCKS_PER_SEC <= std::chrono::duration<double>(limits_.Work).count()) return false;
@@ -137,7 +138,7 @@ bool TreeTransaction::IsExhausted() {
   return true;
 }
 
-/// Most statements are too short to be stopped by the handler. Thousands of them are stopped here.
+/// Most statements are too short for the progress handler; thousands of them are stopped here.
 int TreeTransaction::Run(const std::function<int()>& statement) {
   runningSince_ = std::clock();
   if (IsExhausted()) return SQLITE_INTERRUPT;
@@ -148,7 +149,7 @@ int TreeTransaction::Run(const std::function<int()>& statement) {
 
 TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits limits) {
   using State = FoundFile::State;
-  // SQLite understands relative names otherwise: "" and ":memory:" are no files.
+  // SQLite treats some relative names specially: "" and ":memory:" are not files.
   const bool hasPlace = place.File.starts_with('/');
   const FoundFile found = hasPlace ? LookAtFile(place.File) : FoundFile{State::Missing, {}};
   const bool isOpen = db_ && kind == Kind::Look && kind_ == Kind::Look &&
@@ -170,8 +171,8 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits
   } else if (!MakeFolders(place.File.substr(0, place.File.find_last_of('/')), place.FolderRights)) {
     return Refused;
   }
-  // SQLite makes a journal only where something changes. To store what is there already shall fail
-  // as well: by that the program finds out whether it can store at all.
+  // SQLite creates a journal only if something changes. Storing the present value again must fail
+  // as well: the program uses that to find out whether it can store anything.
   if (kind != Kind::Look && !CanMakeFilesBeside(place.File)) return Refused;
   TreeOutcome outcome = isOpen ? Done : Open(place.File);
   if (outcome == Done) outcome = StartTransaction();
@@ -181,8 +182,8 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits
   return outcome;
 }
 
-/// Also for a look the file is opened for writing where that is allowed: a save that was killed is
-/// undone by whoever opens the file next.
+/// A look, too, opens the file for writing where that is allowed: the process that opens the file
+/// next rolls back the changes of a process that was killed.
 TreeOutcome TreeTransaction::Open(const std::string& file) {
   const int flags = SQLITE_OPEN_READWRITE | (kind_ == Kind::Make ? SQLITE_OPEN_CREATE : 0) |
                     SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_PRIVATECACHE;
@@ -201,7 +202,7 @@ TreeOutcome TreeTransaction::StartTransaction() {
   return outcome == Done ? Execute("BEGIN IMMEDIATE") : outcome;
 }
 
-/// The first look into the file: from here on its state is held.
+/// The first read from the file, which begins the snapshot.
 TreeOutcome TreeTransaction::FindTable() {
   Statement find;
   if (const TreeOutcome outcome = Prepare(find, kFindTable); outcome != Done) return outcome;
@@ -211,8 +212,8 @@ TreeOutcome TreeTransaction::FindTable() {
   return OutcomeOf(code);
 }
 
-/// A damaged file may take a value and not find it again, or lose others over it. So nothing is
-/// written before all of the file has been looked at; it is small.
+/// A damaged file may accept a value and lose it, or lose others. So the whole file is checked
+/// before a write; it is small.
 TreeOutcome TreeTransaction::Check() {
   if (!hasTable_) return Done;
   TreeOutcome outcome = Refused;
@@ -223,10 +224,10 @@ TreeOutcome TreeTransaction::Check() {
   return outcome == Damaged ? CheckCopy() : outcome;
 }
 
-/// The examination takes a page that the disk does not give for a damaged one. In memory it can
-/// only find what is really wrong with the contents.
+/// The integrity check reports a page that cannot be read as damage. In memory it only finds damage
+/// of the contents.
 TreeOutcome TreeTransaction::CheckCopy() {
-  Execute("ROLLBACK");  // nothing has been changed, and a copy is not made of what is being changed
+  Execute("ROLLBACK");  // nothing has been changed yet, and a backup needs an idle connection
   sqlite3* copy = nullptr;
   TreeOutcome outcome = OutcomeOf(sqlite3_open_v2(":memory:", &copy, kCopyFlags, nullptr));
   sqlite3_backup* const backup =
@@ -267,7 +268,7 @@ TreeOutcome TreeTransaction::Get(std::string_view path, std::string_view name, s
       outcome = Nothing;
     }
   } else if (code == SQLITE_DONE || (code & 0xFF) == SQLITE_TOOBIG) {
-    outcome = Nothing;  // so long a text was never stored by us
+    outcome = Nothing;  // the program never stores texts of this length
   }
   sqlite3_reset(get_.get());
   return outcome;
@@ -307,14 +308,14 @@ TreeOutcome TreeTransaction::Commit() {
 
 void TreeTransaction::Close() {
   for (Statement* statement : {&get_, &put_, &remove_}) statement->reset();
-  sqlite3_close(db_);  // takes back what is pending
+  sqlite3_close(db_);  // rolls back what is not committed
   db_ = nullptr;
   hasTable_ = false;
   withoutFile_ = Refused;
 }
 
-/// The pages that were read are not kept: the next look may be hours away, and what others write
-/// without SQLite would not be seen.
+/// Drops the page cache: the next look may be hours later, and changes made without SQLite would
+/// not be noticed.
 void TreeTransaction::EndLook() {
   sqlite3_reset(get_.get());
   const bool isSound = db_ && trouble_ == TreeTrouble::None;
@@ -322,8 +323,8 @@ void TreeTransaction::EndLook() {
   sqlite3_db_release_memory(db_);
 }
 
-/// Whether a stranger has switched the file to a log. It cannot be switched back, which every
-/// change does, while anybody has it open.
+/// Whether another program has switched the file to a write-ahead log. A change switches it back,
+/// which is not possible while any process has it open.
 bool TreeTransaction::HasLog() const {
   const char* const log = sqlite3_filename_wal(sqlite3_db_filename(db_, "main"));
   return LookAtFile(log).Is != FoundFile::State::Missing;
@@ -334,8 +335,8 @@ TreeOutcome TreeTransaction::MayChange() const {
   return kind_ != Kind::Look && IsRunning() ? Done : Refused;
 }
 
-/// Some faults, such as a full disk, make SQLite end the whole transaction. What came after would
-/// be stored by itself.
+/// Some errors, such as a full disk, make SQLite roll back the whole transaction. Later statements
+/// would then be committed one by one.
 bool TreeTransaction::IsRunning() const { return sqlite3_get_autocommit(db_) == 0; }
 
 TreeOutcome TreeTransaction::Prepare(Statement& statement, const char* sql) {
