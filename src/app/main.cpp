@@ -63,7 +63,7 @@ void ShowEffect(ProcessState& process, RunMode mode, StartActions& windows) {
   ShowEffectWindow(process, windows);
 }
 
-/// Lives and dies with the saver that started it, and looks for no other one.
+/// Ends with the saver that started it, and does not search for running savers.
 void RunCompanion(ProcessState& process, StartActions& windows) {
   const OwnerWatch owner([&] { process.QuitApp = process.StopRun = true; });
   ShowEffect(process, RunMode::ScreenSaver, windows);
@@ -89,21 +89,21 @@ std::string WrongHostWindow() {
          "its own window";
 }
 
-/// Finds the window of a host and the window system that it is on.
+/// Finds a host's window, and selects the window system that it is on.
 Fault PrepareForHost(const StartOptions& options) {
   if (options.AskedFor == Role::Guest) {
     if (!WindowOfHost(options)) return WrongHostWindow();
     if (ChooseForeignWindowSystem()) return std::nullopt;
     return "there is no X server to reach the window of the host (DISPLAY names none that answers)";
   }
-  // Whether it comes to a preview is decided later, and so is what happens without an X server.
+  // Whether a preview is shown is decided later, and so is the case without an X server.
   if (options.AskedFor == Role::FromCommandLine && AsksForPreview(options.CommandLine)) {
     ChooseForeignWindowSystem();
   }
   return std::nullopt;
 }
 
-/// A box that nobody sees would be waited for without end.
+/// Reads the template if a message box would not be visible: it would wait for ever for its answer.
 Fault CheckTemplate(const StartOptions& options) {
   if (options.Template.empty() || MessageBoxesAreSeen()) return std::nullopt;
   DiskFiles disk;
@@ -111,8 +111,8 @@ Fault CheckTemplate(const StartOptions& options) {
   return fault ? "cannot read " + Quoted(options.Template) + ": " + *fault : fault;
 }
 
-/// Each of them waits in a loop of its own, the last one opened inside the others'. What is closed
-/// may take others with it.
+/// Each dialog runs an event loop nested in that of the dialog opened before it. Closing one may
+/// close others.
 void CloseDialogs() {
   QList<QPointer<QWidget>> windows;
   for (QWidget* window : QApplication::topLevelWidgets()) windows.prepend(window);
@@ -121,7 +121,7 @@ void CloseDialogs() {
   }
 }
 
-/// Opens the window that was asked for, and returns when it is gone.
+/// Opens the window that was asked for, and returns when it has closed.
 void Run(ProcessState& process, const StartOptions& options, AppWindows& windows) {
   if (options.Companion) return RunCompanion(process, windows);
   switch (options.AskedFor) {
@@ -139,8 +139,8 @@ int RunOnDesktop(char* program, const StartOptions& options) {
                 kExitCannotDo);
   }
   StopSignals stopSignals;
-  // The look of the user's desktop more than doubles the memory and the time of the start on some
-  // of them, and a window full of stars shows nothing of it.
+  // On some desktops the desktop's style more than doubles the memory and time of a start, and a
+  // window full of stars does not show it.
   QGuiApplication::setDesktopSettingsAware(ShowsDialogs(options));
   const Toolkit toolkit(program);
   QtPump pump;

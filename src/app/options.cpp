@@ -11,7 +11,7 @@
 namespace starfolds {
 namespace {
 
-constexpr int kMostScreens = 1000;  // more than any desktop has
+constexpr int kMostScreens = 1000;  // above any real number
 constexpr std::string_view kSwitchLetters = "sScCpPaA";
 
 Fault ReadHostWindow(StartOptions& to, std::string_view text) {
@@ -28,7 +28,7 @@ Fault ReadScreen(StartOptions& to, std::string_view text) {
   return TakeNumber(to.Screen, 1, kMostScreens)(text);
 }
 
-/// A theme is a set of changes; those of options behind it replace them.
+/// A theme is a list of changes; those of later options override them.
 Fault ReadTheme(StartOptions& to, std::string_view text) {
   int theme = 0;
   if (Fault fault = TakeNumber(theme, 1, kThemeCount)(text)) return fault;
@@ -40,8 +40,8 @@ Fault ReadTheme(StartOptions& to, std::string_view text) {
   return std::nullopt;
 }
 
-/// The program's options, which store what is given in `to`. The dialogs of saver hosts tell
-/// options apart by their first word, so `--set` alone would not do for them.
+/// The program's options, which store their values in `to`. Settings dialogs of saver hosts tell
+/// options apart by the name, so `--set` alone is not sufficient.
 OptionTable TableFor(StartOptions& to) {
   const auto asksFor = [&](Role role) { return TakeFixed(to.AskedFor, role); };
   const auto sets = [&](const char* setting, const char* fixed = "") {
@@ -90,13 +90,13 @@ OptionTable TableFor(StartOptions& to) {
       Heading("Information"),
       {"-h,--help", "", "print this text", asksFor(Role::Help), true},
       {"-V,--version", "", "print the version", asksFor(Role::Version), true},
-      // By which a saver on several screens starts its companions.
+      // Used by a saver on several screens to start its companions.
       Heading(""),
       {"--companion", "", "", TakeFixed(to.Companion, true)},
   };
 }
 
-/// Without these checks such options would be ignored silently.
+/// Reports combinations of options that would otherwise have no effect.
 Fault CheckTogether(const StartOptions& options) {
   const Role role = options.AskedFor;
   const bool runs = role == Role::Saver || role == Role::Window || role == Role::Guest;
@@ -116,15 +116,15 @@ Fault CheckTogether(const StartOptions& options) {
   return std::nullopt;
 }
 
-/// "/S", "/P:123", "/Cxyz" and so on, and no path such as "/srv/rings.sfd".
+/// "/S", "/P:123", "/Cxyz" and so on, but not a path such as "/srv/rings.sfd".
 bool IsSystemSwitch(std::string_view argument) {
   return argument.size() >= 2 && argument[0] == '/' &&
          kSwitchLetters.find(argument[1]) != std::string_view::npos &&
          argument.find('/', 1) == std::string_view::npos;
 }
 
-/// "-c" and the like have never been switches of the system: such a command line runs the saver, as
-/// any other does that says nothing. A lone template may have a name that begins with a hyphen.
+/// "-c" and the like were never switches of the system: such a command line runs the saver, like
+/// any other unknown one. The name of a lone template may begin with a hyphen.
 bool LooksLikeOption(std::string_view argument) {
   if (argument.starts_with("--")) return true;
   if (argument.size() < 2 || argument[0] != '-' || argument.ends_with(".sfd")) return false;

@@ -16,8 +16,9 @@ std::optional<ScreenPlace> PlaceOfSaver(const StartOptions& options) {
   return place;
 }
 
-/// Whatever switch the system gave, a companion is a saver. Of options that are given twice the
-/// last one counts; nothing behind a "--" would be an option. A seed is for one universe.
+/// A companion is a saver, whatever switch the system passed. Its options are appended, because the
+/// last of several values counts, and a "--" would make them arguments. Each screen has its own
+/// seed.
 std::vector<std::string> CompanionArguments(const StartOptions& options, int screen) {
   std::vector<std::string> arguments = options.Given;
   std::erase(arguments, "--");

@@ -20,11 +20,11 @@ struct Message {
   QString Category, Text;
 };
 
-/// What the toolkit has said while it starts. Its message handler takes no other context.
+/// Qt's messages during its start. The message handler has no context argument, hence the global.
 std::vector<Message> messages;
 
-/// The first message of the platform plug-ins says what is wrong; the fatal one, with which the
-/// toolkit is about to abort, only suggests to install it anew.
+/// The first message of the platform plug-ins names the cause; the fatal message, after which Qt
+/// aborts, only suggests reinstalling.
 [[noreturn]] void EndProcess(const QString& fatal) {
   QString reason = fatal;
   for (const Message& message : messages) {
@@ -41,7 +41,7 @@ void CollectMessage(QtMsgType type, const QMessageLogContext& context, const QSt
   messages.push_back({type, context.category, text});
 }
 
-/// Hands on what has been collected, now that the start did not fail.
+/// Passes the collected messages on after a successful start.
 void ReplayMessages() {
   qInstallMessageHandler(nullptr);
   for (const auto& [type, category, text] : messages) {

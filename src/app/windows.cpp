@@ -30,7 +30,7 @@ namespace {
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
 
-/// Where the user's settings are stored.
+/// The folder of the user's stored settings.
 std::string UserFolder() {
   return std::filesystem::path(OwnTreeFiles().User).parent_path().string();
 }
@@ -50,8 +50,8 @@ bool AppWindows::FileExists(const std::string& path) {
   return std::filesystem::exists(path, ignored);
 }
 
-/// After a template that could not be loaded the effect would show something else than was asked
-/// for.
+/// Shows nothing after a template could not be loaded, because the effect would not be the
+/// requested one.
 void AppWindows::ShowFrmSaver() {
   if (exitCode_ != 0) return;
   const auto place = PlaceOfSaver(options_);
@@ -69,14 +69,14 @@ void AppWindows::ShowFrmAppExe() {
   if (options_.Size) shape.Size = QSize(options_.Size->Width, options_.Size->Height);
   shape.Framed = options_.AskedFor == Role::Window;
   const auto showProperties = [this](QWindow& owner, bool help) {
-    // When the dialog is there, or the help would open below it.
+    // After the dialog is shown, because otherwise the help would open below it.
     if (help) QTimer::singleShot(0, [this] { help_.ShowTopic(help::kWindows); });
     RunFrmProps(&owner);
   };
   FrmAppExe(process_, seed_, showProperties, shape).Activate();
 }
 
-/// The safety copy of the settings goes beside the program, or beside the user's own settings.
+/// The safety copy of the settings goes beside the program, or else beside the user's settings.
 void AppWindows::RunFrmProps(QWindow* owner) {
   DiskFiles disk;
   const auto showDiagnostics = [&](QWidget& over) {
@@ -93,7 +93,7 @@ void AppWindows::RunFrmProps(QWindow* owner) {
                      owner, STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
                      ChangesInWords(options_.Changes)});
   frmProps.ShowModal();
-  process_.Tree = &ofRun_;  // a run that had to do without it may be able to read it by now
+  process_.Tree = &ofRun_;  // a run that could not read the tree may be able to do so now
 }
 
 void AppWindows::LoadFrmPreview() {
@@ -107,14 +107,14 @@ void AppWindows::LoadFrmPreview() {
 void AppWindows::ShowInHost(Long hostWindow) {
   process_.Mode = RunMode::ScreenSaver;
   if (GuestWindow(process_, seed_, hostWindow).Run(false)) return;
-  // A host that goes while its saver starts is nothing out of the ordinary; a number that a person
-  // or a script has given is wrong.
+  // A host that ends while its saver starts is not an error; a number from a user or a script that
+  // names no window is.
   Fail("there is no window " + std::to_string(hostWindow) + " to show anything in",
        options_.HostWindow ? kExitCannotDo : 0);
 }
 
-/// A file that cannot be read is most likely a typing error, and a universe that cannot be stored
-/// would not be the one that is shown: nothing runs then.
+/// Runs nothing after a failure: a file that cannot be read is most likely a typing error, and if
+/// the universe cannot be stored, another one would be shown.
 void AppWindows::LoadTemplate(const std::string& path) {
   DiskFiles disk;
   TemplateFile file(disk);
@@ -130,7 +130,7 @@ void AppWindows::LoadTemplate(const std::string& path) {
   Print(ImportNote(Harmless(path), done));
 }
 
-/// Who clicked on a file has no terminal to read a complaint from.
+/// Reports a failure in a message box, because a user who clicked on a file has no terminal.
 bool AppWindows::BeginWithTemplate(const std::string& path, KeyValueTree& tree) {
   DiskFiles disk;
   TemplateFile file(disk);

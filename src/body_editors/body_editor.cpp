@@ -51,7 +51,7 @@ void BodyEditor::AddPreviewAndButtons(QPushButton* cmdClear) {
   bodyBoxes_.front().Box->setFocus();
 }
 
-/// A window that is fixed keeps the size that it has.
+/// If the window has a fixed size, it keeps its current size.
 QMenuBar* BodyEditor::MakeMenuBar() {
   auto* bar = new QMenuBar;
   QAction* mnuResize = bar->addMenu(tr("&Window"))->addAction(tr("Window can be Resized"));
@@ -127,7 +127,7 @@ void BodyEditor::keyPressEvent(QKeyEvent* event) {
   PlacedDialog::keyPressEvent(event);
 }
 
-/// The picture follows the window: a run measures its surface once, so another one begins.
+/// A run takes the size of its surface once, so a resized picture needs another run.
 bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::Resize) {
     resized_ = true;
@@ -140,14 +140,14 @@ bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
   return PlacedDialog::eventFilter(object, event);
 }
 
-/// What is wrong is told, and what was right is in the record all the same.
+/// Reports invalid values; the valid ones are stored in the record in any case.
 bool BodyEditor::GatherIntoRecord() {
   const std::string wrong = Gather(Record());
   if (!wrong.empty()) model_.Inform(wrong);
   return wrong.empty();
 }
 
-/// The records are put back when a run ends, so the run ends first.
+/// Ends the preview first, because the records are restored when a run ends.
 void BodyEditor::Accept() {
   acceptsAfterRun_ = preview_.IsOn();
   if (acceptsAfterRun_) return preview_.Stop();
@@ -158,8 +158,8 @@ void BodyEditor::Accept() {
   accept();
 }
 
-/// The run lives inside the click that has started it; the click that stops it comes through the
-/// run's pump.
+/// The run is called by the handler of the click that starts it; the click that stops it arrives
+/// through the run's pump.
 void BodyEditor::TogglePreview() {
   if (preview_.IsOn()) return preview_.Stop();
   StoreBodyBoxes(Record());
@@ -180,13 +180,13 @@ void BodyEditor::RunPreview() {
   const UniverseSettings universe = props_.UniverseOnDialog();
   do {
     resized_ = false;
-    process.Universe = universe;  // some of it counts for a single body, too
+    process.Universe = universe;  // some of it affects the run of a single body as well
     PreviewEditedBody(process, picPreview_->BeginRun(), PreviewIn(universe, editBody_, false),
                       seed_());
   } while (resized_ && !process.StopRun);
 }
 
-/// The body as it stands in the editor, until a preview does it better.
+/// Shows the body with the editor's values, until a preview runs.
 void BodyEditor::ShowStill() {
   if (preview_.IsOn()) return Touched();
   StarfoldProfile body = Record();

@@ -5,7 +5,7 @@
 namespace starfolds {
 namespace {
 
-constexpr std::size_t kRowWidth = 60;  // with the comma at its end
+constexpr std::size_t kRowWidth = 60;  // including the comma at the end
 
 std::string Padded(std::string row) {
   if (row.size() < kRowWidth - 1) row.resize(kRowWidth - 1, ' ');

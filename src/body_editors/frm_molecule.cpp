@@ -18,7 +18,7 @@ namespace starfolds {
 namespace {
 
 constexpr QSize kSwatchSize{44, 20};
-constexpr int kElementStrength = 127;  // of each channel of an element's own colour
+constexpr int kElementStrength = 127;  // maximum of each channel of an element's own colour
 constexpr int kListLines = 11;
 
 /// The boxes of `txtProps`, with the labels that they have for shells.
@@ -35,7 +35,7 @@ constexpr int kPropX = 0;
 constexpr int kPropY = 1;
 constexpr int kPropZ = 2;
 constexpr int kPropSymmetry = 4;
-// The labels of a lattice where they are others.
+// Labels for lattices, if different.
 const char kPointsPerEdge[] = "Points per\nEdge (1-99)";
 const char kAtomOffset[] = "Atom Offset";
 constexpr NumberRange kEdgeRange{NumberKind::AsInteger, 1, 99};
@@ -70,7 +70,7 @@ void ShowColour(QLabel* swatch, Colour colour) {
   ShowSample(swatch, image);
 }
 
-/// `StarColorAt`, on the wheel of the profile.
+/// `StarColorAt`: a colour of the profile's hue wheel.
 Colour StarColorAt(const StarfoldProfile& profile, int hue) {
   std::array<Colour, 361> wheel{};
   BuildHueWheel(wheel, profile);
@@ -103,7 +103,7 @@ FrmMolecule::FrmMolecule(const BodyEditing& editing, QWidget* parent)
 
 // --- Its parts ---
 
-/// The heading stands over the columns: both have one font and begin at one place.
+/// The heading is aligned with the columns: it has the same font and indentation.
 QLayout* FrmMolecule::MakeList() {
   lstElements_ = new QListWidget;
   lstElements_->setObjectName("lstElements");
@@ -125,7 +125,7 @@ QLayout* FrmMolecule::MakeList() {
   heading->setIndent(margin);
   heading->setTextFormat(Qt::PlainText);
 
-  // A click shows a row also when it is the current one already.
+  // A click also shows a row that is the current one already.
   connect(lstElements_, &QListWidget::currentRowChanged, this, &FrmMolecule::ShowRow);
   connect(lstElements_, &QListWidget::itemClicked, this,
           [this] { ShowRow(lstElements_->currentRow()); });
@@ -193,7 +193,8 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     box->SetBlankAllowed();
     lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
-    lblProps_[index]->setMinimumWidth(lblProps_[index]->sizeHint().width());  // or boxes jump
+    lblProps_[index]->setMinimumWidth(
+        lblProps_[index]->sizeHint().width());  // keeps the boxes in place when the label changes
     txtProps_.push_back({box, field});
   }
 }
@@ -229,7 +230,7 @@ void FrmMolecule::ShowElement(int position) {
   ShowColour(picDispColor_, StarColorAt(Record(), element.Color + Record().Starfold_HueStart));
 }
 
-/// A lattice has points per edge in the place of a location; a single point has no symmetry.
+/// A lattice has points per edge in place of a location; a single point has no symmetry.
 void FrmMolecule::ShowStructure(int structure) {
   const bool lattice = IsLattice(static_cast<Integer>(structure));
   lblProps_[kPropX]->setText(tr(lattice ? kPointsPerEdge : kProps[kPropX].Label));
@@ -314,7 +315,7 @@ void FrmMolecule::AddRow() {
   cboElement_->setCurrentIndex(-1);
 }
 
-/// The element stays chosen, so that a number can be tried again and again.
+/// The element stays selected, so that several values can be tried.
 void FrmMolecule::UpdateRow(int row) {
   lstElements_->item(row)->setText(Shown(FormatAtomRow(AtomInControls())));
 }

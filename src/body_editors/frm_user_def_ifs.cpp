@@ -11,8 +11,8 @@
 namespace starfolds {
 namespace {
 
-/// A column of the points: the control array, the setting and the two lines of its heading. A row
-/// of a theme has its fields in the same order.
+/// A column of the points: control array, setting, and the two lines of its heading. The fields of
+/// a theme's row are in the same order.
 struct PointColumn {
   const char* Array;
   Setting<IfsPoint> What;

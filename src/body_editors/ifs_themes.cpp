@@ -33,7 +33,7 @@ constexpr ThemeRow kWarpedTetrahedron[] = {{0, 0, 0, 55, 0, 10, 1},
                                            {1000, 0, 0, 55, 1, 20, 1},
                                            {500, 0, 800, 55, 2, 30, 1},
                                            {500, 800, 300, 55, 0, 0, 1}};
-// The second and third once more weigh the two branches against the trunk.
+// The second and third point again, which increases the weight of the branches against the trunk.
 constexpr ThemeRow kRootLikeStructures[] = {{500, 0, 1000, 50, 0, 45, 4},
                                             {0, 0, 0, 50, 2, 60, 1},
                                             {1000, 0, 0, 50, 2, 300, 1},

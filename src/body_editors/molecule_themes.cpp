@@ -8,7 +8,7 @@ constexpr ThemeRow kMethane[] = {{6, 0, 1000, 1000, 1000, 200, 0},
                                  {1, 0, 1000, 775, 700, 75, 0},
                                  {1, 0, 750, 775, 1200, 75, 0},
                                  {1, 0, 1250, 775, 1200, 75, 0}};
-// A cube of carbon in a cube of nitrogen, and two oxygen atoms at each nitrogen.
+// A cube of carbon inside a cube of nitrogen, and two oxygen atoms at each nitrogen.
 constexpr ThemeRow kOctanitrocubane[] = {
     {6, 0, 900, 900, 900, 40, 0},    {6, 0, 900, 900, 1100, 40, 0},
     {6, 0, 900, 1100, 900, 40, 0},   {6, 0, 900, 1100, 1100, 40, 0},
@@ -55,7 +55,7 @@ constexpr ThemeRow kStarPoint[] = {{16, 3, 0, 0, 0, 10, 100}, {11, 3, 0, 0, 0, 2
                                    {7, 5, 0, 0, 0, 20, 1175}, {9, 5, 0, 0, 0, 10, 1250}};
 
 constexpr BodyTheme kThemes[] = {
-    // The description is the next theme's, as it has always been.
+    // Deliberately the description of the next theme, for compatibility.
     {"Methane", "Octanitrocubane.", {1000, 1000, 1000}, {1000, 1500, 750}, kMethane},
     {"Octanitrocubane",
      "Octanitrocubane.",

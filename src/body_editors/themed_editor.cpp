@@ -26,7 +26,7 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
   line->addWidget(lblTheme_, 1);
   Head().addLayout(line);
 
-  // Who chooses a theme once more wants it as it was.
+  // Choosing the current theme again loads it again.
   connect(cboTheme_, &QComboBox::currentIndexChanged, this, &ThemedEditor::ChooseTheme);
   connect(cboTheme_, &QComboBox::activated, this, &ThemedEditor::ChooseTheme);
 }

@@ -18,11 +18,11 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// Long enough to read the line.
+/// Time to read the line.
 constexpr milliseconds kHintTime{7000};
 constexpr milliseconds kForGood{0};
 
-/// A paused window looks this often whether the process is to end.
+/// Interval at which a paused window checks whether the process must end.
 constexpr Long kPauseLookMs = 250;
 
 const char kKeys[] =
@@ -42,7 +42,7 @@ FrmAppExe::FrmAppExe(ProcessState& process, SeedSource seed, ShowPropertiesDialo
       picMessage_(surface_.Window()),
       hints_(surface_.Window()) {
   surface_.SetName("frmAppEXE");
-  // It may have the saver's caption, but a screen saver is to start while it is open.
+  // It may have the saver's caption, but must not keep a saver from starting.
   surface_.HideFromSearch();
 }
 
@@ -56,7 +56,7 @@ void FrmAppExe::Activate() {
   SavePlacement();
 }
 
-/// A process that ends before its window is shown has no placement.
+/// If the process ends before its window is shown, there is no placement to store.
 void FrmAppExe::SavePlacement() {
   if (!framed_ || shape_.IsForThisRun()) return;
   SaveWindowPlacement(PlacedQtWindow(surface_.Window()), *process_.Tree, sections::kGeneral);
@@ -67,7 +67,7 @@ bool FrmAppExe::WantsFrame() const {
   return shape_.Size || shape_.Framed || LoadAdvancedFromRegistry(*process_.Tree).Adv_WinResize;
 }
 
-/// A window that is as the settings want it stays where it is.
+/// Does nothing if the window already has the state that the settings ask for.
 void FrmAppExe::Show() {
   const bool framed = WantsFrame();
   if (framed_ == framed) return;
@@ -92,14 +92,14 @@ void FrmAppExe::ShowFramed() {
   });
 }
 
-/// Once, when the first universe begins.
+/// Shows the key hints once, when the first universe begins.
 void FrmAppExe::ShowKeys() {
   if (!keysShown_) hints_.Show(kKeys, kFewKeys, kHintTime);
   keysShown_ = true;
 }
 
-/// The surface takes the window's size here and nowhere else: a window that is resized meanwhile
-/// gets a surface to match with the next run. What asked for this run has been heard with it.
+/// The surface is resized to the window only here: a window that is resized during a run gets a
+/// matching surface with the next run. Clears the flags that asked for this run.
 void FrmAppExe::AppRun() {
   process_.StopRun = false;
   process_.NewRun = false;
@@ -119,8 +119,8 @@ void FrmAppExe::AppQuit() {
   process_.StopRun = true;
 }
 
-/// Lets the run end at its next frame, whatever stage it is in, and `Activate` start another one. A
-/// run started from here would nest in the pump of the old one and keep its memory for good.
+/// Ends the run at its next frame, in any stage; `Activate` then starts another one. A run started
+/// from here would nest in the pump of the old one and keep its memory until the end.
 void FrmAppExe::BeginAnew() {
   started_ = false;
   process_.StopRun = true;
@@ -133,8 +133,8 @@ void FrmAppExe::ShowProperties(bool help) {
   BeginAnew();
 }
 
-/// The run stands in the pump of its frame until the key is pressed again, or anything ends it. The
-/// dialog that another key opens does not end the pause, but what follows it does.
+/// The run waits in the pump of its frame until the key is pressed again or the run must end. The
+/// dialog that another key opens does not end the pause, but the new run after it does.
 void FrmAppExe::TogglePause() {
   paused_ = !paused_;
   if (!paused_) return hints_.Hide();
@@ -154,7 +154,7 @@ void FrmAppExe::SavePictureOfUniverse() {
   hints_.Show(text.toStdString(), saved.Path.isEmpty() ? "Not saved" : "Saved", kHintTime);
 }
 
-/// Single keys are all taken: what is neither Esc nor F5 opens the properties.
+/// Every key without a modifier has a function: all but Esc and F5 open the properties.
 void FrmAppExe::KeyDown(int key, Qt::KeyboardModifiers modifiers) {
   if (modifiers == Qt::ControlModifier && key == Qt::Key_P) return TogglePause();
   if (modifiers == Qt::ControlModifier && key == Qt::Key_S) return SavePictureOfUniverse();
@@ -167,7 +167,7 @@ void FrmAppExe::KeyDown(int key, Qt::KeyboardModifiers modifiers) {
 
 void FrmAppExe::MouseDown() { ShowProperties(false); }
 
-/// The surface keeps its size until the next run; the lines above it stay in their places.
+/// The surface keeps its size until the next run; message and hints follow the window.
 void FrmAppExe::Resized() {
   if (!running_) return;
   ShowLockMessage(picMessage_, process_.Advanced);

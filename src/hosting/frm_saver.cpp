@@ -27,7 +27,7 @@ FrmSaver::~FrmSaver() {
   process_.Screen.hDCDraw = nullptr;
 }
 
-/// The pointer is hidden from a background, too.
+/// The pointer is hidden for a background as well.
 void FrmSaver::Load() {
   surface_.HidePointer();
   surface_.ShowFullScreen(backG_ ? Stacking::AtBottom : Stacking::OnTop, place_);
@@ -38,7 +38,7 @@ void FrmSaver::Load() {
   } while (outgrown_ && !leaving_ && !process_.QuitApp);
 }
 
-/// A screen that changes its size ends the run, and gets another one that fits.
+/// A screen that is resized ends the run; the next run has the new size.
 void FrmSaver::RunInWindow() {
   if (outgrown_) process_.StopRun = false;
   outgrown_ = false;
@@ -84,8 +84,8 @@ void FrmSaver::Destroyed() {
   process_.StopRun = true;
 }
 
-/// The question for the password runs window events itself. If the answer is wrong the run goes on
-/// in the frame that it is in, unless the system has asked it to end meanwhile.
+/// The password dialog processes window events itself. If the password is wrong, the run continues
+/// in its current frame, unless the process must end.
 void FrmSaver::QueryUnload() {
   if (leaving_) return;
   leaving_ = true;

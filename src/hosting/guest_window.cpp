@@ -37,8 +37,8 @@ void GuestWindow::RunAtHostsSize() {
   RunEffect(process_, surface_, smallPreview_);
 }
 
-/// Lets the run end at its next frame, whatever stage it is in, and `Run` start another one. A run
-/// started from here would nest in the pump of the old one.
+/// Ends the run at its next frame, in any stage; `Run` then starts another one. A run started from
+/// here would nest in the pump of the old one.
 void GuestWindow::HostResized() {
   beginAnew_ = true;
   process_.StopRun = true;
@@ -49,7 +49,7 @@ void GuestWindow::HostGone() {
   process_.StopRun = true;
 }
 
-/// The window takes its new size some time after the host's, and the message stands in its middle.
+/// The window is resized some time after the host's; then the message must be centred again.
 void GuestWindow::Resized() {
   if (!smallPreview_) ShowLockMessage(picMessage_, process_.Advanced);
 }

@@ -5,10 +5,10 @@
 namespace starfolds {
 namespace {
 
-/// Grey, and no larger than the texts of dialogs.
+/// Grey, in about the font size of dialogs.
 const MessageStyle kStyle{"", 11, 0xA0A0A0};
 
-/// Room at both ends of the line, in logical pixels.
+/// Minimum distance of both ends from the window's edges, in logical pixels.
 constexpr int kMargin = 10;
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t kSwitchLength = 2;
 constexpr std::string_view kTemplateExtension = ".SFD";
 
-/// Only the letters that switches and extensions are made of, whatever the locale.
+/// Converts ASCII letters only, independently of the locale.
 std::string UpperCased(std::string_view text) {
   std::string upper(text);
   for (char& c : upper) {
@@ -24,16 +24,15 @@ std::string UpperCased(std::string_view text) {
 
 std::string Switch(std::string_view line) { return UpperCased(line.substr(0, kSwitchLength)); }
 
-/// The window handle behind a switch. What is no number, or fits no handle, gives 0, which names no
-/// window.
+/// The window handle after a switch; 0, which is no window, if it is not a number or does not fit.
 Long HandleBehindSwitch(std::string_view line) {
   return RoundedOr<Long>(0, LenientNumber(line.substr(kSwitchLength)));
 }
 
 bool NamesTemplate(std::string_view line) { return UpperCased(line).ends_with(kTemplateExtension); }
 
-/// A copy of the program that is called ".exe", with no saver of the same name beside it, is a
-/// plain application whatever its command line says.
+/// An executable with the extension ".exe", without a saver of the same name beside it, is a plain
+/// application whatever its command line says.
 bool IsPlainApplication(const StartUp& start, StartActions& actions) {
   std::string path = start.ProgramFolder;
   if (!path.ends_with('/') && !path.ends_with('\\')) path += '/';

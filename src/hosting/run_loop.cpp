@@ -9,10 +9,10 @@
 namespace starfolds {
 namespace {
 
-/// A window manager takes some ten milliseconds to show a window.
+/// A window manager needs about ten milliseconds to show a window.
 constexpr Long kLongestShowMs = 250;
 
-/// From `begin` to `now`, also where the count has wrapped in between.
+/// From `begin` to `now`, correct if the tick count has wrapped in between.
 Long TicksBetween(Long begin, Long now) {
   return static_cast<Long>(static_cast<std::uint32_t>(now) - static_cast<std::uint32_t>(begin));
 }

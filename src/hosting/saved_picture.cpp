@@ -10,7 +10,8 @@
 namespace starfolds {
 namespace {
 
-/// The time as all file systems take it. Of two pictures in a second the second one gets a number.
+/// A file name made of the time, in characters that all file systems accept, with a number if the
+/// name exists already.
 QString NewPath(const QDir& folder) {
   const QString stem = QString::fromUtf8(kProductName.data(), kProductName.size()) + ' ' +
                        QDateTime::currentDateTime().toString("yyyy-MM-dd hh.mm.ss");

@@ -18,9 +18,9 @@ bool SaverInput::MouseMove(double secondsSinceMidnight) {
   return !mouseMoveOff_ && CountMove(secondsSinceMidnight);
 }
 
-/// The saver may stay although it was to be closed (a refused password), so the count goes on past
-/// four: the pointer is ignored then until the ten seconds are over. At midnight the seconds fall
-/// back and the wait only gets longer.
+/// The saver may stay open after the fourth move (wrong password), so counting continues beyond
+/// four: moves are then ignored until the ten seconds are over. At midnight the seconds restart at
+/// 0, which only makes the wait longer.
 bool SaverInput::CountMove(double secondsSinceMidnight) {
   if (moveCount_ == 0 || secondsSinceMidnight - firstMoveTime_ > kSecondsForMoves) {
     AssignRounded(firstMoveTime_, secondsSinceMidnight);

@@ -17,7 +17,7 @@ bool SaverPasswordInUse(KeyValueTree& tree) {
   return LenientNumber(value.value_or("")) != 0;
 }
 
-/// Without the system's dialog nobody could ever leave, so the saver closes.
+/// Returns true if the system's dialog is missing, because otherwise nobody could close the saver.
 bool VerifySaverPassword(ProcessState& process) {
   if (!IsWindows9x(process) || !SaverPasswordInUse(*process.Tree)) return true;
   return process.Platform->VerifyScreenSavePwd().value_or(kRightPassword) == kRightPassword;

@@ -18,7 +18,7 @@ namespace {
 constexpr char kTestValue[] = "RegistryReadWriteTest";
 
 constexpr Colour kCircleColour = 0x00FFFFFF;
-constexpr double kCircleOfBox = 0.4;  // its radius, of the shorter side
+constexpr double kCircleOfBox = 0.4;  // radius, as a share of the shorter side
 
 constexpr std::uint64_t kSeed = 1;  // the same universe on every machine
 
@@ -33,7 +33,7 @@ class StopwatchPump : public Pump {
  public:
   StopwatchPump(ProcessState& process, double seconds) : process_(process), seconds_(seconds) {}
 
-  /// Begins the time.
+  /// Starts the clock.
   void Start() { begin_ = Clock::now(); }
   double Seconds() const { return SecondsSince(begin_); }
   int Frames() const { return frames_; }

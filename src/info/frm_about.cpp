@@ -21,9 +21,9 @@ namespace starfolds {
 namespace {
 
 constexpr QSize kPicture{460, 300};
-constexpr double kNameSize = 1.9;  // of the ordinary letters
+constexpr double kNameSize = 1.9;  // relative to the ordinary font size
 
-// Of each body that is shown.
+// For each of the bodies.
 constexpr Single kZoom = 1.3F;
 constexpr Integer kFrames = 400;
 constexpr Long kStars = 4000;
@@ -117,7 +117,7 @@ QLayout* FrmAbout::MakeButtons() {
   return line;
 }
 
-/// The run needs the box's event loop around it, so that closing the box returns from `exec`.
+/// The run must be called inside the dialog's event loop, so that closing it returns from `exec`.
 void FrmAbout::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!run_.IsOn()) begin_.start();
@@ -159,7 +159,7 @@ void FrmAbout::Run() {
   if (end == PreviewEnd::Close) QDialog::done(result());
 }
 
-/// The body stands still meanwhile: there is one run at a time to look at.
+/// Blocks the body's run meanwhile: only one run is shown at a time.
 void FrmAbout::ShowCredits() { FrmCredits(around_.Seed(), this).exec(); }
 
 }  // namespace starfolds

@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "widgets/dialog_parts.h"
 #include "settings/product.h"
+#include "widgets/dialog_parts.h"
 
 namespace starfolds {
 namespace {
@@ -14,15 +14,15 @@ namespace {
 constexpr QSize kSize{760, 430};
 constexpr int kStars = 12000;
 constexpr int kFrameMs = 16;
-constexpr int kPageFrames = 380;  // about six seconds, of which one and a half to gather
+constexpr int kPageFrames = 380;  // about six seconds, one and a half of them to form the letters
 
-constexpr double kWidthOfSky = 0.86;  // that the longest line may take
+constexpr double kWidthOfSky = 0.86;  // share of the width that the longest line may take
 constexpr int kLargestLetters = 104;
 constexpr int kSmallestLetters = 12;
 constexpr double kLineSpacing = 1.35;
-constexpr int kInk = 110;  // of 255: a pixel that has more of it belongs to a letter
+constexpr int kInk = 110;  // of 255: the minimum coverage of a pixel that belongs to a letter
 
-/// The height of letters with which all lines fit.
+/// The largest font size with which all lines fit.
 int LetterHeight(const QStringList& lines, QSize size, QFont font) {
   font.setBold(true);
   for (int height = kLargestLetters; height > kSmallestLetters; height -= 2) {
@@ -119,7 +119,7 @@ void FrmCredits::keyPressEvent(QKeyEvent* event) {
 
 void FrmCredits::mousePressEvent(QMouseEvent*) { TurnTo(page_ + 1); }
 
-/// A sky as large as the window is now.
+/// Creates a surface of the current size of the window.
 void FrmCredits::BeginSky() {
   layout()->activate();
   sky_ = &picCredits_->BeginRun();

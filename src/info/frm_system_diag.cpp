@@ -10,10 +10,10 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "widgets/dialog_parts.h"
-#include "widgets/surface_box.h"
 #include "settings/product.h"
 #include "settings/registry.h"
+#include "widgets/dialog_parts.h"
+#include "widgets/surface_box.h"
 
 namespace starfolds {
 namespace {
@@ -41,7 +41,7 @@ bool IsWindows() {
   return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
 }
 
-/// What is a problem is red, in a shade that can be read on a light and on a dark field.
+/// Problems are red, in a shade that is readable on light and dark backgrounds.
 void ShowField(QLineEdit& field, const QString& text, bool isProblem) {
   field.setText(text);
   field.setCursorPosition(0);
@@ -106,7 +106,7 @@ void FrmSystemDiag::ShowSystemInfo() {
                      std::string(kProductName));
 }
 
-/// The second that the measuring takes is felt; the pointer tells that something goes on.
+/// Shows a busy pointer, because the measurement takes a second.
 void FrmSystemDiag::CopyReport() {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const QSize size = screen()->size();

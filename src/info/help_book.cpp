@@ -48,14 +48,14 @@ constexpr HelpTopic kTopics[] = {
     {help::kProject, "project.md", 0},
 };
 
-// What a word is worth where it is found.
+// Score of a match by its position.
 constexpr int kInTitle = 100;
 constexpr int kInHeading = 20;
-constexpr int kMostInText = 10;  // one for each place, up to this
+constexpr int kMostInText = 10;  // one per match, up to this
 
 constexpr int kLongestSearch = 200;  // characters
 constexpr int kMostWords = 12;
-constexpr int kLineBefore = 40;  // characters that are shown before a word that was found
+constexpr int kLineBefore = 40;  // characters shown before the first match
 constexpr int kLineLength = 140;
 
 QString WithoutMarkup(QString markdown) {
@@ -74,7 +74,7 @@ bool HoldsAll(const QString& text, const QStringList& words) {
                      [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
-/// The text around the first place of a word, in whole words.
+/// The text around the first match of a word, in whole words.
 QString LineAround(const QString& text, const QString& word) {
   const qsizetype place = text.indexOf(word, 0, Qt::CaseInsensitive);
   qsizetype begin = std::max<qsizetype>(place - kLineBefore, 0);

@@ -16,7 +16,7 @@
 namespace starfolds {
 namespace {
 
-constexpr double kLongestLine = 42;  // in heights of the letters
+constexpr double kLongestLine = 42;  // in line heights
 constexpr int kMargin = 16;
 constexpr int kCellPadding = 5;
 constexpr int kMostMarks = 500;
@@ -30,7 +30,7 @@ QColor Between(const QColor& a, const QColor& b, double share) {
   return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
-/// Some desktops with dark colours keep the blue of links that only white paper bears.
+/// Some dark colour schemes keep a link colour that is readable on white only.
 QColor LinkColour(const QPalette& palette) {
   const QColor link = palette.color(QPalette::Link);
   const bool dark = palette.color(QPalette::Base).lightness() < 128;
@@ -41,7 +41,7 @@ struct Stretch {
   int Begin, Length;
 };
 
-/// Where the parts of a block stand that have such a format.
+/// The ranges of a block that have such a format.
 std::vector<Stretch> StretchesOf(const QTextBlock& block,
                                  bool (*isSuch)(const QTextCharFormat& format)) {
   std::vector<Stretch> found;
@@ -60,7 +60,7 @@ std::vector<Stretch> PicturesOf(const QTextBlock& block) {
   return StretchesOf(block, [](const QTextCharFormat& format) { return format.isImageFormat(); });
 }
 
-/// Null where there is none of that name.
+/// Null if there is no picture of that name.
 QImage ReadPicture(const QString& name) { return QImageReader(kHelpFolder + name).read(); }
 
 }  // namespace
@@ -69,7 +69,8 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   setAccessibleName(tr("Text of the help"));
   setLineWrapMode(QTextEdit::FixedPixelWidth);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pages of all lengths have the same width
+  setVerticalScrollBarPolicy(
+      Qt::ScrollBarAlwaysOn);  // the same text width for pages of all lengths
   changed_.setSingleShot(true);
   changed_.setInterval(0);
   connect(&changed_, &QTimer::timeout, this, &HelpPage::LayOutAnew);
@@ -83,29 +84,29 @@ void HelpPage::ShowMarkdown(const QString& markdown, const QStringList& words) {
   verticalScrollBar()->setValue(0);
   if (first.isNull()) return;
   setTextCursor(first);
-  ScrollTo(first, viewport()->height() / 4);  // with what stands in front of it
+  ScrollTo(first, viewport()->height() / 4);  // with some of the text before it
 }
 
-/// The page is made away from the view, which would lay it out after each change.
+/// The page is built separately from the view, which would lay it out after each change.
 void HelpPage::LayOut() {
-  FitLines();  // pictures are made for its width
+  FitLines();  // before pictures are scaled to the width
   const QPointer<QTextDocument> former(document());
-  auto* const page = new QTextDocument(this);  // asks its parent for pictures
+  auto* const page = new QTextDocument(this);  // loads pictures through its parent
   page->setDefaultFont(font());
   page->setDocumentMargin(kMargin);
   page->setMarkdown(markdown_);
   StyleBlocks(*page);
   StylePictures(*page);
   StyleTables(*page);
-  setExtraSelections({});  // of the former page
+  setExtraSelections({});  // those of the former page
   setDocument(page);
-  delete former;  // the view deletes only the one that it began with
+  delete former;  // the view only deletes its initial document
 }
 
-/// The same page with other colours or lines of another length; what is read stays in view.
+/// Builds the same page with other colours or another line length, and keeps the scroll position.
 void HelpPage::LayOutAnew() {
   const bool isAtTop = verticalScrollBar()->value() == 0;
-  const int reading = cursorForPosition({kMargin, kMargin}).position();  // the edge is not text
+  const int reading = cursorForPosition({kMargin, kMargin}).position();  // the margin is not text
   LayOut();
   MarkWords();
   if (isAtTop) return verticalScrollBar()->setValue(0);
@@ -114,7 +115,7 @@ void HelpPage::LayOutAnew() {
   ScrollTo(cursor, kMargin);
 }
 
-/// Brings a place so far below the top of the view.
+/// Scrolls so that a position is `below` pixels below the top of the view.
 void HelpPage::ScrollTo(const QTextCursor& place, int below) {
   QScrollBar& bar = *verticalScrollBar();
   bar.setValue(bar.value() + cursorRect(place).top() - below);
@@ -125,7 +126,7 @@ void HelpPage::FitLines() {
   setLineWrapColumnOrWidth(std::min(viewport()->width(), static_cast<int>(longest)));
 }
 
-/// Headings stand nearer to what follows them, and links can be read on any paper.
+/// Moves headings closer to the text after them, and gives links a readable colour.
 void HelpPage::StyleBlocks(QTextDocument& page) const {
   const int letter = QFontInfo(font()).pixelSize();
   QTextBlockFormat airy;
@@ -143,7 +144,7 @@ void HelpPage::StyleBlocks(QTextDocument& page) const {
       format.setBottomMargin(letter * 0.4);
       cursor.mergeBlockFormat(format);
     } else if (block.text().contains(QChar::ObjectReplacementCharacter)) {
-      // A picture stands on its line as a letter does, and would get a fifth more of its height.
+      // A picture is laid out like a letter, and would get a line height of 120% of its own.
       format.setLineHeight(100, QTextBlockFormat::ProportionalHeight);
       cursor.mergeBlockFormat(format);
     }
@@ -155,7 +156,7 @@ void HelpPage::StyleBlocks(QTextDocument& page) const {
   }
 }
 
-/// A page that is not told the size of a picture takes its pixels for it, however dense they are.
+/// Without an explicit size a page takes the physical pixels of a picture as its size.
 void HelpPage::StylePictures(QTextDocument& page) const {
   for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
     for (const auto& [begin, length] : PicturesOf(block)) {
@@ -232,22 +233,22 @@ void HelpPage::ZoomBy(int steps) {
 
 void HelpPage::ResetZoom() { ZoomBy(-zoom_); }
 
-/// The size of a picture on the page: no longer than a line. One whose name ends in "@2x" is made
-/// for dense screens, twice as large as it is shown.
+/// The size of a picture on the page, at most the line's width. One whose name ends in "@2x" is
+/// meant for dense screens, and shown at half its size in pixels.
 QSize HelpPage::ShownSize(const QImage& picture) const {
   const double room = lineWrapColumnOrWidth() - 2 * kMargin;
   const QSizeF size = picture.deviceIndependentSize();
   return (size * std::min(1.0, room / size.width())).toSize();
 }
 
-/// Brought to the density of this screen here: what draws the page would do it roughly.
+/// Scales to the screen's density here, because the layout's own scaling is of low quality.
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
   if (type != QTextDocument::ImageResource) return {};
   QImage picture = ReadPicture(name.path());
   if (picture.isNull()) return {};
   const double wanted = ShownSize(picture).width() * devicePixelRatioF();
   const int width = std::min(static_cast<int>(std::lround(wanted)), picture.width());
-  picture.setDevicePixelRatio(1);  // with another one, Qt 6.4 faults where it scales a palette
+  picture.setDevicePixelRatio(1);  // otherwise Qt 6.4 crashes when it scales a palette picture
   return picture.scaledToWidth(width, Qt::SmoothTransformation);
 }
 

@@ -11,11 +11,11 @@ namespace {
 
 constexpr int kTopicRole = Qt::UserRole;
 constexpr int kLineRole = Qt::UserRole + 1;
-constexpr int kLongestText = 200;  // of the line to type in
+constexpr int kLongestText = 200;  // of the input line
 constexpr int kPadding = 4;
 constexpr int kLinesShown = 2;
 
-/// Draws the title of a topic, and below it the text in which the words stand.
+/// Paints the title of a topic, and below it the text around the first match.
 class FoundTopic : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -98,7 +98,7 @@ void HelpSearch::Choose(const QListWidgetItem* item) {
 
 bool HelpSearch::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {  // NOLINT: the type says so
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {  // NOLINT: the event type is checked
     lstFound_->setFocus();
     lstFound_->setCurrentRow(0);
     return true;

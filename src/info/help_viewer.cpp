@@ -8,8 +8,8 @@
 #include <QWindow>
 #include <utility>
 
-#include "widgets/placed_qt_window.h"
 #include "settings/registry.h"
+#include "widgets/placed_qt_window.h"
 
 namespace starfolds {
 namespace {
@@ -133,7 +133,7 @@ void HelpViewer::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-/// Goes on from the page that is read; what was gone back from is forgotten.
+/// Appends to the history after the current page; pages that were gone back from are dropped.
 void HelpViewer::OpenTopic(int topic, const QStringList& words) {
   if (reading_ < 0 || history_[reading_].Topic != topic) {
     if (reading_ >= 0) history_[reading_].Scrolled = page_->verticalScrollBar()->value();

@@ -10,8 +10,8 @@
 #include <QtGlobal>
 #include <algorithm>
 
-#include "widgets/dialog_parts.h"
 #include "settings/product.h"
+#include "widgets/dialog_parts.h"
 
 namespace starfolds {
 namespace {
@@ -22,7 +22,7 @@ QString WithoutHome(const QString& path) {
   return isBelow ? "~" + path.mid(home.size()) : path;
 }
 
-/// What the session says of itself, where it does.
+/// The desktop session by its environment variables.
 QString Session() {
   QStringList found;
   for (const char* name : {"XDG_SESSION_TYPE", "XDG_CURRENT_DESKTOP", "QT_SCALE_FACTOR",

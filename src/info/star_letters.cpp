@@ -10,26 +10,26 @@
 namespace starfolds {
 namespace {
 
-constexpr int kBurstFrames = 40;   // before the stars look for their places
-constexpr Single kBurstSpeed = 9;  // pixels a frame, of the fastest
+constexpr int kBurstFrames = 40;   // before the stars fly to their points
+constexpr Single kBurstSpeed = 9;  // pixels per frame, of the fastest star
 constexpr Single kBurstDamping = 0.97F;
-constexpr Single kPull = 0.01F;  // of the distance, a frame
+constexpr Single kPull = 0.01F;  // share of the distance, per frame
 constexpr Single kDamping = 0.86F;
 
 constexpr Single kFlareChance = 0.0008F;
 constexpr int kFlareFrames = 14;
 
-// The wheel of the letters: `HueToRgb`.
+// The hue wheel of the letters: `HueToRgb`.
 constexpr int kBase = 95;
 constexpr int kStrength = 80;
 constexpr int kHues = 360;
-constexpr int kHuesAcross = 220;  // of the wheel, from the left edge to the right one
+constexpr int kHuesAcross = 220;  // hues from the left edge to the right edge
 
-constexpr std::size_t kDriftEvery = 24;  // one star of so many
+constexpr std::size_t kDriftEvery = 24;  // one of so many stars drifts
 constexpr Single kDriftSpeed = 0.35F;
 constexpr Colour kDriftColour = 0x00806850;
 
-/// A place that has left the sky at one end comes back at the other.
+/// A position that leaves the surface at one edge re-enters at the opposite one.
 Single Wrapped(Single place, int size) {
   if (place < 0) return place + static_cast<Single>(size);
   if (place >= static_cast<Single>(size)) return place - static_cast<Single>(size);
@@ -58,8 +58,8 @@ void StarLetters::SetAdrift(Star& star) {
 
 void StarLetters::Form(const std::vector<LetterPoint>& points) {
   frame_ = 0;
-  // Each star takes one of the places that are left; if there are more places than stars, the ones
-  // that stay empty are spread evenly, too.
+  // Each star takes one of the remaining points; if there are more points than stars, the points
+  // left out are distributed evenly.
   std::vector<LetterPoint> places = points;
   for (Star& star : stars_) {
     if (star.Drifts) continue;
@@ -126,7 +126,7 @@ void StarLetters::Plot(Star& star, Surface::Pen& pen) {
   if (star.Flare > 0) PlotFlare(star, PackRgb(255, 255, 255), pen);
 }
 
-/// The cross of a new star, which shrinks as it goes out.
+/// The cross of a new star, which shrinks as it fades.
 void StarLetters::PlotFlare(const Star& star, Colour colour, Surface::Pen& pen) const {
   const Long extent = 1 + star.Flare / 6;
   for (Long i = 1; i <= extent; ++i) {

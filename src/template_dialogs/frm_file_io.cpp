@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "widgets/dialog_model.h"
 #include "settings/product.h"
 #include "settings/registry.h"
+#include "widgets/dialog_model.h"
 
 namespace starfolds {
 namespace {
@@ -23,9 +23,9 @@ constexpr char kFolderKey[] = "Path_Dir";
 
 constexpr int kStatusHeight = 12;
 constexpr QSize kLeastList{270, 240};
-constexpr int kStep = 14;  // by which a folder stands behind the one that holds it
+constexpr int kStep = 14;  // indentation per folder level, in pixels
 
-/// An empty text where what is stored could not be read back.
+/// The path, or empty text if it would not be read back unchanged.
 std::string StoredPath(const QString& path) {
   std::string text = path.toStdString();
   return text == StorableText(text) ? text : std::string();
@@ -37,8 +37,8 @@ bool IsPlainName(const QString& typed) {
 
 }  // namespace
 
-/// Folders stand behind the one that holds them. A long name is cut in the middle. What an entry
-/// looks like follows from its row, so that a list of a hundred thousand is filled at once.
+/// Indents folders by their level, and elides long names in the middle. The look of an entry
+/// depends on its row only, so that a list of 100,000 entries is filled quickly.
 class FrmFileIo::FolderDelegate : public QStyledItemDelegate {
  public:
   explicit FolderDelegate(QListWidget* list)
@@ -46,7 +46,7 @@ class FrmFileIo::FolderDelegate : public QStyledItemDelegate {
         open_(list->style()->standardIcon(QStyle::SP_DirOpenIcon, nullptr, list)),
         closed_(list->style()->standardIcon(QStyle::SP_DirClosedIcon, nullptr, list)) {}
 
-  /// Of the entries so many are the way to the folder that is shown; behind them is what it holds.
+  /// The first `folders` entries are the path to the current folder; the others are its subfolders.
   void SetWay(qsizetype folders) { way_ = static_cast<int>(folders); }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -110,7 +110,7 @@ std::string FrmFileIo::ChooseTemplate(bool open, bool action, const QString& tit
   return selectedPath_;
 }
 
-/// Return goes into a folder that is selected. Everywhere else it presses "OK".
+/// Return enters a selected folder. Everywhere else it presses "OK".
 void FrmFileIo::keyPressEvent(QKeyEvent* event) {
   const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isReturn && dirTemp_->hasFocus()) return OpenSelectedFolder();
@@ -122,7 +122,7 @@ void FrmFileIo::MakeControls() {
     widget->setObjectName(name);
     return widget;
   };
-  // In the order of the Tab key.
+  // In tab order.
   txtFile_ = named(new QLineEdit(this), "txtFile");
   filTemp_ = named(new QListWidget(this), "filTemp");
   cboTypes_ = named(new QComboBox(this), "cboTypes");
@@ -141,7 +141,7 @@ void FrmFileIo::MakeControls() {
   dirTemp_->setItemDelegate(folderDelegate_);
   dirTemp_->setTextElideMode(Qt::ElideMiddle);
   for (QListWidget* list : {filTemp_, dirTemp_}) {
-    list->setUniformItemSizes(true);  // of a hundred thousand entries one is measured
+    list->setUniformItemSizes(true);  // measures one of 100,000 entries
     list->setMinimumSize(kLeastList);
   }
   cboFilter_->hide();
@@ -154,7 +154,7 @@ void FrmFileIo::MakeControls() {
   picStatus_->setFixedHeight(kStatusHeight);
   for (QWidget* widget : {static_cast<QWidget*>(lblStatus_), static_cast<QWidget*>(picStatus_)}) {
     QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);  // the dialog does not jump
+    policy.setRetainSizeWhenHidden(true);  // keeps the layout when it is hidden
     widget->setSizePolicy(policy);
     widget->hide();
   }
@@ -206,7 +206,7 @@ void FrmFileIo::ConnectControls() {
     if (!selected.isEmpty()) txtFile_->setText(selected.front()->text());
   };
   connect(filTemp_, &QListWidget::itemSelectionChanged, this, copyName);
-  connect(filTemp_, &QListWidget::itemClicked, this, copyName);  // the selected one, once more
+  connect(filTemp_, &QListWidget::itemClicked, this, copyName);  // the selected one as well
   connect(filTemp_, &QListWidget::itemDoubleClicked, cmdOK_, &QPushButton::click);
   connect(cboTypes_, &QComboBox::currentIndexChanged, this, [this](int type) {
     cboFilter_->setCurrentIndex(type);
@@ -227,8 +227,8 @@ void FrmFileIo::SetFileTypes(const QString& fileTypes) {
   }
 }
 
-/// Where the user was last; the first time at the templates that came with the program. Who saves
-/// begins at home instead of there: these files are the program's.
+/// The folder that was used last. The first time, that of the program's templates for opening, and
+/// the home folder for saving.
 void FrmFileIo::EnterFirstFolder() {
   TreeBulk look = TreeBulk::Look(around_.Tree);
   const QString drive = Shown(RegistryReadText(around_.Tree, sections::kTemplate, kDriveKey));
@@ -244,7 +244,7 @@ void FrmFileIo::EnterFirstFolder() {
   if (QDir::isAbsolutePath(folder)) enter(QDir::cleanPath(folder));
 }
 
-/// A folder that cannot be read leaves everything as it is.
+/// If the folder cannot be read, nothing changes.
 bool FrmFileIo::EnterFolder(const QString& folder) {
   const auto contents = ReadFolder(folder, cboFilter_->currentText());
   if (!contents) return false;
@@ -287,7 +287,7 @@ void FrmFileIo::OpenSelectedFolder() {
 }
 
 void FrmFileIo::Ok() {
-  // A name may have blanks at its ends, but a text that was pasted has more often.
+  // A name may begin or end with blanks, but they are more likely from a paste.
   const QString text = txtFile_->text();
   const bool exact = !text.isEmpty() && QFileInfo::exists(TypedPath(folder_, text));
   const QString typed = exact ? text : text.trimmed();
@@ -299,7 +299,7 @@ void FrmFileIo::Ok() {
   }
 }
 
-/// Where a file is saved, a plain name is that of a file.
+/// When saving, a name without a path is always that of a file.
 bool FrmFileIo::EnterTypedFolder(const QString& typed) {
   if (!open_ && IsPlainName(QDir::fromNativeSeparators(typed))) return false;
   const QString path = TypedPath(folder_, typed);
@@ -345,7 +345,7 @@ void FrmFileIo::Take(const QString& path) {
   accept();
 }
 
-/// Of a path that is too long to be stored it is the nearest folder above.
+/// If the path is too long to be stored, stores the nearest parent that fits.
 void FrmFileIo::StoreFolder() {
   QString folder = folder_;
   while (!folder.isEmpty() && StoredPath(folder).empty()) folder = QFileInfo(folder).path();
@@ -356,7 +356,7 @@ void FrmFileIo::StoreFolder() {
   change.Commit();
 }
 
-/// Ready to be typed over.
+/// Selects the text, so that typing replaces it.
 void FrmFileIo::FocusName() {
   txtFile_->setFocus();
   txtFile_->selectAll();

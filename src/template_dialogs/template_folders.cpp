@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 QString Translated(const char* text) { return QCoreApplication::translate("frmFileIO", text); }
 
-/// File systems that hold no files of a user's.
+/// File systems without files of users.
 bool IsPseudo(const QByteArray& type) {
   static constexpr std::string_view types[] = {
       "autofs",      "devtmpfs", "efivarfs", "fuse.gvfsd-fuse", "overlay",
@@ -93,7 +93,7 @@ QStringList WayTo(const QString& root, const QString& folder) {
   QStringList way{folder};
   while (way.front() != root) {
     const QString above = QFileInfo(way.front()).path();
-    if (above == way.front()) break;  // the root is not above the folder
+    if (above == way.front()) break;  // the root does not contain the folder
     way.prepend(above);
   }
   return way;
@@ -131,7 +131,7 @@ QString TypedPath(const QString& folder, const QString& typed) {
     path = folder + "/" + text;
   }
   path = QDir::cleanPath(path);
-  while (path.startsWith("/../")) path.remove(0, 3);  // above the root there is nothing
+  while (path.startsWith("/../")) path.remove(0, 3);  // the parent of the root is the root
   return path == "/.." ? "/" : path;
 }
 

@@ -6,9 +6,9 @@
 #include <QUrl>
 #include <utility>
 
+#include "settings/product.h"
 #include "template_dialogs/frm_file_io.h"
 #include "widgets/dialog_parts.h"
-#include "settings/product.h"
 
 namespace starfolds {
 namespace {
@@ -16,7 +16,7 @@ namespace {
 constexpr char kExtension[] = "sfd";
 constexpr char kFileTypes[] = "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|";
 
-/// The one template that is dragged; nothing where it is anything else.
+/// The path of the dragged template; nullopt unless exactly one template file is dragged.
 std::optional<std::string> DraggedTemplate(const QMimeData* data) {
   const QList<QUrl> urls = data->urls();
   if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
@@ -25,7 +25,7 @@ std::optional<std::string> DraggedTemplate(const QMimeData* data) {
   return path.toStdString();
 }
 
-/// A dialog of ours stands over the window, which waits for it.
+/// Whether a modal dialog of the program blocks the window.
 bool IsWaiting(const QWidget& window) {
   const QWidget* over = QApplication::activeModalWidget();
   return over != nullptr && over != &window;
@@ -36,7 +36,7 @@ bool IsWaiting(const QWidget& window) {
 TemplateMenu::TemplateMenu(TemplateHost host) : host_(std::move(host)) {
   host_.Window.setAcceptDrops(true);
   host_.Window.installEventFilter(this);
-  // The other program waits until the drop has been handled; a message box would hold it up.
+  // The source program waits until the drop has been handled, so a message box must come later.
   connect(this, &TemplateMenu::Dropped, this, &TemplateMenu::OpenDropped, Qt::QueuedConnection);
 }
 
@@ -95,12 +95,12 @@ void TemplateMenu::Choose(bool open) {
       kFileTypes, kExtension);
 }
 
-/// By then a preview may have been started.
+/// Queued: a preview may have been started meanwhile.
 void TemplateMenu::OpenDropped(const QString& path) {
   if (enabled_ && !IsWaiting(host_.Window)) RunInPreview(true, path.toStdString());
 }
 
-/// Without the file dialog, so its progress shows in the preview.
+/// Runs without the file dialog, so the preview shows the progress.
 void TemplateMenu::RunInPreview(bool open, const std::string& path) {
   ProgressPicture* picture = host_.Dialog.Preview();
   const auto fault = open ? LoadFrom(path, picture) : SaveTo(path, picture);

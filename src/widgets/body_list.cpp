@@ -13,11 +13,11 @@ constexpr int kWeightCharacters = 4;
 constexpr int kLeastBlanks = 3;
 constexpr int kNameTwips = 2400;
 constexpr int kTwipsPerInch = 1440;
-constexpr int kEdge = 6;  // pixels between a text and the edge of its row
+constexpr int kEdge = 6;  // logical pixels between the text and the edge of its row
 
 enum Role { kNameRole = Qt::UserRole, kWeightRole };
 
-/// Draws the two columns.
+/// Paints the two columns.
 class EntryDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -79,7 +79,7 @@ void BodyList::SetEntry(QListWidgetItem& item, const std::string& name, int weig
   item.setText(shownName + QString(blanks, ' ') + shownWeight.rightJustified(kWeightCharacters));
   item.setData(kNameRole, shownName);
   item.setData(kWeightRole, shownWeight);
-  item.setToolTip(shownName);  // which may be cut
+  item.setToolTip(shownName);  // the painted name may be elided
   item.setData(Qt::AccessibleTextRole, shownName + ", " + shownWeight);
 }
 

@@ -11,7 +11,7 @@ constexpr int kLabelColumn = 0;
 constexpr int kBoxColumn = 1;
 constexpr int kColumns = 2;
 constexpr int kSpacing = 6;
-constexpr int kMostCharacters = 56;  // that a list of choices is wide
+constexpr int kMostCharacters = 56;  // maximum width of a list of choices
 
 bool CanGrow(const QWidget* widget) {
   const QSizePolicy::Policy policy = widget->sizePolicy().horizontalPolicy();
@@ -29,7 +29,7 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
   auto* boxes = new QHBoxLayout;
   boxes->setSpacing(kSpacing);
   for (QWidget* widget : widgets) boxes->addWidget(widget, CanGrow(widget) ? 1 : 0);
-  boxes->addStretch(0);  // what cannot grow stands close behind its label
+  boxes->addStretch(0);  // boxes of fixed width stay next to their label
   page.addLayout(boxes, row, kBoxColumn);
   return text;
 }

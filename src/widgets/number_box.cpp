@@ -13,7 +13,7 @@
 namespace starfolds {
 namespace {
 
-constexpr int kSingleLength = 8;  // characters of a number with a point
+constexpr int kSingleLength = 8;  // maximum length of a number with a point
 
 bool IsWhole(NumberKind kind) { return kind != NumberKind::AsSingle; }
 
@@ -24,7 +24,7 @@ std::string TextOf(double number, NumberKind kind) {
 
 }  // namespace
 
-/// A "0" goes before the text, so that an empty one is 0 and a sign counts for nothing.
+/// A "0" is prepended, so that empty text is 0 and a sign is ignored.
 std::string ClampedText(const std::string& text, const NumberRange& range) {
   double number = LenientNumber("0" + text);
   if (IsWhole(range.Kind)) number = RoundedToLimits<Long>(number);
@@ -50,7 +50,8 @@ void NumberBox::SetNames(const QString& name) {
 void NumberBox::SetRange(const NumberRange& range) {
   range_ = range;
   const int present = static_cast<int>(lineEdit()->text().size());
-  lineEdit()->setMaxLength(std::max(LongestText(), present));  // which would be cut off
+  lineEdit()->setMaxLength(std::max(
+      LongestText(), present));  // not shorter than the current text, which would be truncated
   setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
                                                   TextOf(range.High, range.Kind)));
 }
@@ -60,7 +61,7 @@ void NumberBox::SetNoRange() {
   lineEdit()->setMaxLength(0);
 }
 
-/// All boxes are as wide as the longest number that any of them takes.
+/// All boxes have the width of the longest number that any of them accepts.
 QSize NumberBox::sizeHint() const {
   const int digits = fontMetrics().horizontalAdvance(QString(kSingleLength, '0'));
   QStyleOptionSpinBox option;
@@ -90,7 +91,7 @@ void NumberBox::stepBy(int steps) {
   lineEdit()->selectAll();
 }
 
-/// What cannot become a number in the range's kind cannot be pasted either.
+/// Text that cannot become a number of the box's kind cannot be pasted either.
 QValidator::State NumberBox::validate(QString& text, int&) const {
   for (const QChar c : text) {
     if (!Takes(c)) return QValidator::Invalid;
@@ -135,7 +136,7 @@ void NumberBox::wheelEvent(QWheelEvent* event) {
 
 void NumberBox::focusInEvent(QFocusEvent* event) {
   QAbstractSpinBox::focusInEvent(event);
-  lineEdit()->selectAll();  // ready to be typed over
+  lineEdit()->selectAll();  // so that typing replaces the text
 }
 
 void NumberBox::focusOutEvent(QFocusEvent* event) {

@@ -22,8 +22,8 @@ QImage ImageOf(const Surface& surface) {
   return image;
 }
 
-/// Copies each frame's changes to the box's picture and has them painted at once: nobody returns to
-/// the event loop that would do it later. A box is small enough to be painted whole.
+/// Copies the changes of each frame to the box's picture and repaints at once, because the run does
+/// not return to the event loop. A box is small enough to be painted as a whole.
 class PictureBox::Canvas : public Surface {
  public:
   explicit Canvas(PictureBox& box)
@@ -48,7 +48,7 @@ class PictureBox::Canvas : public Surface {
   }
 
  private:
-  static constexpr std::size_t kJournal = 1U << 17U;  // writes of a frame
+  static constexpr std::size_t kJournal = 1U << 17U;  // writes per frame
 
   PictureBox& box_;
 };

@@ -7,11 +7,11 @@
 namespace starfolds {
 namespace {
 
-/// The toolkit's logical pixels are 96 to the inch.
+/// Qt's logical pixels are 1/96 inch.
 constexpr Long kTwipsPerPixel = 15;
 
-/// Sides of the smallest window that can be worked with, and what of a larger one has to be on a
-/// screen, in logical pixels.
+/// Minimum size of a window, and the minimum part of a larger one that must be on a screen, in
+/// logical pixels.
 constexpr int kSmallestSide = 64;
 
 int Pixels(Long twips) { return twips / kTwipsPerPixel; }
@@ -52,17 +52,17 @@ void PlacedQtWindow::CentreOnScreen() {
   QRect place(QPoint(), window_.size());
   const QRect room = window_.screen()->availableGeometry();
   place.moveCenter(room.center());
-  // The caption of a window that is larger than the screen can be reached.
+  // If the window is larger than the screen, its caption stays reachable.
   window_.setFramePosition(
       {std::max(place.left(), room.left()), std::max(place.top(), room.top())});
 }
 
 void ShowWherePlaced(QWidget& window, KeyValueTree& tree, std::string_view section) {
-  window.winId();  // a window that can be placed before it is shown
+  window.winId();  // creates the native window, which can be placed before it is shown
   QWindow& handle = *window.windowHandle();
   PlacedQtWindow placed(handle);
   RestoreWindowPlacement(placed, tree, section);
-  // Showing gives the window the place that the widget believes in.
+  // Showing moves the window to the position that the widget has recorded.
   const QPoint place = handle.framePosition();
   window.resize(handle.size());
   window.move(place);

@@ -11,8 +11,8 @@ namespace {
 
 constexpr Integer kHighestHue = 999;
 
-/// What all kinds of preview do first. The records may be of a user who is still typing; a run
-/// needs them within their ranges.
+/// The set-up that all previews share. Values may come from a user who is still typing; a run needs
+/// them within their ranges.
 void SetUpPreview(ProcessState& process, Surface& surface, bool fixedView,
                   const BodyPreview& preview, std::uint64_t seed) {
   if (!fixedView) process.Screen.FocalLength = LoadAdvancedFromRegistry(*process.Tree).FocalLength;
@@ -88,11 +88,11 @@ PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {
   run();
   on_ = false;
   if (stopped_ && !closing_ && !process_.QuitApp) process_.StopRun = false;
-  process_.NewRun = true;  // a run of another host takes notice of what was edited
+  process_.NewRun = true;  // a run of another host restarts with the edited settings
   return closing_ ? PreviewEnd::Close : PreviewEnd::Stopped;
 }
 
-/// A universe that is pulling out, or shows its last frame, looks at `StopRun` alone.
+/// The pull-out and the last frame of a universe check `StopRun` only.
 void PreviewSwitch::Stop() {
   if (!on_) return;
   stopped_ = true;

@@ -23,11 +23,11 @@ QMessageBox::Icon IconOf(BoxStyle style) {
   return QMessageBox::NoIcon;
 }
 
-/// A button and its answer. The first one of a box has the focus.
+/// A button and its answer. The first button of a box has the focus.
 struct BoxButton {
   QMessageBox::StandardButton Button;
   BoxAnswer Answer;
-  const char* Text = nullptr;  // in place of the toolkit's
+  const char* Text = nullptr;  // replaces Qt's text
 };
 
 std::vector<BoxButton> ButtonsOf(BoxStyle style) {
@@ -48,7 +48,7 @@ std::vector<BoxButton> ButtonsOf(BoxStyle style) {
   return {{QMessageBox::Ok, BoxAnswer::Ok}};
 }
 
-/// Closing the box is its last button.
+/// Closing the box counts as its last button.
 void AddButtons(QMessageBox& box, const std::vector<BoxButton>& buttons) {
   for (const BoxButton& each : buttons) {
     QPushButton* button = box.addButton(each.Button);
@@ -58,7 +58,7 @@ void AddButtons(QMessageBox& box, const std::vector<BoxButton>& buttons) {
   box.setEscapeButton(buttons.back().Button);
 }
 
-/// Lines of usual length are not broken: some texts stand in columns.
+/// Keeps lines of usual length unbroken: some texts are in columns.
 void WidenToLines(QMessageBox& box) {
   constexpr int widest = 600;
   if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
@@ -81,7 +81,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
   QWidget* asking = QApplication::activeWindow();
   if (!asking) asking = QApplication::activeModalWidget();
   QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton, asking);
-  box.setTextFormat(Qt::PlainText);  // a name or a path may hold anything
+  box.setTextFormat(Qt::PlainText);  // a name or a path may contain markup
   box.setText(Shown(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   const std::vector<BoxButton> buttons = ButtonsOf(style);

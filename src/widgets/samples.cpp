@@ -41,11 +41,11 @@ constexpr double kStarsPerPixel = 0.12;
 constexpr Long kMostStars = 6000;
 constexpr Integer kCanvasWidth = 1280;
 constexpr Integer kCanvasHeight = 960;
-constexpr Single kZoom = 0.5F;      // leaves room for bodies that reach far beyond the usual
-constexpr double kCloseUp = 1.5;    // pixels of the canvas to one of the picture, in a second run
-constexpr double kFilled = 0.9;     // of the picture, by the body
-constexpr double kOutliers = 0.02;  // of the pixels, at each of the four edges
-constexpr double kGlow = 0.4;       // of a star's light, on each pixel beside it
+constexpr Single kZoom = 0.5F;      // leaves room for bodies that extend far beyond the usual
+constexpr double kCloseUp = 1.5;    // canvas pixels per picture pixel, in a second run
+constexpr double kFilled = 0.9;     // share of the picture that the body fills
+constexpr double kOutliers = 0.02;  // share of the pixels that is ignored at each of the four edges
+constexpr double kGlow = 0.4;       // share of a star's light on each adjacent pixel
 
 struct LitPixel {
   int X, Y;
@@ -63,13 +63,13 @@ std::vector<LitPixel> LitPixels(const Surface& surface) {
   return lit;
 }
 
-/// How pixels of the canvas go into a picture.
+/// The mapping from canvas pixels to picture pixels.
 struct Framing {
-  double MiddleX = 0, MiddleY = 0;  // what comes to the middle of the picture
+  double MiddleX = 0, MiddleY = 0;  // canvas position of the picture's centre
   double Scale = 1;
 };
 
-/// The middle and the length of the stretch in which all but the outliers lie.
+/// The middle and length of the interval that contains all but the outliers.
 std::pair<double, double> Stretch(std::vector<int> places) {
   const auto outliers = static_cast<std::size_t>(static_cast<double>(places.size()) * kOutliers);
   std::sort(places.begin(), places.end());
@@ -78,7 +78,7 @@ std::pair<double, double> Stretch(std::vector<int> places) {
   return {(low + high + 1) / 2.0, high - low + 1};
 }
 
-/// Lets the body fill the picture.
+/// The mapping for which the body fills the picture.
 Framing FramingOf(const std::vector<LitPixel>& lit, QSize picture) {
   if (lit.empty()) return {};
   std::vector<int> columns;
@@ -92,7 +92,7 @@ Framing FramingOf(const std::vector<LitPixel>& lit, QSize picture) {
   return {middleX, middleY, kFilled * std::min(picture.width() / width, picture.height() / height)};
 }
 
-/// Each star lights the pixels beside it as well, so that a still is as bright as the moving body.
+/// Each star lights the adjacent pixels as well, so that a still is as bright as the moving body.
 QImage StillOf(const std::vector<LitPixel>& lit, const Framing& framing, QSize size) {
   QImage picture(size, QImage::Format_RGB32);
   picture.fill(Qt::black);
@@ -121,9 +121,9 @@ QImage StillOf(const std::vector<LitPixel>& lit, const Framing& framing, QSize s
   return picture;
 }
 
-/// A process of its own, so that a picture touches nothing of the dialog's. It shows one profile,
-/// as its number 0, on a large canvas of which the picture shows the part with the body: how far it
-/// reaches is known only when it is drawn.
+/// Has its own process state, so that a picture changes nothing of the dialog's. Runs one profile,
+/// as number 0, on a large canvas and cuts the part with the body out: the extent of the body is
+/// known only after it is drawn.
 class BodyStudio {
  public:
   BodyStudio() {
@@ -144,7 +144,7 @@ class BodyStudio {
 
     std::vector<LitPixel> lit = Shoot(kZoom, stars);
     Framing framing = FramingOf(lit, pixels);
-    if (framing.Scale > 1) {  // too coarse: the same again, nearer
+    if (framing.Scale > 1) {  // too coarse: runs again with a larger zoom
       lit = Shoot(static_cast<Single>(kZoom * framing.Scale * kCloseUp), stars);
       framing = FramingOf(lit, pixels);
     }
@@ -170,9 +170,9 @@ class BodyStudio {
 
 constexpr int kTileColumns = 3;
 constexpr int kTileRows = 2;
-constexpr int kRandomStride = 17;  // no divisor of the number of profiles
+constexpr int kRandomStride = 17;  // coprime to the number of profiles
 
-/// The first profiles in their order, or some from all over the list.
+/// The first profiles in order, or some from the whole list.
 QImage Collage(BodyStudio& studio, const ProfileArray& profiles, bool atRandom, SampleSize size) {
   QImage picture = EmptyPicture(size);
   picture.fill(Qt::black);
@@ -189,14 +189,14 @@ QImage Collage(BodyStudio& studio, const ProfileArray& profiles, bool atRandom, 
 
 // --- Shapes ---
 
-/// The least and the greatest height of a body to its width that is drawn in full.
+/// The range of height to width in which bodies are drawn in proportion.
 constexpr double kFlattest = 0.12;
 constexpr double kTallest = 2;
 constexpr double kMargin = 4;  // logical pixels
 constexpr int kCurveSteps = 240;
 constexpr int kShapeStars = 700;
 
-/// One quarter of a section, as a curve of heights from the core to the rim, at a radius of 1.
+/// One quarter of a section, as heights from the core to the rim, at a radius of 1.
 std::vector<double> CurveOf(const ShapeSetting& setting) {
   std::vector<double> heights;
   for (int i = 0; i <= kCurveSteps; ++i) {
@@ -206,7 +206,7 @@ std::vector<double> CurveOf(const ShapeSetting& setting) {
   return heights;
 }
 
-/// Both halves of both sides.
+/// The curve, mirrored on both axes.
 QPainterPath OutlineOf(const std::vector<double>& heights) {
   QPolygonF quarter;
   for (int i = 0; i <= kCurveSteps; ++i) {
@@ -229,7 +229,7 @@ QPainterPath OutlineOf(const std::vector<double>& heights) {
   return path;
 }
 
-/// Stars as the generator spreads them, in the plane of the section.
+/// Stars distributed as the generator does it, in the plane of the section.
 QList<QPointF> StarsOf(const ShapeSetting& setting) {
   Rnd random;
   random.Seed(kSeed);
@@ -244,7 +244,7 @@ QList<QPointF> StarsOf(const ShapeSetting& setting) {
   return stars;
 }
 
-/// From a section of radius and greatest height 1 to the middle of the picture.
+/// Maps a section of radius and maximum height 1 to the middle of the picture.
 QTransform PlaceShape(double heightToWidth, QSize size) {
   const double width = size.width() - 2 * kMargin;
   const double height = size.height() - 2 * kMargin;
@@ -257,11 +257,11 @@ QTransform PlaceShape(double heightToWidth, QSize size) {
 
 // --- Hues ---
 
-constexpr double kRingHole = 0.5;  // of the ring's radius
-constexpr double kStripFrom = 2;   // width to height from which a wheel is a strip
+constexpr double kRingHole = 0.5;  // share of the ring's radius
+constexpr double kStripFrom = 2;   // width to height from which the wheel is drawn as a strip
 constexpr double kDegreesPerRadian = 180 / std::numbers::pi;
 
-/// Parts a wheel that is as bright or as dark as the window from it.
+/// Outlines a wheel, whose colours may be those of the window behind it.
 void DrawEdge(QImage& picture, const QPainterPath& edge) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -269,7 +269,7 @@ void DrawEdge(QImage& picture, const QPainterPath& edge) {
   painter.drawPath(edge);
 }
 
-/// Fills a strip with the colours that `colourAt` gives for 0 (left) to under 1 (right).
+/// Fills a strip with the colours `colourAt` of 0 (left) to below 1 (right).
 template <class ColourAt>
 void DrawStrip(QImage& picture, ColourAt colourAt) {
   for (int x = 0; x < picture.width(); ++x) {
@@ -281,13 +281,13 @@ void DrawStrip(QImage& picture, ColourAt colourAt) {
   DrawEdge(picture, edge);
 }
 
-/// The place on a ring, 0 (top) to under 1, clockwise.
+/// The position on a ring, from 0 (top) to below 1, clockwise.
 double PlaceOnRing(double right, double down) {
   const double turn = std::atan2(right, -down) * kDegreesPerRadian / 360;
   return turn < 0 ? turn + 1 : turn;
 }
 
-/// Draws a ring with soft edges.
+/// Draws an antialiased ring.
 template <class ColourAt>
 void DrawRing(QImage& picture, ColourAt colourAt) {
   const double pen = picture.devicePixelRatio();

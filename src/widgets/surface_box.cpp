@@ -5,8 +5,8 @@
 
 namespace starfolds {
 
-/// The box has a window of its own, so that the surface's window inside it goes wherever the layout
-/// puts the box. The windows of the widgets around it can stay as they are.
+/// A native window, so that the surface's window inside it moves with the layout. The widgets
+/// around it need no native windows.
 SurfaceBox::SurfaceBox(std::function<void(Surface&)> plot, QWidget* parent)
     : QWidget(parent), plot_(std::move(plot)), surface_(*this) {
   setAttribute(Qt::WA_DontCreateNativeAncestors);
@@ -25,7 +25,8 @@ void SurfaceBox::resizeEvent(QResizeEvent* event) {
   surface_.Window().resize(size());
 }
 
-/// The surface is shown black first: the plotted points are a frame's changes then, not a picture.
+/// Shows the surface black first, so that the plotted points are presented as the changes of a
+/// frame.
 void SurfaceBox::Exposed() {
   if (surface_.HasWindowSize()) return;
   surface_.TakeWindowSize();

@@ -22,7 +22,7 @@ class WheelGuard : public QObject {
 
 void LetWheelPass(QWidget& window) {
   for (QComboBox* list : window.findChildren<QComboBox*>()) {
-    list->setFocusPolicy(Qt::StrongFocus);  // a turn of the wheel does not give it the focus
+    list->setFocusPolicy(Qt::StrongFocus);  // the wheel does not give it the focus
     list->installEventFilter(new WheelGuard(list));
   }
 }
