@@ -193,8 +193,7 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     box->SetBlankAllowed();
     lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
-    lblProps_[index]->setMinimumWidth(
-        lblProps_[index]->sizeHint().width());  // keeps the boxes in place when the label changes
+    lblProps_[index]->setMinimumWidth(lblProps_[index]->sizeHint().width());  // boxes stay put
     txtProps_.push_back({box, field});
   }
 }

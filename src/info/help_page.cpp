@@ -69,8 +69,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(false);
   setAccessibleName(tr("Text of the help"));
   setLineWrapMode(QTextEdit::FixedPixelWidth);
-  setVerticalScrollBarPolicy(
-      Qt::ScrollBarAlwaysOn);  // the same text width for pages of all lengths
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the same text width for all pages
   changed_.setSingleShot(true);
   changed_.setInterval(0);
   connect(&changed_, &QTimer::timeout, this, &HelpPage::LayOutAnew);

@@ -121,8 +121,7 @@ class TemporaryFile {
       }
       // On a file system without locks writing continues, and left-behind files are not removed.
       if (flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) continue;
-      if (!HasName(file, path))
-        continue;  // another process removed it as left behind before it was locked
+      if (!HasName(file, path)) continue;  // removed as left behind before it was locked
       file_ = std::move(file);
       path_ = path;
     }

@@ -44,8 +44,7 @@ constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_FUNCTION_ARG, 8},    {SQLITE_LIMIT_ATTACHED, 0},
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
 };
-constexpr int kStepsAtOnce =
-    1000;  // of SQLite's virtual machine; reading or writing a value takes about 30
+constexpr int kStepsAtOnce = 1000;  // of SQLite's virtual machine; a value takes about 30
 
 constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
 constexpr int kMostPages = 10'000;  // that are copied; a full tree has some hundred

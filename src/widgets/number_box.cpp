@@ -50,8 +50,7 @@ void NumberBox::SetNames(const QString& name) {
 void NumberBox::SetRange(const NumberRange& range) {
   range_ = range;
   const int present = static_cast<int>(lineEdit()->text().size());
-  lineEdit()->setMaxLength(std::max(
-      LongestText(), present));  // not shorter than the current text, which would be truncated
+  lineEdit()->setMaxLength(std::max(LongestText(), present));  // keeps the current text
   setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
                                                   TextOf(range.High, range.Kind)));
 }
