@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Counts the instructions of the floor loop and of the star step, per star and frame, and of loading
-# and saving templates, per value. Unlike times, the counts are the same on every run.
-# Usage: bench/instructions.sh [FOLDER]   (where the counted programs are)
+# Counts the instructions of the star step and of the minimal loop it is compared with, per star and
+# frame, and of loading and saving templates, per value. Unlike times, the counts are reproducible.
+# Usage: bench/instructions.sh [FOLDER]   (the folder of the counted programs)
 set -euo pipefail
 folder=$(realpath "${1:-build/release/bench/counted}")
 frames=100
 
-# count PROGRAM FUNCTION ARGUMENT...: instructions within FUNCTION.
+# count PROGRAM FUNCTION ARGUMENT...: prints the instructions executed within FUNCTION.
 count() {
   local program=$folder/$1 function=$2
   shift 2

@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# What the whole saver costs on an X server, beside two savers of the xscreensaver collection that
-# draw points as well: processor time for each second of the picture, of the program and of the
-# server apart. galaxy moves about 2250 stars a galaxy and erases them; discrete plots 4096 points a
-# frame in few colours and erases none. Takes some six minutes, on a machine that does nothing else.
+# Measures the cost of the whole saver on an X server, compared with two savers of the xscreensaver
+# collection that also draw points: processor time per second, of the program and of the server.
+# galaxy moves about 2250 stars a galaxy and erases them; discrete plots 4096 points a frame in few
+# colours and erases none. Takes about six minutes and needs an idle machine.
 # Usage: bench/saver_cost.sh [PROGRAM]   (the path of starfolds)
 set -euo pipefail
 program=$(realpath "${1:-build/release/src/app/starfolds}")
 hacks=/usr/libexec/xscreensaver
 packages=(xvfb xscreensaver-data xscreensaver-data-extra)
-seconds=${SECONDS_A_ROW:-15} # that each row is measured
-warm_up=3                    # and that it runs before
+seconds=${SECONDS_A_ROW:-15} # measuring time of each row
+warm_up=3                    # before measuring
 
 install_missing() {
   local root=()
@@ -35,7 +35,7 @@ end_both() {
 trap 'end_both; rm -r "$folder"' EXIT
 trap 'exit 143' HUP INT TERM
 
-# start_server SIZE: an X server of our own with a screen of this size.
+# start_server SIZE: starts an X server with a screen of this size.
 start_server() {
   : >"$folder/display"
   Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$folder/display" 2>/dev/null &
@@ -45,17 +45,17 @@ start_server() {
   export DISPLAY
 }
 
-# The processor time of a process so far, in milliseconds.
+# cpu PROCESS: prints its processor time so far, in milliseconds.
 cpu() {
   local fields
   fields=$(sed 's/.*) //' "/proc/$1/stat")
   awk -v tick="$(getconf CLK_TCK)" '{ print ($12 + $13) * 1000 / tick }' <<<"$fields"
 }
 
-# Away from the settings of whoever runs this.
+# Keeps the user's settings out.
 export HOME=$folder XDG_DATA_HOME=$folder XDG_CONFIG_HOME=$folder
 
-# row SIZE NAME STARS FRAMES COMMAND...: runs the command on a server of its own and prints its row.
+# row SIZE NAME STARS FRAMES COMMAND...: runs the command on a new server and prints its row.
 row() {
   local size=$1 name=$2 stars=$3 frames=$4 before after
   shift 4
@@ -74,14 +74,14 @@ row() {
   end_both
 }
 
-# saver SIZE STARS FRAMES DELAY: our own, in the midst of a tour. A delay of 0 is a frame for each
-# refresh of the screen, of which the server has 60 a second.
+# saver SIZE STARS FRAMES DELAY: measures Starfolds during a tour. With a delay of 0 there is a frame
+# per refresh of the screen, 60 a second on this server.
 saver() {
   row "$1" starfolds "$2" "$3" "$program" --saver --seed 5 --set Universe_Stars="$2" \
     --set Universe_ESteps=10 --set Adv_TimeDelay="$4"
 }
 
-# hack SIZE NAME STARS FRAMES OPTION...: one of the others.
+# hack SIZE NAME STARS FRAMES OPTION...: measures one of the other savers.
 hack() {
   local size=$1 name=$2 stars=$3 frames=$4
   shift 4

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Takes pictures of the dialogs: every page and style, light and dark, at 100 and 200 %. One of them
+# Makes pictures of the dialogs: every page and style, light and dark, at 100 and 200 %. One of them
 # is kept for the README.
-# Usage: docs/dialogs.sh DIALOG_PICTURES FOLDER   (the path of the program; where the pictures go)
+# Usage: docs/dialogs.sh DIALOG_PICTURES FOLDER   (the path of the program; the output folder)
 set -euo pipefail
 program=$(realpath "$1")
 mkdir -p "$2"

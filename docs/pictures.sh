@@ -18,8 +18,8 @@ one() {
   mv "$scratch"/frame-*.png "$file"
 }
 
-# picture NAME FRAME OPTION...: the same frame on an ordinary screen, and on a dense one, where a
-# star is a block of 2 x 2.
+# picture NAME FRAME OPTION...: writes the same frame for an ordinary screen, and for a dense one,
+# where a star is a block of 2 x 2 pixels.
 picture() {
   local name=$1 frame=$2
   shift 2
@@ -34,7 +34,7 @@ picture starfold 800
 picture core 1015
 picture pull-out 1277 --set Universe_Recycle=1
 
-# One body, with more flares than it has by default.
+# One body, with more flares than by default.
 body=(--profile 0 --set Universe_Stars=3000)
 picture novas 200 "${body[@]}" --set Starfold_NovaFreq=6000
 for shape in 0 1 2 3 4; do
@@ -42,6 +42,6 @@ for shape in 0 1 2 3 4; do
     --set Starfold_PulsarFreq=2500 --set "Starfold_PulsarShape=$shape"
 done
 
-# For the front page, where pictures are shown small.
+# For the README, where pictures are shown small.
 one readme.png 4764 --size 640x360 --scale 2
 "$program" --set Universe_Recycle=1 --frames 1300 --first 10 --every 115 --sheet universe.png

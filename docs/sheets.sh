@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Renders the contact sheets of the factory settings into docs/pictures/sheets/: every profile and
-# composite of both sets as a viewer sees it from its own distance, and the eight universe themes;
-# and into docs/pictures/templates/ six frames of each template.
+# composite of both sets at its own viewing distance, and the eight universe themes; and six frames
+# of each template into docs/pictures/templates/.
 # Usage: docs/sheets.sh PROGRAM   (the path of starfolds-render)
 set -euo pipefail
 program=$(realpath "$1")
@@ -11,7 +11,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# tile FILE FRAME OPTION...: one frame as a tile.
+# tile FILE FRAME OPTION...: writes one frame as a tile.
 tile() {
   local file=$1 frame=$2
   shift 2
@@ -19,7 +19,7 @@ tile() {
   mv "$scratch"/frame/frame-*.png "$file"
 }
 
-# sheet FILE COLUMNS: all tiles in the order of their names, each over what its name says.
+# sheet FILE COLUMNS: assembles all tiles in the order of their names, each above its caption.
 sheet() {
   local file=$1 columns=$2 arguments=() picture label
   for picture in "$scratch"/tiles/*.png; do
@@ -31,8 +31,8 @@ sheet() {
   rm -r "$scratch/tiles"
 }
 
-# bodies SET KIND FRAME: a sheet of all profiles or composites of a set. Undefined ones are the
-# first one again.
+# bodies SET KIND FRAME: makes a sheet of all profiles or composites of a set. Undefined ones repeat
+# the first one.
 bodies() {
   local set=$1 kind=$2 frame=$3 number name
   mkdir -p "$scratch/tiles"
@@ -45,8 +45,8 @@ bodies() {
   sheet "set$set-${kind}s.png" 5
 }
 
-# themes: blast, end of the blast, a visit and the pull-out of each theme. The frames follow from
-# its steps: a visit has steps times control points, and the pull-out begins behind the last.
+# themes: shows blast, end of the blast, a visit and the pull-out of each theme. The frame numbers
+# follow from its steps: a visit has steps times control points, and the pull-out follows the last.
 themes() {
   local theme blast steps approach closein visit
   local -a step=(0 160 100 250 300 160 250 75 300) points=(0 2 2 1 3 2 1 1 1)
@@ -65,7 +65,7 @@ themes() {
   sheet themes.png 4
 }
 
-# template NAME FRAME...: frames of one universe of a template, in which there is something to see.
+# template NAME FRAME...: makes a sheet of selected frames of one universe of a template.
 template() {
   local name=$1 frame
   shift

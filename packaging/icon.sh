@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# icon.sh STARFOLDS-RENDER FILE: draws the program's icon anew, as an SVG with a disc for each star
+# icon.sh STARFOLDS-RENDER FILE: draws the program's icon, an SVG with a disc for each star
 # of one frame. Needs ImageMagick.
 set -euo pipefail
 render=$1

@@ -1,11 +1,11 @@
-# Part of `cmake --install`: the saver for hosts that start no program from elsewhere than their own
-# folder, and the entry through which MATE and Xfce find it there.
+# Part of `cmake --install`: installs the saver for hosts that only start programs in their own folder,
+# and the desktop entry by which MATE and Xfce find it there.
 foreach(FOLDER PROGRAM_FOLDER SAVER_FOLDER DESKTOP_FILE_FOLDER)
   cmake_path(ABSOLUTE_PATH ${FOLDER} BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE)
   file(MAKE_DIRECTORY $ENV{DESTDIR}${${FOLDER}})
 endforeach()
 
-# A relative link stays good when the whole tree is moved.
+# A relative link stays valid if the whole tree is moved.
 cmake_path(RELATIVE_PATH PROGRAM_FOLDER BASE_DIRECTORY ${SAVER_FOLDER} OUTPUT_VARIABLE WAY)
 set(LINK ${SAVER_FOLDER}/starfolds)
 message(STATUS "Installing: $ENV{DESTDIR}${LINK}")

@@ -1,5 +1,5 @@
-# Part of `cmake --install`: lets the desktop know at once which files the program opens. Where a
-# package is made (DESTDIR), the package manager does that when it is installed.
+# Part of `cmake --install`: updates the desktop's database of file types. If a package is built
+# (DESTDIR), the package manager does that when the package is installed.
 function(tell PROGRAM FOLDER)
   cmake_path(ABSOLUTE_PATH FOLDER BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE)
   find_program(${PROGRAM}_PATH ${PROGRAM})

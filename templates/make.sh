@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the templates of this folder: what each universe is, and how it differs from what the
-# program brings along. Bodies that are not named keep their factory settings, without a weight.
-# Usage: templates/make.sh PROGRAM [NAME]...   (the path of starfolds-render; all, or these)
+# Makes the templates of this folder, by changes to the factory settings. Bodies that are not named
+# keep their factory settings, with weight 0.
+# Usage: templates/make.sh PROGRAM [NAME]...   (the path of starfolds-render; these, or all)
 set -euo pipefail
 program=$(realpath "$1")
 shift
@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# begin OPTION...: a universe that starts from --theme, --factory, with no body in it.
+# begin OPTION...: starts a universe from --theme or --factory, without bodies.
 begin() {
   options=("$@" --set _UniFoldPct=0)
   points=''
@@ -17,7 +17,7 @@ begin() {
   for number in {0..15}; do options+=(--set "CompFold$number/_CompFoldPct=0"); done
 }
 
-# settings PREFIX NAME=VALUE...: settings whose names all begin alike.
+# settings PREFIX NAME=VALUE...: sets settings whose names share a prefix.
 settings() {
   local prefix=$1 setting
   shift
@@ -28,14 +28,14 @@ universe() { settings Universe_ "$@"; }
 
 delay() { options+=(--set "Adv_TimeDelay=$1"); }
 
-# body NUMBER WEIGHT NAME SETTING=VALUE...: a profile, from the factory's of that number. What some
-# bodies have in common is a text of settings, which the shell splits into its words.
+# body NUMBER WEIGHT NAME SETTING=VALUE...: sets a profile, starting from the factory's of that number.
+# Settings that several bodies share are one text, which the shell splits into words.
 body() {
   options+=(--set "Starfold$1/_UniFoldPct=$2" --set "Starfold$1/_UniFoldName=$3")
   settings "Starfold$1/Starfold_" "${@:4}"
 }
 
-# composite NUMBER WEIGHT NAME MEMBER...
+# composite NUMBER WEIGHT NAME MEMBER...: sets a composite.
 composite() {
   local number=$1 member=0 profile
   options+=(--set "CompFold$number/_CompFoldPct=$2" --set "CompFold$number/_CompFoldName=$3")
@@ -47,8 +47,8 @@ composite() {
   done
 }
 
-# section NUMBER IFS|ATOMIC PREFIX KEY COUNTER ROW...: the rows of a sub-section, each of seven
-# numbers. Places are counted from 5000, the centre; 1000 is the radius of the body.
+# section NUMBER IFS|ATOMIC PREFIX KEY COUNTER ROW...: writes the rows of a sub-section, each of seven
+# numbers. Coordinates are relative to the centre at 5000; 1000 is the radius of the body.
 section() {
   local number=$1 prefix=$3 key=$4 row
   points+=$(printf '[UniFold%d\\%s]\r\n' "$number" "$2")$'\n'
@@ -101,8 +101,8 @@ lattice() {
   section "$number" ATOMIC Atom 'Atom_P%02d' Atoms "${rows[@]}"
 }
 
-# finish NAME: writes NAME.sfd. No option sets the points of a body, but the reader takes the first
-# section of a name: so the points are put before the settings, and the whole is written anew.
+# finish NAME: writes NAME.sfd. No option sets the points of a body, but the reader uses the first
+# section of a name: so the points are put before the settings, and the result is written again.
 finish() {
   "$program" "${options[@]}" --save "$scratch/settings.sfd"
   printf '%s' "$points" | cat - "$scratch/settings.sfd" >"$scratch/whole.sfd"

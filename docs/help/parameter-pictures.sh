@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Renders the pictures of the help's parameter and style pages into docs/help/pictures/: strips that
 # compare values of one setting, and the recipes of the style pages.
-# Usage: docs/help/parameter-pictures.sh RENDER [NAME]...   (the path of starfolds-render; all, or
-# only these pictures)
+# Usage: docs/help/parameter-pictures.sh RENDER [NAME]...   (the path of starfolds-render;
+# only these pictures, or all)
 set -euo pipefail
 program=$(realpath "$1")
 shift
@@ -11,13 +11,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")/pictures"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# What a picture starts from, and the size of its tiles: three fill a line of 640 pixels.
+# The settings that a picture starts from, and the size of its tiles: three fill a line of 640 pixels.
 start=(--profile 0)
 columns=3
 tile=210x158
 
-# shot FILE FRAME SETTINGS: one frame. SETTINGS is a text of words NAME=VALUE, where a name without
-# Universe_ in front is a starfold's; @NUMBER is another frame, %NAME a body made by `points`.
+# shot FILE FRAME SETTINGS: writes one frame. SETTINGS is a text of words NAME=VALUE, where a name
+# without the prefix Universe_ is a starfold's; @NUMBER selects another frame, %NAME a body made by
+# `points`.
 shot() {
   local file=$1 frame=$2 word
   local -a options=() words
@@ -35,8 +36,8 @@ shot() {
   mv "$scratch"/frame-*.png "$file"
 }
 
-# strip NAME FRAME COMMON CAPTION SETTINGS [CAPTION SETTINGS]...: a frame for each caption, with the
-# common settings and its own.
+# strip NAME FRAME COMMON CAPTION SETTINGS [CAPTION SETTINGS]...: makes a frame for each caption, with
+# the common settings and its own.
 strip() {
   local name=$1 frame=$2 common=$3 number=0
   local -a tiles=()
@@ -53,10 +54,10 @@ strip() {
   convert "$scratch/strip.png" +dither -colors 64 -strip "png8:$name.png"
 }
 
-# points NAME IFS|ATOMIC ROW...: a body of these rows around the centre 1000 1000 1000. A row is an
+# points NAME IFS|ATOMIC ROW...: makes a body of these rows around the centre 1000 1000 1000. A row is an
 # attractor point (X Y Z SCALE AXIS ANGLE PERCENT) or an atom (ELEMENT X Y Z STRUCTURE RADIUS
-# SYMMETRY). No option of the program sets them, so they go by way of a template file, whose reader
-# takes the first section of a name.
+# SYMMETRY). No option of the program sets them, so they are passed in a template file, whose reader
+# uses the first section of a name.
 points() {
   local name=$1 section=$2 prefix=Atom key='Atom_P%02d' count=Starfold_Atoms axis row
   local -i index=0

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the help anew: docs/help/pictures/*@2x.png, twice as dense as they are shown.
+# Makes the pictures of the help: docs/help/pictures/*@2x.png, at twice the density they are shown at.
 # Usage: docs/help/pictures.sh RENDER DIALOG_PICTURES   (the paths of the two programs)
 set -euo pipefail
 render=$(realpath "$1")
@@ -10,14 +10,14 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
-# keep NAME PICTURE [OPTION]...: stores a picture small.
+# keep NAME PICTURE [OPTION]...: stores a picture with few colours, as a small file.
 keep() {
   local name=$1 picture=$2
   shift 2
   convert "$picture" "$@" +dither -colors 64 -strip "png8:$folder/$name@2x.png"
 }
 
-# frame FILE SIZE NUMBER OPTION...: one frame of a run.
+# frame FILE SIZE NUMBER OPTION...: writes one frame of a run.
 frame() {
   local file=$1 size=$2 number=$3
   shift 3
@@ -26,8 +26,9 @@ frame() {
   mv one/*.png "$file"
 }
 
-# body FILE SIZE NUMBER PROFILE SECTION SETTING...: the same of one body. The section holds the rows
-# that no option reaches: its name, then one row in a line. What stands first in a template counts.
+# body FILE SIZE NUMBER PROFILE SECTION SETTING...: writes one frame of a single body. The section
+# contains the rows that no option sets: its name, then one row per line. The first section of a name
+# in a template counts.
 body() {
   local file=$1 size=$2 number=$3 profile=$4 section=$5 setting options=()
   shift 5
@@ -42,7 +43,7 @@ body() {
   frame "$file" "$size" "$number" --template body.sfd --profile "$profile"
 }
 
-# row NAME FILE...: pictures side by side, with a line between them.
+# row NAME FILE...: joins pictures side by side, with a line between them.
 row() {
   local name=$1
   shift
@@ -50,7 +51,7 @@ row() {
   keep "$name" row.png -shave 4x4
 }
 
-# What one sees.
+# Views of a universe.
 frame starfold.png 560x315 870
 keep starfold starfold.png
 for length in 0.5 1 2; do frame "$length.png" 192x144 870 --set "FocalLength=$length"; done
@@ -65,7 +66,7 @@ for factor in 1 5; do
 done
 tiles=3x row random 1-{1,2,3}.png 5-{1,2,3}.png
 
-# The levels of a disc: one, three, with their tilts interleaved, and thin bands.
+# The levels of a disc: one, three, with interleaved tilts, and thin bands.
 levels=(Radius=300 Distance=1200 StdLevels=3 StdLevDRad=300)
 body 1.png 192x144 200 0 '' Radius=300 Distance=1200
 body 2.png 192x144 200 0 '' "${levels[@]}"
@@ -74,7 +75,7 @@ row levels 1.png 2.png 3.png
 body disc.png 400x300 200 0 '' "${levels[@]}" AngleTInc=1 StdLevB_A0=1 StdLevHSca=0 RadBFill=30
 keep levels-disc disc.png
 
-# A fern: its stem alone, with one leaf, with both.
+# A fern: its stem, with one leaf, with both.
 centre=$'IFS_CenterX=1000\nIFS_CenterY=1000\nIFS_CenterZ=1000'
 stem='* 1030 2000 1000   15    2  356   80'
 left='* 1000  440 1000   65    2   55   10'
@@ -111,7 +112,7 @@ for structure in {0..11}; do
 done
 tiles=4x row structures "${structures[@]}"
 
-# The dialogs. Letters need few colours, and no more than that keeps the pictures small.
+# The dialogs, with few colours, which keeps the files small.
 dialog() {
   local name=$1 picture=$2
   shift 2
