@@ -58,7 +58,7 @@ OptionTable TableFor(StartOptions& to) {
       Heading("What runs"),
       {"--saver", "", "run the screen saver; any input ends it", asksFor(Role::Saver)},
       {"--screens", "WHICH",
-       "with --saver: \"all\" screens, each with a universe of its own\n"
+       "with --saver: \"all\" screens, each with its own universe\n"
        "(as without this option), the \"primary\" one, or one by its\nnumber from 1",
        reads(ReadScreen)},
       {"--window", "", "run the effect as an application", asksFor(Role::Window)},
@@ -67,7 +67,7 @@ OptionTable TableFor(StartOptions& to) {
       {"--full-screen", "", "with --window: cover the screen", TakeFixed(to.FullScreen, true)},
       {"--settings", "", "open the settings dialog", asksFor(Role::Settings)},
       Heading(
-          "For programs that host a screen saver, on X11. Input and the end are their business"),
+          "For programs that host a screen saver, on X11, which handle input and end the saver"),
       {"--root", "", "run inside the window that XSCREENSAVER_WINDOW names", asksFor(Role::Guest)},
       {"--window-id", "N", "run inside window N (decimal, or 0x and hexadecimal)",
        reads(ReadHostWindow)},
@@ -82,7 +82,7 @@ OptionTable TableFor(StartOptions& to) {
       {"--gravity", "N", "gravity between the starfolds, 0 to 999999", sets("Universe_GravForce")},
       {"--no-tour", "", "watch the whole universe from one place", sets("Universe_Tour", "0")},
       {"--randomize", "", "vary the bodies at random", sets("Adv_Randomize", "1")},
-      {"--delay", "N", "least time of a frame in ms, 0 to 999", sets("Adv_TimeDelay")},
+      {"--delay", "N", "minimum time of a frame in ms, 0 to 999", sets("Adv_TimeDelay")},
       {"--set", "NAME=N",
        "any setting by its stored name, such as Universe_Stars=9000,\n"
        "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500",

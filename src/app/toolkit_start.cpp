@@ -32,7 +32,7 @@ std::vector<Message> messages;
     reason = message.Text;
     break;
   }
-  Complain("starfolds", "the desktop cannot be reached: " + reason.trimmed().toStdString());
+  Complain("starfolds", "cannot connect to the display: " + reason.trimmed().toStdString());
   std::_Exit(kExitCannotDo);
 }
 

@@ -88,7 +88,7 @@ void HelpSearch::Find() {
     item->setData(kLineRole, hit.Line);
   }
   if (lstFound_->count() > 0 || Words().isEmpty()) return;
-  auto* nothing = new QListWidgetItem(tr("No topic has these words."), lstFound_);
+  auto* nothing = new QListWidgetItem(tr("No topic contains these words."), lstFound_);
   nothing->setFlags(Qt::NoItemFlags);
 }
 

@@ -31,7 +31,7 @@ QString Session() {
       found += QString("%1=%2").arg(name, qEnvironmentVariable(name).left(80));
     }
   }
-  return found.isEmpty() ? "nothing is said of it" : found.join(", ");
+  return found.isEmpty() ? "unknown" : found.join(", ");
 }
 
 QString Described(const QScreen& screen, int number) {

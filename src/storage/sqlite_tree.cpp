@@ -177,8 +177,8 @@ void SqliteTree::NoteTrouble(const TreePlace& place, const TreeTransaction& tran
   restUntil_ = std::chrono::steady_clock::now() + patience_.Rest;
   if (!complain_) return;
   complain_("\"" + place.File + "\" " +
-            (locked ? "is locked by another process" : "holds too much to be read in time") +
-            "; the settings in it are left out");
+            (locked ? "is locked by another process" : "takes too long to read") +
+            "; its settings are ignored");
 }
 
 }  // namespace starfolds
