@@ -1,4 +1,4 @@
-// The floor under the star step: the least that any program must do for a star.
+// A minimal loop to compare the star step with: the least that any program must do for a star.
 #pragma once
 
 #include <vector>
@@ -7,8 +7,8 @@
 
 namespace starfolds {
 
-/// The least loop that draws the same picture: one body, no flares, no profiles, no levels and no
-/// hues, over arrays and a canvas of the same size, in the same arithmetic.
+/// The minimal loop that draws the same picture: one body, without flares, profiles, levels and
+/// hues, on arrays and a canvas of the same size, with the same arithmetic.
 struct Floor {
   std::vector<Single> X, Y, Z, Cos, Sin;
   std::vector<Long> OldX, OldY;

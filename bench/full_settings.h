@@ -1,4 +1,4 @@
-// The largest settings there can be: every list of every record is filled.
+// The largest possible settings: every list of every record is full.
 #pragma once
 
 #include <optional>
@@ -20,7 +20,7 @@ inline SettingsRecords FullSettings(unsigned seed) {
   return records;
 }
 
-/// As many values as ordinary settings have: no points, no atoms, two members a composite.
+/// As many values as typical settings have: no points, no atoms, two members per composite.
 inline SettingsRecords PlainSettings(unsigned seed) {
   SettingsRecords records = RandomRecords(seed).Make();
   for (StarfoldProfile& profile : records.Profiles) {

@@ -1,4 +1,4 @@
-// Runs the star step or the floor loop for callgrind to count (bench/instructions.sh).
+// Runs the star step or the minimal loop for callgrind to count (bench/instructions.sh).
 #include <cstdlib>
 #include <string_view>
 
@@ -21,7 +21,7 @@ starfolds::scenes::BodyStage PlainBody(starfolds::Integer stars) {
 
 }  // namespace
 
-/// The functions that callgrind is told to look into; with C names, so that it finds them.
+/// The functions that callgrind counts, with C linkage so that it finds their names.
 extern "C" void CountedFloor(starfolds::Floor& floor) {
   for (int i = 0; i < kFrames; ++i) floor.Step();
 }
@@ -33,10 +33,10 @@ extern "C" void CountedStep(starfolds::scenes::BodyStage& stage) {
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
   auto stage = PlainBody(static_cast<starfolds::Integer>(std::atoi(argv[2])));
-  stage.Step();  // every star settles
+  stage.Step();  // until every star has settled
   if (std::string_view(argv[1]) == "floor") {
     starfolds::Floor floor(stage);
-    auto* volatile counted = &CountedFloor;  // a call that is not inlined
+    auto* volatile counted = &CountedFloor;  // prevents inlining
     counted(floor);
   } else {
     auto* volatile counted = &CountedStep;

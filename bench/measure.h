@@ -1,4 +1,4 @@
-// How the benchmarks count and repeat.
+// Counting and repetition of the benchmarks.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -8,7 +8,7 @@
 
 namespace starfolds {
 
-/// Reports the time per star, of `stars` in an iteration.
+/// Reports the time per star, for `stars` stars in an iteration.
 inline void CountStars(benchmark::State& state, std::size_t stars) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(stars));
   state.counters["ns/star"] = benchmark::Counter(
@@ -16,7 +16,7 @@ inline void CountStars(benchmark::State& state, std::size_t stars) {
       benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-/// The quickest of the repetitions: other programs on the machine only ever add to it.
+/// The minimum over the repetitions: other programs on the machine only add to the time.
 inline double Quickest(const std::vector<double>& values) {
   return *std::min_element(values.begin(), values.end());
 }

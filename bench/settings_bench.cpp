@@ -1,5 +1,5 @@
-// What it costs to load and save settings as a user does: templates on the disk, and the stored
-// tree. The folder counts: give it with TMPDIR.
+// The cost of loading and saving settings: templates on disk, and the stored tree. The result
+// depends on the disk; TMPDIR selects it.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -42,7 +42,7 @@ void SaveFullTemplate(benchmark::State& state) {
   }
 }
 
-/// The largest file that is read at all, made to be slow: one section full of "=", and brackets.
+/// The largest file that is accepted, with slow contents: one section full of "=" and brackets.
 void LoadHostileTemplate(benchmark::State& state) {
   const TemporaryFolder folder;
   const char filler = state.range(0) == 0 ? '=' : '[';
@@ -58,7 +58,7 @@ void RefuseHugeTemplate(benchmark::State& state) {
   LoadTemplateFrom(state, folder / "huge.sfd", false);
 }
 
-/// Another set every time, so that every value changes.
+/// Different settings each time, so that every value changes.
 void Accept(benchmark::State& state, SettingsRecords (*make)(unsigned)) {
   const TemporaryFolder folder;
   SqliteTree tree({folder / "settings.db", {}}, {});

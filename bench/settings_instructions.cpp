@@ -7,7 +7,7 @@
 
 using namespace starfolds;
 
-/// The functions that callgrind is told to look into; with C names, so that it finds them.
+/// The functions that callgrind counts, with C linkage so that it finds their names.
 extern "C" void CountedLoad(TemplateFile& file, SettingsRecords& records) {
   ReadTemplate(file, "t.sfd", records);
 }
@@ -15,14 +15,14 @@ extern "C" void CountedSave(Files& disk, SettingsRecords& records) {
   SaveAs(disk, "t.sfd", records);
 }
 
-/// Prints how many values the settings have.
+/// Prints the number of values of the settings.
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
   SettingsRecords records =
       std::string_view(argv[2]) == "full" ? FullSettings(1) : PlainSettings(1);
   MemoryFiles disk;
   if (std::string_view(argv[1]) == "save") {
-    auto* volatile counted = &CountedSave;  // a call that is not inlined
+    auto* volatile counted = &CountedSave;  // prevents inlining
     counted(disk, records);
   } else {
     SaveAs(disk, "t.sfd", records);

@@ -1,14 +1,14 @@
-// The star step against the least that any program must do for a star: read its place, rotate it,
-// project it, and write two pixels. Compare the ns/star columns of the same run, as a ratio; the
-// machine's own speed drops out.
+// The star step, compared with the least that any program must do for a star: read its position,
+// rotate it, project it, and write two pixels. Compare the ns/star columns of the same run as a
+// ratio, which does not depend on the machine's speed.
 #include "floor_loop.h"
 #include "measure.h"
 
 namespace starfolds {
 namespace {
 
-/// A body whose stars all lie in front of the eye, within the screen, with no re-seeding, so that
-/// the step and the floor do the same work.
+/// A body whose stars are all in front of the eye and on the screen, without re-seeding, so that
+/// the step and the minimal loop do the same work.
 scenes::BodyStage PlainBody(const benchmark::State& state) {
   return scenes::BodyStage(static_cast<Integer>(state.range(1)),
                            static_cast<Integer>(state.range(2)),

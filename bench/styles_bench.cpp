@@ -1,6 +1,6 @@
-// What the styles cost: the step of a star and the seeding of one, style by style, and the comets
-// and ambient stars beside them. The floor loop runs in the same program, so that rows compare as
-// ratios to it. Each style is the first factory profile that has it.
+// The cost of each style: the step of a star and the seeding of one, and that of comets and ambient
+// stars. The minimal loop runs in the same program, for ratios to it. Each style uses the first
+// factory profile that has it.
 #include <string>
 
 #include "bodies/comets.h"
@@ -15,11 +15,11 @@ namespace {
 
 constexpr Integer kStars = 5000;
 constexpr Integer kTrail = 6;
-constexpr int kBatch = 100;     // frames between two looks at the clock
-constexpr int kSettling = 600;  // frames in which a body comes to look as it does for good
+constexpr int kBatch = 100;     // frames between two readings of the clock
+constexpr int kSettling = 600;  // frames until a body has its final look
 constexpr TourPlace kNoTour{0, 0, 32000, 0, false};
 
-/// The row of the first factory profile of a style.
+/// Index of the first factory profile of a style.
 int FactoryRowOf(FoldStyle style) {
   StarfoldProfile profile;
   for (int row = 0; row < kProfileCount; ++row) {
@@ -29,7 +29,7 @@ int FactoryRowOf(FoldStyle style) {
   return 0;
 }
 
-/// A body of a factory profile whose stars do not flare.
+/// A body of a factory profile without flares.
 scenes::BodyStage FactoryBody(int row, Integer stars, Integer trail) {
   return scenes::BodyStage(1920, 1080, stars, trail, [row](SettingsRecords& settings) {
     StarfoldProfile& profile = settings.Profiles[0];
@@ -43,8 +43,8 @@ scenes::BodyStage FactoryBody(int row, Integer stars, Integer trail) {
 
 void StepBody(scenes::BodyStage& stage) { StarStep(stage.Frame(), kNoTour); }
 
-/// The step of a body that has run for a while. It is not re-seeded any more, so a batch of frames
-/// begins again and again with the same stars, before those that drift have left.
+/// The step of a settled body. It is not re-seeded, so each batch of frames starts with the same
+/// stars, before those that drift have left.
 void MeasureStep(benchmark::State& state, FoldStyle style, Integer trail) {
   const int row = FactoryRowOf(style);
   scenes::BodyStage stage = FactoryBody(row, kStars, trail);
@@ -93,7 +93,8 @@ void Seed(benchmark::State& state) {
   state.SetLabel(std::string(FactoryProfileName(row, FactorySet::Starfolds4x)));
 }
 
-/// Comets that are all there and stay, with stars that end and are reborn at the profile's rate.
+/// Comets at their maximum number that persist, with stars that end and restart at the profile's
+/// rate.
 void CometStars(benchmark::State& state) {
   scenes::BodyStage stage = FactoryBody(FactoryRowOf(FoldStyle::Standard), 1, 1);
   CometArrays& comets = stage.Run->Comets;
@@ -111,7 +112,8 @@ void CometStars(benchmark::State& state) {
   CountStars(state, stars * kBatch);
 }
 
-/// The ambient stars of a finished universe at its defaults, seen from where its creation was.
+/// The ambient stars of a finished universe with default settings, seen from the camera's initial
+/// position.
 void AmbientStars(benchmark::State& state) {
   scenes::Stage stage(1920, 1080);
   stage.Read();

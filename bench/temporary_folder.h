@@ -1,4 +1,4 @@
-// A folder that a benchmark writes to, gone with it. TMPDIR says where.
+// A folder for a benchmark's files, removed afterwards. TMPDIR sets its location.
 #pragma once
 
 #include <cstdlib>

@@ -1,5 +1,5 @@
-// What it costs to save all settings to the stored tree, and to look at them. The disk's own time
-// is most of a save, so the folder counts: give it with TMPDIR.
+// The cost of saving all settings to the stored tree, and of reading them. A save mostly waits for
+// the disk; TMPDIR selects it.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
@@ -12,12 +12,13 @@ namespace starfolds {
 namespace {
 
 constexpr int kProfiles = 50;
-constexpr int kFieldsPerProfile = 70;   // makes 3,500 values: all that the dialogs store at once
-constexpr int kMissingPerProfile = 30;  // makes 5,000 looks: the readers ask for more than is there
+constexpr int kFieldsPerProfile = 70;  // makes 3,500 values: all that the dialogs store
+constexpr int kMissingPerProfile =
+    30;  // makes 5,000 reads: the readers ask for more than is stored
 
 class Settings {
  public:
-  /// One bulk; whether it held.
+  /// One bulk; returns whether it succeeded.
   bool Save(SqliteTree& tree, int value) const {
     TreeBulk bulk = TreeBulk::Change(tree);
     const std::string text = std::to_string(value);
@@ -100,7 +101,7 @@ void ReadOneValue(benchmark::State& state) {
   }
 }
 
-/// A save waits for the disk: the clock on the wall is what counts.
+/// A save waits for the disk, so real time is measured.
 void Measured(benchmark::internal::Benchmark* bench) {
   bench->UseRealTime()->Unit(benchmark::kMillisecond);
 }

@@ -1,5 +1,5 @@
-// Whole frames: a universe at the factory settings on a memory surface, its creation and its tour,
-// and gravity between as many starfolds as there can be.
+// Whole frames: a universe with factory settings on a memory surface, its creation and its tour,
+// and gravity between the maximum number of starfolds.
 #include <benchmark/benchmark.h>
 
 #include "scenes/scenes.h"
@@ -9,7 +9,7 @@
 namespace starfolds {
 namespace {
 
-/// Runs `frames` frames of a universe per iteration, from frame `skip` of it on.
+/// Runs `frames` frames of a universe per iteration, from frame `skip` on.
 void UniverseFrames(benchmark::State& state, int skip, int frames) {
   for (auto _ : state) {
     state.PauseTiming();

@@ -1,4 +1,4 @@
-// Bytes as the command lines of both programs: arguments end with a line feed.
+// Parses the input as command lines of both programs; a line feed ends an argument.
 #include <cstddef>
 #include <cstdint>
 #include <vector>

@@ -1,5 +1,4 @@
-// What a fuzz target holds to be true. A broken expectation ends the process, which is how the
-// fuzzer learns of it.
+// Expectations of a fuzz target. A failed expectation aborts the process, which the fuzzer reports.
 #pragma once
 
 #include <cstdio>
@@ -23,7 +22,7 @@ std::string TextsOf(const Record& record, std::span<const Field<Record>> fields)
   return texts;
 }
 
-/// All that is kept of a record.
+/// All stored values of a record.
 inline std::string TextsOf(const UniverseSettings& universe) {
   return TextsOf(universe, UniverseFields());
 }
@@ -51,7 +50,7 @@ inline std::string TextsOf(const StarfoldProfile& profile) {
   return texts;
 }
 
-/// To clamp a record again changes nothing.
+/// Clamping a clamped record changes nothing.
 template <class Record>
 void ExpectClamped(const Record& record, void (*clamp)(Record&)) {
   Record clamped = record;

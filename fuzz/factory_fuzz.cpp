@@ -1,4 +1,4 @@
-// Bytes as rows of the factory tables.
+// Parses the input as rows of the factory tables.
 #include <cstddef>
 #include <cstdint>
 

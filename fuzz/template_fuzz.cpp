@@ -1,4 +1,4 @@
-// Bytes as a template file.
+// Parses the input as a template file.
 #include <cstddef>
 #include <cstdint>
 
@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ClampComposite(composite);
   ExpectClamped(composite, ClampComposite);
 
-  // What was read can be written and is read as the same. Names of several lines become one line.
+  // What was read can be written, and reads back the same. Line breaks in names become blanks.
   for (std::string* name : {&profile.UniFoldName, &composite.CompFoldName}) {
     for (char& c : *name) {
       if (c == '\r' || c == '\n' || c == '\0') c = ' ';

@@ -1,4 +1,5 @@
-// Bytes as the values of a stored tree: each line is a section, a key and a value, by tabs.
+// Uses the input as values of a stored tree: each line is a section, a key and a value, separated
+// by tabs.
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -42,7 +43,7 @@ void ReadAllWays(KeyValueTree& tree, std::string_view section, std::string_view 
   Expect(number - number == 0, "numbers are finite");
 }
 
-/// What was loaded and stored is loaded the same ever after.
+/// What was loaded and stored loads the same again.
 void RoundTrip(KeyValueTree& tree) {
   MemoryTree copy;
   StarfoldProfile profile = LoadProfileFromRegistry(tree, 0, ProfileSection(0), kRoot);

@@ -1,6 +1,5 @@
-// Writes pictures of the properties dialog, of every page and style, and of the dialogs behind it,
-// for the documents:
-// dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR makes them larger.
+// Writes pictures of the properties dialog, with every page and style, and of the other dialogs,
+// for the documents. Usage: dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR sets their scale.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -50,13 +49,13 @@ Widget& Part(QWidget& dialog, const char* name) {
 }
 
 void Take(QWidget& window, const QString& file) {
-  QElapsedTimer pause;  // after which the still of the body follows
+  QElapsedTimer pause;  // after it the still of the body is updated
   pause.start();
   while (pause.elapsed() < 300) QApplication::processEvents();
   window.grab().save(file);
 }
 
-/// An editor, with an entry of its lists chosen.
+/// An editor, and the entry of its lists to select.
 struct EditorPicture {
   const char* Type;  // of starfold
   const char* Button;
@@ -152,11 +151,11 @@ void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QStri
   folder.removeRecursively();
 }
 
-/// What the run in the About box is shown for, in frames; and a page of the credits.
+/// The number of frames that the run in the About box is shown for, and a page of the credits.
 constexpr int kAboutFrames = 200;
 constexpr int kCreditsMs = 2600;
 
-/// Runs the toolkit's events in each pump.
+/// Processes Qt's events in each pump.
 class EventsPump : public CountedPump {
  public:
   std::function<void()> OnEach;
