@@ -74,8 +74,8 @@ row() {
   end_both
 }
 
-# saver SIZE STARS FRAMES DELAY: measures Starfolds during a tour. With a delay of 0 there is a frame
-# per refresh of the screen, 60 a second on this server.
+# saver SIZE STARS FRAMES DELAY: measures Starfolds during a tour. With a delay of 0 there is a
+# frame per refresh of the screen, 60 a second on this server.
 saver() {
   row "$1" starfolds "$2" "$3" "$program" --saver --seed 5 --set Universe_Stars="$2" \
     --set Universe_ESteps=10 --set Adv_TimeDelay="$4"

@@ -1,5 +1,5 @@
-# Part of `cmake --install`: installs the saver for hosts that only start programs in their own folder,
-# and the desktop entry by which MATE and Xfce find it there.
+# Part of `cmake --install`: installs the saver for hosts that only start programs in their own
+# folder, and the desktop entry by which MATE and Xfce find it there.
 foreach(FOLDER PROGRAM_FOLDER SAVER_FOLDER DESKTOP_FILE_FOLDER)
   cmake_path(ABSOLUTE_PATH ${FOLDER} BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE)
   file(MAKE_DIRECTORY $ENV{DESTDIR}${${FOLDER}})

@@ -28,8 +28,8 @@ universe() { settings Universe_ "$@"; }
 
 delay() { options+=(--set "Adv_TimeDelay=$1"); }
 
-# body NUMBER WEIGHT NAME SETTING=VALUE...: sets a profile, starting from the factory's of that number.
-# Settings that several bodies share are one text, which the shell splits into words.
+# body NUMBER WEIGHT NAME SETTING=VALUE...: sets a profile, starting from the factory's of that
+# number. Settings that several bodies share are one text, which the shell splits into words.
 body() {
   options+=(--set "Starfold$1/_UniFoldPct=$2" --set "Starfold$1/_UniFoldName=$3")
   settings "Starfold$1/Starfold_" "${@:4}"

@@ -11,7 +11,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/pictures"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# The settings that a picture starts from, and the size of its tiles: three fill a line of 640 pixels.
+# The settings that a picture starts from, and the size of its tiles: three fill 640 pixels.
 start=(--profile 0)
 columns=3
 tile=210x158
@@ -36,8 +36,8 @@ shot() {
   mv "$scratch"/frame-*.png "$file"
 }
 
-# strip NAME FRAME COMMON CAPTION SETTINGS [CAPTION SETTINGS]...: makes a frame for each caption, with
-# the common settings and its own.
+# strip NAME FRAME COMMON CAPTION SETTINGS [CAPTION SETTINGS]...: makes a frame for each caption,
+# with the common settings and its own.
 strip() {
   local name=$1 frame=$2 common=$3 number=0
   local -a tiles=()

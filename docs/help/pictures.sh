@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the help: docs/help/pictures/*@2x.png, at twice the density they are shown at.
+# Makes the pictures of the help: docs/help/pictures/*@2x.png, at twice their shown density.
 # Usage: docs/help/pictures.sh RENDER DIALOG_PICTURES   (the paths of the two programs)
 set -euo pipefail
 render=$(realpath "$1")
@@ -27,8 +27,8 @@ frame() {
 }
 
 # body FILE SIZE NUMBER PROFILE SECTION SETTING...: writes one frame of a single body. The section
-# contains the rows that no option sets: its name, then one row per line. The first section of a name
-# in a template counts.
+# contains the rows that no option sets: its name, then one row per line. In a template the first
+# section of a name counts.
 body() {
   local file=$1 size=$2 number=$3 profile=$4 section=$5 setting options=()
   shift 5
