@@ -34,7 +34,7 @@ class WindowEvents {
   /// The window has another size.
   virtual void Resized() {}
 
-  /// The window is gone, or about to, without having been asked.
+  /// The window was destroyed, or is about to be, without a request to close.
   virtual void Destroyed() {}
 };
 

@@ -11,18 +11,18 @@
 
 namespace starfolds {
 
-/// Shows the properties dialog over a window that it blocks, and returns when it is closed. With
-/// `help` it opens the help of that window beside the dialog.
+/// Shows the properties dialog, modal to `owner`, and returns when it is closed. If `help`, it also
+/// opens the help at the topic of that window.
 using ShowPropertiesDialog = std::function<void(QWindow& owner, bool help)>;
 
-/// What a start asks of the window, beside what is stored. With neither a size nor full screen, the
-/// window is one that can be resized, in its stored place, if `Adv_WinResize` is on.
+/// The shape of the window that a start asks for. With neither a size nor full screen the window is
+/// resizable and has its stored placement if `Adv_WinResize` is on.
 struct AppWindowShape {
-  bool FullScreen = false;    // whatever `Adv_WinResize` says
-  std::optional<QSize> Size;  // of what is inside the frame, likewise; logical pixels
-  bool Framed = false;  // if `Adv_WinResize` is off: a window of the usual size, not full screen
+  bool FullScreen = false;    // overrides `Adv_WinResize`
+  std::optional<QSize> Size;  // client area in logical pixels; overrides it too
+  bool Framed = false;  // if `Adv_WinResize` is off: a window of the default size, not full screen
 
-  /// Whether the shape is for this run alone, so that no placement is to be stored.
+  /// Whether the shape applies to this run only, so that no placement is stored.
   bool IsForThisRun() const { return FullScreen || Size; }
 };
 
