@@ -28,7 +28,7 @@ class WindowEvents {
   /// The user or the desktop asks the window to close. It stays open until the host closes it.
   virtual void CloseRequested() {}
 
-  /// The window came to be seen. It has the size that the desktop gave it.
+  /// The window has become visible, with the size that the desktop gave it.
   virtual void Exposed() {}
 
   /// The window has another size.
