@@ -54,7 +54,7 @@ void InitBodies(ProcessState& process, BodySlots& slots, std::span<const Integer
 /// by their levels (one draw).
 Integer PickProfile(ProcessState& process, Integer entry);
 
-/// The one profile that stands for a whole starfold: the entry, or the composite's first member.
+/// The profile that represents a whole starfold: the entry, or the composite's first member.
 Integer ResolveProfile(const ProcessState& process, Integer entry);
 
 /// Steps the slots of all starfolds by one frame; only the ribbons of nebulae change.

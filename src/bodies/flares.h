@@ -17,7 +17,7 @@ struct FrameScene {
   RunKind Kind = RunKind::Universe;
 };
 
-/// Seeds star `i` anew in the starfold `StarHome[i]` and rolls its flare: a pulsar, a nova or a new
+/// Re-seeds star `i` in the starfold `StarHome[i]` and rolls its flare: a pulsar, a nova or a new
 /// star (one draw against the profile's chances). A nova and a new star show at once.
 void ReseedStar(const FrameScene& scene, std::size_t i);
 

@@ -51,7 +51,7 @@ double LengthOf(const RunAtom& atom, Length length) {
   return 0;
 }
 
-// Each group stands for all choices of signs of its lengths that are not 0.
+// Each group has one point for each combination of signs of its lengths that are not 0.
 constexpr PointGroup kSixPoint[] = {{R, O, O}, {O, R, O}, {O, O, R}};
 constexpr PointGroup kEightPoint[] = {{R, R, R}};
 constexpr PointGroup k18Points[] = {{R, O, O}, {O, R, O}, {O, O, R},

@@ -77,8 +77,8 @@ constexpr FlareShape kPulsarShapes[] = {
     {kFineCentre, kFineLayers},
 };
 
-/// Draws rings about one centre. Places far off the screen are held at the limits of a Long, where
-/// nothing shows.
+/// Draws rings about one centre. Places far off the screen are clamped to the limits of a Long,
+/// where nothing shows.
 class FlarePen {
  public:
   FlarePen(Surface& surface, double x, double y, double unit, Colour colour)

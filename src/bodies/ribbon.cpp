@@ -43,7 +43,7 @@ void PlacePoints(RibbonSlot& slot, const RibbonSlot& keys, const Body& body, dou
   }
 }
 
-/// Every control point reaches its next key; the last one is drawn anew.
+/// Every control point reaches its next key; a new last key is drawn.
 void ShiftKeys(RibbonSlot& slot, const Body& body) {
   for (int i = 0; i < PointsWithOverlap(body); ++i) {
     for (int k = 0; k + 1 < kRibbonKeys; ++k) slot.RibbonKey[k][i] = slot.RibbonKey[k + 1][i];

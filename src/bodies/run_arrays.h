@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "bodies/body_slots.h"
-#include "prepared/prepared.h"
 #include "numbers/words.h"
 #include "platform/surface.h"
+#include "prepared/prepared.h"
 
 namespace starfolds {
 
@@ -65,8 +65,8 @@ struct StarArrays {
       : Star(stars), Flare(stars), Trail(stars * trail) {}
 };
 
-/// Where a starfold is to the eye, anew every frame. The values are Singles, kept as doubles
-/// because that is how every star of it reads them.
+/// The position of a starfold relative to the eye, updated every frame. The values are Singles,
+/// kept as doubles because that is how every star of it reads them.
 struct RelPlace {
   double X = 0, Y = 0, Z = 0;  // `StarfoldRelX`, `StarfoldRelY`, `StarfoldRelZ`
 
@@ -79,7 +79,7 @@ struct alignas(64) BodyFrame {
   RelPlace Rel;
   double TiltCos = 1, TiltSin = 0;
   const StarMotion* Motion = nullptr;
-  const Colour* HueTable = nullptr;  // none where the hues stand still
+  const Colour* HueTable = nullptr;  // nullptr if the hues do not cycle
   Single HWheelInc = 0;
   bool AxisPlane = false;
 };
@@ -91,7 +91,7 @@ struct StarfoldArrays {
   std::vector<Single> StarfoldX, StarfoldY, StarfoldZ;
   std::vector<Single> StarfoldVX, StarfoldVY, StarfoldVZ;  // from gravity
   std::vector<RelPlace> StarfoldRel;
-  std::vector<BodyFrame> Frames;  // ten levels a starfold, from 1 on; 0 is nobody's
+  std::vector<BodyFrame> Frames;  // ten levels a starfold, from index 1 on; 0 is not used
 
   explicit StarfoldArrays(std::size_t folds)
       : StarfoldProf(folds),

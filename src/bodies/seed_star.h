@@ -6,7 +6,7 @@
 
 namespace starfolds {
 
-/// Places star `i` anew in the starfold `StarHome[i]`, as a star of `StarProf[i]`: position,
+/// Places star `i` in the starfold `StarHome[i]`, as a star of `StarProf[i]`: position,
 /// velocity, spin, level, hue and colour. Age, wait and flares become 0.
 void SeedStar(ProcessState& process, StarArrays& stars, BodySlots& slots, std::size_t i);
 

@@ -23,7 +23,7 @@ struct TourPlace {
 /// the next `StarStep`, before anything reads them.
 void StarStep(const FrameScene& scene, const TourPlace& place);
 
-/// How the frame's re-seeding goes: its rate, and the weights by which the stars follow the eye.
+/// The re-seeding of a frame: its rate, and the weights by which the stars follow the eye.
 struct Recycling {
   Long Quota = 0;        // hundredths of a star per frame
   double CrossFade = 1;  // from 1 at the start of a tour step to 0 at its end
@@ -37,7 +37,7 @@ int RecycleCount(Long quota, Rnd& random);
 /// The starfold that a re-seeded star goes to: one or two draws.
 Integer ChooseHome(const FrameScene& scene, const TourPlace& place, double crossFade);
 
-/// Moves the hue of every star whose profile cycles, and looks its colour up anew.
+/// Moves the hue of every star whose profile cycles, and updates its colour.
 void AdvanceStarHues(const ProcessState& process, StarArrays& stars);
 
 /// Does the hue work that the last `StarStep` left to the next one. To be called before anything

@@ -1,5 +1,5 @@
 // The routines of the styles of body: one row per `FoldStyle`. What a style is to the settings and
-// the dialogs stands in settings/styles.h.
+// the dialogs is in settings/styles.h.
 #pragma once
 
 #include "bodies/run_arrays.h"

@@ -1,13 +1,13 @@
 // The colour tables and the only colour arithmetic of the system. No colour is computed per pixel:
-// a star carries a hue and a colour word, and the frame looks colours up.
+// a star carries a hue and a colour word, and the frame loop looks colours up.
 #pragma once
 
 #include <array>
 #include <cmath>
 
-#include "prepared/prepared.h"
 #include "numbers/rnd.h"
 #include "platform/surface.h"
+#include "prepared/prepared.h"
 #include "settings/records.h"
 
 namespace starfolds {
@@ -37,7 +37,7 @@ inline std::size_t RoundHue(Single hue) {
   return static_cast<std::size_t>(static_cast<unsigned>(std::lrint(hue)));
 }
 
-/// Packs three channels, each held at 0 and 255.
+/// Packs three channels, each clamped to 0..255.
 Colour PackRgb(int red, int green, int blue);
 
 /// The hue circle: `hue` in degrees, 0 to 359, beyond it black; channels run from `base` to `base`

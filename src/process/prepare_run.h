@@ -5,7 +5,7 @@
 
 namespace starfolds {
 
-/// Derives the prepared values and the colour tables from the records of `saver`, which must be
+/// Derives the prepared values and the colour tables from the records of `process`, which must be
 /// within their ranges. A random variation of the bodies is drawn here, so each call makes another.
 void PrepareRun(ProcessState& process);
 

@@ -1,6 +1,5 @@
-// The state of one saver process, as one value: made by `main` or by a test, handed to whoever
-// needs it. It stands on the lowest floor that knows all of its parts. There is no other state
-// than this and the arrays of a run, so any number of them live side by side.
+// The state of one process as one value, created by `main` or by a test and passed as an argument.
+// There is no other state but this and the arrays of a run, so several can exist at the same time.
 #pragma once
 
 #include "colour/tables.h"
@@ -50,7 +49,7 @@ struct ProcessState {
 
   // The records of the run, copied from the tree when its host is set up and clamped ...
   AdvancedSettings Advanced;
-  // ... and anew for each run by `ReadUniverseSettings`; the run clamps them in place.
+  // ... and again for each run by `ReadUniverseSettings`; the run clamps them in place.
   UniverseSettings Universe;
   ProfileArray Profiles;
   CompositeArray Composites;

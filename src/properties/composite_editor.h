@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "widgets/body_list.h"
+#include "widgets/dialog_model.h"
 #include "widgets/name_box.h"
 #include "widgets/number_box.h"
-#include "widgets/dialog_model.h"
 
 class QBoxLayout;
 
@@ -28,7 +28,7 @@ class CompositeEditor : public QWidget {
   /// The types that a composite can be made of, in the order of the profiles. What is chosen stays
   /// chosen.
   void SetBodies(const std::vector<std::string>& names);
-  /// Nothing is selected, chosen or typed any more.
+  /// Clears selection, choice and typed text.
   void ClearEditor();
   /// The selected composite, or -1.
   int Selected() const;

@@ -28,7 +28,7 @@ constexpr QSize kLeastPreview{300, 225};
 constexpr int kStillPauseMs = 150;
 constexpr double kMostOfScreen = 0.94;  // of a first placement; the rest is for frames and panels
 
-// Entries of `mnuResetProps`; a line stands between them.
+// Entries of `mnuResetProps`; with a separator between them.
 constexpr int kReset20 = 0;
 constexpr int kReset4x = 2;
 
@@ -85,13 +85,13 @@ void FrmProps::Open() {
   resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
   winId();  // a window that can have an owner before it is shown
   windowHandle()->setTransientParent(around_.Owner);
-  // Read before anything is asked: a safety copy takes what stands in the dialog.
+  // Read before anything is asked: a safety copy takes the values from the dialog.
   const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
   ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
   OpenProperties(settings_, *this, stored);
 }
 
-/// A preview that is on ends first: its run stands on the stack above the dialog.
+/// A preview that is on ends first: its run is on the stack above the dialog.
 void FrmProps::closeEvent(QCloseEvent* event) {
   if (preview_.DelaysClose()) return event->ignore();
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
@@ -101,7 +101,7 @@ void FrmProps::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-/// Escape leads back one step. It does not cancel: a slip of a finger shall not lose an evening's
+/// Escape leads back one step. It does not cancel: an accidental press must not lose an evening's
 /// universe.
 void FrmProps::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
@@ -284,7 +284,7 @@ void FrmProps::MakeCentre() {
   });
 }
 
-/// What stands in the dialog is not what such a run shows.
+/// The values in the dialog are not those of such a run.
 QWidget* FrmProps::MakeOverridesNote() {
   constexpr std::size_t most = 3;  // that are named; the others are in the tool tip
   const std::vector<std::string>& overrides = around_.Overrides;
@@ -374,7 +374,7 @@ void FrmProps::RunEditor() {
   starfold_->TakeProfile(currentProfile_);
 }
 
-/// The run lives inside the click that has started it; the click that stops it comes through the
+/// The run is called from the click that started it; the click that stops it comes through the
 /// run's pump. Everything but the button is disabled meanwhile.
 void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
   if (preview_.IsOn()) return preview_.Stop();

@@ -36,7 +36,7 @@ struct PropsSurroundings {
   std::function<std::uint64_t()> Seed;  // of each preview
   QWindow* Owner = nullptr;             // waits behind the dialog
   std::string HomePage = {};            // address of the product's; empty where it has none
-  /// Windows of other floors, which open over the dialog and return when they are closed.
+  /// Windows of other layers, which open over the dialog and return when they are closed.
   std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
   std::function<void(QWidget& over)> ShowAbout = nullptr;
   std::vector<std::string> Overrides = {};  // settings that hold for this run alone, in words

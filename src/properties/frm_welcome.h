@@ -4,9 +4,9 @@
 #include <QDialog>
 #include <functional>
 
-#include "widgets/picture_box.h"
 #include "platform/help.h"
 #include "settings/property_flows.h"
+#include "widgets/picture_box.h"
 
 class QPushButton;
 class QVBoxLayout;
@@ -23,7 +23,7 @@ class FrmWelcome : public QDialog {
   FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, Help& helpBook,
              QWidget* parent = nullptr);
 
-  /// Whether the user wants the factory's settings. The safety copy has been written then.
+  /// Whether the user asked for the factory settings; then the safety copy has been written.
   bool ResetRequested() const { return resetRequested_; }
 
   void reject() override;

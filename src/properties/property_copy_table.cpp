@@ -15,7 +15,7 @@ constexpr Styles kNone{};
 constexpr Styles kIfs{1, 2, 3};
 constexpr Styles kAllButNebula{0, 1, 2, 3, 5, 6, 7, 8, 9};
 
-/// An entry with a number that goes into the setting it is called after.
+/// An entry with a number for the setting whose label it has.
 constexpr CopyRow Number(Setting<P> setting, Styles skipped = kNone, NumberRange range = {}) {
   return {.Labelled = setting, .Range = range, .Target = setting, .Skipped = skipped};
 }

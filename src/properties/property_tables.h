@@ -1,4 +1,4 @@
-// What stands where in the properties dialog: which setting each element of a control array edits,
+// The layout of the properties dialog: which setting each element of a control array edits,
 // on which page, and what a style of body shows and calls it. No row is wired by hand.
 #pragma once
 
@@ -14,12 +14,12 @@ namespace starfolds {
 
 // --- The universe view ---
 
-/// The pages of `cboUniExtras`; `Always` stands in `fraUniverseProps`.
+/// The pages of `cboUniExtras`; `Always` is in `fraUniverseProps`.
 enum class UniversePage { Creation, NewAndAmbient, Tour, Composites, Gravity, Always };
 inline constexpr int kUniversePageCount = 5;
 std::string_view UniversePageName(int page);
 
-/// An element of `txtUni`. Neighbours with one label stand in one line.
+/// An element of `txtUni`. Neighbours with the same label share a line.
 struct UniverseRow {
   int Index;
   Setting<UniverseSettings> What;
@@ -55,7 +55,7 @@ struct StarfoldRow {
   std::optional<Setting<StarfoldProfile>> OfNebula;  // what a Nebula edits here, if it differs
   NumberKind Kind;
   StarfoldPage Page;
-  int Label;                           // of `lblStarfold`; rows with one label stand in one line
+  int Label;                           // of `lblStarfold`; rows with the same label share a line
   std::optional<StyleBox> Group = {};  // shown for the styles that have this group; else for all
 };
 bool IsShown(const StarfoldRow& row, int style);
@@ -63,7 +63,7 @@ std::span<const StarfoldRow> StarfoldRows();
 std::span<const StarfoldRow> PixHueRows();
 
 const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style);
-/// What the box is held to: the range of the setting that it edits for this style.
+/// The range of the box: that of the setting that it edits for this style.
 NumberRange RangeOf(const StarfoldRow& row, int style);
 
 /// The caption of `lblStarfold(label)` for a style.

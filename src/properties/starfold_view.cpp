@@ -5,11 +5,11 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "widgets/lines.h"
-#include "widgets/samples.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
+#include "widgets/lines.h"
+#include "widgets/samples.h"
 
 namespace starfolds {
 namespace {
@@ -205,7 +205,7 @@ void StarfoldView::FillCometsPage(QGridLayout& page) {
   AddPixHue(page);
 }
 
-/// Rows that follow each other and have one label stand in one line.
+/// Consecutive rows with the same label share a line.
 void StarfoldView::AddRows(QGridLayout& page, StarfoldPage which) {
   std::vector<const StarfoldRow*> line;
   const auto end = [&] {
@@ -299,8 +299,8 @@ void StarfoldView::StoreBoxes(StarfoldProfile& profile, Numbers numbers) const {
   if (const auto& own = FactsOf(profile.Style()).OwnColorRule) profile.Starfold_ColorComp = *own;
 }
 
-/// Numbers are kept as they stand, even if the new style will not have them: what is out of range
-/// is held when its box is left, or when the page is stored.
+/// Numbers are kept, even if they are out of range for the new style: they are clamped when their
+/// box is left, or when the page is stored.
 void StarfoldView::ChangeStyle(int style) {
   if (loading_) return;
   const int rule = cboFoldColor_->currentIndex();

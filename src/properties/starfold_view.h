@@ -11,9 +11,9 @@
 #include <map>
 #include <vector>
 
-#include "widgets/number_box.h"
 #include "properties/property_tables.h"
 #include "widgets/dialog_model.h"
+#include "widgets/number_box.h"
 
 namespace starfolds {
 
@@ -27,7 +27,7 @@ class StarfoldView : public QWidget {
 
   /// Shows profile `index`.
   void LoadProfileToPage(int index);
-  /// Puts what the page shows into profile `index`, every number held to its range.
+  /// Puts what the page shows into profile `index`, every number clamped.
   void StorePageToProfile(int index);
 
   /// Takes what profile `index` has by now where the page has no box for it. The boxes keep what
@@ -42,7 +42,7 @@ class StarfoldView : public QWidget {
   /// Position of `cboFoldExtras`.
   int ShownPage() const { return cboFoldExtras_->currentIndex(); }
 
-  /// Shows, hides and names the rows as the style asks for.
+  /// Shows, hides and labels the rows for the style.
   void ApplyStyle(int style);
   /// Applies a row of the factory's to the page: all but name and weight.
   void ApplyFactoryRowToPage(std::string_view row);

@@ -311,7 +311,7 @@ void UniverseView::FillGravityPage(QGridLayout& page) {
   AddWideLine(page, note);
 }
 
-/// Rows that follow each other and have one label stand in one line.
+/// Consecutive rows with the same label share a line.
 void UniverseView::AddRows(QGridLayout& page, UniversePage which) {
   std::vector<const UniverseRow*> line;
   const auto label = [](const UniverseRow& row) { return FieldOf(row.What).Label; };

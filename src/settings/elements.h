@@ -10,14 +10,14 @@ namespace starfolds {
 inline constexpr int kElementCount = 17;
 
 struct Element {
-  std::string_view Name;  // some stand as this table always had them
+  std::string_view Name;  // spelled as in earlier versions
   std::string_view Symbol;
   std::string_view Shells;  // electrons per shell
   Integer Radius;
   Integer Color;  // a hue in degrees
 };
 
-/// Element 1 to 17, by atomic number; numbers beyond are held at the ends.
+/// Element 1 to 17, by atomic number; clamped.
 const Element& ElementInfo(int element);
 
 }  // namespace starfolds

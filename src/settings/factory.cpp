@@ -93,7 +93,7 @@ constexpr Layout<IfsPoint> kIfsLayout[] = {
     &IfsPoint::IFS_Axis, &IfsPoint::IFS_Angle, &IfsPoint::IFS_RelPct};
 constexpr Layout<AtomRecord> kAtomCenterLayout[] = {
     &AtomRecord::Atom_CenterX, &AtomRecord::Atom_CenterY, &AtomRecord::Atom_CenterZ};
-/// Not the packed order of the record: the structure stands second.
+/// Not the packed order of the record: the structure comes second.
 constexpr Layout<AtomPoint> kAtomLayout[] = {&AtomPoint::Atom_Element, &AtomPoint::Atom_Structure,
                                              &AtomPoint::Atom_LocX,    &AtomPoint::Atom_LocY,
                                              &AtomPoint::Atom_LocZ,    &AtomPoint::Atom_Size,

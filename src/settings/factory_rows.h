@@ -1,4 +1,4 @@
-// The data of the factory settings. Only factory.cpp looks at it.
+// The data of the factory settings. Only factory.cpp reads it.
 #pragma once
 
 #include <span>

@@ -13,8 +13,8 @@
 
 namespace starfolds {
 
-/// How a number is held to its range. `Fixed`: as `Low` and `High` say. The others: the range
-/// depends on the profile's style and stands in `StyleLimits`.
+/// How a number is clamped. `Fixed`: to `Low` and `High`. The others: the range depends on the
+/// profile's style, see `StyleLimits`.
 enum class RangeRule { None, Fixed, RadSegs, RadFill, RadBands, RadBFill };
 
 /// Where a setting is not as its kind and its range say.
@@ -76,7 +76,7 @@ const Field<IfsPoint>& FieldOf(Setting<IfsPoint> setting);
 const Field<AtomRecord>& FieldOf(Setting<AtomRecord> setting);
 const Field<AtomPoint>& FieldOf(Setting<AtomPoint> setting);
 
-/// The row of the setting called `name`, as it is stored; null where there is none.
+/// The row of the setting stored under `name`; nullptr if there is none.
 template <class Record>
 const Field<Record>* FindField(std::span<const Field<Record>> fields, std::string_view name) {
   for (const Field<Record>& field : fields) {
@@ -111,7 +111,7 @@ std::string_view TemplateKey(const Field<Record>& field) {
 template <class Record>
 std::string FieldText(const Record& record, const Field<Record>& field);
 
-/// Sets a number, rounded where the setting is a whole one and held at the limits of its type.
+/// Sets a number, rounded if the setting is a whole number, and clamped to its type.
 /// Texts stay as they are.
 template <class Record>
 void SetFieldNumber(Record& record, const Field<Record>& field, double number);
@@ -130,13 +130,13 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
 
 /// Sets any setting of all the records by its name: "Universe_Stars", "Adv_TimeDelay",
 /// "Starfold_Radius" (in all 50 profiles), "Starfold7/Starfold_Radius" (in profile 7),
-/// "CompFold3/CompFold_Type0". Gives a message where the name or the value is no good.
+/// "CompFold3/CompFold_Type0". Returns a message if the name or the value is invalid.
 std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
                                      std::string_view value);
 
 /// The bodies that `Universe_GS_Idx` names, 0-based, at most 64: of each piece between blanks that
 /// is a number above 0 and up to 66, the number less 1, rounded with halves to even. All other
-/// pieces, and those that round below 0, name no body and are passed over.
+/// pieces, and those that round below 0, name no body and are ignored.
 struct VisitList {
   static constexpr int kRoom = 64;
   std::array<Integer, kRoom> Bodies{};

@@ -8,7 +8,7 @@
 namespace starfolds {
 
 // The two marks of section "General".
-/// Present (always 0) once a complete set of settings stands in the user's tree.
+/// Present (always 0) once a complete set of settings is in the user's tree.
 inline constexpr std::string_view kAnimationType = "AnimationType";
 /// Present (1) once the welcome dialog has been offered to this user.
 inline constexpr std::string_view kResetSettings = "ResetSettings";

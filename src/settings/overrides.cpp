@@ -102,7 +102,7 @@ bool BeginningTree::End(bool keep) {
   return ended;
 }
 
-/// The text that is stored for a value is the matter of those who save records.
+/// The routines that save records decide how a value is written as text.
 void OverriddenTree::Override(std::span<const SettingChange> changes) {
   const auto records = std::make_unique<SettingsRecords>();
   // Only members that count are saved.

@@ -57,13 +57,13 @@ class BeginningTree : public LayeredTree {
   std::unique_ptr<TreeBulk> valuesBulk_;
 };
 
-/// Settings of one run, such as those of the command line: whoever reads finds them in place of the
+/// Settings of one run, such as those of the command line: reads return them in place of the
 /// values below, and writes go past them.
 class OverriddenTree : public LayeredTree {
  public:
   using LayeredTree::LayeredTree;
 
-  /// Changes that are no good are passed over.
+  /// Invalid changes are ignored.
   void Override(std::span<const SettingChange> changes);
 
   std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;

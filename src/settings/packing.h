@@ -13,7 +13,7 @@ namespace starfolds {
 inline constexpr char kIfsSection[] = "\\IFS";
 inline constexpr char kAtomSection[] = "\\ATOMIC";
 
-/// Gives the text under a key; empty where there is none.
+/// Returns the text under a key; empty if there is none.
 using ReadPacked = std::function<std::string(const std::string& key)>;
 using WritePacked = std::function<void(const std::string& key, const std::string& packed)>;
 

@@ -16,7 +16,7 @@ namespace {
 constexpr unsigned kProgressColour = 0xFFFF00;
 constexpr std::string_view kSafetyCopy = "propsave.sfd";
 
-/// What stands in the dialog's controls. Numbers are scanned leniently, so whatever is typed there
+/// The values in the dialog's controls. Numbers are scanned leniently, so whatever is typed there
 /// is one.
 UniverseSettings UniverseOnDialog(const PropertiesDialog& dialog) {
   UniverseSettings universe;

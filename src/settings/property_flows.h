@@ -1,5 +1,5 @@
 // How the properties dialog comes to its settings and leaves them: first run, upgrade, factory
-// reset, loading and accepting. The dialog is seen through an interface, so none of this knows a
+// reset, loading and accepting. The dialog is behind an interface, so none of this knows a
 // widget.
 #pragma once
 
@@ -109,10 +109,10 @@ void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog,
 void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set);
 
 /// Stores what the dialog and the records hold: all of it, or nothing. Where it cannot be stored
-/// the user is told so, and the result is false.
+/// a message box says so, and the result is false.
 bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog);
 
-/// Asks what shall become of settings that could not be stored: "try again", "save as a template",
+/// Asks what to do with settings that could not be stored: "try again", "save as a template",
 /// "close", or "cancel", which leaves the dialog as it is.
 BoxAnswer AskAfterFailedSave(PropertySettings& settings);
 
@@ -120,7 +120,7 @@ BoxAnswer AskAfterFailedSave(PropertySettings& settings);
 /// copy if wanted, resets.
 void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int menuIndex);
 
-/// Writes "propsave.sfd" from the dialog and the records. Where that fails the user is told so.
+/// Writes "propsave.sfd" from the dialog and the records. If that fails, a message box says so.
 void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog, ProgressPicture* picture);
 
 /// Where the safety copy goes: the program's folder, or the user's if that cannot be written.

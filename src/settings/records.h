@@ -1,5 +1,5 @@
 // The settings records. A field has the name under which it is stored and the default that holds
-// where nothing is stored; ranges, labels and kinds stand in the field table (fields.h).
+// where nothing is stored; ranges, labels and kinds are in the field table (fields.h).
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ inline constexpr int kMaxIfsPoints = 5;
 inline constexpr int kMaxAtoms = 32;
 inline constexpr int kMaxLevels = 10;
 /// Room for the members of a composite. The clamp lets a count of 49 pass, one more than the room;
-/// whoever walks the members stops at the room.
+/// loops over the members stop at the room.
 inline constexpr int kMaxMembers = 48;
 
 /// `Starfold_FoldStyle`.
@@ -184,7 +184,7 @@ struct StarfoldProfile {
   FoldStyle Style() const { return static_cast<FoldStyle>(Starfold_FoldStyle); }
 };
 
-/// Several profiles shown together as one body. The first member stands for the whole.
+/// Several profiles shown together as one body. The first member represents the whole.
 struct CompositeProfile {
   std::string CompFoldName;  // stored as "_CompFoldName"
   Integer CompFoldPct = 0;   // stored as "_CompFoldPct"

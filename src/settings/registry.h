@@ -80,7 +80,7 @@ std::string_view StorableText(std::string_view text);
 void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_view section,
                        std::string_view subkey, RootSelector root);
 
-/// Whether the user's tree can be written. If not, the user is told so.
+/// Whether the user's tree can be written. If not, a message box says so.
 bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes);
 
 /// Copies a value as text from the machine's tree to the user's; a missing one arrives as

@@ -95,7 +95,7 @@ void WriteAtoms(const Section& to, const StarfoldProfile& profile) {
 }
 
 /// The sub-key is deleted in the machine's hive, not in the one that is written: points of a longer
-/// list before stay behind the new ones, where no reader looks.
+/// list before stay behind the new ones, which no reader reads.
 void DropSubkey(const Section& section, std::string_view sub) {
   RegistryDeleteKey(section.Tree, kAppName, section.Name, sub.substr(1),
                     RootSelector::LocalMachine);
@@ -172,7 +172,7 @@ void SaveProfileToRegistry(KeyValueTree& tree, const StarfoldProfile& profile,
   const std::span order = StoredProfileOrder();
   const std::span plain = order.first(order.size() - 2);
   for (const Field<StarfoldProfile>* field : plain) WriteField(to, *field, profile);
-  // Each count stands before its list.
+  // Each count precedes its list.
   WriteField(to, *order[plain.size()], profile);
   DropSubkey(to, kIfsSection);
   if (profile.Starfold_IFS_Points > 0) WriteIfs({tree, Below(section, kIfsSection)}, profile);

@@ -1,5 +1,5 @@
 // The settings records on their way to and from the stored tree. Whatever is missing or no number
-// there is its default; whatever is out of range is held to it.
+// there is its default; a value out of range is clamped.
 #pragma once
 
 #include <string>
@@ -30,7 +30,7 @@ CompositeProfile LoadCompositeFromRegistry(KeyValueTree& tree, int index, std::s
 void LoadAllProfiles(KeyValueTree& tree, ProfileArray& profiles, RootSelector root);
 void LoadAllComposites(KeyValueTree& tree, CompositeArray& composites, RootSelector root);
 
-// Saving goes to the user's hive. Texts longer than a value may be are cut.
+// Saving goes to the user's hive. Texts that are too long for a value are cut.
 
 void SaveUniverseToRegistry(KeyValueTree& tree, const UniverseSettings& universe);
 void SaveAdvancedToRegistry(KeyValueTree& tree, const AdvancedSettings& advanced);

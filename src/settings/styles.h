@@ -1,5 +1,5 @@
 // The styles of body: what each one is to the settings, to the frame loop and to the dialogs. One
-// row per `FoldStyle`; the routines of the styles stand in bodies/styles.h.
+// row per `FoldStyle`; the routines of the styles are in bodies/styles.h.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
 // Template files ("sfd"): sections "[name]" of lines "key=value", ended by CR LF. Here is how they
-// are read and written; what stands in them is the matter of templates.h.
+// are read and written; their contents are defined in templates.h.
 #pragma once
 
 #include <cstddef>
@@ -21,7 +21,7 @@ inline constexpr std::size_t kLargestTemplate = std::size_t{1} << 20;
 /// key, a "[" anywhere ends a section, and a last line without a line break does not count.
 ///
 /// Values that would not survive that are escaped, with a backslash: "\(" is "[", "\)" is "]", "\:"
-/// is "=", "\\" is a backslash, and any other backslash stands for itself. So a reader that knows
+/// is "=", "\\" is a backslash, and any other backslash is itself. So a reader that knows
 /// nothing of it finds all keys, and shows "\(" where a bracket was. Only a file with the section
 /// "Escapes" has any: others keep every backslash.
 ///
@@ -74,7 +74,7 @@ class TemplateFile {
   std::optional<std::string> TemplateFind(std::string_view section, std::string_view key,
                                           const std::string& path = {});
 
-  /// Ends a load: the next one reads the file anew.
+  /// Ends a load: the next one reads the file again.
   void ClearBuffer();
 
   /// Appends a line to the file that `CloseTemplate` will write.
@@ -82,7 +82,7 @@ class TemplateFile {
                      const std::string& path = {});
 
   /// Writes the file, in place of the one that was there. Gives a reason for the user where it
-  /// cannot; then the former file stands. Nothing happens where nothing was written.
+  /// cannot; then the former file is unchanged. Does nothing if nothing was written.
   std::optional<std::string> CloseTemplate();
 
  private:

@@ -62,7 +62,7 @@ void WriteFields(TemplateFile& file, std::string_view section,
   for (const Field<Record>& field : fields) WriteField(file, section, field, record);
 }
 
-/// A number that counts as 0 when it is missing: a "0" goes before whatever is there, so nothing
+/// A number that counts as 0 when it is missing: a "0" is put before the text, so nothing
 /// is negative either.
 double NumberWithZeroBefore(const std::optional<std::string>& text) {
   return LenientNumber("0" + text.value_or(std::string()));

@@ -13,7 +13,7 @@ namespace starfolds {
 
 /// Steps of a progress bar over a load or a save: one for each profile and composite.
 inline constexpr int kTemplateSteps = kBodyCount;
-/// Is told how many steps of `kTemplateSteps` are done.
+/// Called with the number of steps done, of `kTemplateSteps`.
 using TemplateProgress = std::function<void(int step)>;
 
 /// "UniFold<i>" and "CompFold<i>".

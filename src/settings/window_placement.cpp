@@ -10,7 +10,7 @@ namespace starfolds {
 namespace {
 
 // `WindowSize` is four numbers of five digits each. What is negative, or too large for its digits,
-// is held at the ends.
+// is clamped.
 constexpr std::size_t kDigits = 5;
 constexpr Long kLargest = 99999;
 

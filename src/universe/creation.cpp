@@ -28,7 +28,7 @@ struct FoldVelocity {
   Single FoldVX = 0, FoldVY = 0, FoldVZ = 0;
 };
 
-/// What lives only as long as one creation.
+/// The state of one creation.
 struct Birth {
   std::vector<BirthStar> Stars;
   std::vector<FoldVelocity> Folds;
@@ -38,7 +38,7 @@ struct Birth {
   Birth(std::size_t stars, std::size_t folds) : Stars(stars), Folds(folds) {}
 };
 
-/// Shares of the 66 bodies as running sums. If nobody has a share, profile 0 has it all.
+/// Shares of the 66 bodies as running sums. If all are 0, profile 0 has the whole.
 struct Shares {
   std::array<Long, kBodyCount> Share{};
   std::array<Long, kBodyCount> ShareSum{};
@@ -114,7 +114,7 @@ void ChooseStarfolds(UniverseScene& scene, Birth& birth) {
   std::copy_n(process.Visits.Bodies.begin(), listed, folds.StarfoldProf.begin());
 }
 
-/// Starfolds ride outward; the eye stands on the -Z side of the core.
+/// Moves the starfolds outward; the eye is on the -Z side of the core.
 void MoveStarfolds(const UniverseScene& scene, Birth& birth) {
   StarfoldArrays& folds = scene.Arrays.Folds;
   const Single distance = scene.Process.RunUniverse.RunDstCen;

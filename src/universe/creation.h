@@ -23,7 +23,7 @@ struct UniverseScene {
 
 /// Throws all stars out of the core, lets them go out and be reborn inside starfolds that ride
 /// outward, and brings everything to rest, in `Universe_ESteps` frames. Returns early, with stars
-/// unsettled, if the run must stop; the caller looks at `StopRun` and `NewRun`.
+/// unsettled, if the run must stop; the caller tests `StopRun` and `NewRun`.
 void CreateUniverse(UniverseScene& scene);
 
 }  // namespace starfolds

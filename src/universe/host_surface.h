@@ -17,7 +17,7 @@ void SetupPreviewSurface(ProcessState& process, Surface& target, bool fixedView,
 /// Black, before each run.
 void ResetSurface(Surface& target);
 
-/// Sees to it that there are bodies to show: the factory's where nobody has stored any.
+/// Stores the factory's bodies if none are stored.
 void EnsureBodies(ProcessState& process);
 
 /// Reads every record of the run from the stored tree, and prepares the colours. A small preview
