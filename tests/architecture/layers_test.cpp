@@ -99,14 +99,5 @@ TEST(LayersTest, NoLayerIncludesAHigherOne) {
   for (const std::string& fault : FaultsOf(includes)) ADD_FAILURE() << fault;
 }
 
-TEST(LayersTest, AnIncludeAgainstTheOrderIsFound) {
-  const fs::path root = fs::path(testing::TempDir()) / "layers";
-  fs::create_directories(root / "bodies");
-  std::ofstream(root / "bodies" / "bad.h")
-      << "#include \"universe/tour.h\"\n#include <QWidget>\n#include \"colour/tables.h\"\n";
-  EXPECT_EQ(FaultsOf(IncludesBelow(root)).size(), 2U);
-  fs::remove_all(root);
-}
-
 }  // namespace
 }  // namespace starfolds

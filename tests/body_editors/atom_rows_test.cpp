@@ -8,12 +8,6 @@
 namespace starfolds {
 namespace {
 
-TEST(AtomRows, StandInTheColumnsOfTheirHeading) {
-  EXPECT_EQ(kAtomRowHeading, "Element Name(s)   Type        XLoc  YLoc  ZLoc  Radius  SymRad");
-  EXPECT_EQ(FormatAtomRow({6, 11, 2, 3, 11, 40, 9999, 1}),
-            "Carbon            Hexamatrix    11     2     3      40    9999");
-}
-
 /// The longest names and numbers fill their columns and run into no other.
 TEST(AtomRows, AreReadBackAsTheyWereWritten) {
   for (Integer element = 1; element <= kElementCount; ++element) {

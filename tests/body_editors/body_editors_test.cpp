@@ -14,26 +14,6 @@
 namespace starfolds {
 namespace {
 
-TEST_F(BodyEditorsTest, AreCalledPlacedAndExplained) {
-  struct Row {
-    Kind Which;
-    std::string_view Section;
-    Integer Topic;
-  };
-  for (const auto& [kind, section, topic] :
-       {Row{Kind::Levels, sections::kLevelsPlace, help::kLevels},
-        Row{Kind::Ifs, sections::kIfsPlace, help::kIfs},
-        Row{Kind::Molecule, sections::kAtomicsPlace, help::kMolecule}}) {
-    Open(kind);
-    EXPECT_TRUE(Dialog->windowTitle().startsWith("Mine & Yours "));
-    EXPECT_TRUE(The<QGroupBox>("fraPreview").title().endsWith(" - Mine && Yours"));
-    Click("cmdHelp");
-    EXPECT_EQ(HelpBook.Topics.back(), topic);
-    Click("cmdDismiss");
-    EXPECT_NE(RegistryReadText(Tree, section, "WindowSize"), "");
-  }
-}
-
 /// Everybody can reach and understand every control, and the window fits a small screen.
 TEST_F(BodyEditorsTest, AreForTheKeyboardAndForSmallScreens) {
   for (const Kind kind : kKinds) {
@@ -293,49 +273,6 @@ TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
   }
   EXPECT_EQ(Record().IFS.Points[0].IFS_LocX, 5);
   EXPECT_EQ(Props.Texts[0], "250");
-}
-
-TEST_F(BodyEditorsTest, AWindowThatCannotBeResizedKeepsItsSize) {
-  Open(Kind::Molecule);
-  Dialog->resize(1300, 640);
-  auto& mnuResize = Part<QAction>(*Dialog, "mnuResize");
-  EXPECT_TRUE(mnuResize.isChecked());
-  mnuResize.trigger();
-  Dialog->resize(1350, 660);
-  EXPECT_EQ(Dialog->size(), QSize(1300, 640));
-  mnuResize.trigger();
-  Dialog->resize(1350, 660);
-  EXPECT_EQ(Dialog->size(), QSize(1350, 660));
-}
-
-/// Whoever presses, types and chooses anywhere leaves a record that a tree can hold.
-TEST_F(BodyEditorsTest, RandomEventsLeaveAValidRecord) {
-  RandomHands hands(11);
-  for (const Kind kind : kKinds) {
-    Open(kind);
-    for (int i = 1; i < 400; ++i) Events.Plan[i * 5] = [&] { Press(*Dialog, Qt::Key_Escape); };
-    for (int i = 0; i < 4000; ++i) {
-      Events.Pumps = 0;
-      hands.Act(*Dialog, [&](const QString& name) {
-        if (name == "cmdOK" || name == "cmdDismiss") return true;
-        const bool seldom = name == "cmdPreview" || name == "cmdClear" || name == "cboTheme";
-        return seldom && hands.Draw(20) > 0;
-      });
-    }
-    Click("cmdOK");
-    StarfoldProfile held = Record();
-    ClampProfile(held);
-    for (int i = 0; i < held.Starfold_Atoms; ++i) {
-      EXPECT_EQ(held.Atom.Atoms[i].Atom_Element, Record().Atom.Atoms[i].Atom_Element);
-      EXPECT_EQ(held.Atom.Atoms[i].Atom_LocX, Record().Atom.Atoms[i].Atom_LocX);
-    }
-    MemoryTree once;
-    MemoryTree twice;
-    SaveAllProfiles(once, Process->Profiles);
-    LoadAllProfiles(once, Process->Profiles, RootSelector::CurrentUser);
-    SaveAllProfiles(twice, Process->Profiles);
-    EXPECT_EQ(once, twice);
-  }
 }
 
 }  // namespace

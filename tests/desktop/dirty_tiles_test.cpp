@@ -69,31 +69,5 @@ TEST(DirtyTiles, BecomeTheirBoundsAboveTheHighestCount) {
   EXPECT_THAT(tiles.Take(), ElementsAre(TileRect{0, 0, 31 * kTile, 17 * kTile}));
 }
 
-TEST(DirtyTiles, HoldEveryTouchedPixelOnceAndNoIdleTile) {
-  std::mt19937 random(7);
-  DirtyTiles tiles;
-  constexpr int width = 700;
-  constexpr int height = 500;
-  tiles.Resize(width, height);
-  for (int round = 0; round < 50; ++round) {
-    std::vector<std::pair<int, int>> touched;
-    for (int i = 0; i < 20; ++i) {
-      touched.emplace_back(random() % width, random() % height);
-      tiles.Touch(touched.back().first, touched.back().second);
-    }
-    const std::vector<TileRect>& rects = tiles.Take();
-    for (const auto& [x, y] : touched) ASSERT_EQ(Holders(rects, x, y), 1);
-    if (rects.size() == 1) continue;
-    for (int y = 0; y < height; y += kTile) {
-      for (int x = 0; x < width; x += kTile) {
-        const bool busy = std::any_of(touched.begin(), touched.end(), [&](const auto& place) {
-          return place.first / kTile == x / kTile && place.second / kTile == y / kTile;
-        });
-        ASSERT_EQ(Holders(rects, x, y), busy ? 1 : 0) << "tile at " << x << ", " << y;
-      }
-    }
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -79,16 +79,6 @@ TEST_F(MessageWindowTest, IsNeverDrawnOver) {
   EXPECT_GT(StrangeAndInked(Grab(Box().translated(0, Box().height()))).first, 1000);
 }
 
-TEST_F(MessageWindowTest, IsCutOffAtBothSides) {
-  Message.Print(std::string(60, 'H'), {"Arial", 20, kGreen});
-  Settle(100);
-  EXPECT_LT(Box().left(), -100);
-  EXPECT_GT(Box().right(), Target.Window().width() + 100);
-  for (const int x : {0, Target.Window().width() - 40}) {
-    EXPECT_GT(StrangeAndInked(Grab({x, Box().y(), 40, Box().height()})).second, 50);
-  }
-}
-
 TEST_F(MessageWindowTest, DriftsFromItsPlaceAndBack) {
   const MessageStyle style{"Arial", 20, kGreen};
   Message.Print("Back at ten", style);
@@ -102,21 +92,6 @@ TEST_F(MessageWindowTest, DriftsFromItsPlaceAndBack) {
   Message.SetDrift(false);
   Message.Print("Back at ten", style);
   EXPECT_EQ(Box().topLeft(), rest);
-}
-
-TEST_F(MessageWindowTest, GoesAndComesAgain) {
-  Message.Print("Back at ten", {"Arial", 20, kGreen});
-  Settle(100);
-  const QRect box = Box();
-  Message.Hide();
-  Settle(100);
-  ShowNoise();
-  Settle(100);
-  EXPECT_GT(StrangeAndInked(Grab(box)).first, 1000);
-  Message.Print("10", {"Arial", 20, kGreen});
-  Settle(100);
-  EXPECT_EQ(StrangeAndInked(Grab(Box())).first, 0);
-  EXPECT_LT(Box().width(), box.width());
 }
 
 }  // namespace

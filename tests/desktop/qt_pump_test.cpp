@@ -57,16 +57,6 @@ TEST_P(QtPumpWith, WakesForAnEventAndRunsIt) {
   EXPECT_LT(Since(begin), 10'000);
 }
 
-TEST_P(QtPumpWith, TakesNoTimeWhereThereIsNoneToWait) {
-  const Long begin = Events.TickCount();
-  for (int i = 0; i < 100; ++i) {
-    Events.WaitForEvents(0);
-    Events.WaitForEvents(-5);
-    Events.PumpEvents();
-  }
-  EXPECT_LT(Since(begin), 2'000);
-}
-
 TEST_P(QtPumpWith, IsNotWokenByAFormerDeadline) {
   QTimer soon;
   soon.setSingleShot(true);

@@ -198,33 +198,6 @@ TEST_F(WindowSurfaceTest, ComesBackWholeAfterItWasHidden) {
   EXPECT_GE(Heard.Exposures, 2);
 }
 
-TEST_F(WindowSurfaceTest, ShowsSinglePixelsAtTheBordersOfItsTiles) {
-  ShowAt(200, 150);
-  Target.Present();
-  for (const Long x : {0, 63, 64, 127, 128, 199}) {
-    for (const Long y : {64, 127}) {
-      Target.SetPixelV(x, y, 0xFFFFFF);
-      Target.Present();
-      ExpectShown();
-      Target.SetPixelV(x, y, 0);
-      Target.Present();
-    }
-  }
-}
-
-TEST_F(WindowSurfaceTest, RepaintsWhatAnotherWindowHasCovered) {
-  ShowAt(200, 150);
-  Scatter(3000);
-  Target.Present();
-  {
-    WindowSurface above(Heard);
-    Cover(above, {60, 40, 80, 70});
-    above.Present();
-    Settle();
-  }
-  ExpectShown();
-}
-
 TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
   if (QGuiApplication::platformName() != "xcb") GTEST_SKIP() << "nobody tells of covers";
   ShowAt(200, 150);

@@ -44,19 +44,6 @@ class FrmAppExeTest : public HostTest {
   std::function<void()> InDialog;
 };
 
-TEST_F(FrmAppExeTest, FillsTheScreenWithoutACaption) {
-  Events.Plan[2] = [&] {
-    EXPECT_EQ(Window().objectName(), "frmAppEXE");
-    EXPECT_EQ(Window().title(), "");
-    EXPECT_EQ(Window().size(), QGuiApplication::primaryScreen()->size());
-    EXPECT_EQ(Window().cursor().shape(), Qt::BlankCursor);
-    EXPECT_FALSE(Window().flags().testFlag(Qt::WindowStaysOnTopHint));
-    Press(Window(), Qt::Key_Escape);
-  };
-  EXPECT_EQ(Run(), 2);
-  EXPECT_EQ(Seeds, 1);
-}
-
 TEST_F(FrmAppExeTest, IsAnOrdinaryWindowIfToldSoWhoseSizeCountsWithTheNextRun) {
   Store("Advanced", "Adv_WinResize", 1);
   int before = 0;
@@ -101,15 +88,6 @@ TEST_F(FrmAppExeTest, BeginsAnewAtOnceInEveryStage) {
     Press(Window(), Qt::Key_Escape);
   };
   EXPECT_EQ(Run(), last + 1);
-}
-
-TEST_F(FrmAppExeTest, LeavesForGoodAlsoRightAfterF5) {
-  Events.Plan[5] = [&] {
-    Press(Window(), Qt::Key_F5);
-    Press(Window(), Qt::Key_Escape);
-  };
-  EXPECT_EQ(Run(), 5);
-  EXPECT_EQ(Seeds, 1);
 }
 
 TEST_F(FrmAppExeTest, ShowsThePropertiesAndBeginsAnewWithThem) {
@@ -279,31 +257,10 @@ TEST_F(FrmAppExeTest, SavesPicturesAndOpensTheHelpWithTheProperties) {
   EXPECT_EQ(QImage(folder.filePath(files[0])).convertToFormat(shown.format()), shown);
 }
 
-TEST_F(FrmAppExeTest, EndsIfTheDialogSaysSo) {
-  InDialog = [&] { State->QuitApp = true; };
-  Events.Plan[20] = [&] { Click(Window()); };
-  EXPECT_EQ(Run(), 20);
-}
-
 /// How deep the calls have gone.
 std::uintptr_t StackPlace() {
   const volatile char here = 0;
   return reinterpret_cast<std::uintptr_t>(&here);
-}
-
-/// Runs within runs would keep their memory, and their part of the stack.
-TEST_F(FrmAppExeTest, AFreshRunIsNotNestedInTheOldOne) {
-  constexpr int runs = 20;
-  std::uintptr_t depth = 0;
-  for (int i = 1; i <= runs; ++i) {
-    Events.Plan[i] = [&, i] {
-      if (i == 1) depth = StackPlace();
-      EXPECT_NEAR(static_cast<double>(StackPlace()), static_cast<double>(depth), 1000);
-      Press(Window(), i == runs ? Qt::Key_Escape : Qt::Key_F5);
-    };
-  }
-  EXPECT_EQ(Run(), runs);
-  EXPECT_EQ(Seeds, runs);
 }
 
 }  // namespace

@@ -86,20 +86,6 @@ TEST_F(FrmSaverTest, EndsWhenItsWindowIsClosedOrGone) {
   EXPECT_EQ(Run(), 10);
 }
 
-TEST_F(FrmSaverTest, ReadsTheSettingsForEveryRun) {
-  Events.Plan[3] = [&] {
-    EXPECT_EQ(State->Universe.Universe_Stars, 50);
-    Store("Universe", "Universe_Stars", 70);
-    State->NewRun = true;
-  };
-  Events.Plan[6] = [&] {
-    EXPECT_EQ(State->Universe.Universe_Stars, 70);
-    State->StopRun = true;
-  };
-  EXPECT_EQ(Run(), 6);
-  EXPECT_EQ(Seeds, 1);
-}
-
 TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRun) {
   Events.Plan[3] = [&] {
     Window().setWindowState(Qt::WindowNoState);
@@ -156,15 +142,6 @@ TEST_F(FrmSaverPassword, GoesOnInTheSameFrameIfItIsRefused) {
   EXPECT_EQ(Picture(50, 20), undisturbed);
   Form.reset();
   EXPECT_THAT(Platform.Log, ElementsAre("behind -1", "verify", "not running"));
-}
-
-TEST_F(FrmSaverPassword, EndsTheSaverIfItIsRightOrCannotBeAskedFor) {
-  for (const std::optional<Long> verdict : {std::optional<Long>(1), std::optional<Long>()}) {
-    Platform.Verdict = verdict;
-    Events.Pumps = 0;
-    Events.Plan[5] = [&] { Click(Window()); };
-    EXPECT_EQ(Run(), 5);
-  }
 }
 
 /// The dialog runs window events while it is shown.

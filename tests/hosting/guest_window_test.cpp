@@ -85,13 +85,6 @@ TEST_F(GuestTest, APreviewIsAboveTheHostsOwnChildrenAndASaverBelow) {
   EXPECT_EQ(RunSaver(), 6);
 }
 
-TEST_F(GuestTest, APreviewLooksForItsHostEveryFrame) {
-  Desktop.Windows = {HostId()};
-  Events.Plan[7] = [&] { Desktop.Windows.clear(); };
-  EXPECT_EQ(RunPreview(), 7);
-  EXPECT_EQ(Seeds, 1);
-}
-
 TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
   RegistryWrite(Tree, "Advanced", "LockMessage", "Back at noon");
   Desktop.Windows = {HostId()};

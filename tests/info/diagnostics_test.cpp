@@ -52,11 +52,6 @@ TEST(Grouped, PartsTheThousands) {
   EXPECT_EQ(Grouped(ColoursOf(32)), "4,294,967,296");
 }
 
-TEST(ColoursOf, IsZeroForADepthThatCannotBe) {
-  EXPECT_EQ(ColoursOf(1), 2U);
-  for (const int depth : {-1, 0, 64}) EXPECT_EQ(ColoursOf(depth), 0U) << depth;
-}
-
 TEST(MeasureFrames, RunsTheStoredUniverseForItsTime) {
   SettingsRecords records;
   LoadFactorySettings(records, FactorySet::Starfolds4x, 1);

@@ -51,17 +51,6 @@ class FrmAboutTest : public testing::Test {
   MemoryHelp HelpBook;
 };
 
-TEST_F(FrmAboutTest, ShowsOneBodyAfterTheOther) {
-  QStringList shown;
-  Run([&](FrmAbout& about, int pump) {
-    const QString body = Part<QLabel>(about, "lblBody").text();
-    if (shown.isEmpty() || shown.back() != body) shown += body;
-    if (pump == 1000) about.close();
-  });
-  EXPECT_EQ(shown.size(), 3) << shown.join(", ").toStdString();
-  EXPECT_FALSE(shown.contains(""));
-}
-
 TEST_F(FrmAboutTest, AClickOnThePictureShowsTheNextBody) {
   QString first, second;
   Run([&](FrmAbout& about, int pump) {

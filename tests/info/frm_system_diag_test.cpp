@@ -52,13 +52,6 @@ TEST_F(FrmSystemDiagTest, ShowsWhatIsSo) {
   EXPECT_EQ(Field(4).text().toStdString(), Grouped(ColoursOf(Dialog->screen()->depth())));
 }
 
-TEST_F(FrmSystemDiagTest, ATreeThatCannotBeWrittenIsToldInRed) {
-  Tree.Writable = false;
-  Open();
-  EXPECT_EQ(Field(0).text(), "No Access");
-  EXPECT_TRUE(IsRed(Field(0)));
-}
-
 /// Read back from the screen. Runs on an X server as well.
 TEST_F(FrmSystemDiagTest, TheCircleIsDrawnInAWindowOfItsOwn) {
   Open();
@@ -83,17 +76,6 @@ TEST_F(FrmSystemDiagTest, TheCircleIsDrawnInAWindowOfItsOwn) {
   EXPECT_LT(points, 1000) << "a circle, and no disc";
   ASSERT_NE(circle, nullptr);
   EXPECT_EQ(circle->parent(), Part<QWidget>(*Dialog, "picGraphics").windowHandle());
-}
-
-TEST_F(FrmSystemDiagTest, TellsWhereThereIsNoSystemInformation) {
-  Open();
-  Part<QPushButton>(*Dialog, "cmdSysInfo").click();
-  EXPECT_EQ(Desktop.SystemInfos, 1);
-  EXPECT_TRUE(Boxes.Log.empty());
-  Desktop.HasSystemInfo = false;
-  Part<QPushButton>(*Dialog, "cmdSysInfo").click();
-  ASSERT_EQ(Boxes.Log.size(), 1U);
-  EXPECT_EQ(Boxes.Log[0].Text, "System Information Is Unavailable.");
 }
 
 TEST_F(FrmSystemDiagTest, TheReportNamesEverythingButTheUser) {

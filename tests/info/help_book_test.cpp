@@ -87,26 +87,6 @@ TEST(HelpBookTest, EveryLinkLeadsSomewhereAndEveryTopicIsLinked) {
   }
 }
 
-TEST(HelpBookTest, EveryPictureIsThereSmallAndShown) {
-  const HelpBook book;
-  std::set<std::string> shown;
-  for (int topic = 0; topic < book.Count(); ++topic) {
-    for (const std::string& picture : AllOf(book, topic, R"(!\[[^\]]+\]\(pictures/([^)]*)\))")) {
-      shown.insert(picture);
-    }
-    EXPECT_TRUE(AllOf(book, topic, R"((!\[\]))").empty()) << FileOf(topic) << ": no description";
-  }
-  EXPECT_EQ(shown, FilesIn("/pictures", "*.png"));
-  qint64 bytes = 0;
-  for (const std::string& picture : shown) {
-    const qint64 size = QFile(QString(kHelpFolder) + "pictures/" + picture.c_str()).size();
-    EXPECT_GT(size, 0) << picture;
-    EXPECT_LE(size, 40 * 1024) << picture;
-    bytes += size;
-  }
-  EXPECT_LT(bytes, 2'500'000) << "the program carries them all";
-}
-
 /// What the help says of settings: "`Name`: 1 to 20, default 5", or the same in the columns of a
 /// table.
 struct Description {

@@ -123,18 +123,6 @@ TEST_F(HelpWindowTest, EscapeClosesAndThePlaceIsRemembered) {
   EXPECT_EQ(Shown()->size(), QSize(700, 500));
 }
 
-TEST_F(HelpWindowTest, APageBeginsAtItsTopHoweverNarrowTheWindow) {
-  Book.ShowContents();
-  Shown()->resize(420, 400);
-  QApplication::processEvents();
-  Book.Quit();
-  HelpWindow another(Tree, Desktop, Boxes);
-  another.ShowTopic(help::kMolecule);
-  for (int i = 0; i < 5; ++i) QApplication::processEvents();
-  EXPECT_EQ(Shown()->width(), 420);
-  EXPECT_EQ(The<HelpPage>("txtTopic").verticalScrollBar()->value(), 0);
-}
-
 TEST_F(HelpWindowTest, LinesStayShortAndPicturesAndTablesFit) {
   Book.ShowContents();
   Shown()->resize(1600, 700);

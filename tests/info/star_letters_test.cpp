@@ -50,21 +50,6 @@ TEST(StarLetters, NoSkyAndNoPlacesAreNoFault) {
   }
 }
 
-TEST(PointsOfText, EveryPageFitsIntoTheSky) {
-  for (const QSize size : {QSize(760, 430), QSize(320, 200), QSize(1900, 400)}) {
-    for (const QStringList& page : CreditPages()) {
-      const auto points = PointsOfText(page, size, QApplication::font());
-      ASSERT_FALSE(points.empty());
-      const auto [left, right] = std::minmax_element(points.begin(), points.end(),
-                                                     [](auto& a, auto& b) { return a.X < b.X; });
-      EXPECT_GT(left->X, 0) << page.join(' ').toStdString();
-      EXPECT_LT(right->X, size.width() - 1) << page.join(' ').toStdString();
-      EXPECT_GT(points.front().Y, 0);
-      EXPECT_LT(points.back().Y, size.height() - 1);
-    }
-  }
-}
-
 TEST(FrmCredits, AKeyTurnsThePagesAndEscapeCloses) {
   FrmCredits credits(1);
   Activate(credits);

@@ -2,11 +2,11 @@
 // may come from several states. Whoever reads many values does it in one look.
 #include <gtest/gtest.h>
 
-#include "properties/frm_advanced.h"
-#include "template_dialogs/frm_file_io.h"
 #include "platform/surface.h"
+#include "properties/frm_advanced.h"
 #include "properties/props_dialog.h"
 #include "settings/overrides.h"
+#include "template_dialogs/frm_file_io.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {

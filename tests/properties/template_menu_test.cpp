@@ -6,10 +6,10 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include "template_dialogs/frm_file_io.h"
 #include "properties/props_dialog.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
+#include "template_dialogs/frm_file_io.h"
 #include "test_folder.h"
 
 namespace starfolds {
@@ -91,13 +91,6 @@ TEST_F(TemplateMenuTest, AnOpenedTemplateIsShownAndSavedAgain) {
   EXPECT_EQ(Saved("other.sfd").Universe.Universe_Stars, 30000);
   EXPECT_EQ(Saved("other.sfd").Profiles[5].Starfold_Radius, 777);
   EXPECT_TRUE(Boxes.Log.empty());
-}
-
-TEST_F(TemplateMenuTest, SaveAsksForANameOnce) {
-  ChooseFile("mnuSave", "first");
-  The<QLineEdit>("txtUni_0").setText("55");
-  Choose("mnuSave");
-  EXPECT_EQ(Saved("first.sfd").Universe.Universe_Stars, 55);
 }
 
 TEST_F(TemplateMenuTest, TheOpenPageIsSavedAndALoadedTemplateTakesItsPlace) {

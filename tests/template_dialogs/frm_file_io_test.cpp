@@ -140,23 +140,6 @@ TEST_F(FrmFileIoTest, NamesToSaveUnderGetTheExtensionOrAreRefused) {
   EXPECT_EQ(Home.Names().size(), 5U);
 }
 
-TEST_F(FrmFileIoTest, ReturnEntersTheFolderThatIsSelectedOrTyped) {
-  Choose(true, [&] {
-    auto& folders = The<QListWidget>("dirTemp");
-    Activate(*folders.window());
-    folders.setFocus();
-    folders.setCurrentRow(1);
-    Press(folders, Qt::Key_Return);
-    EXPECT_EQ(Texts("filTemp"), QStringList{"inner.sfd"});
-    Edit().setText("..");
-    Edit().setFocus();
-    Press(Edit(), Qt::Key_Return);
-    EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"});
-    EXPECT_EQ(Edit().text(), "");
-  });
-  EXPECT_TRUE(Boxes.Log.empty());
-}
-
 TEST_F(FrmFileIoTest, AFaultIsToldAndTheDialogStays) {
   Fault = "No space left on device";
   for (const bool open : {true, false}) {
@@ -166,11 +149,6 @@ TEST_F(FrmFileIoTest, AFaultIsToldAndTheDialogStays) {
     EXPECT_TRUE(text.ends_with("\n\nNo space left on device"));
   }
   EXPECT_EQ(StoredFolder(), "");
-}
-
-TEST_F(FrmFileIoTest, WithoutAnActionItOnlyReturnsThePath) {
-  EXPECT_EQ(ChooseTyped(true, "old.sfd", false), Home.Path("old.sfd"));
-  EXPECT_TRUE(Done.empty());
 }
 
 TEST_F(FrmFileIoTest, BeginsWhereTheUserWasOrAtTheTemplates) {

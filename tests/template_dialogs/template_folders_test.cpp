@@ -82,18 +82,6 @@ TEST(TemplateFolders, ANameCanBeWrittenWhereAFileMayStand) {
   EXPECT_EQ(FileText(folder.Path("old.sfd")), "x");
 }
 
-TEST(TemplateFolders, RootsAreFoldersAndHomeIsTheFirst) {
-  const TestFolder templates;
-  const std::vector<FolderRoot> roots = FolderRoots(QString::fromStdString(templates.Path("t")));
-  ASSERT_GE(roots.size(), 2U);
-  EXPECT_EQ(roots[0].Path, QDir::cleanPath(QDir::homePath()));
-  EXPECT_TRUE(roots[1].Path.endsWith("/t"));
-  for (std::size_t i = 2; i < roots.size(); ++i) {
-    EXPECT_TRUE(QFileInfo(roots[i].Path).isDir()) << roots[i].Path.toStdString();
-    EXPECT_FALSE(roots[i].Path.startsWith("/proc") || roots[i].Path.startsWith("/sys"));
-  }
-}
-
 TEST(TemplateFolders, TheInnermostRootHoldsAFolder) {
   const std::vector<FolderRoot> roots{{"", "/home/u"}, {"", "/"}, {"", "/media/stick"}};
   EXPECT_EQ(RootOf(roots, "/home/u/x"), 0);
@@ -102,14 +90,6 @@ TEST(TemplateFolders, TheInnermostRootHoldsAFolder) {
   EXPECT_EQ(WayTo("/home/u", "/home/u/a/b"), (QStringList{"/home/u", "/home/u/a", "/home/u/a/b"}));
   EXPECT_EQ(WayTo("/", "/a"), (QStringList{"/", "/a"}));
   EXPECT_EQ(WayTo("/elsewhere", "/a"), (QStringList{"/", "/a"}));
-}
-
-TEST(TemplateFolders, TheProgramsOwnAreFoundWhereTheyAreInstalled) {
-  const TestFolder folder;
-  const QString program = QString::fromStdString(folder.Path("bin"));
-  EXPECT_EQ(ShippedTemplates(program), "");
-  std::filesystem::create_directories(folder.Path("share/starfolds/templates"));
-  EXPECT_EQ(ShippedTemplates(program).toStdString(), folder.Path("share/starfolds/templates"));
 }
 
 }  // namespace

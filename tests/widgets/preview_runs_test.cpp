@@ -185,14 +185,5 @@ TEST_F(PreviewTest, ABodyIsShownWithTheStarsAndTheTrailOnTheDialog) {
   }
 }
 
-TEST_F(PreviewTest, ABodyThatDoesNotExistShowsNothing) {
-  for (const auto& [body, isComposite] : {std::pair{-1, false}, {50, false}, {16, true}}) {
-    Body.Body = static_cast<Integer>(body);
-    Body.IsComposite = isComposite;
-    PressBody();
-    EXPECT_EQ(Frames, 0);
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -73,49 +73,6 @@ TEST_F(SamplesTest, ABodyOutOfItsRangesIsDrawnAllTheSame) {
   }
 }
 
-TEST_F(SamplesTest, AreSharpOnDenseScreens) {
-  const SampleSize dense{{80, 60}, 2};
-  const QPalette palette;
-  for (const QImage& picture :
-       {ProfileSample(Profiles(), 1, dense), ProfileSample(Profiles(), kCycleRandomly, dense),
-        ShapeSample({}, dense, palette), HueWheelSample(10, 300, dense),
-        PixHueSample(Profiles()[0], dense)}) {
-    EXPECT_EQ(picture.size(), QSize(160, 120));
-    EXPECT_EQ(picture.devicePixelRatio(), 2);
-  }
-}
-
-TEST_F(SamplesTest, ASampleStandsInTheMiddleOfItsBox) {
-  PictureBox box;
-  box.resize(100, 80);
-  QImage picture(120, 80, QImage::Format_RGB32);
-  picture.fill(Qt::white);
-  picture.setDevicePixelRatio(2);
-  box.ShowPicture(picture);
-  EXPECT_EQ(LitPart(box.grab().toImage()), QRect(20, 20, 60, 40));
-}
-
-TEST_F(SamplesTest, AShapeShowsEachOfItsSettings) {
-  const QPalette palette;
-  std::vector<QImage> pictures;
-  const auto add = [&](const ShapeSetting& setting) {
-    const QImage picture = ShapeSample(setting, kSize, palette);
-    for (const QImage& other : pictures) EXPECT_NE(picture, other) << pictures.size();
-    EXPECT_EQ(picture, ShapeSample(setting, kSize, palette));
-    pictures.push_back(picture);
-  };
-  for (int shape = 0; shape < 7; ++shape) add({.Shape = shape});
-  add({.Shape = 0, .RadiusExp = 3});
-  add({.Shape = 0, .HeightExp = 3});
-  add({.Shape = 0, .Ratio = 0.3});
-  // What no body has, and what only a body beyond all use has.
-  for (const ShapeSetting& odd :
-       {ShapeSetting{-5}, {99, 1, 1, 1}, {2, 99.9, 99.9, 99.9}, {2, 0, 0, 0}, {0, 1, 1, 1e9}}) {
-    EXPECT_EQ(ShapeSample(odd, {{1, 1}, 1}, palette).size(), QSize(1, 1));
-    EXPECT_EQ(ShapeSample(odd, kSize, palette).size(), kSize.Size);
-  }
-}
-
 /// A sphere as high as it is wide: the curve is a circle that touches top and bottom of the box.
 TEST_F(SamplesTest, AShapeIsMirroredAboutItsAxes) {
   QPalette palette;
@@ -141,17 +98,6 @@ TEST_F(SamplesTest, TheWheelTurnsClockwiseFromRedAndItsStripFromTheLeft) {
   EXPECT_GT(qGreen(strip.pixel(120, 10)), 250);
   profile.Starfold_HueBase = 100;
   EXPECT_EQ(PixHueSample(profile, {{360, 20}, 1}).pixel(200, 10), qRgb(255, 255, 255));
-}
-
-TEST_F(SamplesTest, AFlareFadesFromWhiteOverItsHuesIntoTheDark) {
-  const QImage strip = HueWheelSample(0, 240, {{400, 20}, 1});
-  EXPECT_EQ(strip.pixel(2, 10), qRgb(255, 255, 255));
-  const QRgb early = strip.pixel(45, 10);
-  EXPECT_GT(qRed(early), qBlue(early));
-  const QRgb late = strip.pixel(355, 10);
-  EXPECT_GT(qBlue(late), qRed(late));
-  EXPECT_LT(qBlue(strip.pixel(397, 10)), qBlue(late));
-  EXPECT_EQ(HueWheelSample(-5000, 32767, {{40, 20}, 1}).width(), 40);
 }
 
 }  // namespace
