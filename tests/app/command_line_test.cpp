@@ -115,38 +115,28 @@ TEST_F(CommandLines, OfSystems) {
   Check({
       {{}, kRuns, kDialog},
       {{"/C"}, kRuns, kDialog},
-      {{"/c:77"}, kRuns, kDialog},
       {{"/Cx", "--window"}, kRuns, kDialog},
       {{"/S"}, kRuns, kSaver},
-      {{"/sxyz"}, kRuns, kSaver},
-      {{" /S"}, kRuns, kSaver},
-      {{"-c"}, kRuns, kSaver},
       {{"anything"}, kRuns, kSaver},
       {{"/S"}, 1, "", "no desktop", kNoDesktop},
       {{"/S"}, 1, "", "could not connect to display :9999", kDeadServer},
-      {{"/S"}, 1, "", "\"nonsense\"", kNoPlugIn},
       {{"/P", "12345"}, 0},
       {{"/P:12345"}, 0},
       {{"/P", "12345"}, 1, "", "needs an X server", {"DISPLAY=", "QT_QPA_PLATFORM=offscreen"}},
       {{"/P", "12345"}, 1, "", "could not connect to display :9999", kDeadServer},
       {{"/A", "12345"}, 0},
       {{"none.sfd"}, 2, "", "cannot read \"none.sfd\": No such file or directory"},
-      {{"-none.sfd"}, 2, "", "cannot read \"-none.sfd\""},
       {{"two", "words.sfd"}, 2, "", "cannot read \"two words.sfd\""},
   });
 }
 
 TEST_F(CommandLines, OfPeople) {
   Check({
-      {{"--saver"}, kRuns, kSaver},
       {{"--seed=3", "--saver", "--stars", "-5", "--screens", "primary"}, kRuns, kSaver},
       {{"--settings"}, kRuns, kDialog},
-      {{"--settings", "--window"}, kRuns, kAnyWindow},
       {{"--window", "--size=300x200"}, kRuns, kAnyWindow},
       {{"--full-screen", "--window"}, kRuns, kAnyWindow},
       {{"--saver"}, 1, "", "no desktop", kNoDesktop},
-      {{"--saver"}, 1, "", "could not connect to display :9999", kDeadServer},
-      {{"--settings"}, 1, "", "could not connect to display :9999", kDeadServer},
       {{"--window"}, 1, "", "\"nonsense\"", kNoPlugIn},
       {{"--saver"},
        1,
@@ -155,9 +145,6 @@ TEST_F(CommandLines, OfPeople) {
        {"DISPLAY=", "QT_QPA_PLATFORM=wayland", "WAYLAND_DISPLAY=none"}},
       {{"--saver", "--screens", "9"}, 1, "", "there is no screen 9"},
       {{"--window", "none.sfd"}, 2, "", "cannot read \"none.sfd\"", kOffscreen},
-      {{"none.sfd", "--window"}, 2, "", "cannot read \"none.sfd\"", kNoDesktop},
-      {{"none.sfd", "--saver"}, 2, "", "\"none.sfd\": a template goes with --window, or alone"},
-      {{"none.sfd", "--stars", "5"}, 2, "", "a template goes with --window, or alone"},
   });
 }
 
@@ -169,8 +156,6 @@ TEST_F(CommandLines, OfHosts) {
       {{"--root", "--window-id=0x4D"}, 1, "", "there is no window 77"},
       {{"--window-id", "77"}, 1, "", "no X server", kDeadServer},
       {{"--window-id", "77"}, 1, "", "no X server", kNoDesktop},
-      {{"--window-id", "x"}, 2, "", "--window-id: takes the number of a window, not \"x\""},
-      {{"--window-id"}, 2, "", "--window-id needs a value"},
   });
 }
 
@@ -179,9 +164,7 @@ TEST_F(CommandLines, ThatInform) {
       {{"-h"}, 0, "(?s)^Usage: starfolds .*\n  --full-screen ", "", kNoDesktop},
       {{"--saver", "--bogus", "--help"}, 0, "^Usage: starfolds ", "", kDeadServer},
       {{"-V"}, 0, "^starfolds [0-9.]+\n$", "", kNoDesktop},
-      {{"--version", "x"}, 0, "^starfolds [0-9.]+\n$"},
       {{"render", "-h"}, 0, "(?s)^Usage: starfolds-render .*\n  --sheet FILE "},
-      {{"render", "--hash", "--help", "--bogus"}, 0, "^Usage: starfolds-render "},
       {{"render", "-V"}, 0, "^starfolds-render [0-9.]+\n$"},
       {{"render", "--list"}, 0, "(?s)profile 49 .*composite 15 .*theme 8 "},
   });
@@ -190,21 +173,14 @@ TEST_F(CommandLines, ThatInform) {
 TEST_F(CommandLines, ThatAreWrong) {
   Check({
       {{"--roots"}, 2, "", "unknown option \"--roots\""},
-      {{"-x"}, 2, "", "unknown option \"-x\""},
-      {{"file", "-x"}, 2, "", "unknown option \"-x\""},
       {{"--saver=1"}, 2, "", "--saver takes no value"},
-      {{"--saver", "--seed"}, 2, "", "--seed needs a value"},
       {{"--seed", "--saver"}, 2, "", "--seed needs a value"},
       {{"--saver", "--seed=many"}, 2, "", "--seed: takes a whole number .*, not \"many\""},
-      {{"--stars", "5"}, 2, "", "settings go with --saver"},
       {{"--window", "--size", "0x5"}, 2, "", "--size: takes WIDTHxHEIGHT"},
-      {{"--window", "a", "b"}, 2, "", "unexpected argument \"b\""},
       {{"--\033[31mred\n"}, 2, "", "unknown option \"--\\?\\[31mred\\?\""},
-      {{"--\u009b31mred"}, 2, "", "unknown option \"--\\?\\?31mred\""},
       {{"render"}, 2, "", "nothing to write"},
       {{"render", "x", "--hash"}, 2, "", "unexpected argument \"x\""},
       {{"render", "--hash", "--seed", QString(100'000, '9')}, 2, "", "9{200}\\.\\.\\."},
-      {{"render", "--hash", "--theme=9"}, 2, "", "--theme: takes a whole number from 1 to 8"},
       {{"render", "--hash", "--template", "none.sfd"}, 2, "", "cannot read \"none.sfd\""},
   });
   EXPECT_FALSE(QDir(Folder.path()).exists("config")) << "a wrong command line stores nothing";

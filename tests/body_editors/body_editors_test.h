@@ -78,17 +78,6 @@ class BodyEditorsTest : public EditorTest {
     Click("cmdPreview");
   }
 
-  /// What the Tab key leads to, from the top on.
-  QString TabOrder() {
-    QStringList names;
-    const QWidget* widget = Dialog->nextInFocusChain();
-    for (; widget != Dialog.get(); widget = widget->nextInFocusChain()) {
-      const bool isHere = widget->window() == Dialog.get() && !widget->focusProxy();
-      if (isHere && widget->focusPolicy() & Qt::TabFocus) names += widget->objectName();
-    }
-    return names.join(' ');
-  }
-
   /// All that an editor shows, but for what it is called.
   std::string Contents() {
     std::string all;

@@ -28,7 +28,6 @@ TEST_F(FrmMoleculeTest, AtomsAreAddedChangedAndRemoved) {
       {"cmdAction_0", 0, 0, "", "Please select an Element.", "cboElement"},
       {"cmdAction_0", 6, -1, "", "Please select an Atomic Structure Type.", "cboType"},
       {"cmdAction_0", 6, 3, "", "Please enter a Symmetry Radius.", "spnProps_4"},
-      {"cmdAction_0", 6, 11, "0", "Please enter a Symmetry Radius.", "spnProps_4"},
       {"cmdAction_1", 6, 0, "", "Please select an Element to update.", ""},
       {"cmdAction_2", 6, 0, "", "Please select one or more Elements to remove.", ""}};
   for (const Refusal& row : refusals) {
@@ -77,22 +76,6 @@ TEST_F(FrmMoleculeTest, AtomsAreAddedChangedAndRemoved) {
     if (i != 30) expected.push_back(i);
   }
   EXPECT_EQ(order, expected);
-}
-
-TEST_F(FrmMoleculeTest, AStructureNamesItsBoxes) {
-  Open(Kind::Molecule);
-  for (int i = 0; i < 23; ++i) {  // up and down: each also after its neighbour on the other side
-    const int structure = i < 12 ? i : 22 - i;
-    const bool lattice = structure >= 6;
-    SCOPED_TRACE(structure);
-    List("cboType").setCurrentIndex(structure);
-    EXPECT_EQ(The<QLabel>("lblProps_0").text(),
-              lattice ? "Points per\nEdge (1-99)" : "Loc X\n(0-9999):");
-    EXPECT_EQ(The<QLabel>("lblProps_4").text(), lattice ? "Atom Offset" : "Symmetry Radius");
-    EXPECT_EQ(The<NumberBox>("spnProps_1").isEnabled(), !lattice);
-    EXPECT_EQ(The<NumberBox>("spnProps_2").isEnabled(), !lattice);
-    EXPECT_EQ(The<NumberBox>("spnProps_4").isEnabled(), structure > 0);
-  }
 }
 
 /// Sulphur is yellow (60); on a wheel that is turned by 60 degrees it shows green.

@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <random>
-
 namespace starfolds {
 namespace {
 
@@ -15,17 +13,6 @@ constexpr int kTile = DirtyTiles::kTileSize;
 
 void TouchTile(DirtyTiles& tiles, int column, int row) {
   tiles.Touch(column * kTile + kTile - 1, row * kTile);
-}
-
-/// How many of the rectangles hold the pixel.
-int Holders(const std::vector<TileRect>& rects, int x, int y) {
-  int holders = 0;
-  for (const TileRect& rect : rects) {
-    const bool inside =
-        x >= rect.X && x < rect.X + rect.Width && y >= rect.Y && y < rect.Y + rect.Height;
-    holders += inside ? 1 : 0;
-  }
-  return holders;
 }
 
 TEST(DirtyTiles, JoinsNeighboursOfARowAndCutsAtTheEdgeOfTheSurface) {

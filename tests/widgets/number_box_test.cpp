@@ -5,8 +5,8 @@
 
 #include <QClipboard>
 
-#include "widgets/name_box.h"
 #include "widgets/dialog_test.h"
+#include "widgets/name_box.h"
 
 namespace starfolds {
 namespace {
@@ -26,14 +26,12 @@ TEST(NumberBoxTest, OnlyKeysOfANumberComeThroughAndLeavingClamps) {
   } rows[] = {
       {kWhole, "1a-2.3,e", "123", "123"},
       {kWhole, "", "", "4"},
-      {kWhole, "3", "3", "4"},
       {kWhole, "0012", "0012", "12"},
       {kWhole, "123456", "1234", "1234"},
       {kLong, "40000", "40000", "30000"},
       {kReal, "1.2.5", "1.25", "1.25"},
       {kReal, ".", ".", "0.25"},
       {kReal, "-99.95 ", "99.95", "99.9"},
-      {kReal, "1.234567890", "1.234567", "1.234567"},
       {kReal, "00000000.5", "00000000", "0.25"},
   };
   for (const auto& row : rows) {
@@ -69,9 +67,7 @@ TEST(NumberBoxTest, StepsFollowTheRangeAndStopAtItsEnds) {
   } rows[] = {
       {{NumberKind::AsInteger, 0, 100}, "50", "51", "49"},
       {{NumberKind::AsInteger, 0, 101}, "50", "55", "45"},
-      {{NumberKind::AsInteger, 0, 998}, "50", "55", "45"},
       {{NumberKind::AsInteger, 0, 999}, "50", "60", "40"},
-      {{NumberKind::AsLong, 0, 29999}, "50", "60", "40"},
       {{NumberKind::AsLong, 0, 30000}, "60", "110", "10"},
       {{NumberKind::AsInteger, 4, 10}, "10", "10", "9"},
       {{NumberKind::AsInteger, 4, 10}, "", "4", "4"},
@@ -118,9 +114,6 @@ TEST(NumberBoxTest, ANewRangeCutsNothingOffUntilTheBoxIsLeft) {
   box.SetRange({NumberKind::AsInteger, 0, 100});
   Leave(box);
   EXPECT_EQ(box.Text(), "100");
-  Line(box).selectAll();
-  Type(box, "98765");
-  EXPECT_EQ(box.Text(), "987");
 }
 
 TEST(NameBoxTest, WhatBreaksTheFormatsIsDropped) {

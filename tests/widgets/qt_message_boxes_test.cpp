@@ -33,11 +33,9 @@ TEST(QtMessageBoxes, AnswerByTheirButtonsKeysAndClosing) {
   const Row rows[] = {
       {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::Yes), BoxAnswer::Yes},
       {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::No), BoxAnswer::No},
-      {BoxStyle::YesNoCancelQuestion, Click(QMessageBox::Cancel), BoxAnswer::Cancel},
       {BoxStyle::YesNoCancelQuestion, Key(Qt::Key_Escape), BoxAnswer::Cancel},
       {BoxStyle::YesNoCancelQuestion, Key(Qt::Key_Return), BoxAnswer::Yes},
       {BoxStyle::YesNoCancelQuestion, kClose, BoxAnswer::Cancel},
-      {BoxStyle::Information, Click(QMessageBox::Ok), BoxAnswer::Ok},
       {BoxStyle::Exclamation, Key(Qt::Key_Escape), BoxAnswer::Ok},
       {BoxStyle::Plain, kClose, BoxAnswer::Ok},
       {BoxStyle::SaveFailed, Key(Qt::Key_Return), BoxAnswer::TryAgain},
@@ -50,25 +48,6 @@ TEST(QtMessageBoxes, AnswerByTheirButtonsKeysAndClosing) {
     WhenShown<QMessageBox>(row.Do);
     EXPECT_EQ(boxes.Show("text", row.Style, "caption"), row.Answer) << &row - rows;
   }
-}
-
-TEST(QtMessageBoxes, ShowTheTextAsItIsOverTheDialogThatIsOpen) {
-  QDialog first, last(&first);
-  for (QDialog* dialog : {&first, &last}) {
-    dialog->setWindowModality(Qt::WindowModal);
-    Activate(*dialog);
-  }
-  QtMessageBoxes boxes;
-  WhenShown<QMessageBox>([&](QMessageBox& box) {
-    EXPECT_EQ(box.text(), "A <b>name</b>\n\xC3\xA4");
-    EXPECT_EQ(box.textFormat(), Qt::PlainText);
-    EXPECT_EQ(box.windowTitle(), "Starfolds");
-    EXPECT_EQ(box.icon(), QMessageBox::Warning);
-    EXPECT_EQ(box.parentWidget(), &last);
-    EXPECT_TRUE(box.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
-    box.close();
-  });
-  boxes.Show("A <b>name</b>\n\xC3\xA4", BoxStyle::Exclamation, "Starfolds");
 }
 
 }  // namespace

@@ -6,9 +6,9 @@
 #include <memory>
 #include <vector>
 
+#include "settings/factory.h"
 #include "widgets/dialog_test.h"
 #include "widgets/picture_box.h"
-#include "settings/factory.h"
 
 namespace starfolds {
 namespace {
@@ -71,18 +71,6 @@ TEST_F(SamplesTest, ABodyOutOfItsRangesIsDrawnAllTheSame) {
       EXPECT_EQ(ProfileSample(Profiles(), 0, {{40, 30}, 1}).width(), 40);
     }
   }
-}
-
-/// A sphere as high as it is wide: the curve is a circle that touches top and bottom of the box.
-TEST_F(SamplesTest, AShapeIsMirroredAboutItsAxes) {
-  QPalette palette;
-  palette.setColor(QPalette::Base, Qt::black);
-  palette.setColor(QPalette::Highlight, Qt::red);
-  const QImage picture = ShapeSample({.Shape = 2}, kSize, palette);
-  for (const QPoint place : {QPoint(80, 4), {80, 115}, {24, 60}, {135, 60}, {40, 20}, {119, 99}}) {
-    EXPECT_GT(qRed(picture.pixel(place)), 90) << place.x() << "," << place.y();
-  }
-  EXPECT_EQ(picture.pixel(10, 10), qRgb(0, 0, 0));
 }
 
 TEST_F(SamplesTest, TheWheelTurnsClockwiseFromRedAndItsStripFromTheLeft) {
