@@ -10,12 +10,6 @@ namespace {
 
 class StopSignalsTest : public PumpedTest, public testing::WithParamInterface<int> {
  protected:
-  static void* HandlerOf(int number) {
-    struct sigaction action {};
-    sigaction(number, nullptr, &action);
-    return reinterpret_cast<void*>(action.sa_handler);
-  }
-
   int Stops = 0;
 };
 
@@ -27,15 +21,6 @@ TEST_P(StopSignalsTest, StopTheRunFromInsideThePumpAndAreKeptUntilSomebodyWatche
   raise(GetParam());
   EXPECT_EQ(Stops, 1);
   EXPECT_TRUE(PumpUntil([&] { return Stops == 2; }));
-}
-
-TEST_P(StopSignalsTest, HaveTheirFormerMeaningAfterwards) {
-  void* const former = HandlerOf(GetParam());
-  {
-    const StopSignals signals_;
-    EXPECT_NE(HandlerOf(GetParam()), former);
-  }
-  EXPECT_EQ(HandlerOf(GetParam()), former);
 }
 
 TEST_P(StopSignalsTest, StayIgnoredWhereTheyWere) {

@@ -115,19 +115,6 @@ TEST_F(MainTest, IsAPlainApplicationUnderTheNameExeWithNoScrBeside) {
   EXPECT_EQ(NotesOf("/S"), kSaver);
 }
 
-TEST_F(MainTest, BeginsWithAllFlagsDown) {
-  State->StopRun = true;
-  State->NewRun = true;
-  State->QuitApp = true;
-  NotesOf("/C");
-  EXPECT_FALSE(State->StopRun);
-  EXPECT_FALSE(State->NewRun);
-  EXPECT_FALSE(State->QuitApp);
-  State->StopRun = true;
-  ShowEffectWindow(*State, Actions);
-  EXPECT_EQ(Actions.Notes.back(), "saver as saver") << "not stopped";
-}
-
 TEST_F(MainTest, BlocksTheTaskSwitchKeysOnlyForASaverWithAPasswordOnWindows9x) {
   NotesOf("/S");
   Platform.Id = kWindows9x;

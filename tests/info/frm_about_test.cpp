@@ -1,7 +1,5 @@
 #include "info/frm_about.h"
 
-#include <QMouseEvent>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "info/frm_credits.h"
@@ -50,28 +48,6 @@ class FrmAboutTest : public testing::Test {
   MemoryDesktop Desktop;
   MemoryHelp HelpBook;
 };
-
-TEST_F(FrmAboutTest, AClickOnThePictureShowsTheNextBody) {
-  QString first, second;
-  Run([&](FrmAbout& about, int pump) {
-    auto& picture = Part<PictureBox>(about, "picAbout");
-    const QString body = Part<QLabel>(about, "lblBody").text();
-    if (pump == 10) {
-      EXPECT_TRUE(Part<QLabel>(about, "lblVersion").text().contains("1.2.3"));
-      EXPECT_TRUE(Part<QPlainTextEdit>(about, "txtLicence").toPlainText().contains("MIT License"));
-      first = body;
-      const QPoint place = picture.mapTo(&about, QPoint(5, 5));
-      QMouseEvent click(QEvent::MouseButtonPress, place, about.mapToGlobal(place), Qt::LeftButton,
-                        Qt::LeftButton, Qt::NoModifier);
-      QApplication::sendEvent(&about, &click);
-    }
-    if (pump == 20) {
-      second = body;
-      about.close();
-    }
-  });
-  EXPECT_NE(first, second);
-}
 
 TEST_F(FrmAboutTest, TheCreditsCloseWithTheProcessToo) {
   Run([&](FrmAbout& about, int pump) {

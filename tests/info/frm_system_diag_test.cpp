@@ -86,16 +86,5 @@ TEST_F(FrmSystemDiagTest, TheReportNamesEverythingButTheUser) {
   EXPECT_FALSE(Part<QLabel>(*Dialog, "lblCopied").text().isEmpty());
 }
 
-TEST_F(FrmSystemDiagTest, KeepsItsPlaceAndHasItsTopic) {
-  Open();
-  Part<QPushButton>(*Dialog, "cmdHelp").click();
-  EXPECT_EQ(HelpBook.Topics, std::vector<Integer>{help::kSystemDiag});
-  Dialog->resize(Dialog->size() + QSize(40, 30));
-  const QSize size = Dialog->size();
-  Press(*Dialog, Qt::Key_Escape);
-  EXPECT_FALSE(Dialog->isVisible());
-  EXPECT_EQ(Open().size(), size);
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -172,20 +172,5 @@ TEST_F(CompositeEditorTest, ResetSetsEveryPercent) {
   EXPECT_EQ(LastBox(), "");
 }
 
-TEST_F(CompositeEditorTest, NewNamesLeaveTheChoiceAlone) {
-  Select(2);
-  Names[9] = "Nine";
-  Names[4] = "Four";
-  Editor.SetBodies(Names);
-  EXPECT_EQ(Major.currentText(), "Nine");
-  EXPECT_EQ(Minors.item(4)->text(), "Four");
-  EXPECT_THAT(ChosenMinors(), ElementsAre(4, 6));
-  Editor.SetBodies({"Only"});
-  EXPECT_EQ(Major.currentIndex(), -1);
-  EXPECT_EQ(Minors.count(), 1);
-  Editor.SetBodies(Names);
-  EXPECT_EQ(Major.currentIndex(), -1);
-}
-
 }  // namespace
 }  // namespace starfolds

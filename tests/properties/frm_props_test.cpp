@@ -151,20 +151,6 @@ TEST_F(FrmPropsTest, CancelLeavesTheTreeAsItWas) {
   EXPECT_NE(RegistryReadText(Tree, sections::kMain, "WindowSize"), "");
 }
 
-TEST_F(FrmPropsTest, TheWheelChangesAListOnlyWhereTheFocusIs) {
-  StoreFactory();
-  Open();
-  auto& themes = The<QComboBox>("cboUniTheme");
-  const int before = themes.currentIndex();
-  The<QPushButton>("cmdAccept").setFocus();
-  TurnWheel(themes, -120);
-  EXPECT_EQ(themes.currentIndex(), before);
-  EXPECT_FALSE(themes.hasFocus());
-  themes.setFocus();
-  TurnWheel(themes, -120);
-  EXPECT_EQ(themes.currentIndex(), before + 1);
-}
-
 TEST_F(FrmPropsTest, NamesAndWeightsAreCommitted) {
   StoreFactory();
   Open();

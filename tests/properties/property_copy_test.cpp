@@ -23,25 +23,16 @@ const SpecialEntry kSpecial[] = {
     {"Starfold Radial Arm Fill %", "Starfold_RadFill", "123"},
     {"Starfold Radial Bands", "Starfold_RadBands", "127"},
     {"Starfold Radial Band Fill %", "Starfold_RadBFill", "7"},
-    {"Starfold Style", "Starfold_FoldStyle", ""},
-    {"Starfold Axial Plane of Rotation", "Starfold_AxisPlane", ""},
-    {"Starfold Shape Profile", "Starfold_Profile", ""},
     {"Starfold Radius Exponent", "Starfold_RadiusExp", "47"},
     {"Starfold Height Exponent", "Starfold_HeightExp", "4"},
-    {"Starfold Angular Tilt", "Starfold_AngleTilt", ""},
-    {"Starfold Angular Tilt Increment", "Starfold_AngleTInc", ""},
-    {"Starfold Color Computation Index", "Starfold_ColorComp", ""},
-    {"Starfold Hue Wheel Increment", "Starfold_HWheelInc", ""},
-    {"New Star Frames", "Starfold_NewFrames", ""},
-    {"Pulsar Star General Shape", "Starfold_PulsarShape", ""},
     {"Comet Stars", "", ""},
     {"Comet Orbital Speed", "", ""},
-    {"Nebula Control Points", "Starfold_CP_Close", "012356789"},
     {"Nebula Control Point Steps", "", ""},
     {"Nebula Bias Points", "", ""},
     {"Nebula Bias Exponent", "", ""},
     {"Nebula Bias Travel Speed", "", ""},
     {"Nebula Control Points Closed", "", ""},
+    {"Nebula Control Points", "Starfold_CP_Close", "012356789"},
 };
 
 SpecialEntry Expected(const std::string& entry) {
@@ -146,20 +137,6 @@ TEST_F(PropertyCopyTest, WithoutASelectionOrAValueNothingIsCopied) {
   PressCopy();
   EXPECT_EQ(LastBox(), "Please select a Property value.");
   EXPECT_EQ(Copies, 0);
-}
-
-TEST_F(PropertyCopyTest, WholeNumbersTakeTheNearestEvenOneAndOthersTheNumberItself) {
-  const auto copy = [this](int position, const char* text) {
-    Properties.setCurrentIndex(position);
-    Box.SetText(text);
-    Copy.CopyPropertyToAllProfiles();
-  };
-  copy(0, "2.5");
-  EXPECT_EQ(Process->Profiles[0].Starfold_HueRed, 2);
-  copy(5, "3.5");
-  EXPECT_EQ(Process->Profiles[0].Starfold_Radius, 4);
-  copy(15, "2.5");
-  EXPECT_EQ(Process->Profiles[0].Starfold_GHW_Ratio, 2.5F);
 }
 
 /// The mnemonic of the button leaves no box.
