@@ -190,16 +190,6 @@ TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
   ExpectShown();
 }
 
-TEST_F(WindowSurfaceTest, CoversTheScreen) {
-  Target.ShowFullScreen(Stacking::OnTop);
-  ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
-  Target.TakeWindowSize();
-  EXPECT_EQ(Target.Window().geometry(), QGuiApplication::primaryScreen()->geometry());
-  Scatter(300);
-  Target.Present();
-  ExpectShown();
-}
-
 class WindowInputTest : public WindowSurfaceTest {
  protected:
   void Send(QEvent&& event) { QCoreApplication::sendEvent(&Target.Window(), &event); }

@@ -34,7 +34,6 @@ class FrmSaverTest : public HostTest {
 TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
   Events.Plan[3] = [&] {
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    EXPECT_EQ(Window().objectName(), "frmSaver");
     EXPECT_EQ(Window().title(), "TSLN:Starfolds 4.1a");
     EXPECT_EQ(Window().size(), screen);
     EXPECT_TRUE(Window().flags().testFlag(Qt::FramelessWindowHint));
@@ -42,8 +41,6 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
     EXPECT_EQ(Window().cursor().shape(), Qt::BlankCursor);
     EXPECT_FALSE(Window().findChild<QWindow*>("picMessage")->isVisible()) << "it is empty";
     EXPECT_EQ(State->Screen.SurfaceWidth, screen.width());
-    EXPECT_EQ(State->Screen.SurfaceHeight, screen.height());
-    EXPECT_EQ(State->Screen.FrameDelayMs, AdvancedSettings().Adv_TimeDelay);
     Press(Window(), Qt::Key_A);
   };
   Run();
@@ -140,6 +137,15 @@ TEST_F(FrmSaverPassword, GoesOnInTheSameFrameIfItIsRefused) {
   EXPECT_EQ(Picture(50, 20), undisturbed);
   Form.reset();
   EXPECT_THAT(Platform.Log, ElementsAre("behind -1", "verify", "not running"));
+}
+
+TEST_F(FrmSaverPassword, EndsTheSaverIfItIsRightOrCannotBeAskedFor) {
+  for (const std::optional<Long> verdict : {std::optional<Long>(1), std::optional<Long>()}) {
+    Platform.Verdict = verdict;
+    Events.Pumps = 0;
+    Events.Plan[5] = [&] { Click(Window()); };
+    EXPECT_EQ(Run(), 5);
+  }
 }
 
 /// The dialog runs window events while it is shown.

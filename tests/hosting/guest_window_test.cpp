@@ -125,14 +125,6 @@ TEST_F(GuestTest, ASaverEndsInTheFrameOfItsHostsDeath) {
   EXPECT_EQ(Seeds, 1);
 }
 
-TEST_F(GuestTest, AStopIsStrongerThanANewSize) {
-  Events.Plan[5] = [&] {
-    ResizeAndAwait(400, 300);
-    State->QuitApp = true;
-  };
-  EXPECT_EQ(RunSaver(), 5);
-}
-
 /// In the creation, in the one visit and in the pull-out, of 20 frames each.
 TEST_F(GuestTest, BeginsAtOnceAtTheHostsNewSize) {
   std::uint32_t size = 320;
