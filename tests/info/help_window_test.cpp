@@ -55,6 +55,7 @@ TEST_F(HelpWindowTest, OpensAtATopicAndGoesOnFromThere) {
   EXPECT_EQ(scroll.value(), 300) << "the place that was read";
   Choose("cmdForward");
   EXPECT_EQ(Caption(), "Starfolds Help - Glossary");
+  Choose("cmdBack");
   Follow("project.md");
   EXPECT_FALSE(The<QAction>("cmdForward").isEnabled());
   Follow("../../etc/passwd");  // no topic: nothing happens
