@@ -293,6 +293,15 @@ TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
   EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 1234);
 }
 
+/// The button's key leaves no box.
+TEST_F(FrmPropsTest, AcceptClampsTheBoxInUse) {
+  StoreFactory();
+  Open();
+  Edit("txtUni_0").setText("99999999");
+  Click("cmdAccept");
+  EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, "Universe_Stars"), "30000");
+}
+
 TEST_F(FrmPropsTest, ExitEndsTheProcess) {
   StoreFactory();
   Open();
