@@ -92,14 +92,5 @@ TEST_F(Roll, AFlareWithoutFramesIsAPlainStarAtOnce) {
   for (int frame = 0; frame < 3; ++frame) Stage_.Step();
 }
 
-TEST_F(Roll, AStarBehindTheEyeCountsDownUnseen) {
-  Stage_.Run->Folds.StarfoldRel[0] = {0, 0, -100};
-  const StarState& star = Reseed(0.6F);
-  EXPECT_EQ(Lit(), 0);
-  for (int frame = 0; frame < 5; ++frame) Stage_.Step();
-  EXPECT_FALSE(star.InFlare());
-  EXPECT_EQ(Lit(), 0);
-}
-
 }  // namespace
 }  // namespace starfolds

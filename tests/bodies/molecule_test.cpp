@@ -108,68 +108,6 @@ TEST_F(Lattice, ShellsAndStacksLieEvenlyAboutTheAxis) {
   }
 }
 
-TEST_F(Molecule, TheSmallestHexamatrixIsLopsided) {
-  Atom(0).Atom_Structure = 11;
-  Atom(0).Atom_LocX = 1;
-  SetUpSlots();
-  constexpr int stars = 3000;
-  const std::map<Spot, int> hits = Draw(stars);
-  ASSERT_EQ(hits.size(), 2U);
-  EXPECT_NEAR(hits.at(SpotAt(0, -kSpacing, 0)), stars / 3.0, FiveSigma(stars, 1.0 / 3));
-  EXPECT_NEAR(hits.at(SpotAt(0, 0, 0)), stars * 2 / 3.0, FiveSigma(stars, 1.0 / 3));
-}
-
-TEST_F(Molecule, ASingleAtomIsADotAtItsLocation) {
-  Atom(0).Atom_LocX = 700;
-  Atom(0).Atom_LocY = 150;
-  Atom(0).Atom_LocZ = 300;
-  Set().Atom.Atom_CenterX = 500;
-  Set().Atom.Atom_CenterY = 400;
-  SetUpSlots();
-  EXPECT_EQ(Draw(10), (std::map<Spot, int>{{SpotAt(2, -2.5, 3), 10}}));
-  Atom(0).Atom_Structure = 12;
-  EXPECT_EQ(Draw(10), (std::map<Spot, int>{{SpotAt(0, 0, 0), 10}})) << "there is no such structure";
-}
-
-TEST_F(Molecule, AtomsAreDrawnByTheirPointsAndLatticesAsOne) {
-  struct Case {
-    Integer Structure, Element;
-    int Hue;  // of the element
-    double Weight;
-  };
-  const std::array cases{Case{4, 6, 210, 26}, Case{0, 1, 180, 1}, Case{8, 16, 60, 1},
-                         Case{1, 2, 330, 6}};
-  for (std::size_t i = 0; i < cases.size(); ++i) {
-    Atom(i).Atom_Structure = cases[i].Structure;
-    Atom(i).Atom_Element = cases[i].Element;
-    Atom(i).Atom_LocX = 50;
-  }
-  SetUpSlots();
-  constexpr int stars = 34000;
-  std::map<int, int> hits;
-  for (int i = 0; i < stars; ++i) ++hits[Seed().HueOffset];
-  for (const Case& c : cases) {
-    EXPECT_NEAR(hits[c.Hue], stars * c.Weight / 34, FiveSigma(stars, c.Weight / 34)) << c.Hue;
-  }
-}
-
-TEST_F(Molecule, TheOffsetSpreadsStarsOverASphereAboutEachPoint) {
-  Atom(0).Atom_LocX = 300;
-  Atom(0).Atom_Size = 50;
-  SetUpSlots();
-  constexpr int stars = 16000;
-  std::array<int, 8> octants{};
-  for (int i = 0; i < stars; ++i) {
-    const SeedPoint star = Seed();
-    ASSERT_NEAR(Length(star.X - 3, star.Y, star.Z), 0.5, 1e-5);
-    ++octants[static_cast<std::size_t>((star.X > 3) + 2 * (star.Y > 0) + 4 * (star.Z > 0))];
-  }
-  for (const int count : octants) EXPECT_NEAR(count, stars / 8, FiveSigma(stars, 0.125));
-  SeedPoint nucleus;
-  SeedMolecule(nucleus, TheBody(), false);
-  ExpectPoint(PlaceOf(nucleus), {3, 0, 0});
-}
-
 TEST_F(Molecule, WithoutAtomsAStarStaysAsItIs) {
   SetUpSlots();
   SeedPoint star;

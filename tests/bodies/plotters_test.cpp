@@ -46,44 +46,6 @@ TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
   }
 }
 
-TEST_F(Plotters, FlareSizesFollowTheFocalLengthAndNotTheWindow) {
-  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
-  const Places small = Lit();
-  stage_.Canvas.Clear();
-  Screen().FocalPixels *= 7;
-  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
-  EXPECT_EQ(Lit(), small);
-  Screen().FocalLength = 2;
-  PlotNew(Screen(), 200, 150, 1, 1, 1, 0.5F, 1);
-  EXPECT_NE(Lit(), small);
-}
-
-TEST_F(Plotters, ANovaGrowsByItsPowerOfTime) {
-  const auto radius = [&](Integer left) {
-    stage_.Canvas.Clear();
-    PlotNova(Screen(), 0, 0, 1, left, 100, 0.05F, 0xFFFFFF);
-    int reach = 0;
-    for (const auto& [x, y] : Lit()) reach = std::max(reach, y == 0 ? x : 0);
-    return reach;
-  };
-  EXPECT_EQ(radius(100), std::lrint(0.05 * 32));
-  EXPECT_EQ(radius(1), std::lrint(0.05 * 32 * std::pow(100, 0.6375)));
-}
-
-TEST_F(Plotters, SpheresAreRound) {
-  for (const Integer shape : {3, 4}) {
-    stage_.Canvas.Clear();
-    PlotPulsar(Screen(), 0, 0, 1, 3, shape, 0, 0xFFFFFF);
-    std::size_t rim = 0;
-    for (const auto& [x, y] : Lit()) {
-      const double distance = std::hypot(x, y);
-      EXPECT_LT(distance, 32 * 3 * 1.08) << shape;  // whole multiples: 21, 27 lies 7 % outside
-      rim += distance > 32 * 3 * 0.97;
-    }
-    EXPECT_GE(rim, shape == 3 ? 16U : 20U) << "the places of the circle at the centre";
-  }
-}
-
 TEST_F(Plotters, UnknownShapesAndFlaresWithoutSizeAreOnePixel) {
   for (const Integer shape : {Integer{-1}, Integer{5}, Integer{3}}) {
     stage_.Canvas.Clear();

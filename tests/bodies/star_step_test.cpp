@@ -185,27 +185,6 @@ TEST(StarStepTest, HuesMoveOnceAFrame) {
   }
 }
 
-TEST(StarStepTest, ARecycledStarsHueMovesInTheFrameThatSeedsIt) {
-  BodyStage stage(320, 200, 10, 1, [](SettingsRecords& settings) {
-    Quiet(settings);
-    settings.Profiles[0].Starfold_NewFreq = 9999;
-    settings.Profiles[0].Starfold_HWheelInc = 0.25F;
-  });
-  stage.Step();
-  FinishHueWork(*stage.Process, stage.Run->Stars);
-  for (const StarState& star : stage.Run->Stars.Star) {
-    EXPECT_EQ(star.StarHue - std::floor(star.StarHue), 0.25F) << "seeded hues are whole";
-  }
-}
-
-TEST(StarStepTest, TheOldestAgeStays) {
-  BodyStage stage(320, 200, 10, 4, Quiet);
-  constexpr Long oldest = std::numeric_limits<Long>::max();
-  for (StarState& star : stage.Run->Stars.Star) star.StarAge = oldest;
-  stage.Step();
-  for (const StarState& star : stage.Run->Stars.Star) EXPECT_EQ(star.StarAge, oldest);
-}
-
 TEST(StarStepTest, AStarThatKeepsItsHueIsRecycledBeforeTheHueMoves) {
   BodyStage stage(320, 200, 10, 1, [](SettingsRecords& settings) {
     Quiet(settings);

@@ -24,28 +24,5 @@ TEST(RndTest, DrawsFillTheUnitIntervalEvenlyAndStayBelowOne) {
   for (const int count : bins) EXPECT_NEAR(count, draws / 16, 485);
 }
 
-TEST(RndTest, SeedsGiveSequencesOfTheirOwnAndTheSameAgain) {
-  Rnd a(1);
-  Rnd b(2);
-  Rnd again(1);
-  int same = 0;
-  for (int i = 0; i < 100; ++i) {
-    const Single draw = a();
-    same += draw == b();
-    EXPECT_EQ(draw, again());
-  }
-  EXPECT_LT(same, 5);
-}
-
-TEST(RndTest, ScriptedDrawsComeFirstAndDoNotMoveTheGenerator) {
-  Rnd plain(9);
-  Rnd scripted(9);
-  const std::array<Single, 2> script{0.25F, 0.75F};
-  scripted.Script(script);
-  EXPECT_EQ(scripted(), 0.25F);
-  EXPECT_EQ(scripted(), 0.75F);
-  EXPECT_EQ(scripted(), plain());
-}
-
 }  // namespace
 }  // namespace starfolds

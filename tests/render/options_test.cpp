@@ -74,21 +74,12 @@ TEST(Options, SettingsStartFromTheFactoryWhateverTheOrder) {
       << "theme 1 has a variant for the 2.0 set";
 }
 
-TEST(Options, TheListNamesWhatThereIs) {
-  const std::string list = ListText(Settings(Parsed({"--list", "--factory", "1"})));
-  EXPECT_THAT(list, HasSubstr("profile 26 Ruby Sphere\n"));
-  EXPECT_THAT(list, HasSubstr("composite 1 Spine Disk Shell\n"));
-  EXPECT_THAT(list, HasSubstr("theme 7 Rollercoaster Ride Through the Cosmos\n"));
-}
-
-TEST(Options, AValueMayStandBehindAnEqualsSign) {
-  const RenderOptions options =
-      Parsed({"--size=8x9", "--set=Universe_Stars=11", "--png=--odd name", "--hash"});
-  EXPECT_EQ(options.Width, 8);
-  EXPECT_EQ(options.Height, 9);
-  EXPECT_EQ(Settings(options).Universe.Universe_Stars, 11);
-  EXPECT_EQ(options.PngFolder, "--odd name");
-  EXPECT_TRUE(options.Hash);
+TEST(Options, StoredSettingsThatCannotBeReadAreAFault) {
+  MemoryTree tree;
+  tree.Readable = false;
+  MemoryFiles disk;
+  SettingsRecords records;
+  EXPECT_NE(MakeSettings(Parsed({"--stored", "--hash"}), tree, disk, records), std::nullopt);
 }
 
 TEST(Options, HelpAndVersionNeedNothingElse) {

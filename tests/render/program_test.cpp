@@ -52,27 +52,6 @@ std::map<int, std::string> Hashes(const std::string& arguments) {
   return hashes;
 }
 
-TEST(Program, TheSameSeedGivesTheSamePixels) {
-  const auto once = Hashes("--frames 400 --every 57 --seed 5");
-  EXPECT_EQ(once.size(), 8U);
-  EXPECT_EQ(once, Hashes("--frames 400 --every 57 --seed 5"));
-  EXPECT_NE(once, Hashes("--frames 400 --every 57 --seed 6"));
-}
-
-TEST(Program, AProfileIsOneBodyThatTakesTheSettings) {
-  const auto body = Hashes("--frames 3 --profile 0");
-  EXPECT_NE(body, Hashes("--frames 3"));
-  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Starfold0/Starfold_Radius=100"));
-  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Universe_STrail=3"));
-  EXPECT_EQ(body, Hashes("--frames 3 --profile 0 --set Starfold1/Starfold_Radius=100"));
-}
-
-TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
-  const auto body = Hashes("--frames 3 --composite 1");
-  EXPECT_NE(body, Hashes("--frames 3 --profile 2")) << "its first member alone";
-  EXPECT_NE(body, Hashes("--frames 3 --composite 1 --set Starfold49/Starfold_Radius=100"));
-}
-
 TEST(Program, ATemplateShowsTheUniverseThatItWasSavedFrom) {
   const TestFolder folder;
   const std::string path = folder.Path("theme.sfd");
@@ -134,15 +113,6 @@ TEST(Program, AllOutputsShowTheSameFrame) {
     stars += last.Pixels[i] != 0;
   }
   EXPECT_GT(stars, 0);
-}
-
-TEST(Program, VideoGoesToTheStandardOutput) {
-  const TestFolder folder;
-  const Outcome outcome = RunProgram(folder, "--size 5x3 --frames 2 --y4m -");
-  EXPECT_EQ(outcome.ExitCode, 0) << outcome.Err;
-  const std::string header = "YUV4MPEG2 W5 H3 F25:1 Ip A1:1 C444\n";
-  EXPECT_THAT(outcome.Out, StartsWith(header));
-  EXPECT_EQ(outcome.Out.size(), header.size() + 2 * (6 + 3 * 5 * 3));
 }
 
 TEST(Program, PrintsHelpAndVersion) {

@@ -118,26 +118,6 @@ TEST(ContactSheet, ASingleStarStaysVisibleWhereverItIs) {
   }
 }
 
-TEST(ContactSheet, StarsThatShareAPixelOfATileAddTheirChannels) {
-  MemorySurface surface(640, 2);
-  surface.SetPixelV(0, 0, 0x100080);
-  surface.SetPixelV(1, 1, 0x209040);
-  const Tile tile = MakeTile(PictureOf(surface));
-  EXPECT_EQ(tile.Width, 320);
-  EXPECT_EQ(tile.Height, 1);
-  EXPECT_EQ(tile.Pixels.at(0), 0x209080U);
-}
-
-TEST(ContactSheet, NarrowPicturesKeepAtLeastOnePixel) {
-  for (const auto& [width, height] : {std::pair{1, 16384}, std::pair{16384, 1}, std::pair{1, 1}}) {
-    MemorySurface surface(static_cast<Integer>(width), static_cast<Integer>(height));
-    surface.SetPixelV(width - 1, height - 1, kGreen);
-    const Tile tile = MakeTile(PictureOf(surface));
-    ASSERT_EQ(tile.Pixels.size(), static_cast<std::size_t>(tile.Width * tile.Height));
-    EXPECT_EQ(tile.Pixels.back(), kGreen);
-  }
-}
-
 TEST(ContactSheet, ShowsTheFramesInRowsOfAGrid) {
   const TestFolder folder;
   ContactSheet sheet(folder.Path("s.png"));

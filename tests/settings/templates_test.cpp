@@ -80,18 +80,6 @@ TEST_F(Templates, RandomRecordsComeBackWhole) {
   }
 }
 
-TEST_F(Templates, AreStoredWithTheirBodiesAsAUsersOwn) {
-  const SettingsRecords records = RandomRecords(17).Make();
-  ASSERT_EQ(Write(records), std::nullopt);
-  MemoryTree tree;
-  EXPECT_NE(StoreTemplate(File, "missing.sfd", tree), std::nullopt);
-  EXPECT_EQ(tree.Size(), 0U);
-  EXPECT_EQ(StoreTemplate(File, "out.sfd", tree), std::nullopt);
-  EXPECT_EQ(Contents(LoadSettings(tree)), Contents(Read(Disk.Contents["out.sfd"])));
-  EXPECT_TRUE(EnsureFactoryProfiles(tree)) << "a run finds bodies there";
-  EXPECT_EQ(Contents(LoadSettings(tree)), Contents(Read(Disk.Contents["out.sfd"])));
-}
-
 /// The order of the settings is that of the templates that come with the program.
 TEST_F(Templates, AreWrittenInTheirForm) {
   SettingsRecords records;

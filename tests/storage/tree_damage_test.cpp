@@ -67,17 +67,6 @@ class TreeDamage : public testing::Test {
   }
 };
 
-TEST_F(TreeDamage, WhatIsNoDatabaseIsSetAside) {
-  const std::string good = GoodFile();
-  for (const std::string& bytes : {std::string("[General]\nGSteps=5\n"), std::string(4096, '\0'),
-                                   good.substr(1), "SQLite format 3" + std::string(5000, '\0')}) {
-    Empty();
-    Put("settings.db", bytes);
-    EXPECT_TRUE(UseAndKeep(bytes)) << bytes.size();
-    EXPECT_EQ(FileText(File + ".damaged-1"), bytes) << bytes.size();
-  }
-}
-
 TEST_F(TreeDamage, TruncatedFilesAndRandomBytesAreSetAside) {
   const std::string good = GoodFile();
   for (int i = 0; i < 100; ++i) {

@@ -39,18 +39,6 @@ class Ambient : public ::testing::Test {
   BodySlots Shape;
 };
 
-TEST_F(Ambient, AStarThatAlwaysSurvivesCoolsToBlackInItsPlace) {
-  SetUpStars(50, 5);
-  Stage.Process->Universe.Universe_AmPers = 1;
-  Stage.Process->Universe.Universe_AmCAge = 1;
-  const auto places = Stars->AmbX;
-  for (int frame = 0; frame < 40; ++frame) Step();
-  EXPECT_GT(Lit(), 0);
-  for (int frame = 0; frame < 45; ++frame) Step();
-  EXPECT_EQ(Lit(), 0);
-  EXPECT_EQ(Stars->AmbX, places);
-}
-
 TEST_F(Ambient, ReborStarsFlashWithinTheUniverseAndLeaveNothingBehind) {
   SetUpStars(300, 12);
   Stage.Process->Universe.Universe_AmPers = 0.25F;

@@ -66,15 +66,6 @@ void MakeColourful(SettingsRecords& settings) {
   settings.Composites[1].CompFoldPct = 5;  // one without a member
 }
 
-TEST(SmallPreview, TakesFewerStars) {
-  Stage stage;
-  stage.Settings().Universe.Universe_Stars = 30;
-  stage.Settings().Universe.Universe_AmStar = 25;
-  stage.Read(true);
-  EXPECT_EQ(stage.Process->Universe.Universe_Stars, 20) << "19.5 rounds to even";
-  EXPECT_EQ(stage.Process->Universe.Universe_AmStar, 12);
-}
-
 TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
   Stage stage(160, 120);
   MakeSmall(stage.Settings().Universe);
@@ -145,43 +136,6 @@ TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
     EXPECT_FALSE(stage.Process->NewRun);
     EXPECT_FALSE(stage.Process->StopRun);
   }
-}
-
-TEST(UniverseRunTest, ANewRunInThePullOutWaitsForTheNextUniverse) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  stage.Canvas.OnFrame = [&stage] {
-    if (++stage.FramesShown == 10 + 36 + 2) stage.Process->NewRun = true;
-  };
-  stage.Read();
-  UniverseRun(*stage.Process);
-  EXPECT_EQ(stage.FramesShown, 10 + 36 + 8 + 1) << "the first frame of the next creation";
-}
-
-TEST(UniverseRunTest, WithoutATourTheEyeStandsStill) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  UniverseSettings& universe = stage.Settings().Universe;
-  universe.Universe_Tour = false;
-  universe.Universe_NewFreq = 0;
-  universe.Universe_AmStar = 0;
-  for (StarfoldProfile& profile : stage.Settings().Profiles) {
-    profile.Starfold_Rotation = 0;
-    profile.Starfold_NewFreq = 0;
-    profile.Starfold_CometFreq = 0;
-    profile.Starfold_HWheelInc = 0;
-  }
-  std::vector<std::uint64_t> tour;
-  stage.Canvas.OnFrame = [&] {
-    ++stage.FramesShown;
-    // The first frame of the tour still wipes what creation left.
-    if (stage.FramesShown > 12 && stage.FramesShown <= 46) tour.push_back(stage.Canvas.Hash());
-    if (stage.FramesShown == 50) stage.Process->StopRun = true;
-  };
-  stage.Read();
-  UniverseRun(*stage.Process);
-  EXPECT_EQ(std::count(tour.begin(), tour.end(), tour.front()), 34);
-  EXPECT_NE(stage.Canvas.Hash(), tour.front()) << "the pull-out leaves";
 }
 
 /// The picture of a run is a promise: the same seed gives the same pixels, in every build. If a
@@ -282,17 +236,6 @@ INSTANTIATE_TEST_SUITE_P(
                     s.Universe.Universe_ESteps = 20;
                   }}),
     [](const auto& limits) { return limits.param.Name; });
-
-TEST(LongRun, ManyUniversesNeitherGrowNorComplain) {
-  Stage stage(96, 64);
-  MakeSmall(stage.Settings().Universe);
-  MakeColourful(stage.Settings());
-  stage.Settings().Universe.Universe_Stars = 30;
-  stage.Settings().Universe.Universe_STrail = 2;
-  stage.Settings().Universe.Universe_Profile = kCycleRandomly;
-  RunFrames(stage, 200000);
-  EXPECT_EQ(stage.FramesShown, 200000);
-}
 
 }  // namespace
 }  // namespace starfolds
