@@ -11,23 +11,18 @@ class BodySlotsTest : public OneBody {
  protected:
   BodySlotsTest() : OneBody(FoldStyle::Standard) {}
 
-  StarfoldProfile& Dress(int prof, FoldStyle style, Long radius = 300) {
+  void Dress(int prof, FoldStyle style, Long radius) {
     StarfoldProfile& set = Process().Profiles[static_cast<std::size_t>(prof)];
     set.Starfold_FoldStyle = static_cast<Integer>(style);
     set.Starfold_Radius = radius;
     set.Starfold_RadSegs = 6;
-    return set;
-  }
-
-  void Init(const std::vector<Integer>& assignment) {
-    PrepareRun(Process());
-    InitBodies(Process(), Slots, assignment);
   }
   void InitComposite(const std::vector<Integer>& members) {
     CompositeProfile& composite = Process().Composites[kComposite - kFirstComposite];
     composite.CompFold_Count = static_cast<Integer>(members.size());
     std::copy(members.begin(), members.end(), composite.CompFold_Type.begin());
-    Init({kComposite});
+    PrepareRun(Process());
+    InitBodies(Process(), Slots, std::vector<Integer>{kComposite});
   }
 };
 
@@ -39,22 +34,6 @@ TEST_F(BodySlotsTest, WhatMembersShareIsAsTheFirstOneLeftIt) {
   InitComposite({3, 7, 5, 9});
   ExpectPoint(Slots.Ifs[0].IfsVertex[2], {-1, 0, 0});
   for (const Point3& key : Slots.Ribbon[0].RibbonKey[0]) EXPECT_LE(std::abs(key.X), 1);
-}
-
-TEST_F(BodySlotsTest, MembersAreDrawnByTheirLevels) {
-  Dress(0, FoldStyle::Standard).Starfold_StdLevels = 3;
-  Dress(6, FoldStyle::Quasar).Starfold_StdLevels = 9;  // in force for the Standard style only
-  struct Case {
-    std::vector<Integer> Members;
-    double ShareOfFirst;
-  };
-  for (const Case& c : {Case{{0, 6}, 0.75}, Case{{0, 6, 6}, 0.6}, Case{{0, 6, 0}, 6.0 / 7}}) {
-    InitComposite(c.Members);
-    constexpr int stars = 10000;
-    int first = 0;
-    for (int i = 0; i < stars; ++i) first += PickProfile(Process(), kComposite) == 0;
-    EXPECT_NEAR(first, stars * c.ShareOfFirst, FiveSigma(stars, c.ShareOfFirst));
-  }
 }
 
 TEST_F(BodySlotsTest, APlainEntryStandsForItselfWithoutADraw) {

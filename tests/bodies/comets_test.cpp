@@ -78,22 +78,6 @@ TEST(Comets, ThePoolHoldsAsManyAsTheirStarsFitIn) {
   }
 }
 
-TEST(Comets, EachCometHasSlotsOfItsOwn) {
-  CometStage stage;
-  stage.StepComets(2000);
-  ASSERT_EQ(stage.LiveHeads(), 41);
-  EXPECT_EQ(stage.LiveStars(), 41 * 60);
-  // With no persistence a shedding comet's stars are reborn and a dying one's all end.
-  stage.Set().Starfold_CometSPersist = 0;
-  stage.Chance() = 0;
-  stage.Head(7).CometLive = false;
-  stage.StepComets();
-  EXPECT_EQ(stage.Head(7).CometLeft, 0);
-  for (std::size_t j = 0; j < kCometStars; ++j) {
-    EXPECT_EQ(stage.Comets().CometStarLive[j] != 0, j < 2460 && j / 60 != 7) << j;
-  }
-}
-
 TEST(Comets, ANewVisitErasesThem) {
   CometStage stage;
   stage.StepComets(50);

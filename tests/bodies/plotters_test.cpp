@@ -33,19 +33,6 @@ class Plotters : public ::testing::Test {
   scenes::Stage stage_;
 };
 
-TEST_F(Plotters, ANewStarGrowsThroughFourSizes) {
-  struct Case {
-    double Unit;  // pixels
-    std::size_t Pixels;
-  };
-  for (const Case& c : {Case{0.01, 1}, Case{1.0 / 32, 5}, Case{3.0 / 32, 9}, Case{7.0 / 32, 17},
-                        Case{1, 25}, Case{3, 25}}) {
-    stage_.Canvas.Clear();
-    PlotNew(Screen(), 200, 150, 1, 8, 8, static_cast<Single>(c.Unit), 0xFFFFFF);
-    EXPECT_EQ(Lit().size(), c.Pixels) << c.Unit;
-  }
-}
-
 TEST_F(Plotters, UnknownShapesAndFlaresWithoutSizeAreOnePixel) {
   for (const Integer shape : {Integer{-1}, Integer{5}, Integer{3}}) {
     stage_.Canvas.Clear();

@@ -7,40 +7,6 @@
 namespace starfolds {
 namespace {
 
-struct Channels {
-  int Red, Green, Blue;
-  bool operator==(const Channels&) const = default;
-};
-
-Channels ChannelsOf(Colour colour) {
-  return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
-          static_cast<int>(colour >> 16U & 0xFFU)};
-}
-
-std::ostream& operator<<(std::ostream& out, const Channels& c) {
-  return out << c.Red << "," << c.Green << "," << c.Blue;
-}
-
-TEST(HueToRgb, SectorsMeetAtThePrimaries) {
-  struct Case {
-    int Hue;
-    Channels Expected;
-  };
-  for (const Case& c :
-       {Case{0, {255, 55, 55}}, Case{30, {255, 154, 55}}, Case{60, {255, 255, 55}},
-        Case{120, {55, 255, 55}}, Case{180, {55, 255, 255}}, Case{240, {55, 55, 255}},
-        Case{300, {255, 55, 255}}, Case{359, {255, 55, 58}}, Case{360, {0, 0, 0}}}) {
-    EXPECT_EQ(ChannelsOf(HueToRgb(c.Hue, 55, 100, 100, 100)), c.Expected) << c.Hue;
-  }
-}
-
-TEST(ScaleColor, RoundsAndHoldsAtWhite) {
-  EXPECT_EQ(ChannelsOf(ScaleColor(0x0A0503, 0.5F)), (Channels{2, 2, 5}))
-      << "1.5 and 2.5 go to even";
-  EXPECT_EQ(ChannelsOf(ScaleColor(0x646464, 3)), (Channels{255, 255, 255}));
-  EXPECT_EQ(ScaleColor(0xFFFFFF, -1), 0U);
-}
-
 class FlareTables : public ::testing::Test {
  protected:
   FlareTables() { Process->Tree = &Tree; }
@@ -50,17 +16,7 @@ class FlareTables : public ::testing::Test {
   StarfoldProfile& First() { return Process->Profiles[0]; }
   ProfileColours& Colours() { return Process->Colours.Profile[0]; }
   void Drift() { DriftCometHues(Process->Colours, Process->Prepared, Process->Profiles); }
-  int Level(int left) { return ChannelsOf(Colours().NewColors[left]).Red; }
 };
-
-TEST_F(FlareTables, AShortNewStarHasOnlyTheFallingPart) {
-  First().Starfold_NewFrames = 1;
-  Process->Profiles[1].Starfold_NewFrames = 500;
-  BuildNewStarRamp(Process->Colours, Process->Profiles);
-  EXPECT_EQ(Level(1), 255);
-  EXPECT_EQ(Level(0), 80);
-  EXPECT_EQ(Process->Profiles[1].Starfold_NewFrames, 99) << "clamped in the record";
-}
 
 TEST_F(FlareTables, CometHuesDriftOnlyWhereTheyAreTold) {
   First().Starfold_HWC_Inc = 0.5F;

@@ -45,22 +45,6 @@ TEST_F(Prepared, TiltStepsTaperAlternateAndBeyondHalfATurnRunBackward) {
       << "half of eight degrees back, and turned";
 }
 
-TEST(PreparedUniverse, HasTheUnitsOfTheRun) {
-  UniverseSettings universe;
-  universe.Universe_Expand = -3;
-  universe.Universe_Damping = 0.5F;
-  universe.Universe_NewPctStEx = 34.5F;
-  universe.Universe_AmMaxExt = 20000;
-  universe.Universe_GravForce = 1e9F;
-  ClampUniverse(universe);
-  const PreparedUniverse run = PrepareUniverse(universe);
-  EXPECT_EQ(run.RunExpand, 0);
-  EXPECT_FLOAT_EQ(run.RunDamping, 0.75F);
-  EXPECT_FLOAT_EQ(run.RunNewShare, 0.34F) << "34.5 rounds to even";
-  EXPECT_FLOAT_EQ(run.RunAmMaxExt, 99.99F);
-  EXPECT_NEAR(run.RunGravForce, 0.0999999, 1e-8);
-}
-
 TEST(PreparedUniverse, TheTrailsOfAllStarsFitSixteenBits) {
   for (const auto& [stars, trail] :
        {std::pair{30000, 1}, std::pair{10000, 3}, std::pair{400, 75}}) {

@@ -80,16 +80,6 @@ TEST(Program, StoredSettingsAreTheUsersOwnAndStayAsTheyAre) {
   unsetenv("XDG_CONFIG_HOME");
 }
 
-TEST(Program, SettingsBeyondTheirRangeAreHeldToIt) {
-  const auto held =
-      Hashes("--frames 3 --profile 0 --set Universe_Stars=-5 --set Universe_STrail=0");
-  EXPECT_EQ(held, Hashes("--frames 3 --profile 0 --set Universe_Stars=10 --set Universe_STrail=1"));
-  EXPECT_EQ(Hashes("--frames 3 --profile 0 --set Universe_AmFrames=-1e300"),
-            Hashes("--frames 3 --profile 0"));
-  EXPECT_EQ(Hashes("--frames 2 --set Universe_Stars=1e300 --set Universe_Starfold=-1e300"),
-            Hashes("--frames 2 --set Universe_Stars=30000 --set Universe_Starfold=1"));
-}
-
 TEST(Program, AllOutputsShowTheSameFrame) {
   const TestFolder folder;
   const Outcome outcome =

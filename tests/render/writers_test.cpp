@@ -63,22 +63,6 @@ TEST(OutputFile, LeavesTheFormerFileWhereItIsNotCommitted) {
   EXPECT_THAT(folder.Names(), ElementsAre("kept"));
 }
 
-/// The 100 % colour bars of BT.709 in the range of video.
-TEST(Y4mVideo, KnownColours) {
-  struct Bar {
-    Colour Rgb;
-    int Y, Cb, Cr;
-  };
-  for (const Bar bar : {Bar{0x000000, 16, 128, 128}, Bar{0xFFFFFF, 235, 128, 128},
-                        Bar{kRed, 63, 102, 240}, Bar{kGreen, 173, 42, 26}, Bar{kBlue, 32, 240, 118},
-                        Bar{0x00FFFF, 219, 16, 138}, Bar{0x808080, 126, 128, 128}}) {
-    const YCbCr colour = ToYCbCr(bar.Rgb);
-    EXPECT_EQ(colour.Y, bar.Y) << std::hex << bar.Rgb;
-    EXPECT_EQ(colour.Cb, bar.Cb) << std::hex << bar.Rgb;
-    EXPECT_EQ(colour.Cr, bar.Cr) << std::hex << bar.Rgb;
-  }
-}
-
 TEST(Y4mVideo, IsAHeaderAndThreePlanesAFrame) {
   const TestFolder folder;
   constexpr int scale = 2;

@@ -60,15 +60,6 @@ TEST(Factory, NoClampChangesAProfile) {
   }
 }
 
-TEST(Factory, GetFieldTakesThePieceBetweenTwoCommas) {
-  EXPECT_EQ(GetField("a, b ,c", 0), "a");
-  EXPECT_EQ(GetField("a, b ,c", 1), "b");
-  EXPECT_EQ(GetField("a,, c", 2), "c");
-  EXPECT_EQ(GetField("a,, c,", 1), "");
-  EXPECT_EQ(GetField("a, b", 2), "");
-  EXPECT_EQ(GetField("", 3), "");
-}
-
 /// One level leaves the settings of levels alone; points and atoms drive each other out.
 TEST(Factory, WhatTheRowBeforeLeaves) {
   StarfoldProfile record;

@@ -83,18 +83,6 @@ TEST_F(TreeFile, WithoutAPlaceNothingIsStored) {
   EXPECT_FALSE(fs::exists("relative.db"));
 }
 
-TEST_F(TreeFile, ALookSeesOneStateWhileOthersWait) {
-  ASSERT_TRUE(Stored.Save("old", 2));
-  StoredTree other(File, {}, kImpatient);
-  TreeBulk look = TreeBulk::Look(Stored.Tree);
-  EXPECT_EQ(Stored.Read("0"), "old");
-  EXPECT_FALSE(other.Save("new", 2));
-  EXPECT_EQ(Stored.Read("1"), "old");
-  EXPECT_TRUE(look.Commit());
-  EXPECT_TRUE(other.Save("new", 2));
-  EXPECT_EQ(Stored.Saved(2), "new");
-}
-
 TEST_F(TreeFile, WhatCannotBeStoredSpoilsItsBulk) {
   ASSERT_TRUE(Stored.Save("old", 2));
   const std::string tooLong(2'000'000, 'x');

@@ -77,11 +77,5 @@ TEST_F(Creation, TheVisitListNamesTheFirstStarfolds) {
   EXPECT_EQ(CountOf(0), 60) << "without a tour the list is not looked at";
 }
 
-TEST_F(Creation, AStopLeavesAtOnce) {
-  Stage.StopAfter(3);
-  Create();
-  EXPECT_EQ(Stage.FramesShown, 3);
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 #include <string>
 
 #include "numbers/text.h"
@@ -66,6 +65,15 @@ void MakeColourful(SettingsRecords& settings) {
   settings.Composites[1].CompFoldPct = 5;  // one without a member
 }
 
+TEST(SmallPreview, TakesFewerStars) {
+  Stage stage;
+  stage.Settings().Universe.Universe_Stars = 30;
+  stage.Settings().Universe.Universe_AmStar = 25;
+  stage.Read(true);
+  EXPECT_EQ(stage.Process->Universe.Universe_Stars, 20) << "19.5 rounds to even";
+  EXPECT_EQ(stage.Process->Universe.Universe_AmStar, 12);
+}
+
 TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
   Stage stage(160, 120);
   MakeSmall(stage.Settings().Universe);
@@ -80,46 +88,6 @@ TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
   UniverseRun(*stage.Process);
   EXPECT_EQ(stage.FramesShown, 108);
   EXPECT_EQ(unstamped, 16) << "only the frames of the two pull-outs are not stamped";
-}
-
-/// Whether more columns than rows of the picture are lit.
-bool LiesFlat(const Surface& surface) {
-  std::set<Long> rows;
-  std::set<Long> columns;
-  for (Long y = 0; y < surface.Height(); ++y) {
-    for (Long x = 0; x < surface.Width(); ++x) {
-      if (surface.Pixel(x, y) == 0) continue;
-      rows.insert(y);
-      columns.insert(x);
-    }
-  }
-  return columns.size() > rows.size();
-}
-
-TEST(UniverseRunTest, ProfilesShapeTheBlastsInTurnOrAlways) {
-  struct Case {
-    Integer Choice;
-    std::string Blasts;  // of the first three universes: flat or upright
-  };
-  for (const Case& c : {Case{51, "fuf"}, Case{1, "uuu"}, Case{2, "fff"}}) {
-    Stage stage(160, 120);
-    MakeSmall(stage.Settings().Universe);
-    stage.Settings().Universe.Universe_Profile = c.Choice;
-    for (int p = 0; p < kProfileCount; ++p) {
-      StarfoldProfile& profile = stage.Settings().Profiles[p];
-      profile.Starfold_GHW_Ratio = 0;  // a flat disc, seen edge on
-      profile.Starfold_AngleTilt = 0;
-      profile.Starfold_AxisPlane = static_cast<Integer>(p % 2);
-    }
-    std::string blasts;
-    stage.Canvas.OnFrame = [&] {
-      if (stage.FramesShown++ % 54 == 1) blasts += LiesFlat(stage.Canvas) ? 'f' : 'u';
-      stage.Process->StopRun = blasts.size() == 3;
-    };
-    stage.Read();
-    UniverseRun(*stage.Process);
-    EXPECT_EQ(blasts, c.Blasts) << c.Choice;
-  }
 }
 
 TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
