@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <set>
 
 #include "scenes/scenes.h"
@@ -11,15 +10,6 @@ namespace starfolds {
 namespace {
 
 using scenes::BodyStage;
-
-/// No star is re-seeded and no comet launched.
-void Quiet(SettingsRecords& settings) {
-  settings.Universe.Universe_NewFreq = 0;
-  for (StarfoldProfile& profile : settings.Profiles) {
-    profile.Starfold_NewFreq = 0;
-    profile.Starfold_CometFreq = 0;
-  }
-}
 
 /// Re-seeding, flares of all kinds and comets, as many as there can be.
 void Busy(SettingsRecords& settings) {
@@ -72,24 +62,6 @@ TEST(StarStepTest, NothingStaysOnTheScreenButTheStarsThatAreThere) {
       for (const TrailPlace& place : stage.Run->Stars.Trail)
         lit.erase({place.TrailX, place.TrailY});
       EXPECT_EQ(lit.size(), 0U) << "trail " << trail << " shape " << shape;
-    }
-  }
-}
-
-TEST(StarStepTest, HuesMoveOnceAFrame) {
-  for (const Integer trail : {Integer{1}, Integer{3}}) {
-    BodyStage stage(320, 200, 50, trail, [](SettingsRecords& settings) {
-      Quiet(settings);
-      settings.Profiles[0].Starfold_HWheelInc = 0.25F;
-    });
-    std::vector<Single> before;
-    for (const StarState& star : stage.Run->Stars.Star) before.push_back(star.StarHue);
-    for (int frame = 0; frame < 40; ++frame) stage.Step();
-    FinishHueWork(*stage.Process, stage.Run->Stars);
-    for (std::size_t i = 0; i < before.size(); ++i) {
-      const StarState& star = stage.Run->Stars.Star[i];
-      EXPECT_EQ(star.StarHue, std::fmod(before[i] + 10, 360)) << "trail " << trail;
-      EXPECT_EQ(star.StarColor, stage.Process->Colours.Profile[0].HueTable[RoundHue(star.StarHue)]);
     }
   }
 }

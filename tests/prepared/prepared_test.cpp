@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <numbers>
 
 #include "process/prepare_run.h"
@@ -43,6 +44,17 @@ TEST_F(Prepared, TiltStepsTaperAlternateAndBeyondHalfATurnRunBackward) {
   EXPECT_NEAR(Run().LevelTiltStep[0], 352 * kDegree, 1e-5);
   EXPECT_NEAR(Run().LevelTiltStep[1], -356 * kDegree, 1e-5)
       << "half of eight degrees back, and turned";
+}
+
+TEST_F(Prepared, AtomsAreMeasuredFromTheirCentreInTenthsOfTheRadius) {
+  First().Starfold_Radius = 1000;
+  First().Starfold_Atoms = 1;
+  First().Atom.Atom_CenterX = 500;
+  First().Atom.Atom_CenterY = 400;
+  First().Atom.Atoms[0] = {.Atom_LocX = 700, .Atom_LocY = 150, .Atom_LocZ = 300};
+  PrepareRun(*Process);
+  const RunAtom& atom = Run().RunAtoms[0];
+  EXPECT_EQ((std::array<Single, 3>{atom.X, atom.Y, atom.Z}), (std::array<Single, 3>{2, -2.5F, 3}));
 }
 
 TEST(PreparedUniverse, TheTrailsOfAllStarsFitSixteenBits) {

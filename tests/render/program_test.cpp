@@ -52,6 +52,12 @@ std::map<int, std::string> Hashes(const std::string& arguments) {
   return hashes;
 }
 
+TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
+  const auto body = Hashes("--frames 3 --composite 1");
+  EXPECT_NE(body, Hashes("--frames 3 --profile 2")) << "its first member alone";
+  EXPECT_NE(body, Hashes("--frames 3 --composite 1 --set Starfold49/Starfold_Radius=100"));
+}
+
 TEST(Program, ATemplateShowsTheUniverseThatItWasSavedFrom) {
   const TestFolder folder;
   const std::string path = folder.Path("theme.sfd");
@@ -103,16 +109,6 @@ TEST(Program, AllOutputsShowTheSameFrame) {
     stars += last.Pixels[i] != 0;
   }
   EXPECT_GT(stars, 0);
-}
-
-TEST(Program, PrintsHelpAndVersion) {
-  const TestFolder folder;
-  const Outcome help = RunProgram(folder, "--help");
-  EXPECT_EQ(help.ExitCode, 0);
-  EXPECT_THAT(help.Out, HasSubstr("--set Name=value"));
-  const Outcome version = RunProgram(folder, "--version");
-  EXPECT_EQ(version.ExitCode, 0);
-  EXPECT_THAT(version.Out, testing::MatchesRegex("starfolds-render [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }
 
 struct BadLine {

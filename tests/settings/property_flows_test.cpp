@@ -135,9 +135,7 @@ TEST_F(PropertyFlows, AnUpgradeOffersAResetWithASafetyCopy) {
   EXPECT_EQ(status.Widths.back(), 132);
   SettingsRecords saved;
   ASSERT_EQ(ReadTemplate(Template, "/prog/propsave.sfd", saved), std::nullopt);
-  saved.Advanced.Adv_DispBackG = mine.Advanced.Adv_DispBackG;
-  saved.Advanced.Adv_PerfMult = mine.Advanced.Adv_PerfMult;
-  saved.Advanced.Adv_EffectFPC = mine.Advanced.Adv_EffectFPC;
+  CopyUntemplated(mine.Advanced, saved.Advanced);
   EXPECT_EQ(Contents(saved), Contents(mine));
 }
 

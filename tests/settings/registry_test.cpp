@@ -51,17 +51,6 @@ TEST(Registry, NumbersAreReadByTheirType) {
   }
 }
 
-TEST(Registry, AReadOnlyTreeIsFoundOutAndTold) {
-  MemoryTree tree;
-  ScriptedMessageBoxes boxes;
-  EXPECT_TRUE(RegistryWriteTest(tree, boxes));
-  EXPECT_TRUE(boxes.Log.empty());
-  tree.Writable = false;  // the value of the test before is still there
-  EXPECT_FALSE(RegistryWriteTest(tree, boxes));
-  ASSERT_EQ(boxes.Log.size(), 1U);
-  EXPECT_TRUE(boxes.Log[0].Text.starts_with("The Registry is read-only.\n\nThe Property"));
-}
-
 class StubWindow : public PlacedWindow {
  public:
   WindowState TheState = WindowState::Normal;

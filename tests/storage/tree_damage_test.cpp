@@ -95,18 +95,6 @@ TEST_F(TreeDamage, FlippedBytes) {
   EXPECT_GT(stored, kVariants * 9 / 10) << "it comes to itself again";
 }
 
-TEST_F(TreeDamage, JournalsOfRubbish) {
-  const std::string good = GoodFile();
-  for (int i = 0; i < 40; ++i) {
-    Empty();
-    Put("settings.db", good);
-    Put("settings.db-journal", RandomBytes(9000, "\xD9\xD5\x05\xF9\x20\xA1\x63\xD7"));
-    StoredTree stored(File, {}, kImpatient);
-    EXPECT_EQ(stored.Saved(kValues), std::string(60, 'v')) << i;
-    EXPECT_TRUE(stored.Save("new", kValues)) << i;
-  }
-}
-
 TEST_F(TreeDamage, TheJournalGoesWithItsFile) {
   Put("settings.db", std::string(3000, '?'));
   Put("settings.db-journal", std::string("\0jjj", 4));

@@ -47,24 +47,17 @@ class Creation : public ::testing::Test {
   std::unique_ptr<UniverseScene> Scene;
 };
 
-TEST_F(Creation, StarfoldsAreChosenByTheirShares) {
-  Stage.Settings().Profiles[7].UniFoldPct = 30;
-  Stage.Settings().Composites[3].CompFoldPct = 10;
-  Stage.Settings().Composites[3].CompFold_Count = 1;
-  Settings().Universe_Starfold = 999;
-  Settings().Universe_ESteps = 1;
-  Create();
-  const double deviation = std::sqrt(999 * 0.75 * 0.25);
-  EXPECT_NEAR(CountOf(7), 999 * 0.75, 5 * deviation);
-  EXPECT_EQ(CountOf(7) + CountOf(53), 999);
-}
-
 TEST_F(Creation, InTurnOnlyBodiesWithAShareAreTaken) {
   Settings().Universe_GVisit = true;
   for (const int profile : {2, 5, 49}) Stage.Settings().Profiles[profile].UniFoldPct = 1;
   Create();
   const std::vector<Integer> first(Folds().StarfoldProf.begin(), Folds().StarfoldProf.begin() + 4);
   EXPECT_EQ(first, (std::vector<Integer>{2, 5, 49, 2}));
+}
+
+TEST_F(Creation, AmbientStarsRestAtItsEnd) {
+  Create();
+  for (const Single v : Run->Ambient.AmbVX) EXPECT_EQ(v, 0);
 }
 
 TEST_F(Creation, TheVisitListNamesTheFirstStarfolds) {
