@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "scenes/scenes.h"
-#include "universe/universe_run.h"
 
 namespace starfolds {
 namespace {
