@@ -38,6 +38,8 @@ TEST_F(Plotters, UnknownShapesAndFlaresWithoutSizeAreOnePixel) {
     PlotPulsar(Screen(), 0, 0, 1, shape == 3 ? 0.0F : 2.0F, shape, 1, 1);
     EXPECT_EQ(Lit(), (Places{{0, 0}})) << shape;
   }
+  PlotPulsar(Screen(), 0, 0, 1, 2, 4, 1, 1);
+  EXPECT_GT(Lit().size(), 1U) << "the last shape there is";
 }
 
 TEST_F(Plotters, PlacesBeyondAnyNumberDoNotHarm) {
