@@ -1,11 +1,8 @@
 #include "bodies/comets.h"
 
 #include <algorithm>
-#include <complex>
 #include <functional>
-#include <numbers>
 
-#include "bodies/ribbon.h"
 #include "bodies/star_step.h"
 #include "one_body.h"
 
@@ -59,14 +56,6 @@ class CometStage : public scenes::BodyStage {
     const auto& pixels = Canvas.Pixels();
     return static_cast<long>(pixels.size()) - std::count(pixels.begin(), pixels.end(), 0U);
   }
-
-  /// Launches one comet with no draw left to chance but its stars' directions, and none after it.
-  CometHead& LaunchOne() {
-    StepComets();
-    Chance() = 0;
-    return *std::find_if(Comets().Heads.begin(), Comets().Heads.end() - 1,
-                         [](const CometHead& head) { return head.CometLeft > 0; });
-  }
 };
 
 TEST(Comets, TheyLiveFromTheThirdStepOfAVisit) {
@@ -89,22 +78,6 @@ TEST(Comets, ThePoolHoldsAsManyAsTheirStarsFitIn) {
   }
 }
 
-TEST(Comets, EachCometHasSlotsOfItsOwn) {
-  CometStage stage;
-  stage.StepComets(2000);
-  ASSERT_EQ(stage.LiveHeads(), 41);
-  EXPECT_EQ(stage.LiveStars(), 41 * 60);
-  // With no persistence a shedding comet's stars are reborn and a dying one's all end.
-  stage.Set().Starfold_CometSPersist = 0;
-  stage.Chance() = 0;
-  stage.Head(7).CometLive = false;
-  stage.StepComets();
-  EXPECT_EQ(stage.Head(7).CometLeft, 0);
-  for (std::size_t j = 0; j < kCometStars; ++j) {
-    EXPECT_EQ(stage.Comets().CometStarLive[j] != 0, j < 2460 && j / 60 != 7) << j;
-  }
-}
-
 TEST(Comets, ANewVisitErasesThem) {
   CometStage stage;
   stage.StepComets(50);
@@ -115,18 +88,6 @@ TEST(Comets, ANewVisitErasesThem) {
   EXPECT_EQ(stage.LiveStars(), 0);
   EXPECT_EQ(stage.LiveHeads(), 0);
   EXPECT_EQ(stage.Comets().CometCount, 25) << "by the profile now visited";
-}
-
-TEST(Comets, GravityFreezesThem) {
-  CometStage stage;
-  stage.StepComets(50);
-  const auto places = stage.Comets().CometStarX;
-  stage.Process->RunUniverse.RunGravForce = 0.001F;
-  stage.Step();
-  EXPECT_EQ(stage.Comets().CometStarX, places);
-  stage.Process->RunUniverse.RunGravForce = 0;
-  stage.Step();
-  EXPECT_NE(stage.Comets().CometStarX, places) << "and thaw";
 }
 
 /// Gives the profile what its style needs to show something.
@@ -156,48 +117,6 @@ TEST(Comets, NothingStaysLitWhenTheyAreGone) {
     for (int frame = 0; frame < 2000 && stage.LiveHeads() > 0; ++frame) stage.StepComets(1, 1);
     EXPECT_EQ(stage.LiveStars(), 0) << style;
     EXPECT_EQ(stage.LitPixels(), 0) << style;
-  }
-}
-
-TEST(Comets, TheNucleusOrbitsByItsStyle) {
-  struct Case {
-    FoldStyle Style;
-    bool Kepler;  // else rigidly with the body
-  };
-  for (const Case& c : {Case{FoldStyle::Standard, true}, Case{FoldStyle::Quasar, true},
-                        Case{FoldStyle::Graviton, true}, Case{FoldStyle::Starwave, true},
-                        Case{FoldStyle::IfsPoint, false}, Case{FoldStyle::Molecule, false}}) {
-    CometStage stage([&](StarfoldProfile& set) {
-      DressAs(set, c.Style);
-      set.Starfold_CometOrbit = 300;
-    });
-    SCOPED_TRACE(testing::Message() << "style " << static_cast<int>(c.Style));
-    const CometHead& head = stage.LaunchOne();
-    const std::complex<double> before(head.CometX, head.CometZ);
-    ASSERT_GT(std::abs(before), 0.1) << "off the axis";
-    stage.StepComets();
-    const std::complex<double> after(head.CometX, head.CometZ);
-    const double kepler = 2 * std::numbers::pi * 0.003 / std::sqrt(std::abs(before));
-    EXPECT_NEAR(std::arg(after / before), c.Kepler ? kepler : 0.002 * 8, 1e-5);
-    EXPECT_NEAR(std::abs(after), std::abs(before), 1e-5);
-  }
-}
-
-TEST(Comets, TheNucleusOfANebulaRunsAlongItsRibbon) {
-  CometStage stage([](StarfoldProfile& set) {
-    DressAs(set, FoldStyle::Nebula);
-    set.Starfold_CP_Points = 5;
-    set.Starfold_CometOrbit = 9999;
-  });
-  const CometHead& head = stage.LaunchOne();
-  double phase = head.CometPhase;
-  for (int frame = 0; frame < 120; ++frame) {  // more than twice round
-    StepNebulaRibbons(*stage.Process, stage.Run->Slots, stage.Run->Folds.StarfoldProf);
-    stage.StepComets();
-    ExpectPoint({head.CometX, head.CometY, head.CometZ},
-                RibbonPoint(stage.Run->Slots.Ribbon[0], 5, head.CometPhase));
-    phase = std::fmod(phase + 0.09999, 5);
-    EXPECT_NEAR(head.CometPhase, phase, 1e-3) << frame;
   }
 }
 

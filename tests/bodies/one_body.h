@@ -1,5 +1,4 @@
-// What the tests of the styles share: one profile in a process of its own, its slot, and the bound
-// of a count of random draws.
+// What the tests of the styles share: one profile in a process of its own, and its slot.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,9 +10,6 @@
 #include "scenes/scenes.h"
 
 namespace starfolds {
-
-/// Five standard deviations of how often an event of probability `p` happens in `n` draws.
-inline double FiveSigma(double n, double p) { return 5 * std::sqrt(n * p * (1 - p)); }
 
 inline double Length(double x, double y, double z) { return std::hypot(x, y, z); }
 inline double Length(const Point3& p) { return Length(p.X, p.Y, p.Z); }

@@ -53,11 +53,6 @@ TEST(Conversions, WhereAClampFollowsTheLimitsHold) {
   EXPECT_EQ(RoundedToLimits<Long>(1e18), 2147483647);
 }
 
-TEST(Conversions, AnOverflowingProductLeavesTheFormerValue) {
-  EXPECT_EQ(ProductOr(5, 409, 80), 32720);
-  EXPECT_EQ(ProductOr(5, 410, 80), 5);
-}
-
 TEST(Conversions, WrappedIndexesAreNeverNegative) {
   EXPECT_EQ(WrapIndex(-1, 8), 7);
   EXPECT_EQ(WrapIndex(-8, 8), 0);

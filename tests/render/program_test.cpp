@@ -52,21 +52,6 @@ std::map<int, std::string> Hashes(const std::string& arguments) {
   return hashes;
 }
 
-TEST(Program, TheSameSeedGivesTheSamePixels) {
-  const auto once = Hashes("--frames 400 --every 57 --seed 5");
-  EXPECT_EQ(once.size(), 8U);
-  EXPECT_EQ(once, Hashes("--frames 400 --every 57 --seed 5"));
-  EXPECT_NE(once, Hashes("--frames 400 --every 57 --seed 6"));
-}
-
-TEST(Program, AProfileIsOneBodyThatTakesTheSettings) {
-  const auto body = Hashes("--frames 3 --profile 0");
-  EXPECT_NE(body, Hashes("--frames 3"));
-  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Starfold0/Starfold_Radius=100"));
-  EXPECT_NE(body, Hashes("--frames 3 --profile 0 --set Universe_STrail=3"));
-  EXPECT_EQ(body, Hashes("--frames 3 --profile 0 --set Starfold1/Starfold_Radius=100"));
-}
-
 TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
   const auto body = Hashes("--frames 3 --composite 1");
   EXPECT_NE(body, Hashes("--frames 3 --profile 2")) << "its first member alone";
@@ -101,16 +86,6 @@ TEST(Program, StoredSettingsAreTheUsersOwnAndStayAsTheyAre) {
   unsetenv("XDG_CONFIG_HOME");
 }
 
-TEST(Program, SettingsBeyondTheirRangeAreHeldToIt) {
-  const auto held =
-      Hashes("--frames 3 --profile 0 --set Universe_Stars=-5 --set Universe_STrail=0");
-  EXPECT_EQ(held, Hashes("--frames 3 --profile 0 --set Universe_Stars=10 --set Universe_STrail=1"));
-  EXPECT_EQ(Hashes("--frames 3 --profile 0 --set Universe_AmFrames=-1e300"),
-            Hashes("--frames 3 --profile 0"));
-  EXPECT_EQ(Hashes("--frames 2 --set Universe_Stars=1e300 --set Universe_Starfold=-1e300"),
-            Hashes("--frames 2 --set Universe_Stars=30000 --set Universe_Starfold=1"));
-}
-
 TEST(Program, AllOutputsShowTheSameFrame) {
   const TestFolder folder;
   const Outcome outcome =
@@ -134,25 +109,6 @@ TEST(Program, AllOutputsShowTheSameFrame) {
     stars += last.Pixels[i] != 0;
   }
   EXPECT_GT(stars, 0);
-}
-
-TEST(Program, VideoGoesToTheStandardOutput) {
-  const TestFolder folder;
-  const Outcome outcome = RunProgram(folder, "--size 5x3 --frames 2 --y4m -");
-  EXPECT_EQ(outcome.ExitCode, 0) << outcome.Err;
-  const std::string header = "YUV4MPEG2 W5 H3 F25:1 Ip A1:1 C444\n";
-  EXPECT_THAT(outcome.Out, StartsWith(header));
-  EXPECT_EQ(outcome.Out.size(), header.size() + 2 * (6 + 3 * 5 * 3));
-}
-
-TEST(Program, PrintsHelpAndVersion) {
-  const TestFolder folder;
-  const Outcome help = RunProgram(folder, "--help");
-  EXPECT_EQ(help.ExitCode, 0);
-  EXPECT_THAT(help.Out, HasSubstr("--set Name=value"));
-  const Outcome version = RunProgram(folder, "--version");
-  EXPECT_EQ(version.ExitCode, 0);
-  EXPECT_THAT(version.Out, testing::MatchesRegex("starfolds-render [0-9]+\\.[0-9]+\\.[0-9]+\n"));
 }
 
 struct BadLine {

@@ -63,22 +63,6 @@ TEST(OutputFile, LeavesTheFormerFileWhereItIsNotCommitted) {
   EXPECT_THAT(folder.Names(), ElementsAre("kept"));
 }
 
-/// The 100 % colour bars of BT.709 in the range of video.
-TEST(Y4mVideo, KnownColours) {
-  struct Bar {
-    Colour Rgb;
-    int Y, Cb, Cr;
-  };
-  for (const Bar bar : {Bar{0x000000, 16, 128, 128}, Bar{0xFFFFFF, 235, 128, 128},
-                        Bar{kRed, 63, 102, 240}, Bar{kGreen, 173, 42, 26}, Bar{kBlue, 32, 240, 118},
-                        Bar{0x00FFFF, 219, 16, 138}, Bar{0x808080, 126, 128, 128}}) {
-    const YCbCr colour = ToYCbCr(bar.Rgb);
-    EXPECT_EQ(colour.Y, bar.Y) << std::hex << bar.Rgb;
-    EXPECT_EQ(colour.Cb, bar.Cb) << std::hex << bar.Rgb;
-    EXPECT_EQ(colour.Cr, bar.Cr) << std::hex << bar.Rgb;
-  }
-}
-
 TEST(Y4mVideo, IsAHeaderAndThreePlanesAFrame) {
   const TestFolder folder;
   constexpr int scale = 2;
@@ -115,26 +99,6 @@ TEST(ContactSheet, ASingleStarStaysVisibleWhereverItIs) {
       EXPECT_EQ(std::count(tile.Pixels.begin(), tile.Pixels.end(), 0x123456U), 1)
           << size << " at " << place;
     }
-  }
-}
-
-TEST(ContactSheet, StarsThatShareAPixelOfATileAddTheirChannels) {
-  MemorySurface surface(640, 2);
-  surface.SetPixelV(0, 0, 0x100080);
-  surface.SetPixelV(1, 1, 0x209040);
-  const Tile tile = MakeTile(PictureOf(surface));
-  EXPECT_EQ(tile.Width, 320);
-  EXPECT_EQ(tile.Height, 1);
-  EXPECT_EQ(tile.Pixels.at(0), 0x209080U);
-}
-
-TEST(ContactSheet, NarrowPicturesKeepAtLeastOnePixel) {
-  for (const auto& [width, height] : {std::pair{1, 16384}, std::pair{16384, 1}, std::pair{1, 1}}) {
-    MemorySurface surface(static_cast<Integer>(width), static_cast<Integer>(height));
-    surface.SetPixelV(width - 1, height - 1, kGreen);
-    const Tile tile = MakeTile(PictureOf(surface));
-    ASSERT_EQ(tile.Pixels.size(), static_cast<std::size_t>(tile.Width * tile.Height));
-    EXPECT_EQ(tile.Pixels.back(), kGreen);
   }
 }
 

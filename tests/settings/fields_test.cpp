@@ -67,19 +67,6 @@ TEST(ClampProfileTest, RangesFollowTheClampedStyle) {
   }
 }
 
-TEST(ClampProfileTest, FillsAreWholePercents) {
-  StarfoldProfile profile;
-  profile.Starfold_RadFill = 33.5F;
-  profile.Starfold_RadBFill = 34.5F;
-  ClampProfile(profile);
-  EXPECT_EQ(profile.Starfold_RadFill, 34);
-  EXPECT_EQ(profile.Starfold_RadBFill, 34);
-  profile.Starfold_FoldStyle = 7;
-  profile.Starfold_RadBFill = 999.4F;
-  ClampProfile(profile);
-  EXPECT_EQ(profile.Starfold_RadBFill, 999);
-}
-
 TEST(ClampProfileTest, OnlyEntriesInUseAreTouchedAndALatticeHasAnEdge) {
   StarfoldProfile profile;
   profile.Starfold_Atoms = 1;

@@ -68,6 +68,13 @@ class RandomRecords {
   std::mt19937 engine_;
 };
 
+/// Copies the advanced settings that no template holds.
+inline void CopyUntemplated(const AdvancedSettings& from, AdvancedSettings& to) {
+  to.Adv_DispBackG = from.Adv_DispBackG;
+  to.Adv_PerfMult = from.Adv_PerfMult;
+  to.Adv_EffectFPC = from.Adv_EffectFPC;
+}
+
 /// All that the records hold, in a form that compares.
 inline MemoryTree Contents(SettingsRecords records) {
   MemoryTree tree;

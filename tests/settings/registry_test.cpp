@@ -51,28 +51,6 @@ TEST(Registry, NumbersAreReadByTheirType) {
   }
 }
 
-TEST(Registry, RootsAreApartAndWritingTrims) {
-  MemoryTree tree;
-  RegistryWrite(tree, kSection, "Key", " 12 ");
-  EXPECT_EQ(tree.Read(Hive::CurrentUser, kPath, "Key"), "12");
-  EXPECT_EQ(RegistryReadInteger(tree, kSection, "Key", -1, RootSelector::LocalMachine), -1);
-  RegistryWrite(tree, kSection, "Key", Long{9}, static_cast<RootSelector>(77));
-  EXPECT_EQ(tree.Read(Hive::Users, kPath, "Key"), "9");
-  CopyMachineValueToUser(tree, kSection, "Key", "default");
-  EXPECT_EQ(RegistryReadText(tree, kSection, "Key"), "default");
-}
-
-TEST(Registry, AReadOnlyTreeIsFoundOutAndTold) {
-  MemoryTree tree;
-  ScriptedMessageBoxes boxes;
-  EXPECT_TRUE(RegistryWriteTest(tree, boxes));
-  EXPECT_TRUE(boxes.Log.empty());
-  tree.Writable = false;  // the value of the test before is still there
-  EXPECT_FALSE(RegistryWriteTest(tree, boxes));
-  ASSERT_EQ(boxes.Log.size(), 1U);
-  EXPECT_TRUE(boxes.Log[0].Text.starts_with("The Registry is read-only.\n\nThe Property"));
-}
-
 class StubWindow : public PlacedWindow {
  public:
   WindowState TheState = WindowState::Normal;
@@ -120,19 +98,6 @@ TEST(WindowPlacement, ComesBackAsItWasSaved) {
   RestoreWindowPlacement(maximised, tree, "General");
   EXPECT_EQ(maximised.TheState, WindowState::Maximised);
   EXPECT_EQ(maximised.TheBounds, WindowBounds()) << "the size is not applied";
-}
-
-TEST(WindowPlacement, RubbishIsAPlaceAtTheEdge) {
-  MemoryTree tree;
-  RegistryWrite(tree, "General", "WindowState", Long{77});
-  StubWindow untouched;
-  untouched.TheBounds = {1, 2, 3, 4};
-  RestoreWindowPlacement(untouched, tree, "General");
-  EXPECT_EQ(untouched.TheBounds, (WindowBounds{1, 2, 3, 4})) << "there is no size";
-  RegistryWrite(tree, "General", "WindowSize", "abc");
-  RestoreWindowPlacement(untouched, tree, "General");
-  EXPECT_EQ(untouched.TheBounds, WindowBounds());
-  EXPECT_EQ(untouched.TheState, WindowState::Normal);
 }
 
 }  // namespace

@@ -114,18 +114,6 @@ TEST(Storage, CountsBeyondTheRoomReadWhatThereIsRoomFor) {
   }
 }
 
-TEST(Storage, PointsOfALongerListStayBehindInTheUsersTreeOnly) {
-  MemoryTree tree;
-  StarfoldProfile profile;
-  profile.Starfold_IFS_Points = 2;
-  SaveProfileToRegistry(tree, profile, "P");
-  RegistryWrite(tree, "P\\IFS", "IFS_P1", "old", RootSelector::LocalMachine);
-  profile.Starfold_IFS_Points = 1;
-  SaveProfileToRegistry(tree, profile, "P");
-  EXPECT_NE(RegistryReadText(tree, "P\\IFS", "IFS_P1"), "");
-  EXPECT_EQ(RegistryReadText(tree, "P\\IFS", "IFS_P1", {}, RootSelector::LocalMachine), "");
-}
-
 TEST(Storage, LongNamesAreCutToWholeCharactersRatherThanLost) {
   SettingsRecords records;
   const std::string most = std::string(126, 'x') + "\xE2\x98\x85";
@@ -159,81 +147,20 @@ TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
   RegistryWrite(tree, "General", kAnimationType, Long{0}, machine);
   RegistryWrite(tree, ProfileSection(2), "_UniFoldName", "Mine", machine);
   RegistryWrite(tree, ProfileSection(2), "Starfold_Radius", Long{99999}, machine);
+  RegistryWrite(tree, CompositeSection(1), "_CompFoldName", "All mine", machine);
   MigrateMachineSettings(tree);
   EXPECT_TRUE(HasMark(tree, kAnimationType));
   const SettingsRecords records = LoadSettings(tree);
   EXPECT_EQ(records.Universe.Universe_Stars, 777);
   EXPECT_EQ(records.Profiles[2].UniFoldName, "Mine");
   EXPECT_EQ(records.Profiles[2].Starfold_Radius, 30000);
+  EXPECT_EQ(records.Composites[1].CompFoldName, "All mine");
   EXPECT_EQ(RegistryReadText(tree, "Advanced", "FocalLength"), "1.0") << "the default, no gap";
   EXPECT_EQ(RegistryReadText(tree, "Advanced", "Adv_Randomize", "none"), "none");
 
   RegistryWrite(tree, "Universe", "Universe_Stars", Long{888}, machine);
   MigrateMachineSettings(tree);
   EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 777);
-}
-
-/// Notes the names that are written to the user's hive, and the paths that are deleted.
-class NotedTree : public MemoryTree {
- public:
-  std::vector<std::string> Notes;
-  bool Write(Hive hive, std::string_view path, std::string_view name,
-             std::string_view text) override {
-    if (hive == Hive::CurrentUser) Notes.emplace_back(name);
-    return MemoryTree::Write(hive, path, name, text);
-  }
-  bool DeleteKey(Hive hive, std::string_view path) override {
-    Notes.emplace_back(path.substr(path.rfind('\\')));
-    return MemoryTree::DeleteKey(hive, path);
-  }
-
-  /// Where a name was noted first.
-  std::ptrdiff_t Place(std::string_view name) const {
-    return std::find(Notes.begin(), Notes.end(), name) - Notes.begin();
-  }
-};
-
-TEST(Storage, AProfileIsWrittenInItsOrder) {
-  NotedTree tree;
-  StarfoldProfile profile;
-  profile.Starfold_IFS_Points = 1;
-  profile.Starfold_Atoms = 1;
-  SaveProfileToRegistry(tree, profile, ProfileSection(3));
-  EXPECT_EQ(tree.Place("Starfold_ColorMult"), tree.Place("Starfold_RadBFill") + 1);
-  EXPECT_EQ(tree.Place("Starfold_HueRed"), 2);
-  const std::vector<std::string> tail(tree.Notes.begin() + tree.Place("Starfold_QG_Force"),
-                                      tree.Notes.end());
-  const std::vector<std::string> expected = {"Starfold_QG_Force",
-                                             "Starfold_StdLevels",
-                                             "Starfold_StdLevDRad",
-                                             "Starfold_StdLevHSca",
-                                             "Starfold_StdLevB_HS",
-                                             "Starfold_StdLevB_A0",
-                                             "Starfold_StdLevB_A1",
-                                             "Starfold_IFS_Points",
-                                             "\\IFS",
-                                             "IFS_CenterX",
-                                             "IFS_CenterY",
-                                             "IFS_CenterZ",
-                                             "IFS_P0",
-                                             "Starfold_Atoms",
-                                             "\\ATOMIC",
-                                             "Atom_CenterX",
-                                             "Atom_CenterY",
-                                             "Atom_CenterZ",
-                                             "Atom_P00"};
-  EXPECT_EQ(tail, expected);
-}
-
-TEST(FirstRun, SettingsOfTheMachineArriveInTheirOrder) {
-  NotedTree tree;
-  RegistryWrite(tree, "General", kAnimationType, Long{0}, RootSelector::LocalMachine);
-  MigrateMachineSettings(tree);
-  EXPECT_EQ(tree.Place("WindowState"), 0);
-  EXPECT_EQ(tree.Place("FocalLength"), 2);
-  EXPECT_EQ(tree.Place("Universe_Stars"), 11);
-  EXPECT_EQ(tree.Place("_UniFoldPct"), tree.Place("Universe_GS_Idx") + 1);
-  EXPECT_EQ(tree.Notes.back(), kAnimationType);
 }
 
 TEST(FirstRun, AnEmptyTreeGetsTheFactorysBodiesAndStaysMarkedAsEmpty) {
@@ -259,6 +186,9 @@ TEST(FirstRun, ATreeThatCannotBeReadIsNotTakenForAnEmptyOne) {
   tree.Readable = false;  // locked by another process, say
   EXPECT_FALSE(EnsureFactoryProfiles(tree));
   EXPECT_EQ(tree, before);
+  MemoryTree full;
+  full.WritesUntilFull = 50;
+  EXPECT_FALSE(EnsureFactoryProfiles(full));
 }
 
 }  // namespace

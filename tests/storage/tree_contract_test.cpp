@@ -58,15 +58,6 @@ TYPED_TEST(TreeContract, MissingIsNothingAndOnlyTheLettersOfAsciiFold) {
   EXPECT_EQ(this->Read("Root", "\xC3\xA4{"), std::nullopt);
 }
 
-TYPED_TEST(TreeContract, HivesAreApart) {
-  ASSERT_TRUE(this->Write("A", "x", "user"));
-  ASSERT_TRUE(this->Tree.Write(Hive::LocalMachine, "A", "x", "machine"));
-  EXPECT_EQ(this->Read("A"), "user");
-  EXPECT_TRUE(this->Tree.DeleteKey(Hive::LocalMachine, "A"));
-  EXPECT_EQ(this->Read("A"), "user");
-  EXPECT_EQ(this->Tree.Read(Hive::ClassesRoot, "A", "x"), std::nullopt);
-}
-
 TYPED_TEST(TreeContract, AKeyGoesWithAllBelowItAndNothingElse) {
   for (const char* path : {"A", "A\\B", "a\\b\\C", "AB", "A]", "A[", "A ", "B\\A", ""}) {
     ASSERT_TRUE(this->Write(path, "x", path));

@@ -67,17 +67,6 @@ class TreeDamage : public testing::Test {
   }
 };
 
-TEST_F(TreeDamage, WhatIsNoDatabaseIsSetAside) {
-  const std::string good = GoodFile();
-  for (const std::string& bytes : {std::string("[General]\nGSteps=5\n"), std::string(4096, '\0'),
-                                   good.substr(1), "SQLite format 3" + std::string(5000, '\0')}) {
-    Empty();
-    Put("settings.db", bytes);
-    EXPECT_TRUE(UseAndKeep(bytes)) << bytes.size();
-    EXPECT_EQ(FileText(File + ".damaged-1"), bytes) << bytes.size();
-  }
-}
-
 TEST_F(TreeDamage, TruncatedFilesAndRandomBytesAreSetAside) {
   const std::string good = GoodFile();
   for (int i = 0; i < 100; ++i) {
@@ -104,18 +93,6 @@ TEST_F(TreeDamage, FlippedBytes) {
     stored += UseAndKeep(bytes) ? 1 : 0;
   }
   EXPECT_GT(stored, kVariants * 9 / 10) << "it comes to itself again";
-}
-
-TEST_F(TreeDamage, JournalsOfRubbish) {
-  const std::string good = GoodFile();
-  for (int i = 0; i < 40; ++i) {
-    Empty();
-    Put("settings.db", good);
-    Put("settings.db-journal", RandomBytes(9000, "\xD9\xD5\x05\xF9\x20\xA1\x63\xD7"));
-    StoredTree stored(File, {}, kImpatient);
-    EXPECT_EQ(stored.Saved(kValues), std::string(60, 'v')) << i;
-    EXPECT_TRUE(stored.Save("new", kValues)) << i;
-  }
 }
 
 TEST_F(TreeDamage, TheJournalGoesWithItsFile) {

@@ -70,12 +70,6 @@ TEST_F(Pacing, APreviewEndsWithItsHost) {
   EXPECT_TRUE(Process().StopRun);
 }
 
-TEST_F(Pacing, OneTickPassesInPumpOneTick) {
-  const Long before = Clock.TickCount();
-  PumpOneTick(Process());
-  EXPECT_EQ(Clock.TickCount(), before + 1);
-}
-
 TEST_F(Pacing, AStoppedClockDoesNotHoldUpTheEnd) {
   class StoppedClock : public CountingPump {
     Long TickCount() override { return 5; }

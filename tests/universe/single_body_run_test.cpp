@@ -32,13 +32,6 @@ TEST_F(SingleBody, NewRunEndsItAtTheNextFrameAndIsCleared) {
   EXPECT_FALSE(Stage.Process->NewRun);
 }
 
-TEST_F(SingleBody, CountsAreScaledAndTheTrailFitsTheStars) {
-  Stage.StopAfter(1);
-  Run({.Stars = 4000, .StarScale = 0.8F, .Trail = 99});
-  EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 3200);
-  EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 30000 / 3200);
-}
-
 TEST_F(SingleBody, CountsOfZeroBecomeOne) {
   Stage.StopAfter(3);
   Run({.Stars = 0, .Trail = 0});

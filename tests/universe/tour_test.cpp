@@ -25,15 +25,5 @@ TEST(PullOutPointTest, FallsAwayAtTheLastStep) {
   EXPECT_EQ(PullOutPoint(0, 1, 1).Z, 0);
 }
 
-TEST(TourWindowTest, TheOldestPointMakesRoom) {
-  TourWindow window;
-  window.Fill({0, 0, -40});
-  EXPECT_FLOAT_EQ(BSplinePoint(window, 0.7F).Z, -40);
-  for (const Single x : {1.0F, 2.0F, 3.0F, 4.0F}) window.Append({x, 0, 0});
-  EXPECT_EQ(window.Points.front().X, 1);
-  EXPECT_EQ(window.Points.back().X, 4);
-  EXPECT_NEAR(BSplinePoint(window, 0).X, 2, 1e-5);
-}
-
 }  // namespace
 }  // namespace starfolds

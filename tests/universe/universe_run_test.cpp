@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 #include <string>
 
 #include "numbers/text.h"
@@ -91,46 +90,6 @@ TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
   EXPECT_EQ(unstamped, 16) << "only the frames of the two pull-outs are not stamped";
 }
 
-/// Whether more columns than rows of the picture are lit.
-bool LiesFlat(const Surface& surface) {
-  std::set<Long> rows;
-  std::set<Long> columns;
-  for (Long y = 0; y < surface.Height(); ++y) {
-    for (Long x = 0; x < surface.Width(); ++x) {
-      if (surface.Pixel(x, y) == 0) continue;
-      rows.insert(y);
-      columns.insert(x);
-    }
-  }
-  return columns.size() > rows.size();
-}
-
-TEST(UniverseRunTest, ProfilesShapeTheBlastsInTurnOrAlways) {
-  struct Case {
-    Integer Choice;
-    std::string Blasts;  // of the first three universes: flat or upright
-  };
-  for (const Case& c : {Case{51, "fuf"}, Case{1, "uuu"}, Case{2, "fff"}}) {
-    Stage stage(160, 120);
-    MakeSmall(stage.Settings().Universe);
-    stage.Settings().Universe.Universe_Profile = c.Choice;
-    for (int p = 0; p < kProfileCount; ++p) {
-      StarfoldProfile& profile = stage.Settings().Profiles[p];
-      profile.Starfold_GHW_Ratio = 0;  // a flat disc, seen edge on
-      profile.Starfold_AngleTilt = 0;
-      profile.Starfold_AxisPlane = static_cast<Integer>(p % 2);
-    }
-    std::string blasts;
-    stage.Canvas.OnFrame = [&] {
-      if (stage.FramesShown++ % 54 == 1) blasts += LiesFlat(stage.Canvas) ? 'f' : 'u';
-      stage.Process->StopRun = blasts.size() == 3;
-    };
-    stage.Read();
-    UniverseRun(*stage.Process);
-    EXPECT_EQ(blasts, c.Blasts) << c.Choice;
-  }
-}
-
 TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
   Stage stage(160, 120);
   MakeSmall(stage.Settings().Universe);
@@ -145,43 +104,6 @@ TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
     EXPECT_FALSE(stage.Process->NewRun);
     EXPECT_FALSE(stage.Process->StopRun);
   }
-}
-
-TEST(UniverseRunTest, ANewRunInThePullOutWaitsForTheNextUniverse) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  stage.Canvas.OnFrame = [&stage] {
-    if (++stage.FramesShown == 10 + 36 + 2) stage.Process->NewRun = true;
-  };
-  stage.Read();
-  UniverseRun(*stage.Process);
-  EXPECT_EQ(stage.FramesShown, 10 + 36 + 8 + 1) << "the first frame of the next creation";
-}
-
-TEST(UniverseRunTest, WithoutATourTheEyeStandsStill) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  UniverseSettings& universe = stage.Settings().Universe;
-  universe.Universe_Tour = false;
-  universe.Universe_NewFreq = 0;
-  universe.Universe_AmStar = 0;
-  for (StarfoldProfile& profile : stage.Settings().Profiles) {
-    profile.Starfold_Rotation = 0;
-    profile.Starfold_NewFreq = 0;
-    profile.Starfold_CometFreq = 0;
-    profile.Starfold_HWheelInc = 0;
-  }
-  std::vector<std::uint64_t> tour;
-  stage.Canvas.OnFrame = [&] {
-    ++stage.FramesShown;
-    // The first frame of the tour still wipes what creation left.
-    if (stage.FramesShown > 12 && stage.FramesShown <= 46) tour.push_back(stage.Canvas.Hash());
-    if (stage.FramesShown == 50) stage.Process->StopRun = true;
-  };
-  stage.Read();
-  UniverseRun(*stage.Process);
-  EXPECT_EQ(std::count(tour.begin(), tour.end(), tour.front()), 34);
-  EXPECT_NE(stage.Canvas.Hash(), tour.front()) << "the pull-out leaves";
 }
 
 /// The picture of a run is a promise: the same seed gives the same pixels, in every build. If a
@@ -282,17 +204,6 @@ INSTANTIATE_TEST_SUITE_P(
                     s.Universe.Universe_ESteps = 20;
                   }}),
     [](const auto& limits) { return limits.param.Name; });
-
-TEST(LongRun, ManyUniversesNeitherGrowNorComplain) {
-  Stage stage(96, 64);
-  MakeSmall(stage.Settings().Universe);
-  MakeColourful(stage.Settings());
-  stage.Settings().Universe.Universe_Stars = 30;
-  stage.Settings().Universe.Universe_STrail = 2;
-  stage.Settings().Universe.Universe_Profile = kCycleRandomly;
-  RunFrames(stage, 200000);
-  EXPECT_EQ(stage.FramesShown, 200000);
-}
 
 }  // namespace
 }  // namespace starfolds
