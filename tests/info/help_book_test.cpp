@@ -198,5 +198,18 @@ TEST(HelpSearchTest, NoTextHurts) {
   }
 }
 
+TEST_F(HelpOfSettingsTest, TellsTheRangeOfEveryBoxOfTheProperties) {
+  for (const UniverseRow& row : UniverseRows()) {
+    EXPECT_TRUE(Described.contains(std::string(FieldOf(row.What).Name))) << FieldOf(row.What).Name;
+  }
+  for (const auto rows : {StarfoldRows(), PixHueRows()}) {
+    for (const StarfoldRow& row : rows) {
+      if (FieldOf(row, 0).Rule != RangeRule::Fixed) continue;  // the style decides
+      EXPECT_TRUE(Described.contains(std::string(FieldOf(row.What).Name)))
+          << FieldOf(row.What).Name;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace starfolds

@@ -130,5 +130,15 @@ TEST_F(FrmAdvancedTest, AMessageIsCutAfterWholeCharacters) {
   }
 }
 
+TEST_F(FrmAdvancedTest, StoresAllOrNothing) {
+  Store(kOther);
+  Open();
+  Click("cmdDefaults");
+  const MemoryTree before = Tree;
+  Tree.WritesUntilFull = 5;
+  Click("cmdOK");
+  EXPECT_TRUE(Tree == before);
+}
+
 }  // namespace
 }  // namespace starfolds

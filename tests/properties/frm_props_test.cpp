@@ -10,6 +10,7 @@
 #include "properties/frm_welcome.h"
 #include "properties/props_dialog.h"
 #include "settings/first_run.h"
+#include "settings/overrides.h"
 #include "settings/random_records.h"
 #include "settings/templates.h"
 #include "template_dialogs/frm_file_io.h"
@@ -357,6 +358,63 @@ TEST_F(FrmPropsTest, RandomEventsLeaveAValidTree) {
   MemoryTree again;
   EXPECT_TRUE(SaveSettings(again, stored));
   EXPECT_EQ(Contents(LoadSettings(again)), again);
+}
+
+TEST_F(FrmPropsTest, SettingsOfTheRunAreToldAndNotStored) {
+  StoreFactory();
+  EXPECT_FALSE(Part<QLabel>(Open(), "lblOverrides").isVisible());
+  Click("cmdDismiss");
+  OverriddenTree ofRun(Tree);
+  const std::vector<SettingChange> changes(28, {"Universe_Stars", "123"});
+  ofRun.Override(changes);
+  Overrides = ChangesInWords(changes);
+  EXPECT_NE(Part<QLabel>(Open(), "lblOverrides").text().indexOf("Starfolds = 123."), -1);
+  EXPECT_TRUE(The<QLabel>("lblOverrides").isVisible());
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Click("cmdAccept");
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
+  EXPECT_EQ(LoadUniverseFromRegistry(ofRun).Universe_Stars, 123);
+}
+
+/// Which of the boxes that not all styles have each style shows, apart from the dialog's own table.
+const std::set<int> kBoxesOfStyle[kStyleCount] = {{3, 4, 5, 6, 9, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 90},
+                                                  {3, 4, 90},
+                                                  {3, 4, 5, 6, 90, 91, 92},
+                                                  {3, 4, 5, 6, 8, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 6, 8, 90, 91, 92, 95, 96},
+                                                  {3, 4, 5, 6, 90, 91},
+                                                  {},
+                                                  {}};
+
+TEST_F(FrmPropsTest, EachStyleShowsItsRowsUnderTheirNames) {
+  StoreFactory();
+  Open();
+  OpenType(0);
+  for (int style = 0; style < kStyleCount; ++style) {
+    The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
+    for (const int box : {3, 4, 5, 6, 8, 9, 90, 91, 92, 95, 96}) {
+      EXPECT_EQ(!Edit("txtStarfold_" + std::to_string(box)).parentWidget()->isHidden(),
+                kBoxesOfStyle[style].contains(box))
+          << "style " << style << ", box " << box;
+    }
+    const auto isShown = [&](const char* name) { return !The<QWidget>(name).isHidden(); };
+    EXPECT_EQ(isShown("cboFoldProfile"), style <= 1 || style == 5 || style == 6);
+    EXPECT_EQ(isShown("picFoldProfile"), isShown("cboFoldProfile"));
+    EXPECT_EQ(isShown("cboFoldColor"), style != 4 && style != 9);
+    EXPECT_EQ(isShown("chkCP_Closed"), style == 4);
+    EXPECT_EQ(isShown("chkCP_AdvHW"), style == 4);
+    EXPECT_EQ(isShown("cmdIFS_Chem"), style >= 8);
+    EXPECT_EQ(isShown("cmdFoldLevels"), style == 0);
+    if (style != 0 && style != 4) continue;
+    EXPECT_EQ(The<QLabel>("lblStarfold_91").text(),
+              style == 4 ? "Expansion from Spline Path (0.0 - 99.9):"
+                         : "Radius Distribution Exponent (0.0 - 99.9):");
+  }
+  EXPECT_EQ(The<QPushButton>("cmdIFS_Chem").text(), "User Defined Molecular Structure...");
+  EXPECT_EQ(The<QLabel>("lblOtherColorCycles").text(),
+            "Atomic Sphere Color Blending  (0 - 30000):");
 }
 
 }  // namespace
