@@ -8,8 +8,8 @@
 
 #include "bodies/plotters.h"
 #include "bodies/run_arrays.h"
-#include "process/process_state.h"
 #include "numbers/conversions.h"
+#include "process/process_state.h"
 
 namespace starfolds {
 

@@ -1,7 +1,7 @@
 #include "info/help_window.h"
 
-#include "widgets/web_page.h"
 #include "info/help_viewer.h"
+#include "widgets/web_page.h"
 
 namespace starfolds {
 

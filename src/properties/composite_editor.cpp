@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "properties/property_tables.h"
-#include "widgets/picture_box.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "properties/property_tables.h"
+#include "widgets/picture_box.h"
 
 namespace starfolds {
 namespace {

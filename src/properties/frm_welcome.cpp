@@ -10,9 +10,9 @@
 #include <memory>
 #include <utility>
 
+#include "settings/factory.h"
 #include "widgets/dialog_model.h"
 #include "widgets/samples.h"
-#include "settings/factory.h"
 
 namespace starfolds {
 namespace {

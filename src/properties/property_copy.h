@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "widgets/number_box.h"
 #include "widgets/dialog_model.h"
+#include "widgets/number_box.h"
 
 namespace starfolds {
 

@@ -57,16 +57,17 @@ if [ -e "$XDG_CONFIG_HOME/Tessellane" ]; then
   faults=$((faults + 1))
 fi
 # One that can be read is shown, and its universe is stored.
-"$render" --theme 3 --set Universe_Stars=1234 --save "$XDG_CONFIG_HOME/a universe.sfd"
+template="$XDG_CONFIG_HOME/a universe.sfd"
+"$render" --theme 3 --set Universe_Stars=1234 --save "$template"
 # What was stored before is kept beside the settings, unless it came with the program.
 for said in 'To get the factory settings back' 'kept in ".*/Tessellane/former-settings-1.sfd"'; do
-  timeout -s TERM 2 "$program" "$XDG_CONFIG_HOME/a universe.sfd" >"$output" 2>"$errors"
+  timeout -s TERM 2 "$program" "$template" >"$output" 2>"$errors"
   if [ $? != 124 ] || ! grep -q "$said" "$output"; then
     echo "the template did not show, or said nothing of '$said'" >&2
     faults=$((faults + 1))
   fi
 done
-XDG_CONFIG_HOME=/dev/null expect 2 '' 'cannot store the universe of' "$XDG_CONFIG_HOME/a universe.sfd"
+XDG_CONFIG_HOME=/dev/null expect 2 '' 'cannot store the universe of' "$template"
 "$render" --stored --save "$XDG_CONFIG_HOME/stored.sfd"
 if ! grep -q '^Universe_Stars=1234' "$XDG_CONFIG_HOME/stored.sfd"; then
   echo "the template's universe is not stored" >&2
