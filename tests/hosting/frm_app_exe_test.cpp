@@ -63,7 +63,8 @@ TEST_F(FrmAppExeTest, BeginsAnewAtOnceInEveryStage) {
     Events.Plan[last] = [&, expected = runs++] {
       EXPECT_EQ(Seeds, expected);
       if (expected == 1) depth = StackPlace();
-      EXPECT_NEAR(static_cast<double>(StackPlace()), static_cast<double>(depth), 1000);
+      // The stages of a run differ by less; nested runs would add up to more.
+      EXPECT_NEAR(static_cast<double>(StackPlace()), static_cast<double>(depth), 6000);
       Press(Window(), Qt::Key_F5);
     };
   }
