@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "desktop/foreign_window.h"
-#include "desktop/x11_reply.h"
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
 namespace {
@@ -113,11 +113,6 @@ class X11ForeignWindow : public ForeignWindow, private QAbstractNativeEventFilte
   QSize physicalSize_;
 };
 
-xcb_connection_t* ToolkitsConnection() {
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 == nullptr ? nullptr : x11->connection();
-}
-
 bool ServerAnswers() {
   xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
   const bool answers = xcb_connection_has_error(connection) == 0;
@@ -128,7 +123,7 @@ bool ServerAnswers() {
 }  // namespace
 
 std::unique_ptr<ForeignWindow> OpenForeignWindow(Long handle, ForeignWindowEvents& events) {
-  xcb_connection_t* const connection = ToolkitsConnection();
+  xcb_connection_t* const connection = ToolkitConnection();
   if (handle <= 0 || connection == nullptr) return nullptr;
   auto window =
       std::make_unique<X11ForeignWindow>(connection, static_cast<xcb_window_t>(handle), events);
@@ -136,7 +131,7 @@ std::unique_ptr<ForeignWindow> OpenForeignWindow(Long handle, ForeignWindowEvent
   return window;
 }
 
-bool CanOpenForeignWindows() { return ToolkitsConnection() != nullptr; }
+bool CanOpenForeignWindows() { return ToolkitConnection() != nullptr; }
 
 bool ChooseForeignWindowSystem() {
   if (!ServerAnswers()) return false;

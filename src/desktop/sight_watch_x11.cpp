@@ -5,10 +5,10 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QWindow>
 #include <chrono>
-#include <cstdlib>
+
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
 namespace {
@@ -30,7 +30,7 @@ class PowerSaving {
   bool IsAsleep() {
     const auto now = Clock::now();
     if (known_ && now >= nextQuestion_) {
-      asleep_ = Ask();
+      asleep_ = AskServer();
       nextQuestion_ = now + std::chrono::milliseconds(asleep_ ? 250 : 2000);
     }
     return asleep_;
@@ -39,15 +39,9 @@ class PowerSaving {
  private:
   using Clock = std::chrono::steady_clock;
 
-  bool Ask() const {
-    xcb_generic_error_t* error = nullptr;
-    xcb_dpms_info_reply_t* const info =
-        xcb_dpms_info_reply(connection_, xcb_dpms_info(connection_), &error);
-    const bool asleep =
-        info != nullptr && info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON;
-    std::free(info);
-    std::free(error);
-    return asleep;
+  bool AskServer() const {
+    const auto info = Ask(connection_, xcb_dpms_info(connection_), xcb_dpms_info_reply);
+    return info && info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON;
   }
 
   xcb_connection_t* connection_;
@@ -69,15 +63,11 @@ class X11SightWatch : public SightWatch, private QAbstractNativeEventFilter {
  private:
   /// Adds to the events that Qt has selected.
   void SelectVisibility(xcb_connection_t* connection) const {
-    xcb_generic_error_t* error = nullptr;
-    xcb_get_window_attributes_reply_t* const attributes = xcb_get_window_attributes_reply(
-        connection, xcb_get_window_attributes(connection, window_), &error);
-    if (attributes != nullptr) {
-      const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_VISIBILITY_CHANGE;
-      xcb_change_window_attributes(connection, window_, XCB_CW_EVENT_MASK, &mask);
-    }
-    std::free(attributes);
-    std::free(error);
+    const auto attributes = Ask(connection, xcb_get_window_attributes(connection, window_),
+                                xcb_get_window_attributes_reply);
+    if (!attributes) return;
+    const std::uint32_t mask = attributes->your_event_mask | XCB_EVENT_MASK_VISIBILITY_CHANGE;
+    xcb_change_window_attributes(connection, window_, XCB_CW_EVENT_MASK, &mask);
   }
 
   bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override {
@@ -99,10 +89,9 @@ class X11SightWatch : public SightWatch, private QAbstractNativeEventFilter {
 }  // namespace
 
 std::unique_ptr<SightWatch> MakeSightWatch(QWindow& window) {
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
-  return std::make_unique<X11SightWatch>(x11->connection(),
-                                         static_cast<xcb_window_t>(window.winId()));
+  xcb_connection_t* const connection = ToolkitConnection();
+  if (connection == nullptr) return nullptr;
+  return std::make_unique<X11SightWatch>(connection, static_cast<xcb_window_t>(window.winId()));
 }
 
 }  // namespace starfolds

@@ -2,24 +2,15 @@
 
 #include <xcb/xcb.h>
 
-#include <QGuiApplication>
 #include <QWindow>
 #include <array>
 
-#include "desktop/x11_reply.h"
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
-namespace {
-
-xcb_connection_t* Connection() {
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 == nullptr ? nullptr : x11->connection();
-}
-
-}  // namespace
 
 void MarkUnlisted(QWindow& window) {
-  xcb_connection_t* const connection = Connection();
+  xcb_connection_t* const connection = ToolkitConnection();
   if (connection == nullptr) return;
   const std::uint32_t yes = 1;
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
@@ -28,7 +19,7 @@ void MarkUnlisted(QWindow& window) {
 
 /// Qt keeps existing states and adds its own when it shows the window.
 void MarkAsBackground(QWindow& window) {
-  xcb_connection_t* const connection = Connection();
+  xcb_connection_t* const connection = ToolkitConnection();
   if (connection == nullptr) return;
   const std::array<xcb_atom_t, 4> states{InternAtom(connection, "_NET_WM_STATE_BELOW"),
                                          InternAtom(connection, "_NET_WM_STATE_STICKY"),

@@ -2,11 +2,10 @@
 
 #include <xcb/xcb.h>
 
-#include <QGuiApplication>
 #include <vector>
 
 #include "desktop/other_programs.h"
-#include "desktop/x11_reply.h"
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
 namespace {
@@ -158,9 +157,9 @@ xcb_window_t RootOfFirstScreen(xcb_connection_t* connection) {
 }  // namespace
 
 std::unique_ptr<DesktopServices> MakeX11Desktop() {
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
-  return std::make_unique<X11Desktop>(x11->connection(), RootOfFirstScreen(x11->connection()));
+  xcb_connection_t* const connection = ToolkitConnection();
+  if (connection == nullptr) return nullptr;
+  return std::make_unique<X11Desktop>(connection, RootOfFirstScreen(connection));
 }
 
 }  // namespace starfolds

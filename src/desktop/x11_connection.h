@@ -1,13 +1,20 @@
-// Replies of an X server.
+// The toolkit's connection to an X server, and replies of the server.
 #pragma once
 
 #include <xcb/xcb.h>
 
+#include <QGuiApplication>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
 
 namespace starfolds {
+
+/// The connection that Qt's windows belong to; null if the application does not run on an X server.
+inline xcb_connection_t* ToolkitConnection() {
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 == nullptr ? nullptr : x11->connection();
+}
 
 /// Replies of libxcb are allocated by malloc.
 struct Freed {
