@@ -43,8 +43,7 @@ FieldOrder<Record> OrderOf(std::span<const Field<Record>> fields,
   return order;
 }
 
-/// The settings of a profile in the order in which they are stored. The counts of points and of
-/// atoms are the last two.
+/// The settings of a profile in the order in which they are stored.
 const FieldOrder<StarfoldProfile>& StoredProfileOrder();
 
 }  // namespace starfolds

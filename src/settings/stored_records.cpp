@@ -2,104 +2,83 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
-#include "settings/field_order.h"
-#include "settings/fields.h"
-#include "settings/packing.h"
+#include "settings/record_io.h"
 
 namespace starfolds {
 namespace {
 
-/// One section of the tree.
-struct Section {
-  KeyValueTree& Tree;
-  std::string Name;
-  RootSelector Root = RootSelector::CurrentUser;
-};
-
-template <class Record>
-void ReadField(const Section& from, const Field<Record>& field, Record& record) {
-  using Reader = Oddities::Reader;
-  std::visit(
-      [&](auto member) {
-        auto& value = record.*member;
-        using Value = std::remove_cvref_t<decltype(value)>;
-        auto& [tree, section, root] = from;
-        if constexpr (std::is_same_v<Value, std::string>) {
-          value = RegistryReadText(tree, section, field.Name, value, root);
-        } else if constexpr (std::is_same_v<Value, bool>) {
-          const bool exactlyOne = field.Odd.ReadAs == Reader::ExactlyOne;
-          value = exactlyOne ? RegistryReadText(tree, section, field.Name, "0", root) == "1"
-                             : RegistryReadSingle(tree, section, field.Name, value, root) != 0;
-        } else if constexpr (std::is_same_v<Value, Single>) {
-          value = RegistryReadSingle(tree, section, field.Name, value, root);
-        } else if constexpr (std::is_same_v<Value, Long>) {
-          value = RegistryReadLong(tree, section, field.Name, value, root);
-        } else if (field.Odd.ReadAs == Reader::AsLong) {
-          value = RoundedToLimits<Value>(RegistryReadLong(tree, section, field.Name, value, root));
-        } else {
-          value = RegistryReadInteger(tree, section, field.Name, value, root);
-        }
-      },
-      field.Where);
-}
-
-template <class Record>
-void ReadFields(const Section& from, std::span<const Field<Record>> fields, Record& record) {
-  for (const Field<Record>& field : fields) ReadField(from, field, record);
-}
-
-template <class Record>
-void WriteField(const Section& to, const Field<Record>& field, const Record& record) {
-  RegistryWrite(to.Tree, to.Name, field.Name, StorableText(FieldText(record, field)), to.Root);
-}
-
-template <class Record>
-void WriteFields(const Section& to, std::span<const Field<Record>> fields, const Record& record) {
-  for (const Field<Record>& field : fields) WriteField(to, field, record);
-}
-
 std::string MemberKey(int i) { return "CompFold_Type" + std::to_string(i); }
 
-std::string Below(std::string_view section, const char* sub) { return std::string(section) + sub; }
+/// One section of the tree.
+class TreeSection {
+ public:
+  TreeSection(KeyValueTree& tree, std::string_view name,
+              RootSelector root = RootSelector::CurrentUser)
+      : tree_(tree), name_(name), root_(root) {}
 
-ReadPacked PackedReader(const Section& from) {
-  return [&from](const std::string& key) {
-    return RegistryReadText(from.Tree, from.Name, key, {}, from.Root);
-  };
-}
+  template <class Record>
+  void Read(const Field<Record>& field, Record& record) const {
+    std::visit([&](auto member) { ReadValue(field.Name, field.Odd.ReadAs, record.*member); },
+               field.Where);
+  }
 
-WritePacked PackedWriter(const Section& to) {
-  return [&to](const std::string& key, const std::string& packed) {
-    RegistryWrite(to.Tree, to.Name, key, packed);
-  };
-}
+  template <class Record>
+  void Write(const Field<Record>& field, const Record& record) const {
+    WriteText(std::string(field.Name), std::string(StorableText(FieldText(record, field))));
+  }
 
-void ReadIfs(const Section& from, StarfoldProfile& profile) {
-  ReadFields(from, IfsCenterFields(), profile.IFS);
-  UnpackIfsPoints(profile, PackedReader(from));
-}
+  std::string ReadText(const std::string& key) const {
+    return RegistryReadText(tree_, name_, key, {}, root_);
+  }
+  void WriteText(const std::string& key, const std::string& text) const {
+    RegistryWrite(tree_, name_, key, text);
+  }
 
-void ReadAtoms(const Section& from, StarfoldProfile& profile) {
-  ReadFields(from, AtomCenterFields(), profile.Atom);
-  UnpackAtoms(profile, PackedReader(from));
-}
+  Integer ReadMember(int i) const {
+    return RegistryReadInteger(tree_, name_, MemberKey(i), 0, root_);
+  }
+  void WriteMember(int i, Integer body) const {
+    RegistryWrite(tree_, name_, MemberKey(i), Long{body});
+  }
 
-void WriteIfs(const Section& to, const StarfoldProfile& profile) {
-  WriteFields(to, IfsCenterFields(), profile.IFS);
-  PackIfsPoints(profile, PackedWriter(to));
-}
+  const FieldOrder<StarfoldProfile>& ProfileOrder() const { return StoredProfileOrder(); }
 
-void WriteAtoms(const Section& to, const StarfoldProfile& profile) {
-  WriteFields(to, AtomCenterFields(), profile.Atom);
-  PackAtoms(profile, PackedWriter(to));
-}
+  TreeSection Below(const char* sub) const { return {tree_, name_ + sub, root_}; }
 
-/// The sub-key is deleted in the machine's hive, not in the one that is written: points of a longer
-/// list before stay behind the new ones, which no reader reads.
-void DropSubkey(const Section& section, std::string_view sub) {
-  RegistryDeleteKey(section.Tree, kAppName, section.Name, sub.substr(1),
-                    RootSelector::LocalMachine);
-}
+  /// The section is deleted in the machine's hive, not in the one that is written: points of a
+  /// longer list before stay behind the new ones, which no reader reads.
+  void Drop() const {
+    const std::size_t last = name_.rfind('\\');
+    RegistryDeleteKey(tree_, kAppName, name_.substr(0, last), name_.substr(last + 1),
+                      RootSelector::LocalMachine);
+  }
+
+ private:
+  using Reader = Oddities::Reader;
+
+  void ReadValue(std::string_view key, Reader, std::string& value) const {
+    value = RegistryReadText(tree_, name_, key, value, root_);
+  }
+  void ReadValue(std::string_view key, Reader reader, bool& value) const {
+    value = reader == Reader::ExactlyOne ? RegistryReadText(tree_, name_, key, "0", root_) == "1"
+                                         : RegistryReadSingle(tree_, name_, key, value, root_) != 0;
+  }
+  void ReadValue(std::string_view key, Reader, Single& value) const {
+    value = RegistryReadSingle(tree_, name_, key, value, root_);
+  }
+  void ReadValue(std::string_view key, Reader, Long& value) const {
+    value = RegistryReadLong(tree_, name_, key, value, root_);
+  }
+  void ReadValue(std::string_view key, Reader reader, Integer& value) const {
+    value = reader == Reader::AsLong
+                ? RoundedToLimits<Integer>(RegistryReadLong(tree_, name_, key, value, root_))
+                : RegistryReadInteger(tree_, name_, key, value, root_);
+  }
+
+  KeyValueTree& tree_;
+  std::string name_;
+  RootSelector root_;
+};
 
 }  // namespace
 
@@ -109,14 +88,14 @@ std::string CompositeSection(int index) { return "Universe\\CompFold" + std::to_
 
 UniverseSettings LoadUniverseFromRegistry(KeyValueTree& tree, RootSelector root) {
   UniverseSettings universe;
-  ReadFields({tree, std::string(sections::kUniverse), root}, UniverseFields(), universe);
+  ReadRecord(TreeSection(tree, sections::kUniverse, root), UniverseFields(), universe);
   return universe;
 }
 
 AdvancedSettings LoadAdvancedFromRegistry(KeyValueTree& tree) {
   TreeBulk look = TreeBulk::Look(tree);
   AdvancedSettings advanced;
-  ReadFields({tree, std::string(sections::kAdvanced)}, AdvancedFields(), advanced);
+  ReadRecord(TreeSection(tree, sections::kAdvanced), AdvancedFields(), advanced);
   look.Commit();
   ClampAdvanced(advanced);
   return advanced;
@@ -124,24 +103,12 @@ AdvancedSettings LoadAdvancedFromRegistry(KeyValueTree& tree) {
 
 StarfoldProfile LoadProfileFromRegistry(KeyValueTree& tree, int index, std::string_view section,
                                         RootSelector root) {
-  StarfoldProfile profile;
-  profile.UniFoldName = FormatProfileName(index);
-  const Section from{tree, std::string(section), root};
-  for (const Field<StarfoldProfile>* field : StoredProfileOrder()) ReadField(from, *field, profile);
-  if (profile.Starfold_IFS_Points != 0) ReadIfs({tree, Below(section, kIfsSection), root}, profile);
-  if (profile.Starfold_Atoms != 0) ReadAtoms({tree, Below(section, kAtomSection), root}, profile);
-  return profile;
+  return ReadProfile(TreeSection(tree, section, root), index);
 }
 
 CompositeProfile LoadCompositeFromRegistry(KeyValueTree& tree, int index, std::string_view section,
                                            RootSelector root) {
-  CompositeProfile composite;
-  composite.CompFoldName = FormatCompositeName(index);
-  ReadFields({tree, std::string(section), root}, CompositeFields(), composite);
-  for (int i = 0; i < composite.MemberCount(); ++i) {
-    composite.CompFold_Type[i] = RegistryReadInteger(tree, section, MemberKey(i), 0, root);
-  }
-  return composite;
+  return ReadComposite(TreeSection(tree, section, root), index);
 }
 
 void LoadAllProfiles(KeyValueTree& tree, ProfileArray& profiles, RootSelector root) {
@@ -159,34 +126,21 @@ void LoadAllComposites(KeyValueTree& tree, CompositeArray& composites, RootSelec
 }
 
 void SaveUniverseToRegistry(KeyValueTree& tree, const UniverseSettings& universe) {
-  WriteFields({tree, std::string(sections::kUniverse)}, UniverseFields(), universe);
+  WriteRecord(TreeSection(tree, sections::kUniverse), UniverseFields(), universe);
 }
 
 void SaveAdvancedToRegistry(KeyValueTree& tree, const AdvancedSettings& advanced) {
-  WriteFields({tree, std::string(sections::kAdvanced)}, AdvancedFields(), advanced);
+  WriteRecord(TreeSection(tree, sections::kAdvanced), AdvancedFields(), advanced);
 }
 
 void SaveProfileToRegistry(KeyValueTree& tree, const StarfoldProfile& profile,
                            std::string_view section) {
-  const Section to{tree, std::string(section)};
-  const std::span order = StoredProfileOrder();
-  const std::span plain = order.first(order.size() - 2);
-  for (const Field<StarfoldProfile>* field : plain) WriteField(to, *field, profile);
-  // Each count precedes its list.
-  WriteField(to, *order[plain.size()], profile);
-  DropSubkey(to, kIfsSection);
-  if (profile.Starfold_IFS_Points > 0) WriteIfs({tree, Below(section, kIfsSection)}, profile);
-  WriteField(to, *order[plain.size() + 1], profile);
-  DropSubkey(to, kAtomSection);
-  if (profile.Starfold_Atoms > 0) WriteAtoms({tree, Below(section, kAtomSection)}, profile);
+  WriteProfile(TreeSection(tree, section), profile);
 }
 
 void SaveCompositeToRegistry(KeyValueTree& tree, const CompositeProfile& composite,
                              std::string_view section) {
-  WriteFields({tree, std::string(section)}, CompositeFields(), composite);
-  for (int i = 0; i < composite.MemberCount(); ++i) {
-    RegistryWrite(tree, section, MemberKey(i), Long{composite.CompFold_Type[i]});
-  }
+  WriteComposite(TreeSection(tree, section), composite);
 }
 
 void SaveAllProfiles(KeyValueTree& tree, ProfileArray& profiles) {

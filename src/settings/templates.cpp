@@ -5,11 +5,9 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
-#include "settings/field_order.h"
-#include "settings/fields.h"
 #include "settings/first_run.h"
-#include "settings/packing.h"
 #include "settings/product.h"
+#include "settings/record_io.h"
 #include "settings/registry.h"
 #include "settings/stored_records.h"
 
@@ -27,7 +25,7 @@ FieldOrder<Record> InTemplates(FieldOrder<Record> order, std::span<const Moved<R
   return order;
 }
 
-const FieldOrder<UniverseSettings>& UniverseOrder() {
+const FieldOrder<UniverseSettings>& UniverseTemplateOrder() {
   static constexpr Moved<U> moves[] = {{&U::Universe_Profile, &U::Universe_GravFrame},
                                        {&U::Universe_Tour, &U::Universe_GS_Idx}};
   static const FieldOrder<UniverseSettings> order =
@@ -35,7 +33,7 @@ const FieldOrder<UniverseSettings>& UniverseOrder() {
   return order;
 }
 
-const FieldOrder<StarfoldProfile>& ProfileOrder() {
+const FieldOrder<StarfoldProfile>& ProfileTemplateOrder() {
   static constexpr Moved<P> moves[] = {{&P::UniFoldPct, &P::UniFoldName},
                                        {&P::Starfold_PulsarShape, &P::Starfold_PulsarMaxExt},
                                        {&P::Starfold_CP_Close, &P::Starfold_CP_B_Spd},
@@ -44,75 +42,58 @@ const FieldOrder<StarfoldProfile>& ProfileOrder() {
   return order;
 }
 
-template <class Record>
-void WriteField(TemplateFile& file, std::string_view section, const Field<Record>& field,
-                const Record& record) {
-  file.TemplateWrite(section, TemplateKey(field), FieldText(record, field));
-}
-
-template <class Record>
-void WriteOrder(TemplateFile& file, std::string_view section, const FieldOrder<Record>& order,
-                const Record& record) {
-  for (const Field<Record>* field : order) WriteField(file, section, *field, record);
-}
-
-template <class Record>
-void WriteFields(TemplateFile& file, std::string_view section,
-                 std::span<const Field<Record>> fields, const Record& record) {
-  for (const Field<Record>& field : fields) WriteField(file, section, field, record);
-}
-
 /// A number that counts as 0 when it is missing: a "0" is put before the text, so nothing
 /// is negative either.
 double NumberWithZeroBefore(const std::optional<std::string>& text) {
   return LenientNumber("0" + text.value_or(std::string()));
 }
 
-template <class Record>
-void ReadFields(TemplateFile& file, std::string_view section, std::span<const Field<Record>> fields,
-                Record& record) {
-  for (const Field<Record>& field : fields) {
-    if (!field.Odd.InTemplate) continue;
-    const auto text = file.TemplateFind(section, TemplateKey(field));
+std::string MemberKey(int i) { return "StarfoldIndex_" + std::to_string(i); }
+
+/// One section of a template.
+class TemplateSection {
+ public:
+  TemplateSection(TemplateFile& file, std::string_view name) : file_(file), name_(name) {}
+
+  template <class Record>
+  void Read(const Field<Record>& field, Record& record) const {
+    if (!field.Odd.InTemplate) return;
+    const auto text = file_.TemplateFind(name_, TemplateKey(field));
     if (field.Odd.ZeroInTemplate) {
       SetFieldNumber(record, field, NumberWithZeroBefore(text));
     } else if (text) {
       SetFieldText(record, field, *text);
     }
   }
-}
 
-std::string MemberKey(int i) { return "StarfoldIndex_" + std::to_string(i); }
+  template <class Record>
+  void Write(const Field<Record>& field, const Record& record) const {
+    file_.TemplateWrite(name_, TemplateKey(field), FieldText(record, field));
+  }
 
-ReadPacked PackedReader(TemplateFile& file, const std::string& section) {
-  return [&](const std::string& key) { return file.TemplateRead(section, key, {}); };
-}
+  std::string ReadText(const std::string& key) const { return file_.TemplateRead(name_, key, {}); }
+  void WriteText(const std::string& key, const std::string& text) const {
+    file_.TemplateWrite(name_, key, text);
+  }
 
-WritePacked PackedWriter(TemplateFile& file, const std::string& section) {
-  return [&](const std::string& key, const std::string& packed) {
-    file.TemplateWrite(section, key, packed);
-  };
-}
+  Integer ReadMember(int i) const {
+    return RoundedToLimits<Integer>(NumberWithZeroBefore(file_.TemplateFind(name_, MemberKey(i))));
+  }
+  void WriteMember(int i, Integer body) const {
+    file_.TemplateWrite(name_, MemberKey(i), NumberText(Long{body}));
+  }
 
-void ReadIfs(TemplateFile& file, const std::string& section, StarfoldProfile& profile) {
-  ReadFields(file, section, IfsCenterFields(), profile.IFS);
-  UnpackIfsPoints(profile, PackedReader(file, section));
-}
+  const FieldOrder<StarfoldProfile>& ProfileOrder() const { return ProfileTemplateOrder(); }
 
-void ReadAtoms(TemplateFile& file, const std::string& section, StarfoldProfile& profile) {
-  ReadFields(file, section, AtomCenterFields(), profile.Atom);
-  UnpackAtoms(profile, PackedReader(file, section));
-}
+  TemplateSection Below(const char* sub) const { return {file_, name_ + sub}; }
 
-void WriteIfs(TemplateFile& file, const std::string& section, const StarfoldProfile& profile) {
-  WriteFields(file, section, IfsCenterFields(), profile.IFS);
-  PackIfsPoints(profile, PackedWriter(file, section));
-}
+  /// A template is written from its beginning.
+  void Drop() const {}
 
-void WriteAtoms(TemplateFile& file, const std::string& section, const StarfoldProfile& profile) {
-  WriteFields(file, section, AtomCenterFields(), profile.Atom);
-  PackAtoms(profile, PackedWriter(file, section));
-}
+ private:
+  TemplateFile& file_;
+  std::string name_;
+};
 
 void WriteAdmin(TemplateFile& file) {
   file.TemplateWrite("Admin", "Product", kProductName);
@@ -164,47 +145,28 @@ bool CopyAdvancedFromTemplate(TemplateFile& file, KeyValueTree& tree) {
 }
 
 StarfoldProfile LoadProfileFromTemplate(TemplateFile& file, int index, std::string_view section) {
-  StarfoldProfile profile;
-  profile.UniFoldName = FormatProfileName(index);
-  ReadFields(file, section, ProfileFields(), profile);
-  const std::string name(section);
-  if (profile.Starfold_IFS_Points != 0) ReadIfs(file, name + kIfsSection, profile);
-  if (profile.Starfold_Atoms != 0) ReadAtoms(file, name + kAtomSection, profile);
-  return profile;
+  return ReadProfile(TemplateSection(file, section), index);
 }
 
 CompositeProfile LoadCompositeFromTemplate(TemplateFile& file, int index,
                                            std::string_view section) {
-  CompositeProfile composite;
-  composite.CompFoldName = FormatCompositeName(index);
-  ReadFields(file, section, CompositeFields(), composite);
-  for (int i = 0; i < composite.MemberCount(); ++i) {
-    const auto member = file.TemplateFind(section, MemberKey(i));
-    composite.CompFold_Type[i] = RoundedToLimits<Integer>(NumberWithZeroBefore(member));
-  }
-  return composite;
+  return ReadComposite(TemplateSection(file, section), index);
 }
 
 UniverseSettings LoadUniverseFromTemplate(TemplateFile& file) {
   UniverseSettings universe;
-  ReadFields(file, sections::kUniverse, UniverseFields(), universe);
+  ReadRecord(TemplateSection(file, sections::kUniverse), UniverseFields(), universe);
   return universe;
 }
 
 void SaveProfileToTemplate(TemplateFile& file, const StarfoldProfile& profile,
                            std::string_view section) {
-  WriteOrder(file, section, ProfileOrder(), profile);
-  const std::string name(section);
-  if (profile.Starfold_IFS_Points > 0) WriteIfs(file, name + kIfsSection, profile);
-  if (profile.Starfold_Atoms > 0) WriteAtoms(file, name + kAtomSection, profile);
+  WriteProfile(TemplateSection(file, section), profile);
 }
 
 void SaveCompositeToTemplate(TemplateFile& file, const CompositeProfile& composite,
                              std::string_view section) {
-  WriteFields(file, section, CompositeFields(), composite);
-  for (int i = 0; i < composite.MemberCount(); ++i) {
-    file.TemplateWrite(section, MemberKey(i), NumberText(Long{composite.CompFold_Type[i]}));
-  }
+  WriteComposite(TemplateSection(file, section), composite);
 }
 
 void LoadBodiesFromTemplate(TemplateFile& file, ProfileArray& profiles, CompositeArray& composites,
@@ -227,7 +189,7 @@ std::optional<std::string> WriteTemplate(TemplateFile& file, KeyValueTree& tree,
                                          const TemplateProgress& progress) {
   WriteAdmin(file);
   CopyAdvancedToTemplate(tree, file);
-  WriteOrder(file, sections::kUniverse, UniverseOrder(), universe);
+  WriteRecord(TemplateSection(file, sections::kUniverse), UniverseTemplateOrder(), universe);
   for (int i = 0; i < kProfileCount; ++i) {
     ClampProfile(profiles[i]);
     SaveProfileToTemplate(file, profiles[i], ProfileTemplateSection(i));
@@ -246,7 +208,7 @@ std::optional<std::string> ReadTemplate(TemplateFile& file, const std::string& p
   if (auto fault = file.Load(path)) return fault;
   records.Universe = LoadUniverseFromTemplate(file);
   records.Advanced = AdvancedSettings();
-  ReadFields(file, sections::kAdvanced, AdvancedFields(), records.Advanced);
+  ReadRecord(TemplateSection(file, sections::kAdvanced), AdvancedFields(), records.Advanced);
   ClampAdvanced(records.Advanced);
   LoadBodiesFromTemplate(file, records.Profiles, records.Composites, {});
   file.ClearBuffer();
