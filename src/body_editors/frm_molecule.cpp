@@ -66,7 +66,7 @@ QLineEdit* MakeField(const char* name, const QString& about) {
 
 void ShowColour(QLabel* swatch, Colour colour) {
   QImage image(swatch->size(), QImage::Format_RGB32);
-  image.fill(ToRgb(colour));
+  image.fill(ScreenWord(colour));
   ShowSample(swatch, image);
 }
 

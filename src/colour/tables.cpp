@@ -9,10 +9,6 @@
 namespace starfolds {
 namespace {
 
-int Red(Colour colour) { return static_cast<int>(colour & 0xFFU); }
-int Green(Colour colour) { return static_cast<int>(colour >> 8U & 0xFFU); }
-int Blue(Colour colour) { return static_cast<int>(colour >> 16U & 0xFFU); }
-
 Colour Grey(double level) {
   const int rounded = RoundedToLimits<Integer>(level);
   return PackRgb(rounded, rounded, rounded);
@@ -64,11 +60,6 @@ double SeedHue(const StarfoldProfile& profile, const PreparedProfile& run, const
 
 }  // namespace
 
-Colour PackRgb(int red, int green, int blue) {
-  const auto channel = [](int value) { return static_cast<Colour>(std::clamp(value, 0, 255)); };
-  return channel(blue) << 16U | channel(green) << 8U | channel(red);
-}
-
 Colour HueToRgb(int hue, int base, int red, int green, int blue) {
   const double t = (hue % 60) * 0.016666666;
   const auto full = [&](int x) { return base + 2 * x; };
@@ -83,7 +74,7 @@ Colour ScaleColor(Colour colour, Single factor) {
   const auto scaled = [&](int channel) {
     return static_cast<int>(RoundedToLimits<Integer>(channel * static_cast<double>(factor)));
   };
-  return PackRgb(scaled(Red(colour)), scaled(Green(colour)), scaled(Blue(colour)));
+  return PackRgb(scaled(RedOf(colour)), scaled(GreenOf(colour)), scaled(BlueOf(colour)));
 }
 
 void BuildHueWheel(std::array<Colour, 361>& table, const StarfoldProfile& profile) {
@@ -112,7 +103,7 @@ void BuildFlareTable(FlareTable& table, int startHue, int endHue) {
     const auto fade = [&](int channel) {
       return static_cast<int>(RoundHalfEven(255 - (255 - channel) * f));
     };
-    table[i] = PackRgb(fade(Red(start)), fade(Green(start)), fade(Blue(start)));
+    table[i] = PackRgb(fade(RedOf(start)), fade(GreenOf(start)), fade(BlueOf(start)));
   }
   Single dimming = 1;
   for (int i = 8; i < 72; ++i) {

@@ -37,9 +37,6 @@ inline std::size_t RoundHue(Single hue) {
   return static_cast<std::size_t>(static_cast<unsigned>(std::lrint(hue)));
 }
 
-/// Packs three channels, each clamped to 0..255.
-Colour PackRgb(int red, int green, int blue);
-
 /// The hue circle: `hue` in degrees, 0 to 359, beyond it black; channels run from `base` to `base`
 /// + 2 * strength.
 Colour HueToRgb(int hue, int base, int red, int green, int blue);

@@ -4,7 +4,7 @@
 
 namespace starfolds {
 
-bool PlacesByColour::Sort(const Surface& surface, std::span<const Surface::PixelPlace> places) {
+bool PlacesByColour::Sort(const Surface& surface, std::span<const PixelPlace> places) {
   const bool few = Count(surface, places);
   for (const std::size_t slot : usedSlots_) groupOfSlot_[slot] = kFree;
   if (!few) return false;
@@ -22,7 +22,7 @@ bool PlacesByColour::Sort(const Surface& surface, std::span<const Surface::Pixel
   return true;
 }
 
-bool PlacesByColour::Count(const Surface& surface, std::span<const Surface::PixelPlace> places) {
+bool PlacesByColour::Count(const Surface& surface, std::span<const PixelPlace> places) {
   const Colour* const pixels = surface.Pixels().data();
   const auto width = static_cast<std::size_t>(surface.Width());
   groups_.clear();

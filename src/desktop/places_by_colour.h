@@ -25,24 +25,24 @@ class PlacesByColour {
   };
 
   /// Groups pixels of the surface. False if they have too many colours.
-  bool Sort(const Surface& surface, std::span<const Surface::PixelPlace> places);
+  bool Sort(const Surface& surface, std::span<const PixelPlace> places);
 
   std::span<const Group> Groups() const { return groups_; }
-  std::span<const Surface::PixelPlace> Places() const { return sorted_; }
+  std::span<const PixelPlace> Places() const { return sorted_; }
 
  private:
   /// Four times the number of groups, so that probe sequences are short.
   static constexpr std::size_t kSlots = 4 * kMostColours;
   static constexpr std::uint16_t kFree = 0;
 
-  bool Count(const Surface& surface, std::span<const Surface::PixelPlace> places);
+  bool Count(const Surface& surface, std::span<const PixelPlace> places);
   std::size_t SlotOf(Colour ink) const;
 
   std::array<std::uint16_t, kSlots> groupOfSlot_{};  // group number from 1; 0: empty
   std::vector<std::size_t> usedSlots_;
   std::vector<Group> groups_;
   std::vector<std::uint16_t> groupOfPlace_;
-  std::vector<Surface::PixelPlace> sorted_;
+  std::vector<PixelPlace> sorted_;
 };
 
 }  // namespace starfolds

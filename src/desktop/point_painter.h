@@ -20,7 +20,7 @@ class PointPainter {
 
   /// `area` is the number of physical pixels of the tiles that contain these pixels. False if
   /// nothing was drawn, because sending the tiles is cheaper.
-  virtual bool Draw(const Surface& surface, std::span<const Surface::PixelPlace> places,
+  virtual bool Draw(const Surface& surface, std::span<const PixelPlace> places,
                     const PixelScale& scale, std::int64_t area) = 0;
 };
 

@@ -1,15 +1,14 @@
 #include <xcb/xcb.h>
 
-#include <QGuiApplication>
 #include <QWindow>
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
 #include <vector>
 
 #include "desktop/places_by_colour.h"
 #include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
 namespace {
@@ -33,8 +32,8 @@ class X11PointPainter : public PointPainter {
   }
   ~X11PointPainter() override { xcb_free_gc(connection_, context_); }
 
-  bool Draw(const Surface& surface, std::span<const Surface::PixelPlace> places,
-            const PixelScale& scale, std::int64_t area) override {
+  bool Draw(const Surface& surface, std::span<const PixelPlace> places, const PixelScale& scale,
+            std::int64_t area) override {
     const double picture = kPictureCost * static_cast<double>(area);
     const auto points = static_cast<std::int64_t>(places.size()) * kPointCost;
     if (static_cast<double>(points) > picture || !sorted_.Sort(surface, places)) return false;
@@ -60,9 +59,9 @@ class X11PointPainter : public PointPainter {
     }
   }
 
-  void DrawPoints(std::span<const Surface::PixelPlace> places) {
+  void DrawPoints(std::span<const PixelPlace> places) {
     points_.clear();
-    for (const Surface::PixelPlace place : places) {
+    for (const PixelPlace place : places) {
       points_.push_back(
           {static_cast<std::int16_t>(ColumnOf(place)), static_cast<std::int16_t>(RowOf(place))});
     }
@@ -70,9 +69,9 @@ class X11PointPainter : public PointPainter {
                    static_cast<std::uint32_t>(points_.size()), points_.data());
   }
 
-  void DrawBlocks(std::span<const Surface::PixelPlace> places, const PixelScale& scale) {
+  void DrawBlocks(std::span<const PixelPlace> places, const PixelScale& scale) {
     blocks_.clear();
-    for (const Surface::PixelPlace place : places) {
+    for (const PixelPlace place : places) {
       const int left = scale.Columns.Begin(ColumnOf(place));
       const int top = scale.Rows.Begin(RowOf(place));
       const int width = scale.Columns.End(ColumnOf(place)) - left;
@@ -94,14 +93,10 @@ class X11PointPainter : public PointPainter {
 
 /// nullopt if the window is gone.
 std::optional<xcb_visualid_t> VisualOf(xcb_connection_t* connection, xcb_window_t window) {
-  xcb_generic_error_t* error = nullptr;
-  xcb_get_window_attributes_reply_t* const attributes = xcb_get_window_attributes_reply(
-      connection, xcb_get_window_attributes(connection, window), &error);
-  std::optional<xcb_visualid_t> visual;
-  if (attributes != nullptr) visual = attributes->visual;
-  std::free(attributes);
-  std::free(error);
-  return visual;
+  const auto attributes = Ask(connection, xcb_get_window_attributes(connection, window),
+                              xcb_get_window_attributes_reply);
+  if (!attributes) return std::nullopt;
+  return attributes->visual;
 }
 
 /// Whether the server's pixel format is 0xRRGGBB.
@@ -127,12 +122,12 @@ bool KnowsOurColours(xcb_connection_t* connection, xcb_visualid_t visual) {
 }  // namespace
 
 std::unique_ptr<PointPainter> MakePointPainter(QWindow& window) {
-  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || x11->connection() == nullptr) return nullptr;
+  xcb_connection_t* const connection = ToolkitConnection();
+  if (connection == nullptr) return nullptr;
   const auto id = static_cast<xcb_window_t>(window.winId());
-  const auto visual = VisualOf(x11->connection(), id);
-  if (!visual || !KnowsOurColours(x11->connection(), *visual)) return nullptr;
-  return std::make_unique<X11PointPainter>(x11->connection(), id);
+  const auto visual = VisualOf(connection, id);
+  if (!visual || !KnowsOurColours(connection, *visual)) return nullptr;
+  return std::make_unique<X11PointPainter>(connection, id);
 }
 
 }  // namespace starfolds

@@ -15,18 +15,18 @@ void ScreenImage::PaintBlock(const PixelScale& scale, int x, int y, std::uint32_
 /// Most of a frame's cost is here, in scattered memory accesses: the one-to-one scale has a loop
 /// without any scaling.
 void ScreenImage::PaintPlaces(const PixelScale& scale, const Surface& surface,
-                              std::span<const Surface::PixelPlace> places) {
+                              std::span<const PixelPlace> places) {
   const Colour* const pixels = surface.Pixels().data();
   const std::ptrdiff_t width = surface.Width();
   if (scale.IsOneToOne()) {
-    for (const Surface::PixelPlace place : places) {
+    for (const PixelPlace place : places) {
       const int x = ColumnOf(place);
       const int y = RowOf(place);
       Line(y)[x] = ScreenWord(pixels[y * width + x]);
     }
     return;
   }
-  for (const Surface::PixelPlace place : places) {
+  for (const PixelPlace place : places) {
     const int x = ColumnOf(place);
     const int y = RowOf(place);
     PaintBlock(scale, x, y, ScreenWord(pixels[y * width + x]));

@@ -10,15 +10,6 @@
 
 namespace starfolds {
 
-/// Converts 0x00BBGGRR to 0xffRRGGBB.
-constexpr std::uint32_t ScreenWord(Colour colour) {
-  return 0xFF000000U | (colour & 0xFFU) << 16U | (colour & 0xFF00U) | (colour >> 16U & 0xFFU);
-}
-
-/// The coordinates of a journal entry.
-constexpr int ColumnOf(Surface::PixelPlace place) { return static_cast<int>(place & 0xFFFFU); }
-constexpr int RowOf(Surface::PixelPlace place) { return static_cast<int>(place >> 16U); }
-
 /// An image in memory that another object owns, in physical pixels of one word 0xffRRGGBB each. It
 /// is valid only until the owner reallocates the image, so it is created for every frame.
 class ScreenImage {
@@ -31,7 +22,7 @@ class ScreenImage {
 
   /// Paints the pixels of the surface that a journal lists.
   void PaintPlaces(const PixelScale& scale, const Surface& surface,
-                   std::span<const Surface::PixelPlace> places);
+                   std::span<const PixelPlace> places);
 
   /// Paints the whole surface, and black outside of it. `scale` must have been measured for the
   /// size of the surface.

@@ -6,20 +6,22 @@
 #include <vector>
 
 #include "numbers/words.h"
+#include "platform/colour.h"
 
 namespace starfolds {
 
-/// A colour, 0x00BBGGRR.
-using Colour = std::uint32_t;
+/// An entry of a surface's journal: y in the high, x in the low 16 bits.
+using PixelPlace = std::uint32_t;
+
+constexpr PixelPlace PlaceOfPixel(std::uint32_t x, std::uint32_t y) { return y << 16U | x; }
+constexpr int ColumnOf(PixelPlace place) { return static_cast<int>(place & 0xFFFFU); }
+constexpr int RowOf(PixelPlace place) { return static_cast<int>(place >> 16U); }
 
 /// A canvas of colours, and a journal of the pixels written since the last `Present`, from which a
 /// screen copies only what changed. The engine draws only with `SetPixelV`; a pixel keeps its
 /// colour until it is written again.
 class Surface {
  public:
-  /// One journal entry: y in the high, x in the low 16 bits.
-  using PixelPlace = std::uint32_t;
-
   /// `journalCapacity` is the number of writes between two `Present`s that are recorded one by one;
   /// after more (always with 0) the whole canvas counts as changed.
   explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0);
@@ -60,7 +62,7 @@ class Surface {
       const auto row = static_cast<std::uint32_t>(y);
       pixels_[static_cast<std::size_t>(row) * width_ + column] = colour;
       if (surface_.journalSize_ < journalCapacity_) {
-        journal_[surface_.journalSize_++] = row << 16U | column;
+        journal_[surface_.journalSize_++] = PlaceOfPixel(column, row);
       } else {
         surface_.everythingChanged_ = true;
       }

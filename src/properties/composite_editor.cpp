@@ -281,7 +281,7 @@ void CompositeEditor::PaintWarning() {
   const bool warning = MixesIfs();
   QPalette colours;
   if (warning) {
-    colours.setColor(QPalette::Base, QColor(ToRgb(kWarning)));
+    colours.setColor(QPalette::Base, QColor(ScreenWord(kWarning)));
     colours.setColor(QPalette::Text, Qt::black);
   }
   name_->setPalette(colours);

@@ -120,7 +120,7 @@ void SetText(QWidget* control, const std::string& text) {
 }
 
 QColor InkOf(int hue) {
-  return QColor::fromRgb(ToRgb(HueToRgb(static_cast<Integer>(hue), 55, 100, 100, 100)));
+  return QColor::fromRgb(ScreenWord(HueToRgb(static_cast<Integer>(hue), 55, 100, 100, 100)));
 }
 
 /// The line in its font and colour, drawn smaller where there is no room for it.

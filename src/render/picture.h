@@ -1,7 +1,6 @@
 // A finished picture for the file writers.
 #pragma once
 
-#include <cstdint>
 #include <span>
 
 #include "platform/surface.h"
@@ -23,9 +22,5 @@ struct Picture {
 inline Picture PictureOf(const Surface& surface) {
   return {surface.Width(), surface.Height(), surface.Pixels()};
 }
-
-constexpr std::uint8_t RedOf(Colour colour) { return static_cast<std::uint8_t>(colour); }
-constexpr std::uint8_t GreenOf(Colour colour) { return static_cast<std::uint8_t>(colour >> 8U); }
-constexpr std::uint8_t BlueOf(Colour colour) { return static_cast<std::uint8_t>(colour >> 16U); }
 
 }  // namespace starfolds

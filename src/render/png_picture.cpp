@@ -14,9 +14,9 @@ namespace {
 void AppendScaledRow(std::vector<std::uint8_t>& bytes, std::span<const Colour> row, int scale) {
   for (const Colour colour : row) {
     for (int i = 0; i < scale; ++i) {
-      bytes.push_back(RedOf(colour));
-      bytes.push_back(GreenOf(colour));
-      bytes.push_back(BlueOf(colour));
+      bytes.push_back(static_cast<std::uint8_t>(RedOf(colour)));
+      bytes.push_back(static_cast<std::uint8_t>(GreenOf(colour)));
+      bytes.push_back(static_cast<std::uint8_t>(BlueOf(colour)));
     }
   }
 }

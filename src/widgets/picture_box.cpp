@@ -7,17 +7,12 @@
 
 namespace starfolds {
 
-QRgb ToRgb(Colour colour) {
-  return qRgb(static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
-              static_cast<int>(colour >> 16U & 0xFFU));
-}
-
 QImage ImageOf(const Surface& surface) {
   QImage image(surface.Width(), surface.Height(), QImage::Format_RGB32);
   const Colour* pixel = surface.Pixels().data();
   for (int y = 0; y < surface.Height(); ++y) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < surface.Width(); ++x) *line++ = ToRgb(*pixel++);
+    for (int x = 0; x < surface.Width(); ++x) *line++ = ScreenWord(*pixel++);
   }
   return image;
 }
@@ -38,9 +33,9 @@ class PictureBox::Canvas : public Surface {
       box_.picture_ = ImageOf(*this);
     } else {
       for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
-        const auto x = static_cast<int>(*place & 0xFFFFU);
-        const auto y = static_cast<int>(*place >> 16U);
-        box_.picture_.setPixel(x, y, ToRgb(Pixel(x, y)));
+        const int x = ColumnOf(*place);
+        const int y = RowOf(*place);
+        box_.picture_.setPixel(x, y, ScreenWord(Pixel(x, y)));
       }
     }
     ForgetJournal();
@@ -72,7 +67,7 @@ void PictureBox::ShowPicture(const QImage& picture) {
 
 void PictureBox::FillFromLeft(int width, unsigned colour) {
   if (picture_.size() != size()) Clear();
-  QPainter(&picture_).fillRect(0, 0, width, height(), ToRgb(colour));
+  QPainter(&picture_).fillRect(0, 0, width, height(), ScreenWord(colour));
   repaint();
 }
 

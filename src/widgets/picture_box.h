@@ -40,9 +40,6 @@ class PictureBox : public QWidget, public ProgressPicture {
   QImage picture_;
 };
 
-/// Converts 0x00BBGGRR to Qt's colour.
-QRgb ToRgb(Colour colour);
-
 /// The whole surface as a picture.
 QImage ImageOf(const Surface& surface);
 

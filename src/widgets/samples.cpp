@@ -99,7 +99,7 @@ QImage StillOf(const std::vector<LitPixel>& lit, const Framing& framing, QSize s
   const auto add = [&](int x, int y, Colour light, double share) {
     if (!picture.valid(x, y)) return;
     QRgb& pixel = reinterpret_cast<QRgb*>(picture.scanLine(y))[x];
-    const QRgb more = ToRgb(light);
+    const QRgb more = ScreenWord(light);
     const auto sum = [share](int a, int b) {
       return std::min(a + static_cast<int>(b * share), 255);
     };
@@ -273,7 +273,7 @@ void DrawEdge(QImage& picture, const QPainterPath& edge) {
 template <class ColourAt>
 void DrawStrip(QImage& picture, ColourAt colourAt) {
   for (int x = 0; x < picture.width(); ++x) {
-    const QRgb rgb = ToRgb(colourAt((x + 0.5) / picture.width()));
+    const QRgb rgb = ScreenWord(colourAt((x + 0.5) / picture.width()));
     for (int y = 0; y < picture.height(); ++y) picture.setPixel(x, y, rgb);
   }
   QPainterPath edge;
@@ -300,7 +300,7 @@ void DrawRing(QImage& picture, ColourAt colourAt) {
       const double cover =
           std::clamp(std::min(radius - distance, distance - radius * kRingHole) + 0.5, 0.0, 1.0);
       if (cover <= 0) continue;
-      QColor color(ToRgb(colourAt(PlaceOnRing(right, down))));
+      QColor color(ScreenWord(colourAt(PlaceOnRing(right, down))));
       color.setAlphaF(static_cast<float>(cover));
       picture.setPixelColor(x, y, color);
     }

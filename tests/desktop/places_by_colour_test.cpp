@@ -12,10 +12,10 @@
 namespace starfolds {
 namespace {
 
-using Sorted = std::map<Colour, std::vector<Surface::PixelPlace>>;
+using Sorted = std::map<Colour, std::vector<PixelPlace>>;
 
 /// What a sorting by hand gives.
-Sorted ByHand(const Surface& surface, std::span<const Surface::PixelPlace> places) {
+Sorted ByHand(const Surface& surface, std::span<const PixelPlace> places) {
   Sorted sorted;
   for (const auto place : places) {
     sorted[surface.Pixel(ColumnOf(place), RowOf(place))].push_back(place);

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "desktop/x11_reply.h"
+#include "desktop/x11_connection.h"
 
 namespace starfolds {
 

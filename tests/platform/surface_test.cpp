@@ -43,8 +43,7 @@ TEST(SurfaceTest, TheJournalNamesEveryWrittenPlaceUntilItIsFull) {
   surface.SetPixelV(300, 6, 3);
   EXPECT_FALSE(surface.EverythingChanged());
   surface.Present();
-  EXPECT_EQ(surface.Changed,
-            (std::vector<Surface::PixelPlace>{199U << 16U | 299U, 6U << 16U | 5U}));
+  EXPECT_EQ(surface.Changed, (std::vector<PixelPlace>{199U << 16U | 299U, 6U << 16U | 5U}));
   for (Long x = 0; x < 4; ++x) surface.SetPixelV(x, 0, 1);
   EXPECT_TRUE(surface.EverythingChanged()) << "a fourth write has no room";
 }
