@@ -217,7 +217,7 @@ int main(int argc, char** argv) {
   process.Tree = &tree;
   process.Events = &events;
   process.Desktop = &desktop;
-  FrmProps dialog({process, boxes, disk, help, "/", "/", [] { return 1U; }});
+  FrmProps dialog({process, tree, boxes, disk, help, "/", "/", [] { return 1U; }});
   dialog.Open();
   dialog.resize(1280, 700);
   QDir().mkpath(argv[1]);
