@@ -20,7 +20,7 @@ void UniverseFrames(benchmark::State& state, int skip, int frames) {
       if (stage.FramesShown == skip + 1) state.ResumeTiming();
       if (stage.FramesShown == skip + 1 + frames) {
         state.PauseTiming();
-        stage.Process->StopRun = true;
+        stage.Process->Requests.AskStop();
       }
     };
     UniverseRun(*stage.Process);

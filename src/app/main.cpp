@@ -65,7 +65,7 @@ void ShowEffect(ProcessState& process, RunMode mode, StartActions& windows) {
 
 /// Ends with the saver that started it, and does not search for running savers.
 void RunCompanion(ProcessState& process, StartActions& windows) {
-  const OwnerWatch owner([&] { process.QuitApp = process.StopRun = true; });
+  const OwnerWatch owner([&] { process.Requests.AskQuit(); });
   ShowEffect(process, RunMode::ScreenSaver, windows);
 }
 
@@ -151,15 +151,14 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   process->Events = &pump;
   process->Desktop = desktop.get();
   process->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || process->QuitApp; });
+  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || process->Requests.QuitApp(); });
   MigrateMachineSettings(tree);
   BeginningTree edited(tree);
   OverriddenTree overridden(edited);
   overridden.Override(options.Changes);
   process->Tree = &overridden;
   stopSignals.Watch([&] {
-    process->QuitApp = true;
-    process->StopRun = true;
+    process->Requests.AskQuit();
     CloseDialogs();
   });
 

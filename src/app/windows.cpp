@@ -59,7 +59,7 @@ void AppWindows::ShowFrmSaver() {
     const std::string number = std::to_string(options_.Screen.value_or(1));
     return Fail("there is no screen " + number, kExitCannotDo);
   }
-  const OtherScreens others(options_, [this] { process_.QuitApp = process_.StopRun = true; });
+  const OtherScreens others(options_, [this] { process_.Requests.AskQuit(); });
   FrmSaver(process_, seed_, *place).Load();
 }
 

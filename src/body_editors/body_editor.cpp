@@ -132,7 +132,7 @@ bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::Resize) {
     resized_ = true;
     if (preview_.IsOn()) {
-      model_.Process.NewRun = true;
+      model_.Process.Requests.AskNewRun();
     } else {
       Touched();
     }
@@ -183,7 +183,7 @@ void BodyEditor::RunPreview() {
     process.Universe = universe;  // some of it affects the run of a single body as well
     PreviewEditedBody(process, picPreview_->BeginRun(), PreviewIn(universe, editBody_, false),
                       seed_());
-  } while (resized_ && !process.StopRun);
+  } while (resized_ && !process.Requests.StopRun());
 }
 
 /// Shows the body with the editor's values, until a preview runs.

@@ -7,7 +7,6 @@
 #include "hosting/lock_message.h"
 #include "hosting/saved_picture.h"
 #include "settings/registry.h"
-#include "settings/stored_records.h"
 #include "universe/host_surface.h"
 #include "widgets/captions.h"
 #include "widgets/picture_box.h"
@@ -49,7 +48,7 @@ FrmAppExe::FrmAppExe(ProcessState& process, SeedSource seed, ShowPropertiesDialo
 FrmAppExe::~FrmAppExe() { process_.Screen.hDCDraw = nullptr; }
 
 void FrmAppExe::Activate() {
-  while (!started_ && !process_.QuitApp) {
+  while (!started_ && !process_.Requests.QuitApp()) {
     started_ = true;
     AppRun();
   }
@@ -64,7 +63,7 @@ void FrmAppExe::SavePlacement() {
 
 bool FrmAppExe::WantsFrame() const {
   if (shape_.FullScreen) return false;
-  return shape_.Size || shape_.Framed || LoadAdvancedFromRegistry(*process_.Tree).Adv_WinResize;
+  return shape_.Size || shape_.Framed || process_.Advanced.Adv_WinResize;
 }
 
 /// Does nothing if the window already has the state that the settings ask for.
@@ -83,7 +82,7 @@ void FrmAppExe::ShowFramed() {
   surface_.ShowPointer();
   surface_.ShowResizable([this](QWindow& window) {
     PlacedQtWindow placed(window);
-    if (!shape_.Size && LoadAdvancedFromRegistry(*process_.Tree).Adv_WinResize) {
+    if (!shape_.Size && process_.Advanced.Adv_WinResize) {
       RestoreWindowPlacement(placed, *process_.Tree, sections::kGeneral);
     } else {
       if (shape_.Size) window.resize(*shape_.Size);
@@ -101,8 +100,8 @@ void FrmAppExe::ShowKeys() {
 /// The surface is resized to the window only here: a window that is resized during a run gets a
 /// matching surface with the next run. Clears the flags that asked for this run.
 void FrmAppExe::AppRun() {
-  process_.StopRun = false;
-  process_.NewRun = false;
+  process_.Requests.BeginRun();
+  ReadAdvancedSettings(process_);
   Show();
   WaitUntilShown(process_, surface_);
   surface_.TakeWindowSize();
@@ -114,22 +113,19 @@ void FrmAppExe::AppRun() {
   running_ = false;
 }
 
-void FrmAppExe::AppQuit() {
-  process_.QuitApp = true;
-  process_.StopRun = true;
-}
+void FrmAppExe::AppQuit() { process_.Requests.AskQuit(); }
 
 /// Ends the run at its next frame, in any stage; `Activate` then starts another one. A run started
 /// from here would nest in the pump of the old one and keep its memory until the end.
 void FrmAppExe::BeginAnew() {
   started_ = false;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
 }
 
 void FrmAppExe::ShowProperties(bool help) {
   SavePlacement();
   frmProps_(surface_.Window(), help);
-  if (process_.QuitApp) return AppQuit();
+  if (process_.Requests.QuitApp()) return;
   BeginAnew();
 }
 
@@ -139,9 +135,9 @@ void FrmAppExe::TogglePause() {
   paused_ = !paused_;
   if (!paused_) return hints_.Hide();
   hints_.Show("Paused. Ctrl+P: go on", "Paused", kForGood);
-  while (paused_ && !process_.StopRun) {
+  while (paused_ && !process_.Requests.StopRun()) {
     process_.Events->PumpEvents();
-    if (paused_ && !process_.StopRun) process_.Events->WaitForEvents(kPauseLookMs);
+    if (paused_ && !process_.Requests.StopRun()) process_.Events->WaitForEvents(kPauseLookMs);
   }
   paused_ = false;
   hints_.Hide();

@@ -4,7 +4,6 @@
 
 #include "hosting/lock_message.h"
 #include "hosting/saver_password.h"
-#include "settings/stored_records.h"
 #include "universe/host_surface.h"
 #include "widgets/captions.h"
 
@@ -14,8 +13,8 @@ FrmSaver::FrmSaver(ProcessState& process, SeedSource seed, ScreenPlace place)
     : process_(process),
       seed_(std::move(seed)),
       place_(place),
-      backG_(LoadAdvancedFromRegistry(*process.Tree).Adv_DispBackG),
-      input_(LoadAdvancedFromRegistry(*process.Tree).Adv_MouseMove, backG_),
+      backG_(ReadAdvancedSettings(process).Adv_DispBackG),
+      input_(process.Advanced.Adv_MouseMove, backG_),
       surface_(*this),
       picMessage_(surface_.Window()) {
   surface_.SetName("frmSaver");
@@ -32,16 +31,19 @@ void FrmSaver::Load() {
   surface_.HidePointer();
   surface_.ShowFullScreen(backG_ ? Stacking::AtBottom : Stacking::OnTop, place_);
   StackSaver(process_, backG_);
-  process_.StopRun = false;
+  process_.Requests.BeginRun();
   do {
     RunInWindow();
-  } while (outgrown_ && !leaving_ && !process_.QuitApp);
+  } while (outgrown_ && !leaving_ && !process_.Requests.QuitApp());
 }
 
 /// A screen that is resized ends the run; the next run has the new size.
 void FrmSaver::RunInWindow() {
-  if (outgrown_) process_.StopRun = false;
-  outgrown_ = false;
+  if (outgrown_) {
+    outgrown_ = false;
+    process_.Requests.BeginRun();
+    ReadAdvancedSettings(process_);
+  }
   WaitUntilShown(process_, surface_);
   surface_.TakeWindowSize();
   SetupDisplay(process_, surface_, seed_());
@@ -76,12 +78,12 @@ void FrmSaver::CloseRequested() { QueryUnload(); }
 void FrmSaver::Resized() {
   if (!running_ || surface_.HasWindowSize()) return;
   outgrown_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
 }
 
 void FrmSaver::Destroyed() {
   leaving_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
 }
 
 /// The password dialog processes window events itself. If the password is wrong, the run continues
@@ -89,9 +91,9 @@ void FrmSaver::Destroyed() {
 void FrmSaver::QueryUnload() {
   if (leaving_) return;
   leaving_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
   leaving_ = VerifySaverPassword(process_);
-  if (!leaving_) process_.StopRun = process_.QuitApp;
+  if (!leaving_) process_.Requests.TakeBackStop();
 }
 
 }  // namespace starfolds

@@ -19,19 +19,25 @@ GuestWindow::~GuestWindow() { process_.Screen.hDCDraw = nullptr; }
 bool GuestWindow::Run(bool smallPreview) {
   const GuestOrder order = smallPreview ? GuestOrder::Top : GuestOrder::Bottom;
   if (!host_ || !surface_.ShowInside(*host_, order)) return false;
-  process_.StopRun = hostGone_ || process_.QuitApp;
+  BeginRun();
   smallPreview_ = smallPreview;
   WaitUntilShown(process_, surface_);
   do {
     RunAtHostsSize();
-  } while (beginAnew_ && !hostGone_ && !process_.QuitApp);
+  } while (beginAnew_ && !hostGone_ && !process_.Requests.QuitApp());
   return true;
 }
 
-void GuestWindow::RunAtHostsSize() {
+void GuestWindow::BeginRun() {
   beginAnew_ = false;
-  process_.StopRun = hostGone_ || process_.QuitApp;
+  process_.Requests.BeginRun();
+  if (hostGone_) process_.Requests.AskStop();
+}
+
+void GuestWindow::RunAtHostsSize() {
+  BeginRun();
   surface_.TakeSize(host_->Size());
+  ReadAdvancedSettings(process_);
   SetupDisplay(process_, surface_, seed_());
   if (!smallPreview_) ShowLockMessage(picMessage_, process_.Advanced);
   RunEffect(process_, surface_, smallPreview_);
@@ -41,12 +47,12 @@ void GuestWindow::RunAtHostsSize() {
 /// here would nest in the pump of the old one.
 void GuestWindow::HostResized() {
   beginAnew_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
 }
 
 void GuestWindow::HostGone() {
   hostGone_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
 }
 
 /// The window is resized some time after the host's; then the message must be centred again.

@@ -30,6 +30,7 @@ class GuestWindow : private WindowEvents, private ForeignWindowEvents {
   void Resized() override;
   void Destroyed() override;
 
+  void BeginRun();
   void RunAtHostsSize();
 
   ProcessState& process_;

@@ -51,7 +51,7 @@ void OpenProperties(ProcessState& process, StartActions& actions) {
 }  // namespace
 
 void ShowEffectWindow(ProcessState& process, StartActions& actions) {
-  process.StopRun = false;
+  process.Requests.BeginRun();
   if (process.Mode == RunMode::ScreenSaver) {
     SetSaverRunning(process, true);
     actions.ShowFrmSaver();
@@ -87,9 +87,7 @@ void DispatchCommandLine(ProcessState& process, const std::string& commandLine,
 }
 
 void Main(ProcessState& process, const StartUp& start, StartActions& actions) {
-  process.QuitApp = false;
-  process.StopRun = false;
-  process.NewRun = false;
+  process.Requests = {};
   if (IsPlainApplication(start, actions)) {
     process.Mode = RunMode::Application;
     ShowEffectWindow(process, actions);

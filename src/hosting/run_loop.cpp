@@ -28,14 +28,14 @@ double SecondsSinceMidnight() { return QTime::currentTime().msecsSinceStartOfDay
 void WaitUntilShown(ProcessState& process, const WindowSurface& surface) {
   const Long begin = process.Events->TickCount();
   Long passed = 0;
-  while (!process.StopRun && !surface.IsExposed() && passed < kLongestShowMs) {
+  while (!process.Requests.StopRun() && !surface.IsExposed() && passed < kLongestShowMs) {
     process.Events->WaitForEvents(kLongestShowMs - passed);
     passed = TicksBetween(begin, process.Events->TickCount());
   }
 }
 
 void RunEffect(ProcessState& process, Surface& surface, bool smallPreview) {
-  while (!process.StopRun) {
+  while (!process.Requests.StopRun()) {
     if (!smallPreview) EnsureBodies(process);
     ReadUniverseSettings(process, smallPreview);
     ResetSurface(surface);

@@ -41,7 +41,7 @@ class StopwatchPump : public Pump {
   Long TickCount() override { return static_cast<Long>(Seconds() * 1000); }
   void PumpEvents() override {
     ++frames_;
-    if (Seconds() >= seconds_) process_.StopRun = true;
+    if (Seconds() >= seconds_) process_.Requests.AskStop();
   }
   void WaitForEvents(Long) override { PumpEvents(); }
   void WaitForRefresh() override {}
@@ -92,6 +92,7 @@ FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width,
   process->Tree = &tree;
   process->Events = &events;
   process->Desktop = &desktop;
+  ReadAdvancedSettings(*process);
   SetupDisplay(*process, surface, kSeed);
   process->Screen.FrameDelayMs = 0;
   ReadUniverseSettings(*process, false);

@@ -126,7 +126,7 @@ void FrmAbout::showEvent(QShowEvent* event) {
 /// A click shows the next body.
 void FrmAbout::mousePressEvent(QMouseEvent* event) {
   const QPoint place = picAbout_->mapFrom(this, event->pos());
-  if (picAbout_->isVisible() && picAbout_->rect().contains(place)) running_->NewRun = true;
+  if (picAbout_->isVisible() && picAbout_->rect().contains(place)) running_->Requests.AskNewRun();
 }
 
 void FrmAbout::done(int result) {
@@ -142,7 +142,7 @@ void FrmAbout::Run() {
   LoadFactorySet(*factory, FactorySet::Starfolds4x);
   Integer body = 0;
   const PreviewEnd end = run_.Start([&] {
-    while (!running_->StopRun) {
+    while (!running_->Requests.StopRun()) {
       TakeUniverseSettings(*running_, *factory, false);
       Surface& surface = picAbout_->BeginRun();
       SetupPreviewSurface(*running_, surface, true, kZoom, around_.Seed());

@@ -10,6 +10,7 @@
 #include "platform/saver_platform.h"
 #include "platform/surface.h"
 #include "prepared/prepared.h"
+#include "process/run_requests.h"
 #include "settings/fields.h"
 #include "settings/records.h"
 
@@ -63,9 +64,7 @@ struct ProcessState {
   Rnd Random;
 
   RunMode Mode = RunMode::Application;
-  bool StopRun = false;  // the effect must stop for good
-  bool NewRun = false;   // this run must be abandoned for one with fresh settings
-  bool QuitApp = false;  // the application must end, and no further run begin in it
+  RunRequests Requests;
   Long PreviewParent = 0;
 
   // The machine. All of it is set before a run begins and outlives it.

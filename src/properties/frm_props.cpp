@@ -73,7 +73,7 @@ FrmProps::~FrmProps() = default;
 
 void FrmProps::ShowModal() {
   Open();
-  while (open_ && !around_.Process.QuitApp) {
+  while (open_ && !around_.Process.Requests.QuitApp()) {
     constexpr Long aWhile = 1000;
     around_.Process.Events->WaitForEvents(aWhile);
   }
@@ -95,7 +95,7 @@ void FrmProps::Open() {
 void FrmProps::closeEvent(QCloseEvent* event) {
   if (preview_.DelaysClose()) return event->ignore();
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
-  around_.Process.NewRun = true;
+  around_.Process.Requests.AskNewRun();
   open_ = false;
   around_.HelpBook.Quit();
   event->accept();
@@ -356,7 +356,7 @@ void FrmProps::Accept() {
 }
 
 void FrmProps::Exit() {
-  around_.Process.QuitApp = true;
+  around_.Process.Requests.AskQuit();
   close();
 }
 

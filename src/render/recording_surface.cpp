@@ -7,7 +7,7 @@ void RecordingSurface::Present() {
   ++frame_;
   if (plan_.Writes(frame_)) WriteFrame();
   if (OnFrame) OnFrame(frame_);
-  if (frame_ >= plan_.Frames || trouble_) stopRun_ = true;
+  if (frame_ >= plan_.Frames || trouble_) requests_.AskStop();
 }
 
 void RecordingSurface::WriteFrame() {

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "process/run_requests.h"
 #include "render/frame_sinks.h"
 
 namespace starfolds {
@@ -14,10 +15,10 @@ class RecordingSurface : public MemorySurface {
   /// Called after every frame, written or not.
   std::function<void(FrameNumber)> OnFrame;
 
-  /// `stopRun` is the run's flag. All arguments but `plan` must outlive the surface.
+  /// All arguments but `plan` must outlive the surface.
   RecordingSurface(Integer width, Integer height, const FramePlan& plan, const FrameSinks& sinks,
-                   bool& stopRun)
-      : MemorySurface(width, height), plan_(plan), sinks_(sinks), stopRun_(stopRun) {}
+                   RunRequests& requests)
+      : MemorySurface(width, height), plan_(plan), sinks_(sinks), requests_(requests) {}
 
   void Present() override;
 
@@ -29,7 +30,7 @@ class RecordingSurface : public MemorySurface {
 
   FramePlan plan_;
   const FrameSinks& sinks_;
-  bool& stopRun_;
+  RunRequests& requests_;
   FrameNumber frame_ = 0;
   Fault trouble_;
 };

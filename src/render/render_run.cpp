@@ -53,9 +53,10 @@ Fault Render(const RenderOptions& options, SettingsRecords& records) {
 
   RecordingSurface surface(static_cast<Integer>(options.Width),
                            static_cast<Integer>(options.Height), options.Plan, sinks,
-                           process->StopRun);
+                           process->Requests);
   Progress progress(options.Plan.Frames, ErrorIsTerminal());
   surface.OnFrame = [&](FrameNumber frame) { progress.Show(frame); };
+  ReadAdvancedSettings(*process);
   SetupDisplay(*process, surface, options.Seed);
   ReadUniverseSettings(*process, false);
   RunEffect(*process, options);

@@ -297,7 +297,7 @@ void CreateUniverse(UniverseScene& scene) {
 
   for (int frame = 0; frame < universe.Universe_ESteps; ++frame) {
     if (!CreationFrame(scene, birth, frame)) return;
-    if (process.NewRun) break;
+    if (process.Requests.NewRun()) break;
   }
   StopAmbientStars(scene.Arrays.Ambient);
   for (std::size_t i = 0; i < birth.Stars.size(); ++i) {

@@ -15,14 +15,14 @@ bool FrameWait(ProcessState& process) {
   bool waited = false;
   while (true) {
     events.PumpEvents();
-    if (process.StopRun) return true;
+    if (process.Requests.StopRun()) return true;
     const std::int64_t passed = TickDistance(events.TickCount(), process.Screen.FrameStartTick);
     if (passed >= process.Screen.FrameDelayMs) break;
     events.WaitForEvents(static_cast<Long>(process.Screen.FrameDelayMs - passed));
     waited = true;
   }
   if (!waited) events.WaitForRefresh();
-  return process.StopRun;
+  return process.Requests.StopRun();
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ bool FramePace(ProcessState& process) {
   process.Screen.hDCDraw->Present();
   const bool stop = FrameWait(process);
   if (process.Mode == RunMode::Preview && !process.Desktop->IsWindow(process.PreviewParent)) {
-    process.StopRun = true;
+    process.Requests.AskStop();
     return true;
   }
   return stop;
@@ -46,7 +46,7 @@ void PumpOneTick(ProcessState& process) {
   do {
     process.Events->PumpEvents();
     if (process.Events->TickCount() == begin) process.Events->WaitForEvents(1);
-  } while (!process.StopRun && process.Events->TickCount() == begin);
+  } while (!process.Requests.StopRun() && process.Events->TickCount() == begin);
 }
 
 }  // namespace starfolds

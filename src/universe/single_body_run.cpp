@@ -64,10 +64,7 @@ void SingleBodyRun(ProcessState& process, const SingleBodyPlan& plan) {
     StepNebulaRibbons(process, arrays.Slots, arrays.Folds.StarfoldProf);
     if (plan.FrameLimit && ++frames >= *plan.FrameLimit) return;
     if (FramePace(process)) return;
-    if (process.NewRun) {
-      process.NewRun = false;
-      return;
-    }
+    if (process.Requests.TakeNewRun()) return;
   }
 }
 

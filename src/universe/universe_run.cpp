@@ -80,11 +80,7 @@ bool TourFrame(UniverseTour& tour) {
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
   StepNebulaRibbons(process, run.Slots, run.Folds.StarfoldProf);
-  if (process.NewRun) {
-    process.NewRun = false;
-    return false;
-  }
-  return !FramePace(process);
+  return !process.Requests.TakeNewRun() && !FramePace(process);
 }
 
 /// One frame of the pull-out. It is not stamped, so it waits for the screen and not for the frame's
@@ -156,12 +152,7 @@ bool Create(UniverseTour& tour) {
     process.Prepared[p].HueWheel = process.Profiles[p].Starfold_HueStart;
   }
   CreateUniverse(tour.Scene);
-  if (process.StopRun) return false;
-  if (process.NewRun) {
-    process.NewRun = false;
-    return false;
-  }
-  return true;
+  return !process.Requests.StopRun() && !process.Requests.TakeNewRun();
 }
 
 bool VisitAll(UniverseTour& tour) {

@@ -1,7 +1,6 @@
 #include "widgets/preview_runs.h"
 
 #include "numbers/conversions.h"
-#include "settings/stored_records.h"
 #include "universe/host_surface.h"
 #include "universe/single_body_run.h"
 #include "universe/universe_run.h"
@@ -15,7 +14,8 @@ constexpr Integer kHighestHue = 999;
 /// them within their ranges.
 void SetUpPreview(ProcessState& process, Surface& surface, bool fixedView,
                   const BodyPreview& preview, std::uint64_t seed) {
-  if (!fixedView) process.Screen.FocalLength = LoadAdvancedFromRegistry(*process.Tree).FocalLength;
+  ReadAdvancedSettings(process);
+  if (!fixedView) process.Screen.FocalLength = process.Advanced.FocalLength;
   SetupPreviewSurface(process, surface, fixedView, 1, seed);
   for (StarfoldProfile& profile : process.Profiles) ClampProfile(profile);
   for (CompositeProfile& composite : process.Composites) ClampComposite(composite);
@@ -80,15 +80,14 @@ void PreviewEditedBody(ProcessState& process, Surface& surface, const BodyPrevie
 }
 
 PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {
-  if (on_ || process_.QuitApp) return PreviewEnd::Refused;
+  if (on_ || process_.Requests.QuitApp()) return PreviewEnd::Refused;
   on_ = true;
   stopped_ = closing_ = false;
-  process_.StopRun = false;
-  process_.NewRun = false;
+  process_.Requests.BeginRun();
   run();
   on_ = false;
-  if (stopped_ && !closing_ && !process_.QuitApp) process_.StopRun = false;
-  process_.NewRun = true;  // a run of another host restarts with the edited settings
+  if (stopped_ && !closing_) process_.Requests.TakeBackStop();
+  process_.Requests.AskNewRun();  // a run of another host restarts with the edited settings
   return closing_ ? PreviewEnd::Close : PreviewEnd::Stopped;
 }
 
@@ -96,14 +95,14 @@ PreviewEnd PreviewSwitch::Start(const std::function<void()>& run) {
 void PreviewSwitch::Stop() {
   if (!on_) return;
   stopped_ = true;
-  process_.NewRun = true;
-  process_.StopRun = true;
+  process_.Requests.AskNewRun();
+  process_.Requests.AskStop();
 }
 
 bool PreviewSwitch::DelaysClose() {
   if (!on_) return false;
   closing_ = true;
-  process_.StopRun = true;
+  process_.Requests.AskStop();
   return true;
 }
 

@@ -27,7 +27,7 @@ class WatchfulPump : public Pump {
 
  private:
   void Watch() {
-    if (process_.QuitApp) run_.StopRun = true;
+    if (process_.Requests.QuitApp()) run_.Requests.AskStop();
   }
 
   ProcessState& process_;

@@ -35,7 +35,7 @@ class BodyEditorsTest : public EditorTest {
     Props.Universe.Universe_Stars = 300;
     Events.OnTooLong = [this] {
       ADD_FAILURE() << "the run does not end";
-      Process->StopRun = true;
+      Process->Requests.AskStop();
     };
   }
 

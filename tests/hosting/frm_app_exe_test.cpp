@@ -79,20 +79,20 @@ TEST_F(FrmAppExeTest, ShowsThePropertiesAndBeginsAnewWithThem) {
   InDialog = [&] {
     Store("Universe", "Universe_Stars", 70);
     Store("Advanced", "Adv_WinResize", Dialogs == 1 ? 1 : 0);
-    State->NewRun = true;
+    State->Requests.AskNewRun();
   };
   Events.Plan[20] = [&] { Press(Window(), Qt::Key_Space); };
   Events.Plan[21] = [&] {
     EXPECT_EQ(Seeds, 2);
     EXPECT_EQ(State->Universe.Universe_Stars, 70);
-    EXPECT_FALSE(State->NewRun) << "the fresh run would end at once";
+    EXPECT_FALSE(State->Requests.NewRun()) << "the fresh run would end at once";
     EXPECT_EQ(Window().title(), "TSLN:Starfolds 4.1a");
     EXPECT_EQ(State->Screen.SurfaceWidth, Window().width());
     Click(Window());
   };
   Events.Plan[22] = [&] {
     EXPECT_EQ(Window().title(), "");
-    InDialog = [&] { State->QuitApp = true; };
+    InDialog = [&] { State->Requests.AskQuit(); };
     Click(Window());
   };
   EXPECT_EQ(Run(), 22);
@@ -160,7 +160,7 @@ TEST_F(FrmAppExeTest, HasTheShapeThatTheStartAsksFor) {
     Store("General", "WindowState", 0);
     RegistryWrite(Tree, "General", "WindowSize", "00300004500900006000");
     Events.Pumps = 0;
-    State->QuitApp = false;
+    State->Requests = {};
     Events.Plan[2] = [&] {
       EXPECT_EQ(Window().size(), c.Expected);
       EXPECT_EQ(State->Screen.SurfaceWidth, c.Expected.width());

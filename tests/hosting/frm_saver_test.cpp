@@ -52,7 +52,7 @@ TEST_F(FrmSaverTest, CoversTheScreenUnderItsName) {
 TEST_F(FrmSaverTest, EndsInTheFrameOfAButtonOrMoves) {
   Events.Plan[5] = [&] { Click(Window()); };
   EXPECT_EQ(Run(), 5);
-  EXPECT_TRUE(State->StopRun);
+  EXPECT_TRUE(State->Requests.StopRun());
   Events.Pumps = 0;
   Events.Plan.clear();
   for (int pump = 1; pump <= 8; ++pump) {
@@ -101,7 +101,7 @@ TEST_F(FrmSaverTest, OnItsOwnScreenOnlyHasTheCaption) {
   Events.Plan[2] = [&] {
     EXPECT_EQ(Window().title(), "");
     EXPECT_TRUE(Window().flags().testFlag(Qt::WindowDoesNotAcceptFocus));
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   Form->Load();
 }
@@ -122,7 +122,7 @@ class FrmSaverPassword : public FrmSaverTest {
     Events.Plan = {{key, [&] { Press(Window(), Qt::Key_A); }}};
     Events.Plan[frames] = [&] {
       picture = State->Screen.hDCDraw->Pixels();
-      State->StopRun = true;
+      State->Requests.AskStop();
     };
     EXPECT_EQ(Run(), frames);
     return picture;
@@ -168,7 +168,7 @@ TEST_F(FrmSaverPassword, IsAskedForOnceAtATime) {
   Events.Plan[3] = [&] { Press(Window(), Qt::Key_A); };
   Events.Plan[4] = [&] {
     EXPECT_THAT(dialog.Log, ElementsAre("behind -1", "verify"));
-    dialog.Meanwhile = [&] { State->QuitApp = State->StopRun = true; };
+    dialog.Meanwhile = [&] { State->Requests.AskQuit(); };
     Press(Window(), Qt::Key_A);
   };
   EXPECT_EQ(Run(), 4) << "the system's request to end was lost";

@@ -38,8 +38,8 @@ class GuestTest : public HostTest {
   /// What the host has done reaches the guest through the server, some time later.
   void AwaitStop() {
     const QDeadlineTimer patience(10000);
-    while (!State->StopRun && !patience.hasExpired()) QCoreApplication::processEvents();
-    EXPECT_TRUE(State->StopRun);
+    while (!State->Requests.StopRun() && !patience.hasExpired()) QCoreApplication::processEvents();
+    EXPECT_TRUE(State->Requests.StopRun());
   }
 
   /// One for all tests: another one's windows would have the numbers of former ones, whose last
@@ -60,7 +60,7 @@ TEST_F(GuestTest, APreviewHasFewerStarsThanASaver) {
     EXPECT_EQ(State->Universe.Universe_AmStar, ambient);
     EXPECT_EQ(State->Screen.SurfaceWidth, 320);
     EXPECT_EQ(State->Screen.SurfaceHeight, 200);
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   Events.Plan[5] = [&] { end(32, 20); };
   EXPECT_EQ(RunPreview(), 5);
@@ -74,13 +74,13 @@ TEST_F(GuestTest, APreviewIsAboveTheHostsOwnChildrenAndASaverBelow) {
   Events.Plan[3] = [&] {
     EXPECT_EQ(Host.Children().front(), own);
     EXPECT_EQ(Host.Children().size(), 2U);
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   RunPreview();
   Events.Plan[6] = [&] {
     EXPECT_EQ(Host.Children().back(), own);
     EXPECT_EQ(Host.Children().size(), 2U);
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   EXPECT_EQ(RunSaver(), 6);
 }
@@ -99,7 +99,7 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
   };
   Events.Plan[5] = [&] {
     EXPECT_EQ(message(), nullptr);
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   RunPreview();
   Events.Plan[10] = [&] {
@@ -111,7 +111,7 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
     const QDeadlineTimer patience(10000);
     while (!isCentred(*message(), 500) && !patience.hasExpired()) QCoreApplication::processEvents();
     EXPECT_TRUE(isCentred(*message(), 500));
-    State->StopRun = true;
+    State->Requests.AskStop();
   };
   EXPECT_EQ(RunSaver(), 11);
 }
@@ -134,7 +134,7 @@ TEST_F(GuestTest, BeginsAtOnceAtTheHostsNewSize) {
       EXPECT_EQ(State->Screen.SurfaceWidth, static_cast<int>(size));
       EXPECT_EQ(State->Screen.CenterY, 150);
       EXPECT_EQ(State->Screen.hDCDraw->Height(), 300);
-      State->StopRun = size == 560;
+      if (size == 560) State->Requests.AskStop();
     };
   }
   EXPECT_EQ(RunSaver(), 64);

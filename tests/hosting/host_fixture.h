@@ -33,7 +33,7 @@ class PlannedPump : public CountedPump {
     QCoreApplication::processEvents();
     ++Pumps;
     if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
-    if (Pumps >= kLongestRun) process_.StopRun = process_.QuitApp = true;
+    if (Pumps >= kLongestRun) process_.Requests.AskQuit();
   }
 
  private:

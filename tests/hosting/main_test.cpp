@@ -34,7 +34,7 @@ class NotedActions : public StartActions {
   void Note(const std::string& what) {
     const char* const modes[] = {"as application", "as saver", "as preview"};
     Notes.push_back(what + " " + modes[static_cast<int>(process_.Mode)] +
-                    (process_.StopRun ? ", stopped" : ""));
+                    (process_.Requests.StopRun() ? ", stopped" : ""));
   }
 
   const ProcessState& process_;

@@ -17,7 +17,7 @@ TEST(FrmAbout, ClosesWithTheProcessAndSoDoTheCredits) {
   process->Desktop = &desktop;
   FrmAbout about({*process, helpBook, "1.2.3", [] { return 1U; }});
   const auto end = [&] {
-    process->QuitApp = true;
+    process->Requests.AskQuit();
     about.close();
   };
   events.OnTooLong = [&] {

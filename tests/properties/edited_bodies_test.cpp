@@ -92,7 +92,7 @@ TEST_F(EditedBodiesTest, AProcessThatEndsTakesAPreviewInAnEditorWithIt) {
   EditType<FrmUserDefIfs>(kOfPoints, 8, "cmdIFS_Chem", [&](FrmUserDefIfs& editor) {
     Events.Pumps = 0;
     Events.Plan = {{5, [&] {
-                      Process->QuitApp = true;
+                      Process->Requests.AskQuit();
                       editor.close();
                       Dialog->close();
                     }}};

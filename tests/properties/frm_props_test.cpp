@@ -148,7 +148,7 @@ TEST_F(FrmPropsTest, CancelLeavesTheTreeAsItWas) {
   Click("cmdAccept");
   Click("cmdDismiss");
   EXPECT_EQ(Contents(LoadSettings(Tree)), Contents(LoadSettings(const_cast<MemoryTree&>(before))));
-  EXPECT_TRUE(Process->NewRun);
+  EXPECT_TRUE(Process->Requests.NewRun());
   EXPECT_NE(RegistryReadText(Tree, sections::kMain, "WindowSize"), "");
 }
 
@@ -224,10 +224,10 @@ TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
   Click("cmdPreviewUni");
   EXPECT_LE(Events.Pumps, 13);
   EXPECT_TRUE(Dialog->IsOpen());
-  Events.Plan = {{16, [&] { Process->QuitApp = true; }}};
+  Events.Plan = {{16, [&] { Process->Requests.AskQuit(); }}};
   Click("cmdPreviewUni");
   EXPECT_LE(Events.Pumps, 17);
-  Process->QuitApp = false;
+  Process->Requests = {};
   The<BodyList>("lstCompStarfold").setCurrentRow(0);
   Events.Plan = {{20, [&] { Dialog->close(); }}};
   Click("cmdPreviewComp");
@@ -307,7 +307,7 @@ TEST_F(FrmPropsTest, ExitEndsTheProcess) {
   StoreFactory();
   Open();
   Choose("mnuExit");
-  EXPECT_TRUE(Process->QuitApp);
+  EXPECT_TRUE(Process->Requests.QuitApp());
   EXPECT_FALSE(Dialog->IsOpen());
 }
 

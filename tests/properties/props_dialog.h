@@ -16,7 +16,7 @@ class FrmPropsTest : public DialogTest {
     Process->Desktop = &Desktop;
     Events.OnTooLong = [this] {
       ADD_FAILURE() << "the run does not end";
-      Process->QuitApp = true;
+      Process->Requests.AskQuit();
     };
   }
 

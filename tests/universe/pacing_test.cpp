@@ -55,7 +55,9 @@ TEST_F(Pacing, AFrameWithoutDelayPumpsOnceAndWaitsForTheScreen) {
 TEST_F(Pacing, AStopInThePumpEndsTheWait) {
   Process().Screen.FrameDelayMs = 999;
   StampFrame(Process());
-  Clock.OnPump = [this] { Process().StopRun = Clock.Pumps == 1; };
+  Clock.OnPump = [this] {
+    if (Clock.Pumps == 1) Process().Requests.AskStop();
+  };
   EXPECT_TRUE(FramePace(Process()));
   EXPECT_EQ(Clock.Waited, 0);
 }
@@ -67,14 +69,16 @@ TEST_F(Pacing, APreviewEndsWithItsHost) {
   EXPECT_FALSE(FramePace(Process()));
   stage_.Desktop.Windows.clear();
   EXPECT_TRUE(FramePace(Process()));
-  EXPECT_TRUE(Process().StopRun);
+  EXPECT_TRUE(Process().Requests.StopRun());
 }
 
 TEST_F(Pacing, AStoppedClockDoesNotHoldUpTheEnd) {
   class StoppedClock : public CountingPump {
     Long TickCount() override { return 5; }
   } clock;
-  clock.OnPump = [&] { Process().StopRun = clock.Pumps == 3; };
+  clock.OnPump = [&] {
+    if (clock.Pumps == 3) Process().Requests.AskStop();
+  };
   Process().Events = &clock;
   PumpOneTick(Process());
   EXPECT_EQ(clock.Pumps, 3);

@@ -22,14 +22,16 @@ TEST_F(SingleBody, StopsAfterItsFrames) {
   Stage.Canvas.OnFrame = [this] { ++Stage.FramesShown; };
   Run({.Stars = 50, .FrameLimit = 400});
   EXPECT_EQ(Stage.FramesShown, 399) << "the last frame ends the run before it is paced";
-  EXPECT_FALSE(Stage.Process->StopRun);
+  EXPECT_FALSE(Stage.Process->Requests.StopRun());
 }
 
 TEST_F(SingleBody, NewRunEndsItAtTheNextFrameAndIsCleared) {
-  Stage.Canvas.OnFrame = [this] { Stage.Process->NewRun = ++Stage.FramesShown == 5; };
+  Stage.Canvas.OnFrame = [this] {
+    if (++Stage.FramesShown == 5) Stage.Process->Requests.AskNewRun();
+  };
   Run({.Stars = 50});
   EXPECT_EQ(Stage.FramesShown, 5);
-  EXPECT_FALSE(Stage.Process->NewRun);
+  EXPECT_FALSE(Stage.Process->Requests.NewRun());
 }
 
 TEST_F(SingleBody, CountsOfZeroBecomeOne) {

@@ -80,7 +80,7 @@ TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
   Long lastStamp = -1;
   int unstamped = 0;
   stage.Canvas.OnFrame = [&] {
-    if (++stage.FramesShown >= 2 * (10 + 36 + 8)) stage.Process->StopRun = true;
+    if (++stage.FramesShown >= 2 * (10 + 36 + 8)) stage.Process->Requests.AskStop();
     unstamped += stage.Process->Screen.FrameStartTick == lastStamp;
     lastStamp = stage.Process->Screen.FrameStartTick;
   };
@@ -96,13 +96,13 @@ TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
   for (const int at : {5, 30}) {  // in the creation, and on the tour
     stage.FramesShown = 0;
     stage.Canvas.OnFrame = [&stage, at] {
-      if (++stage.FramesShown == at) stage.Process->NewRun = true;
+      if (++stage.FramesShown == at) stage.Process->Requests.AskNewRun();
     };
     stage.Read();
     UniverseRun(*stage.Process);
     EXPECT_EQ(stage.FramesShown, at);
-    EXPECT_FALSE(stage.Process->NewRun);
-    EXPECT_FALSE(stage.Process->StopRun);
+    EXPECT_FALSE(stage.Process->Requests.NewRun());
+    EXPECT_FALSE(stage.Process->Requests.StopRun());
   }
 }
 
@@ -134,7 +134,7 @@ TEST(Determinism, TwoRunsInOneProcessDoNotTouchEachOther) {
   MakeColourful(inner.Settings());
   outer.Canvas.OnFrame = [&] {
     if (++outer.FramesShown == 200) RunFrames(inner, 400);
-    if (outer.FramesShown == 400) outer.Process->StopRun = true;
+    if (outer.FramesShown == 400) outer.Process->Requests.AskStop();
   };
   outer.Read();
   UniverseRun(*outer.Process);

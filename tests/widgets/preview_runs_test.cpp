@@ -31,7 +31,7 @@ class PreviewTest : public ::testing::Test {
     Dialog.Universe_GCCtrl = 1;
     Dialog.Universe_Recycle = 1;
     Canvas.OnFrame = [this] {
-      if (++Frames >= kLongestRun) State->StopRun = true;
+      if (++Frames >= kLongestRun) State->Requests.AskStop();
     };
     Clock.OnPump = [this] {
       const auto planned = Plan.find(Frames);
@@ -78,15 +78,15 @@ TEST_P(PreviewStages, ASecondPressOrAWindowThatClosesEndsAUniverseInTheSameFrame
   EXPECT_EQ(Frames, GetParam());
   EXPECT_EQ(End, PreviewEnd::Stopped);
   EXPECT_FALSE(Switch.IsOn());
-  EXPECT_FALSE(State->StopRun) << "only a window that closes stops for good";
-  EXPECT_TRUE(State->NewRun);
+  EXPECT_FALSE(State->Requests.StopRun()) << "only a window that closes stops for good";
+  EXPECT_TRUE(State->Requests.NewRun());
   EXPECT_EQ(State->Screen.hDCDraw, nullptr);
   Frames = 0;
   Plan[GetParam()] = [this] { EXPECT_TRUE(Switch.DelaysClose()); };
   PressUniverse();
   EXPECT_EQ(Frames, GetParam()) << "the flags of the former run do not end the next one";
   EXPECT_EQ(End, PreviewEnd::Close);
-  EXPECT_TRUE(State->StopRun);
+  EXPECT_TRUE(State->Requests.StopRun());
   EXPECT_FALSE(Switch.DelaysClose()) << "now it may close";
 }
 
@@ -102,7 +102,7 @@ TEST_F(PreviewTest, ThereIsOneRunAtATimeAndNoneInAProcessThatEnds) {
   PressBody();
   EXPECT_EQ(nested, PreviewEnd::Refused);
   EXPECT_EQ(Frames, 4);
-  State->QuitApp = true;
+  State->Requests.AskQuit();
   PressBody();
   EXPECT_EQ(End, PreviewEnd::Refused);
   EXPECT_EQ(Frames, 4);
