@@ -20,8 +20,12 @@ void MeasureSurface(ProcessState& process, Surface& target, double zoom) {
 
 }  // namespace
 
-void SetupDisplay(ProcessState& process, Surface& target, std::uint64_t seed) {
+const AdvancedSettings& ReadAdvancedSettings(ProcessState& process) {
   process.Advanced = LoadAdvancedFromRegistry(*process.Tree);
+  return process.Advanced;
+}
+
+void SetupDisplay(ProcessState& process, Surface& target, std::uint64_t seed) {
   process.Screen.FocalLength = process.Advanced.FocalLength;
   process.Screen.FrameDelayMs = process.Advanced.Adv_TimeDelay;
   MeasureSurface(process, target, 1);

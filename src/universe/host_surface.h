@@ -1,12 +1,16 @@
-// What every host does before it runs the effect: measure the surface, and read the settings.
+// What every host does before it runs the effect: reads the settings and measures the surface.
 #pragma once
 
 #include "process/process_state.h"
 
 namespace starfolds {
 
-/// Measures `target` and reads the advanced values from what is stored: focal length and frame
-/// delay. Seeds the random numbers with `seed`; a host passes the clock.
+/// Reads the advanced values from the stored tree into the process. A host calls it before its
+/// window is shown, because the window's form depends on them.
+const AdvancedSettings& ReadAdvancedSettings(ProcessState& process);
+
+/// Measures `target` and takes focal length and frame delay from the advanced values. Seeds the
+/// random numbers with `seed`; a host passes the clock.
 void SetupDisplay(ProcessState& process, Surface& target, std::uint64_t seed);
 
 /// The same for a picture box of a dialog. A fixed view has focal length 1 and a delay of 32 ms;

@@ -61,6 +61,7 @@ TEST_F(LooksTest, WhoReadsManyValuesDoesItInOneLook) {
   const auto startRun = [&] {
     MigrateMachineSettings(Counted);
     MemorySurface surface(64, 48);
+    ReadAdvancedSettings(*Process);
     SetupDisplay(*Process, surface, 1);
     ReadUniverseSettings(*Process, false);
   };

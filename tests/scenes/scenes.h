@@ -26,8 +26,8 @@ class WatchedSurface : public MemorySurface {
   }
 };
 
-/// A saver process in memory. `Settings()` may be changed until `Read()`; of its advanced values
-/// only what a run itself looks up counts.
+/// A saver process in memory. `Settings()` may be changed until `Read()`, but for the focal length
+/// and the frame delay, which are taken before.
 class Stage {
  public:
   explicit Stage(Integer width = 640, Integer height = 360, std::uint64_t seed = 1)
@@ -42,14 +42,14 @@ class Stage {
 
   /// Reads the settings for a run.
   void Read(bool smallPreview = false) {
-    SaveAdvancedToRegistry(Tree, Records->Advanced);
+    Process->Advanced = Records->Advanced;
     TakeUniverseSettings(*Process, *Records, smallPreview);
   }
 
   /// Makes the run stop after so many frames.
   void StopAfter(int frames) {
     Canvas.OnFrame = [this, frames] {
-      if (++FramesShown >= frames) Process->StopRun = true;
+      if (++FramesShown >= frames) Process->Requests.AskStop();
     };
   }
 
