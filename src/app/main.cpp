@@ -108,7 +108,7 @@ Fault CheckTemplate(const StartOptions& options) {
   if (options.Template.empty() || MessageBoxesAreSeen()) return std::nullopt;
   DiskFiles disk;
   const Fault fault = TemplateFile(disk).Load(options.Template);
-  return fault ? "cannot read " + Quoted(options.Template) + ": " + *fault : fault;
+  return fault ? "cannot read " + QuotedStart(options.Template) + ": " + *fault : fault;
 }
 
 /// Each dialog runs an event loop nested in that of the dialog opened before it. Closing one may
@@ -151,7 +151,8 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   process->Events = &pump;
   process->Desktop = desktop.get();
   process->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say, {}, [&] { return stopSignals.Asked() || process->Requests.QuitApp(); });
+  SqliteTree tree(OwnTreeFiles(), Say, {},
+                  [&] { return stopSignals.Asked() || process->Requests.QuitApp(); });
   MigrateMachineSettings(tree);
   BeginningTree edited(tree);
   OverriddenTree overridden(edited);

@@ -18,7 +18,7 @@ Fault ReadHostWindow(StartOptions& to, std::string_view text) {
   to.AskedFor = Role::Guest;
   to.HostWindow = WindowNumber(text);
   if (to.HostWindow) return std::nullopt;
-  return "takes the number of a window, not " + Quoted(text);
+  return "takes the number of a window, not " + QuotedStart(text);
 }
 
 Fault ReadScreen(StartOptions& to, std::string_view text) {
@@ -101,7 +101,7 @@ Fault CheckTogether(const StartOptions& options) {
   const Role role = options.AskedFor;
   const bool runs = role == Role::Saver || role == Role::Window || role == Role::Guest;
   if (!options.Template.empty() && role != Role::Window) {
-    return Quoted(options.Template) + ": a template goes with --window, or alone";
+    return QuotedStart(options.Template) + ": a template goes with --window, or alone";
   }
   if (options.Seed && !runs) return "--seed goes with --saver, --window, --root or --window-id";
   if (!options.Changes.empty() && !runs) {

@@ -16,13 +16,16 @@ namespace starfolds {
 /// Keeps the squared distance from the core off zero in the attraction.
 inline constexpr double kSoftCore = 1e-09;
 
+/// Rotates a place about the Y axis, computed in double and rounded once.
+inline void RotateAboutY(Single& placeX, Single& placeZ, double cosine, double sine) {
+  const double x = placeX;
+  const double z = placeZ;
+  placeX = static_cast<Single>(x * cosine - sine * z);
+  placeZ = static_cast<Single>(z * cosine + sine * x);
+}
+
 inline void RotateStar(StarState& star) {
-  const double c = star.StarSpinCos;
-  const double s = star.StarSpinSin;
-  const double x = star.StarX;
-  const double z = star.StarZ;
-  star.StarX = static_cast<Single>(x * c - s * z);
-  star.StarZ = static_cast<Single>(z * c + s * x);
+  RotateAboutY(star.StarX, star.StarZ, star.StarSpinCos, star.StarSpinSin);
 }
 
 inline void DriftStar(StarState& star) {

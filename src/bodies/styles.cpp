@@ -7,6 +7,7 @@
 #include "bodies/molecule.h"
 #include "bodies/radial.h"
 #include "bodies/ribbon.h"
+#include "bodies/star_motion.h"
 
 namespace starfolds {
 namespace {
@@ -29,12 +30,7 @@ void SeedRadialBlast(SeedPoint& point, const Body& body, BodySlots&, std::size_t
 }
 
 void MoveOrbitingNucleus(CometHead& head, const Body&, const BodySlots&, std::size_t) {
-  const double c = head.CometSpinCos;
-  const double s = head.CometSpinSin;
-  const double x = head.CometX;
-  const double z = head.CometZ;
-  head.CometX = static_cast<Single>(x * c - s * z);
-  head.CometZ = static_cast<Single>(z * c + s * x);
+  RotateAboutY(head.CometX, head.CometZ, head.CometSpinCos, head.CometSpinSin);
 }
 
 /// `Prepare` is the routine that prepares the slot.

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "numbers/characters.h"
+#include "numbers/text.h"
 #include "settings/fields.h"
 
 namespace starfolds {
@@ -49,7 +50,7 @@ Fault Unexpected(const CLI::App& app) {
   for (const std::string& argument : app.remaining()) {
     if (argument == "--") continue;
     const bool isOption = argument.size() > 1 && argument.front() == '-';
-    return (isOption ? "unknown option " : "unexpected argument ") + Quoted(argument);
+    return (isOption ? "unknown option " : "unexpected argument ") + QuotedStart(argument);
   }
   return std::nullopt;
 }
@@ -106,9 +107,9 @@ std::string OptionsHelp(const OptionTable& table) {
   return text;
 }
 
-std::string Quoted(std::string_view text) {
+std::string QuotedStart(std::string_view text) {
   const std::string_view shown = FirstCharacters(text, kLongestQuote, kLongestQuote);
-  return "\"" + std::string(shown) + (shown.size() < text.size() ? "...\"" : "\"");
+  return Quoted(std::string(shown) + (shown.size() < text.size() ? "..." : ""));
 }
 
 TakeValue TakeText(std::string& target) {
@@ -125,14 +126,14 @@ TakeValue TakeSize(int& width, int& height) {
     height = WholeNumber<int>(text.substr(std::min(cross + 1, text.size()))).value_or(0);
     if (std::min(width, height) >= 1 && std::max(width, height) <= kMaxSide) return std::nullopt;
     return "takes WIDTHxHEIGHT, each from 1 to " + std::to_string(kMaxSide) + ", not " +
-           Quoted(text);
+           QuotedStart(text);
   };
 }
 
 TakeValue TakeChange(Changes& target) {
   return [&](std::string_view text) -> Fault {
     const std::size_t equals = text.find('=');
-    if (equals == std::string_view::npos) return "takes Name=value, not " + Quoted(text);
+    if (equals == std::string_view::npos) return "takes Name=value, not " + QuotedStart(text);
     return AddChange(target, text.substr(0, equals), text.substr(equals + 1));
   };
 }

@@ -40,9 +40,9 @@ Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> ar
 /// The help text of the listed options, group by group.
 std::string OptionsHelp(const OptionTable& table);
 
-/// The text in quotation marks, shortened if it is long. Control characters are kept: `Complain`
+/// The text in double quotes, cut if it is long. Control characters are kept: `Complain`
 /// replaces them.
-std::string Quoted(std::string_view text);
+std::string QuotedStart(std::string_view text);
 
 /// Parses all of `text` as a number of this type; nullopt if it is not one or does not fit. The
 /// only sign is "-"; blanks are not accepted.
@@ -87,7 +87,7 @@ TakeValue TakeNumber(Target& target, Wide low = 0, Wide high = ~Wide{0}) {
     const auto number = WholeNumber<Wide>(text);
     if (!number || *number < low || *number > high) {
       return "takes a whole number from " + std::to_string(low) + " to " + std::to_string(high) +
-             ", not " + Quoted(text);
+             ", not " + QuotedStart(text);
     }
     if constexpr (requires { typename Target::value_type; }) {
       target = static_cast<typename Target::value_type>(*number);

@@ -106,4 +106,6 @@ std::string NumberText(Single value) {
 
 std::string NumberText(Long value) { return std::to_string(value); }
 
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
 }  // namespace starfolds

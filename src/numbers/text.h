@@ -27,4 +27,7 @@ std::string NumberText(Long value);
 /// The text without blanks (spaces and tabs) at both ends.
 std::string_view Trimmed(std::string_view text);
 
+/// The text in double quotes, for messages.
+std::string Quoted(std::string_view text);
+
 }  // namespace starfolds

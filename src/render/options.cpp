@@ -117,7 +117,7 @@ Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk
   if (!options.TemplateFile.empty()) {
     TemplateFile file(disk);
     if (const Fault fault = ReadTemplate(file, options.TemplateFile, records)) {
-      return "cannot read " + Quoted(options.TemplateFile) + ": " + *fault;
+      return "cannot read " + QuotedStart(options.TemplateFile) + ": " + *fault;
     }
   } else if (options.Stored) {
     TreeBulk look = TreeBulk::Look(tree);

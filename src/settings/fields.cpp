@@ -256,8 +256,6 @@ const Field<Record>& RowOf(std::span<const Field<Record>> fields, const Setting<
   return *row;
 }
 
-std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
-
 template <class Record>
 std::optional<std::string> SetOrSay(Record& record, const Field<Record>& field,
                                     std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "numbers/text.h"
 #include "settings/first_run.h"
 #include "settings/registry.h"
 #include "settings/templates.h"
@@ -47,7 +48,7 @@ TemplateImport ImportOverFormerSettings(TemplateFile& file, const std::string& p
   if (!change.Begun()) return {"the stored settings cannot be changed", {}};
   const KeptCopy copy = KeepFormerSettings(tree, disk, folder);
   if (!copy.Fault.empty()) {
-    return {"your settings cannot be kept as \"" + copy.Path + "\": " + copy.Fault, {}};
+    return {"your settings cannot be kept as " + Quoted(copy.Path) + ": " + copy.Fault, {}};
   }
   const bool isFirstAct = !HasMark(tree, kAnimationType);
   EnsureFactoryProfiles(tree);
@@ -58,14 +59,14 @@ TemplateImport ImportOverFormerSettings(TemplateFile& file, const std::string& p
 }
 
 std::string ImportNote(const std::string& path, const TemplateImport& done) {
-  std::string note = "Stored the universe and the advanced settings of \"" + path + "\".\n";
+  std::string note = "Stored the universe and the advanced settings of " + Quoted(path) + ".\n";
   if (done.FormerSettings.empty()) {
     note +=
         "To get the factory settings back: starfolds --settings, Edit > Reset Properties, Accept "
         "Settings.\n";
   } else {
-    note += "Your former settings are kept in \"" + done.FormerSettings +
-            "\".\n"
+    note += "Your former settings are kept in " + Quoted(done.FormerSettings) +
+            ".\n"
             "To get them back: starfolds --settings, File > Open Template, Accept Settings.\n";
   }
   return note + "To look at a template and store nothing: starfolds --window FILE\n";

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "numbers/text.h"
+
 namespace starfolds {
 namespace {
 
@@ -155,8 +157,8 @@ bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
   if (damaged) {
     const auto name = SetAside(place.File, *damaged, patience_.Look);
     if (name && complain_) {
-      complain_("\"" + place.File + "\" holds no settings that can be read; it is kept as \"" +
-                *name + "\"");
+      complain_(Quoted(place.File) + " holds no settings that can be read; it is kept as " +
+                Quoted(*name));
     }
   }
   return LookAtFile(place.File).Identity != damaged;
@@ -176,7 +178,7 @@ void SqliteTree::NoteTrouble(const TreePlace& place, const TreeTransaction& tran
   if (IsResting()) return;
   restUntil_ = std::chrono::steady_clock::now() + patience_.Rest;
   if (!complain_) return;
-  complain_("\"" + place.File + "\" " +
+  complain_(Quoted(place.File) + " " +
             (locked ? "is locked by another process" : "takes too long to read") +
             "; its settings are ignored");
 }
