@@ -119,7 +119,12 @@ Tile MakeTile(const Picture& picture) {
   return tile;
 }
 
+/// Opens the file before the run and not after it, so that one that cannot be written is reported
+/// at once.
 Fault ContactSheet::Take(FrameNumber frame, const MemorySurface& surface) {
+  if (!file_.Stream()) {
+    if (Fault fault = file_.Open(path_)) return fault;
+  }
   entries_.push_back({frame, MakeTile(PictureOf(surface))});
   return std::nullopt;
 }
@@ -138,7 +143,7 @@ Fault ContactSheet::Finish() {
     canvas.Lay(left, top, entry.Small);
     canvas.Label(left, top + entry.Small.Height + kDigitScale, entry.Frame);
   }
-  return WritePng(path_, canvas.Finished(), 1);
+  return WritePng(file_, canvas.Finished(), 1);
 }
 
 }  // namespace starfolds

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "render/frame_sinks.h"
+#include "render/output_file.h"
 
 namespace starfolds {
 
@@ -35,6 +36,7 @@ class ContactSheet : public FrameSink {
   };
 
   std::string path_;
+  OutputFile file_;
   std::vector<Entry> entries_;
 };
 

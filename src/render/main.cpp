@@ -10,6 +10,7 @@
 #include "settings/templates.h"
 #include "storage/disk_files.h"
 #include "storage/sqlite_tree.h"
+#include "storage/temporary_file.h"
 
 namespace {
 
@@ -68,6 +69,7 @@ int RunWith(const std::vector<std::string_view>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  RemoveTemporaryFilesOnSignals();
   try {
     return RunWith(std::vector<std::string_view>(argv + (argc > 0 ? 1 : 0), argv + argc));
   } catch (const std::exception& error) {

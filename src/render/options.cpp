@@ -3,6 +3,7 @@
 #include "command_line/options.h"
 #include "platform/console.h"
 #include "render/contact_sheet.h"
+#include "render/output_file.h"
 #include "settings/fields.h"
 #include "settings/first_run.h"
 #include "settings/templates.h"
@@ -90,8 +91,10 @@ Fault CheckTogether(const RenderOptions& options) {
     return "--sheet has room for " + std::to_string(ContactSheet::kMaxTiles) + " frames, not " +
            std::to_string(plan.Count()) + "; raise --every";
   }
-  if (options.Hash && options.VideoFile == "-") {
-    return "--hash and --y4m - cannot both have the standard output";
+  const int toOutput = (options.Hash ? 1 : 0) + (IsStandardOutput(options.VideoFile) ? 1 : 0) +
+                       (IsStandardOutput(options.SheetFile) ? 1 : 0);
+  if (toOutput > 1) {
+    return "only one of --hash, --y4m and --sheet can have the standard output";
   }
   return std::nullopt;
 }

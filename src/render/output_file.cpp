@@ -1,68 +1,32 @@
 #include "render/output_file.h"
 
-#include <cerrno>
-#include <filesystem>
-#include <system_error>
-#include <utility>
-
 #include "render/standard_streams.h"
 
 namespace starfolds {
-namespace {
 
-namespace fs = std::filesystem;
-
-/// Whether a path can be replaced by renaming: it does not exist, or is a regular file.
-bool CanBeReplaced(const std::string& path) {
-  std::error_code ignored;
-  const fs::file_status status = fs::symlink_status(path, ignored);
-  return !fs::exists(status) || fs::is_regular_file(status);
-}
-
-}  // namespace
-
-OutputFile::~OutputFile() {
-  if (!file_ || file_ == stdout) return;
-  std::fclose(file_);
-  std::error_code ignored;
-  if (!partPath_.empty()) fs::remove(partPath_, ignored);
-}
+bool IsStandardOutput(const std::string& path) { return path == "-" || path == "/dev/stdout"; }
 
 Fault OutputFile::Open(const std::string& path) {
   path_ = path;
-  if (path == "-") {
-    MakeOutputBinary();
-    file_ = stdout;
-    return std::nullopt;
-  }
-  if (CanBeReplaced(path)) partPath_ = path + ".part";
-  errno = 0;
-  file_ = std::fopen((partPath_.empty() ? path_ : partPath_).c_str(), "wb");
-  if (!file_) return CannotWrite(errno);
+  if (!IsStandardOutput(path)) return WithName(writer_.Open(path, Targets::FilesAndStreams));
+  MakeOutputBinary();
+  writer_.OpenStandardOutput();
   return std::nullopt;
 }
 
 Fault OutputFile::Write(std::span<const std::uint8_t> bytes) {
-  errno = 0;
-  if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size()) return CannotWrite(errno);
-  return std::nullopt;
+  return WithName(writer_.Write({reinterpret_cast<const char*>(bytes.data()), bytes.size()}));
 }
 
-Fault OutputFile::Commit() {
-  errno = 0;
-  if (std::ferror(file_) != 0 || std::fflush(file_) != 0) return CannotWrite(errno);
-  std::FILE* file = std::exchange(file_, nullptr);
-  if (file != stdout && std::fclose(file) != 0) return CannotWrite(errno);
-  std::error_code error;
-  if (!partPath_.empty()) fs::rename(partPath_, path_, error);
-  if (error) return CannotWrite(error.value());
-  return std::nullopt;
+Fault OutputFile::Commit() { return WithName(writer_.Commit()); }
+
+std::string OutputFile::CannotWrite(const std::string& reason) const {
+  const std::string name = IsStandardOutput(path_) ? "the standard output" : "\"" + path_ + "\"";
+  return "cannot write " + name + ": " + reason;
 }
 
-std::string OutputFile::CannotWrite(int error) const {
-  const std::string name = path_ == "-" ? "the standard output" : "\"" + path_ + "\"";
-  const std::string reason = error == 0 ? "" : ": " + std::generic_category().message(error);
-  return "cannot write " + name + reason;
+Fault OutputFile::WithName(const Fault& reason) const {
+  return reason ? Fault(CannotWrite(*reason)) : std::nullopt;
 }
 
 }  // namespace starfolds

@@ -1,4 +1,4 @@
-// A file that is written completely or not at all.
+// A file of the renderer, with messages that name it.
 #pragma once
 
 #include <cstdint>
@@ -7,35 +7,35 @@
 #include <string>
 
 #include "command_line/fault.h"
+#include "storage/file_writer.h"
 
 namespace starfolds {
 
-/// Writes a temporary file beside the target and renames it at the end, so that a full disk or a
-/// killed process leaves no partial file under the target's name. Standard output ("-"), pipes and
-/// devices are written directly.
+/// Whether an output of the command line is the standard output: "-" or "/dev/stdout".
+bool IsStandardOutput(const std::string& path);
+
+/// A file that is complete or unchanged. The standard output, pipes and devices are written
+/// directly.
 class OutputFile {
  public:
-  OutputFile() = default;
-  ~OutputFile();
-  OutputFile(const OutputFile&) = delete;
-  OutputFile& operator=(const OutputFile&) = delete;
-
   Fault Open(const std::string& path);
 
-  std::FILE* Handle() const { return file_; }
+  /// Null before `Open`.
+  std::FILE* Stream() const { return writer_.Stream(); }
 
   Fault Write(std::span<const std::uint8_t> bytes);
 
   /// Completes the file. Without a fault everything has been written.
   Fault Commit();
 
-  /// The message for an `errno` of writing this file; 0 means an unknown reason.
-  std::string CannotWrite(int error) const;
+  /// The message for a failure to write this file.
+  std::string CannotWrite(const std::string& reason) const;
 
  private:
+  Fault WithName(const Fault& reason) const;
+
   std::string path_;
-  std::string partPath_;  // empty: written directly
-  std::FILE* file_ = nullptr;
+  FileWriter writer_;
 };
 
 }  // namespace starfolds

@@ -4,9 +4,8 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <system_error>
 #include <vector>
-
-#include "render/output_file.h"
 
 namespace starfolds {
 namespace {
@@ -36,6 +35,10 @@ std::vector<std::uint8_t> RgbBytes(const Picture& picture, int scale) {
 Fault WritePng(const std::string& path, const Picture& picture, int scale) {
   OutputFile file;
   if (Fault fault = file.Open(path)) return fault;
+  return WritePng(file, picture, scale);
+}
+
+Fault WritePng(OutputFile& file, const Picture& picture, int scale) {
   const std::vector<std::uint8_t> bytes = RgbBytes(picture, scale);
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
@@ -45,8 +48,8 @@ Fault WritePng(const std::string& path, const Picture& picture, int scale) {
   constexpr int as8Bit = 0;
   constexpr png_int_32 packedRows = 0;
   errno = 0;
-  if (!png_image_write_to_stdio(&image, file.Handle(), as8Bit, bytes.data(), packedRows, nullptr)) {
-    return errno != 0 ? file.CannotWrite(errno) : file.CannotWrite(0) + ": " + image.message;
+  if (!png_image_write_to_stdio(&image, file.Stream(), as8Bit, bytes.data(), packedRows, nullptr)) {
+    return file.CannotWrite(errno != 0 ? std::generic_category().message(errno) : image.message);
   }
   return file.Commit();
 }

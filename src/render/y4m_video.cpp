@@ -45,7 +45,7 @@ YCbCr ToYCbCr(Colour colour) { return {kLuma.Of(colour), kCb.Of(colour), kCr.Of(
 
 Fault Y4mVideo::Take(FrameNumber, const MemorySurface& surface) {
   const Picture picture = PictureOf(surface);
-  if (!file_.Handle()) {
+  if (!file_.Stream()) {
     if (Fault fault = Begin(picture)) return fault;
   }
   colours_.clear();

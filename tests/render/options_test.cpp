@@ -111,7 +111,8 @@ const BadLine kBadLines[] = {
     {{"--set", "Universe_Star=1"}, "there is no setting \"Universe_Star\""},
     {{"--set", "Universe_Stars=many"}, "takes a number, not \"many\""},
     {{"--sheet", "s.png"}, "--sheet has room for 400 frames, not 1000"},
-    {{"--hash", "--y4m", "-"}, "cannot both have the standard output"},
+    {{"--hash", "--y4m", "-"}, "only one of --hash, --y4m and --sheet"},
+    {{"--sheet", "-", "--frames", "9", "--y4m", "/dev/stdout"}, "can have the standard output"},
 };
 
 TEST(Options, BadOnesAreRefusedWithAMessage) {

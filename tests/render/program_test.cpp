@@ -148,6 +148,17 @@ TEST(Program, EndsWithCode2AfterAFault) {
   }
 }
 
+TEST(Program, VideoGoesToTheStandardStreams) {
+  const TestFolder folder;
+  const std::string video = RunProgram(folder, "--size 9x9 --frames 2 --y4m -").Out;
+  EXPECT_THAT(video, StartsWith("YUV4MPEG2 W9 H9 "));
+  for (const char* line : {"--y4m /dev/stdout", "--y4m /dev/stderr 2>&1 | cat",
+                           "--y4m /dev/stderr 2>file; { cat file; rm file; }"}) {
+    EXPECT_EQ(RunProgram(folder, std::string("--size 9x9 --frames 2 ") + line).Out, video) << line;
+  }
+  EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
 TEST(Program, AFullStandardOutputIsAFault) {
   const TestFolder folder;
   const Outcome outcome = RunProgram(folder, "--size 9x9 --frames 3 --hash >/dev/full; exit $?");

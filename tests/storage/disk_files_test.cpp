@@ -2,15 +2,21 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <random>
 #include <thread>
 
 #include "storage/child.h"
+#include "storage/file_writer.h"
 #include "test_folder.h"
 
 namespace starfolds {
@@ -18,6 +24,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::MatchesRegex;
 using testing::UnorderedElementsAre;
 
 class DiskFilesTest : public testing::Test {
@@ -74,6 +82,13 @@ TEST_F(DiskFilesTest, ReplacesAndKeepsTheRights) {
   EXPECT_EQ(fs::status(File).permissions(), fs::perms(0600));
   EXPECT_EQ(FileText(File), "two");
   EXPECT_THAT(Folder.Names(), ElementsAre("u.sfd"));
+  if (geteuid() != 0) return;
+  ASSERT_EQ(chown(File.c_str(), 12, 34), 0);
+  EXPECT_EQ(Disk.Replace(File, "three"), std::nullopt);
+  struct stat status {};
+  ASSERT_EQ(stat(File.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, 12U);
+  EXPECT_EQ(status.st_gid, 34U);
 }
 
 TEST_F(DiskFilesTest, ReplacesWhatALinkLeadsTo) {
@@ -125,24 +140,77 @@ TEST_F(DiskFilesTest, ADiskThatIsFullKeepsTheOldFile) {
 TEST_F(DiskFilesTest, AKilledReplacementLeavesTheOldFileOrTheNewOne) {
   std::mt19937 random(3);
   Put("u.sfd", std::string(50'000, 'a'));
-  std::size_t most = 0;
   for (int round = 0; round < 30; ++round) {
+    const TestFolder other;
     {
       const Child process([&] {
+        std::ofstream(other.Path("started")) << "now";
         for (char c = 'a';; c = c == 'z' ? 'a' : static_cast<char>(c + 1)) {
           Disk.Replace(File, std::string(50'000, c));
         }
       });
-      ASSERT_TRUE(WaitForFile(File + ".part-1"));
+      ASSERT_TRUE(WaitForFile(other.Path("started")));
       std::this_thread::sleep_for(std::chrono::microseconds(random() % 4000));
     }
     const std::string text = FileText(File);
     ASSERT_EQ(text, std::string(50'000, text[0]));
-    most = std::max(most, Folder.Names().size());
   }
-  EXPECT_EQ(most, 2U) << "one temporary file may be left behind, and should have been at times";
-  EXPECT_EQ(Disk.Replace(File, "end"), std::nullopt);
+}
+
+/// From now on this process cannot create files without a name, as on a file system that lacks
+/// them.
+void RefuseUnnamedFiles() {
+  sock_filter steps[] = {
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, __NR_openat, 0, 3),
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[2])),  // the low half
+      BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, O_TMPFILE & ~O_DIRECTORY, 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+  const sock_fprog filter{std::size(steps), steps};
+  ASSERT_EQ(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0);
+  ASSERT_EQ(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter), 0);
+}
+
+TEST_F(DiskFilesTest, TemporaryFilesHaveNoNameOrARandomOne) {
+  Put("u.sfd", "old");
+  fs::permissions(File, fs::perms(0600));
+  const auto writeTwo = [&](std::size_t names) {
+    FileWriter one, two;
+    ASSERT_EQ(one.Open(File, Targets::Files), std::nullopt);
+    ASSERT_EQ(two.Open(File, Targets::Files), std::nullopt);
+    EXPECT_EQ(Folder.Names().size(), names);
+    for (const std::string& name : Folder.Names()) {
+      EXPECT_THAT(name, MatchesRegex("u.sfd|starfolds-[0-9a-f]{32}.part"));
+      EXPECT_EQ(fs::status(Folder.Path(name)).permissions(), fs::perms(0600));
+    }
+    EXPECT_EQ(one.Write("one"), std::nullopt);
+    EXPECT_EQ(one.Commit(), std::nullopt);
+  };
+  writeTwo(1);
+  EXPECT_TRUE(Child([&] {
+                RefuseUnnamedFiles();
+                writeTwo(3);
+              }).Succeeded());
+  EXPECT_EQ(FileText(File), "one");
   EXPECT_THAT(Folder.Names(), ElementsAre("u.sfd"));
+}
+
+TEST_F(DiskFilesTest, SignalsRemoveTemporaryFiles) {
+  for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+    const auto writeAndRaise = [&] {
+      signal(SIGPIPE, SIG_IGN);
+      RefuseUnnamedFiles();
+      RemoveTemporaryFilesOnSignals();
+      FileWriter file;
+      ASSERT_EQ(file.Open(File, Targets::Files), std::nullopt);
+      ASSERT_EQ(Folder.Names().size(), 1U);
+      raise(SIGPIPE);
+      raise(number);
+    };
+    EXPECT_EXIT(writeAndRaise(), testing::KilledBySignal(number), "");
+    EXPECT_THAT(Folder.Names(), IsEmpty());
+  }
 }
 
 TEST_F(DiskFilesTest, ManyReplaceAtOnceAndNobodyFails) {
