@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/console.h"
+#include "widgets/plain_text.h"
 
 #ifdef __unix__
 #include <unistd.h>
@@ -81,6 +82,7 @@ bool MessageBoxesAreSeen() { return NamesDesktop() && HasScreen() && !OnTerminal
 Toolkit::Toolkit(char* program) : arguments_{program, nullptr} {
   qInstallMessageHandler(CollectMessage);
   application_.emplace(argumentCount_, arguments_.data());
+  ShowTextsAsPlain(*application_);
   ReplayMessages();
 }
 

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "widgets/lines.h"
+#include "widgets/plain_text.h"
 #include "widgets/samples.h"
 
 namespace starfolds {
@@ -27,7 +28,7 @@ BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* 
       texts_(texts),
       preview_(model_.Process) {
   setObjectName(texts.Name);
-  setWindowTitle(Shown(Record().UniFoldName + " " + std::string(texts.Caption)));
+  setWindowTitle(WindowTitle(Record().UniFoldName + " " + std::string(texts.Caption)));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   rows_ = new QVBoxLayout(this);
   rows_->setMenuBar(MakeMenuBar());

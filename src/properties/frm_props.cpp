@@ -301,7 +301,7 @@ QWidget* FrmProps::MakeOverridesNote() {
       tr("Overridden in this run: %1.\nWhat you accept is stored, and holds in runs without "
          "these options.")
           .arg(named));
-  note->setToolTip("<p>" + all.join("\n").toHtmlEscaped().replace("\n", "<br>") + "</p>");
+  note->setToolTip(all.join("\n"));
   return note;
 }
 

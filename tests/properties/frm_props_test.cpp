@@ -4,6 +4,8 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QTimer>
+#include <QToolTip>
+#include <QWindow>
 #include <set>
 
 #include "numbers/text.h"
@@ -14,6 +16,7 @@
 #include "settings/random_records.h"
 #include "settings/templates.h"
 #include "template_dialogs/frm_file_io.h"
+#include "widgets/plain_text.h"
 
 namespace starfolds {
 namespace {
@@ -415,6 +418,41 @@ TEST_F(FrmPropsTest, EachStyleShowsItsRowsUnderTheirNames) {
   EXPECT_EQ(The<QPushButton>("cmdIFS_Chem").text(), "User Defined Molecular Structure...");
   EXPECT_EQ(The<QLabel>("lblOtherColorCycles").text(),
             "Atomic Sphere Color Blending  (0 - 30000):");
+}
+
+/// The format in which a tool tip shows a text.
+Qt::TextFormat FormatOfTip(const QString& text) {
+  QToolTip::showText({}, text);
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const auto* const label = qobject_cast<const QLabel*>(window);
+    if (label && label->inherits("QTipLabel") && label->text() == text) return label->textFormat();
+  }
+  return Qt::AutoText;
+}
+
+TEST_F(FrmPropsTest, NamesAreNotTakenForMarkup) {
+  ShowTextsAsPlain(*qApp);
+  const std::string name = "<img src='/dev/zero'>[*]";
+  SettingsRecords records;
+  for (StarfoldProfile& profile : records.Profiles) profile.UniFoldName = name;
+  for (CompositeProfile& composite : records.Composites) composite.CompFoldName = name;
+  Store(records);
+  Overrides = {name};
+  Open();
+  OpenType(0);
+  for (QLabel* const label : Dialog->findChildren<QLabel*>()) {
+    label->ensurePolished();
+    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+  }
+  for (const char* list : {"lstUniStarfold", "lstCompStarfold", "lstCompMinor"}) {
+    const QString tip = The<QListWidget>(list).item(0)->toolTip();
+    EXPECT_EQ(tip.toStdString(), name) << list;
+    EXPECT_EQ(FormatOfTip(tip), Qt::PlainText);
+  }
+  QWidget window;
+  window.setWindowTitle(WindowTitle(name));
+  window.show();
+  EXPECT_EQ(window.windowHandle()->title().toStdString(), name);
 }
 
 }  // namespace
