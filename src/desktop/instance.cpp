@@ -2,18 +2,29 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QObject>
 #include <QStandardPaths>
 #include <QWindow>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "desktop/other_programs.h"
 #include "desktop/window_hints.h"
+
+#ifdef __unix__
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+#else
+#include <QLockFile>
+#endif
 
 namespace starfolds {
 namespace {
@@ -62,24 +73,64 @@ void BringForward(QWindow& window) {
   window.requestActivate();
 }
 
+enum class LockState { Taken, OfAnotherProcess, Impossible };
+
+#ifdef __unix__
+
+/// The system releases the lock when its process ends, however it ends. The contents of the file do
+/// not matter, and it stays: removing it could give two processes a lock each.
+class CaptionLock {
+ public:
+  ~CaptionLock() {
+    if (file_ >= 0) close(file_);
+  }
+  CaptionLock() = default;
+  CaptionLock(const CaptionLock&) = delete;
+  CaptionLock& operator=(const CaptionLock&) = delete;
+
+  LockState Take(const QString& path) {
+    file_ = open(QFile::encodeName(path).constData(),
+                 O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    if (file_ < 0) return LockState::Impossible;
+    if (flock(file_, LOCK_EX | LOCK_NB) == 0) return LockState::Taken;
+    return errno == EWOULDBLOCK ? LockState::OfAnotherProcess : LockState::Impossible;
+  }
+
+ private:
+  int file_ = -1;
+};
+
+#else
+
+class CaptionLock {
+ public:
+  LockState Take(const QString& path) {
+    lock_.emplace(path);
+    lock_->setStaleLockTime(0);  // stale only if its process has ended
+    if (lock_->tryLock()) return LockState::Taken;
+    return lock_->error() == QLockFile::LockFailedError ? LockState::OfAnotherProcess
+                                                        : LockState::Impossible;
+  }
+
+ private:
+  std::optional<QLockFile> lock_;
+};
+
+#endif
+
 /// A caption that belongs to this process during the lifetime of this object.
 class OwnedCaption {
  public:
   explicit OwnedCaption(std::string caption)
-      : caption_(std::move(caption)),
-        place_(MeetingPlace(caption_)),
-        lock_(place_ + QStringLiteral(".lock")) {
-    // Never stale by age, only if its process has ended.
-    lock_.setStaleLockTime(0);
-  }
+      : caption_(std::move(caption)), place_(MeetingPlace(caption_)) {}
 
   /// False if another process has the caption. If locking is not possible, every process gets every
   /// caption: two savers are better than none.
   bool Take() {
     if (place_.isEmpty()) return true;
-    if (!lock_.tryLock()) return lock_.error() != QLockFile::LockFailedError;
-    Listen();
-    return true;
+    const LockState state = lock_.Take(place_ + QStringLiteral(".lock"));
+    if (state == LockState::Taken) Listen();
+    return state != LockState::OfAnotherProcess;
   }
 
  private:
@@ -115,7 +166,7 @@ class OwnedCaption {
 
   std::string caption_;
   QString place_;
-  QLockFile lock_;
+  CaptionLock lock_;
   QLocalServer server_;
 };
 
