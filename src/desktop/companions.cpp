@@ -1,8 +1,10 @@
 #include "desktop/companions.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QStringList>
+#include <QTimer>
 #include <utility>
 
 #ifdef __unix__
@@ -22,6 +24,12 @@ namespace {
 /// The time in milliseconds that a companion has to end before it is killed.
 constexpr int kLongestEnd = 1000;
 
+/// A companion that fails is started again after this time in milliseconds. One that fails again
+/// and again within the second time is given up, because it would probably never succeed.
+constexpr int kRestartPause = 500;
+constexpr int kStartTime = 10'000;
+constexpr int kMostFailures = 3;  // in a row
+
 /// Called in the child process before the program is executed. The owner may have ended already.
 void DieWithOwner([[maybe_unused]] QProcess& process) {
 #ifdef __linux__
@@ -34,39 +42,64 @@ void DieWithOwner([[maybe_unused]] QProcess& process) {
 
 }  // namespace
 
+struct Companions::Companion {
+  QStringList Arguments;
+  QElapsedTimer Running;
+  int Failures = 0;  // in a row, each soon after a start
+  QProcess Process;
+
+  void Start() {
+    Running.start();
+    Process.start(QCoreApplication::applicationFilePath(), Arguments);
+  }
+
+  void StartAgain() {
+    if (Running.elapsed() > kStartTime) Failures = 0;
+    if (++Failures > kMostFailures) return;
+    QTimer::singleShot(kRestartPause, &Process, [this] { Start(); });
+  }
+};
+
 Companions::Companions(std::function<void()> left) : left_(std::move(left)) {}
 
 Companions::~Companions() { EndAll(); }
 
 void Companions::Start(const std::vector<std::string>& arguments) {
-  QStringList list;
-  for (const std::string& argument : arguments) list << QString::fromStdString(argument);
-  auto process = std::make_unique<QProcess>();
+  auto companion = std::make_unique<Companion>();
+  for (const std::string& argument : arguments) {
+    companion->Arguments << QString::fromStdString(argument);
+  }
   // Both channels: a reader of this program's output gets that of the companions as well.
-  process->setProcessChannelMode(QProcess::ForwardedChannels);
-  DieWithOwner(*process);
-  Watch(*process);
-  process->start(QCoreApplication::applicationFilePath(), list);
-  processes_.push_back(std::move(process));
+  companion->Process.setProcessChannelMode(QProcess::ForwardedChannels);
+  DieWithOwner(companion->Process);
+  Watch(*companion);
+  companion->Start();
+  companions_.push_back(std::move(companion));
 }
 
-void Companions::Watch(QProcess& process) {
-  QObject::connect(&process, &QProcess::finished, [this](int code, QProcess::ExitStatus status) {
-    if (status == QProcess::NormalExit && code == 0) left_();
-  });
+void Companions::Watch(Companion& companion) {
+  const auto ended = [this, &companion](int code, QProcess::ExitStatus status) {
+    if (status == QProcess::NormalExit && code == 0) {
+      left_();
+    } else {
+      companion.StartAgain();
+    }
+  };
+  QObject::connect(&companion.Process, &QProcess::finished, ended);
 }
 
 void Companions::EndAll() {
-  for (const auto& process : processes_) {
-    process->disconnect();
-    process->closeWriteChannel();
+  for (const auto& companion : companions_) {
+    companion->Process.disconnect();
+    companion->Process.closeWriteChannel();
   }
-  for (const auto& process : processes_) {
-    if (process->state() == QProcess::NotRunning || process->waitForFinished(kLongestEnd)) continue;
-    process->kill();
-    process->waitForFinished(kLongestEnd);
+  for (const auto& companion : companions_) {
+    QProcess& process = companion->Process;
+    if (process.state() == QProcess::NotRunning || process.waitForFinished(kLongestEnd)) continue;
+    process.kill();
+    process.waitForFinished(kLongestEnd);
   }
-  processes_.clear();
+  companions_.clear();
 }
 
 #ifdef __unix__

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-class QProcess;
-
 namespace starfolds {
 
 /// The owner's side. A companion's standard input is a pipe that is never written to: it closes
@@ -16,7 +14,7 @@ namespace starfolds {
 class Companions {
  public:
   /// `left` is called from inside the pump when a companion has exited with code 0. A companion
-  /// that fails is not reported.
+  /// that fails or is killed is started again, but not for ever.
   explicit Companions(std::function<void()> left);
   /// Ends all companions.
   ~Companions();
@@ -28,10 +26,11 @@ class Companions {
   void EndAll();
 
  private:
-  void Watch(QProcess& process);
+  struct Companion;
+  void Watch(Companion& companion);
 
   std::function<void()> left_;
-  std::vector<std::unique_ptr<QProcess>> processes_;
+  std::vector<std::unique_ptr<Companion>> companions_;
 };
 
 /// The companion's side.

@@ -84,6 +84,20 @@ for signal in KILL SEGV; do
   expect_no_companion "SIG$signal" $others
 done
 
+# A companion that dies is replaced.
+start "$program" --saver
+wait_for_both
+others=$(companions)
+kill -KILL $others
+expect_no_companion "SIGKILL of a companion" $others
+for _ in $(seq 1 600); do
+  [ -n "$(companions)" ] && break
+  sleep 0.05
+done
+[ -n "$(companions)" ] || fault "a killed companion leaves its screen uncovered"
+wait_for_both
+stop
+
 # Where no kernel helps, the end of the owner's pipe is enough.
 sleep 1.5 | timeout 10 "$program" --saver --companion --screens 2 2>/dev/null
 [ $? = 0 ] || fault "a companion does not hear of its owner's end"
