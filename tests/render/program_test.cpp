@@ -125,6 +125,7 @@ const BadLine kBadLines[] = {
     {"--y4m none/v.y4m", "No such file or directory"},
     {"--y4m .", "Is a directory"},
     {"--y4m full", "No space left on device"},
+    {"--y4m full --size 9x9 --frames 1", "No space left on device"},  // found by the last flush
     {"--sheet full", "No space left on device"},
 };
 
