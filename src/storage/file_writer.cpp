@@ -60,6 +60,8 @@ int TakeOver(int file, const struct stat& old) {
   if (now.st_gid != old.st_gid && fchown(file, sameUser, old.st_gid) != 0) {
     rights &= ~kGroupRights | (rights & kOthersRights) << 3U;
   }
+  // Some file systems have fixed permissions and refuse to set them.
+  if ((now.st_mode & kRightsMask) == rights) return 0;
   return fchmod(file, rights) == 0 ? 0 : errno;
 }
 
@@ -89,9 +91,9 @@ FileWriter::Fault FileWriter::Open(const std::string& path, Targets targets) {
     // The folder's permissions would allow it, but a read-only file must not be replaced.
     if (faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0) return Reason(errno);
   }
-  if (const int error = temporary_.Create(FolderOf(target_), exists ? kRightsAtFirst : kRights))
-    return Reason(error);
-  const int error = exists ? TakeOver(temporary_.Number(), old) : 0;
+  int error = temporary_.Create(FolderOf(target_), exists ? kRightsAtFirst : kRights);
+  if (error != 0) return Reason(error);
+  if (exists) error = TakeOver(temporary_.Number(), old);
   return error == 0 ? UseStream(fcntl(temporary_.Number(), F_DUPFD_CLOEXEC, 0)) : Reason(error);
 }
 
