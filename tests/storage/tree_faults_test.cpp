@@ -163,9 +163,10 @@ TEST_F(TreeFaults, RightsThatAreMissing) {
     fs::permissions(Folder.Path("config"), perms::all);
     fs::permissions(File, perms::all);
     fs::permissions(Folder.Path(path), rights);
+    const std::string seen = rights == perms::none ? "unread" : "old";
     EXPECT_TRUE(SucceedsAsOrdinaryUser([&] {
       StoredTree stored(File, {}, kImpatient);
-      EXPECT_EQ(stored.Saved(2), rights == perms::none ? "unread" : "old");
+      EXPECT_EQ(stored.Saved(2), seen);
       EXPECT_FALSE(stored.Write("0", "old")) << "not even what is there already";
       EXPECT_FALSE(stored.Save("new", 2));
       EXPECT_TRUE(stored.Complaints.empty());
