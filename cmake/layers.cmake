@@ -11,12 +11,19 @@ if(NOT MSVC)
     -Wimplicit-fallthrough -Werror -ffp-contract=off -fno-math-errno -fno-tree-slp-vectorize
     # GCC 12 sees overlapping copies in plain string concatenation at -O3 that are not there.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
-  if(STARFOLDS_SANITIZE)
+  if(STARFOLDS_HARDEN)
+    starfolds_harden(starfolds_options)
+  endif()
+  if(STARFOLDS_SANITIZE OR STARFOLDS_SANITIZE_THREAD)
+    set(SANITIZERS undefined,float-cast-overflow,float-divide-by-zero)
+    if(STARFOLDS_SANITIZE_THREAD) # excludes the address sanitizer
+      string(PREPEND SANITIZERS thread,)
+    else()
+      string(PREPEND SANITIZERS address,)
+    endif()
     target_compile_options(starfolds_options INTERFACE
-      -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero
-      -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(starfolds_options INTERFACE
-      -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero)
+      -fsanitize=${SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(starfolds_options INTERFACE -fsanitize=${SANITIZERS})
   endif()
   if(STARFOLDS_FUZZ) # counts which edges an input takes
     target_compile_options(starfolds_options INTERFACE -fsanitize=fuzzer-no-link)
