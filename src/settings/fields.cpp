@@ -376,8 +376,9 @@ void ClampComposite(CompositeProfile& composite) {
 void ClampAdvanced(AdvancedSettings& advanced) {
   ClampFields(advanced, AdvancedFields());
   if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
-  advanced.LockMessage = std::string(
-      FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage, kMostBytesOfMessage));
+  const std::string_view message =
+      FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage, kMostBytesOfMessage);
+  advanced.LockMessage = std::string(Trimmed(message));  // the cut may have left blanks at the end
   if (advanced.Adv_EffectFPC > 0) {
     advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
   }
