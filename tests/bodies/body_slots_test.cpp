@@ -1,49 +1,35 @@
 #include "bodies/body_slots.h"
 
-#include "one_body.h"
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "scenes/scenes.h"
 
 namespace starfolds {
 namespace {
 
 constexpr Integer kComposite = kFirstComposite + 4;
 
-class BodySlotsTest : public OneBody {
- protected:
-  BodySlotsTest() : OneBody(FoldStyle::Standard) {}
-
-  void Dress(int prof, FoldStyle style, Long radius) {
-    StarfoldProfile& set = Process().Profiles[static_cast<std::size_t>(prof)];
-    set.Starfold_FoldStyle = static_cast<Integer>(style);
-    set.Starfold_Radius = radius;
-    set.Starfold_RadSegs = 6;
-  }
-  void InitComposite(const std::vector<Integer>& members) {
-    CompositeProfile& composite = Process().Composites[kComposite - kFirstComposite];
+TEST(BodySlots, APlainEntryStandsForItselfWithoutADraw) {
+  scenes::Stage stage;
+  ProcessState& process = *stage.Process;
+  const auto initComposite = [&](const std::vector<Integer>& members) {
+    CompositeProfile& composite = process.Composites[kComposite - kFirstComposite];
     composite.CompFold_Count = static_cast<Integer>(members.size());
-    std::copy(members.begin(), members.end(), composite.CompFold_Type.begin());
-    PrepareRun(Process());
-    InitBodies(Process(), Slots, std::vector<Integer>{kComposite});
-  }
-};
-
-TEST_F(BodySlotsTest, WhatMembersShareIsAsTheFirstOneLeftIt) {
-  Dress(3, FoldStyle::IfsFractal, 100);
-  Dress(5, FoldStyle::IfsWireframe, 800);
-  Dress(7, FoldStyle::Nebula, 100);
-  Dress(9, FoldStyle::Nebula, 90000);
-  InitComposite({3, 7, 5, 9});
-  ExpectPoint(Slots.Ifs[0].IfsVertex[2], {-1, 0, 0});
-  for (const Point3& key : Slots.Ribbon[0].RibbonKey[0]) EXPECT_LE(std::abs(key.X), 1);
-}
-
-TEST_F(BodySlotsTest, APlainEntryStandsForItselfWithoutADraw) {
-  InitComposite({12, 6});
-  Draws({0.99F});
-  EXPECT_EQ(PickProfile(Process(), 49), 49);
-  EXPECT_EQ(ResolveProfile(Process(), kComposite), 12);
-  EXPECT_EQ(PickProfile(Process(), kComposite), 6) << "and this draws";
-  InitComposite({});
-  EXPECT_EQ(PickProfile(Process(), kComposite), 0) << "an empty one is the first profile";
+    std::ranges::copy(members, composite.CompFold_Type.begin());
+    PrepareRun(process);
+    BodySlots slots;
+    InitBodies(process, slots, std::vector<Integer>{kComposite});
+  };
+  initComposite({12, 6});
+  const std::vector<Single> draws{0.99F};
+  process.Random.Script(draws);
+  EXPECT_EQ(PickProfile(process, 49), 49);
+  EXPECT_EQ(ResolveProfile(process, kComposite), 12);
+  EXPECT_EQ(PickProfile(process, kComposite), 6) << "and this draws";
+  initComposite({});
+  EXPECT_EQ(PickProfile(process, kComposite), 0) << "an empty one is the first profile";
 }
 
 }  // namespace

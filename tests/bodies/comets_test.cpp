@@ -1,10 +1,12 @@
 #include "bodies/comets.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <functional>
 
 #include "bodies/star_step.h"
-#include "one_body.h"
+#include "scenes/scenes.h"
 
 namespace starfolds {
 namespace {
@@ -88,36 +90,6 @@ TEST(Comets, ANewVisitErasesThem) {
   EXPECT_EQ(stage.LiveStars(), 0);
   EXPECT_EQ(stage.LiveHeads(), 0);
   EXPECT_EQ(stage.Comets().CometCount, 25) << "by the profile now visited";
-}
-
-/// Gives the profile what its style needs to show something.
-void DressAs(StarfoldProfile& set, FoldStyle style) {
-  set.Starfold_FoldStyle = static_cast<Integer>(style);
-  set.Starfold_RadSegs = 4;
-  set.Starfold_RadFill = 50;
-  set.Starfold_Rotation = 2000;
-  set.Starfold_Atoms = 1;
-  set.Atom.Atoms[0].Atom_Structure = 5;
-  set.Atom.Atoms[0].Atom_Radius = 500;
-}
-
-TEST(Comets, NothingStaysLitWhenTheyAreGone) {
-  for (Integer style = 0; style < kStyleCount; ++style) {
-    CometStage stage([&](StarfoldProfile& set) {
-      DressAs(set, static_cast<FoldStyle>(style));
-      set.Starfold_Distance = 100;  // the eye is inside the body
-      set.Starfold_AngleTInc = 1;
-      set.Starfold_CometOrbit = 2000;
-      set.Starfold_CometSpeed = 500;
-      set.Starfold_CometSPersist = 0.95F;
-      set.Starfold_CometCPersist = 0.99F;
-    });
-    stage.StepComets(300);
-    EXPECT_GT(stage.LitPixels(), 50) << style;
-    for (int frame = 0; frame < 2000 && stage.LiveHeads() > 0; ++frame) stage.StepComets(1, 1);
-    EXPECT_EQ(stage.LiveStars(), 0) << style;
-    EXPECT_EQ(stage.LitPixels(), 0) << style;
-  }
 }
 
 }  // namespace

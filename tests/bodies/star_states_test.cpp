@@ -54,5 +54,88 @@ TEST(StarStates, AreTheSameInEveryBuild) {
   }
 }
 
+/// One thing at a time that the styles above do not show: the profile of `Style` is changed with
+/// every number from `First` to `Last`, and the stars and the pixels of all these runs are pinned.
+struct Variation {
+  const char* Name;
+  FoldStyle Style;
+  Integer First, Last;
+  void (*Change)(StarfoldProfile&, Integer);
+  std::uint64_t Hash;
+};
+
+constexpr Variation kVariations[] = {
+    {"figures of 6 to 10 corners, flattened", FoldStyle::IfsFractal, 6, 10,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Starfold_RadSegs = n;
+       profile.Starfold_GHW_Ratio = 0.5F;
+     },
+     2754980906677991032U},
+    {"points that turn about each axis", FoldStyle::UserIfs, 0, 3,
+     [](StarfoldProfile& profile, Integer n) { profile.IFS.Points[0].IFS_Axis = n; },
+     13214919160164177649U},
+    {"points without a weight", FoldStyle::UserIfs, 0, 1,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.IFS.Points[0].IFS_RelPct = 0;
+       profile.IFS.Points[1].IFS_RelPct = n;
+     },
+     4859769721585788624U},
+    {"a molecule without atoms and one of a single atom", FoldStyle::Molecule, 0, 1,
+     [](StarfoldProfile& profile, Integer n) { profile.Starfold_Atoms = n; }, 4899504133222165899U},
+    {"structures of atoms, lattices with clamped edges among them", FoldStyle::Molecule, 0, 11,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Atom.Atom_CenterX = 400;
+       profile.Atom.Atoms[1].Atom_Structure = n;
+       profile.Atom.Atoms[1].Atom_LocX = static_cast<Integer>(n % 2 == 0 ? 500 : 3);
+     },
+     16045936242732322446U},
+    {"open and closed ribbons", FoldStyle::Nebula, 0, 1,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Starfold_CP_Close = n;
+       profile.Starfold_CP_Points = 3;
+     },
+     9947794585236163817U},
+    {"shapes of the disk", FoldStyle::Standard, 0, 6,
+     [](StarfoldProfile& profile, Integer n) { profile.Starfold_Profile = n; },
+     2248804275594751766U},
+    {"rules of colour", FoldStyle::Standard, 0, 5,
+     [](StarfoldProfile& profile, Integer n) { profile.Starfold_ColorComp = n; },
+     2007515599580769964U},
+    {"levels that tilt backward", FoldStyle::Standard, 352, 352,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Starfold_AngleTInc = n;
+       profile.Starfold_StdLevB_A1 = profile.Starfold_StdLevB_A0 = 1;
+     },
+     276853345125379680U},
+    {"an inner level of radius 0", FoldStyle::Standard, 2, 3,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Starfold_ColorComp = n;
+       profile.Starfold_Radius = 300;
+       profile.Starfold_StdLevDRad = -150;
+     },
+     7885538802102169728U},
+    {"shapes of pulsars", FoldStyle::Standard, 0, 4,
+     [](StarfoldProfile& profile, Integer n) {
+       profile.Starfold_PulsarShape = n;
+       profile.Starfold_PulsarFreq = 5000;
+     },
+     18164687582255938627U},
+};
+
+TEST(StarStates, OfTheseVariationsAreAsPinned) {
+  for (const Variation& variation : kVariations) {
+    std::uint64_t hash = 0;
+    for (Integer n = variation.First; n <= variation.Last; ++n) {
+      BodyStage stage(320, 180, 300, 1, [&](SettingsRecords& settings) {
+        MakeRich(settings.Profiles[0], static_cast<Integer>(variation.Style));
+        variation.Change(settings.Profiles[0], n);
+      });
+      for (int frame = 0; frame < 60; ++frame) stage.Step();
+      hash = hash * 31 + (HashOf(stage.Run->Stars.Star) ^ stage.Canvas.Hash());
+    }
+    EXPECT_EQ(hash, variation.Hash) << variation.Name;
+  }
+}
+
 }  // namespace
 }  // namespace starfolds

@@ -41,28 +41,5 @@ TEST_F(SingleBody, CountsOfZeroBecomeOne) {
   EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 1);
 }
 
-TEST_F(SingleBody, ACompositeShowsTheStarsOfAllItsMembers) {
-  CompositeProfile& composite = Stage.Settings().Composites[2];
-  composite.CompFold_Count = 2;
-  composite.CompFold_Type = {4, 9};
-  // One member is green alone, the other red.
-  Stage.Settings().Profiles[4].Starfold_HueRed = Stage.Settings().Profiles[4].Starfold_HueBlu = 0;
-  Stage.Settings().Profiles[9].Starfold_HueGrn = Stage.Settings().Profiles[9].Starfold_HueBlu = 0;
-  for (const int member : {4, 9}) {
-    Stage.Settings().Profiles[member].Starfold_ColorMult = 30000;
-    Stage.Settings().Profiles[member].Starfold_CometFreq = 0;
-  }
-  Stage.StopAfter(2);
-  Run({.Body = 2, .IsComposite = true, .Stars = 800});
-  int red = 0;
-  int green = 0;
-  for (const Colour colour : Stage.Canvas.Pixels()) {
-    red += (colour & 0xFFFFFF) > 0 && (colour & 0xFFFF00) == 0;
-    green += (colour & 0x00FF00) > 0 && (colour & 0xFF00FF) == 0;
-  }
-  EXPECT_GT(red, 50);
-  EXPECT_GT(green, 50);
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -65,6 +65,16 @@ void MakeColourful(SettingsRecords& settings) {
   settings.Composites[1].CompFoldPct = 5;  // one without a member
 }
 
+TEST(PreparedUniverse, TheTrailsOfAllStarsFitSixteenBits) {
+  for (const auto& [stars, trail] :
+       {std::pair{30000, 1}, std::pair{10000, 3}, std::pair{400, 75}}) {
+    UniverseSettings universe;
+    universe.Universe_Stars = static_cast<Integer>(stars);
+    universe.Universe_STrail = 99;
+    EXPECT_EQ(PrepareUniverse(universe).RunTrail, trail) << stars;
+  }
+}
+
 TEST(SmallPreview, TakesFewerStars) {
   Stage stage;
   stage.Settings().Universe.Universe_Stars = 30;
@@ -119,6 +129,73 @@ TEST(Determinism, ThePinnedPicturesStand) {
   colourful.Settings().Advanced.Adv_Randomize = true;
   RunFrames(colourful, 900);
   EXPECT_EQ(colourful.Canvas.Hash(), 6117863179652412281U);
+}
+
+/// Short runs through creation, tour and pull-out and into the creation after it, with one setting
+/// each that the pictures above do not show. Every frame is part of the hash.
+TEST(Determinism, SmallUniversesAreAsPinned) {
+  struct Case {
+    const char* Name;
+    void (*Change)(SettingsRecords&);
+    std::uint64_t Hash;
+  };
+  const Case cases[] = {
+      {"gravity, evaluated in every second frame",
+       [](SettingsRecords& s) {
+         s.Universe.Universe_GravForce = 99999;
+         s.Universe.Universe_GravFrame = 2;
+       },
+       17449836048888091125U},
+      {"bodies in turn",
+       [](SettingsRecords& s) {
+         s.Universe.Universe_GVisit = true;
+         for (const int profile : {2, 5, 49}) s.Profiles[profile].UniFoldPct = 1;
+       },
+       11869149613901581594U},
+      {"comet hues that drift by half a degree a frame",
+       [](SettingsRecords& s) {
+         s.Universe.Universe_GSteps = 20;
+         for (StarfoldProfile& profile : s.Profiles) {
+           profile.Starfold_HWC_Inc = 0.5F;
+           profile.Starfold_HWC_End = 60;
+           profile.Starfold_NovaFreq = 3000;
+           profile.Starfold_CometFreq = 9999;
+         }
+       },
+       9658403550749472750U},
+      {"a composite of several bodies",
+       [](SettingsRecords& s) {
+         s.Composites[0].CompFoldPct = 9999;
+         s.Composites[0].CompFold_Count = 4;
+         s.Composites[0].CompFold_Type = {14, 3, 4, 2};
+       },
+       13591493277552013440U},
+      {"a list of visits",
+       [](SettingsRecords& s) { s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12"; },
+       11256271799452298665U},
+      {"a list of visits without a tour",
+       [](SettingsRecords& s) {
+         s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12";
+         s.Universe.Universe_Tour = false;
+       },
+       1745638166186554885U},
+  };
+  for (const Case& c : cases) {
+    Stage stage(160, 120);
+    for (int p = 0; p < kProfileCount; ++p) {
+      stage.Settings().Profiles[p].Starfold_FoldStyle = static_cast<Integer>(p % kStyleCount);
+    }
+    MakeSmall(stage.Settings().Universe);
+    c.Change(stage.Settings());
+    std::uint64_t hash = 0;
+    stage.Canvas.OnFrame = [&] {
+      hash = hash * 31 + stage.Canvas.Hash();
+      stage.Process->StopRun = ++stage.FramesShown == 10 + 36 + 8 + 5;
+    };
+    stage.Read();
+    UniverseRun(*stage.Process);
+    EXPECT_EQ(hash, c.Hash) << c.Name;
+  }
 }
 
 TEST(Determinism, TwoRunsInOneProcessDoNotTouchEachOther) {
