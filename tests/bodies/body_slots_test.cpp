@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
+#include "bodies/molecule.h"
 #include "scenes/scenes.h"
 
 namespace starfolds {
@@ -30,6 +32,23 @@ TEST(BodySlots, APlainEntryStandsForItselfWithoutADraw) {
   EXPECT_EQ(PickProfile(process, kComposite), 6) << "and this draws";
   initComposite({});
   EXPECT_EQ(PickProfile(process, kComposite), 0) << "an empty one is the first profile";
+}
+
+/// However the record came to be: stored ones are clamped before.
+TEST(Molecule, TheEdgeOfALatticeHasAtMost99Points) {
+  scenes::Stage stage;
+  StarfoldProfile& profile = stage.Process->Profiles[0];
+  profile.Starfold_Radius = 1000;
+  profile.Starfold_Atoms = 1;
+  profile.Atom.Atoms[0] = {.Atom_LocX = 500, .Atom_Structure = 6, .Atom_Radius = 200};
+  PrepareRun(*stage.Process);
+  Single farthest = 0;
+  for (int i = 0; i < 5000; ++i) {
+    SeedPoint star;
+    SeedMolecule(star, {*stage.Process, 0}, false);
+    farthest = std::max(farthest, std::abs(star.X));
+  }
+  EXPECT_NEAR(farthest, 49 * 2, 1e-4) << "the points lie 2 apart";
 }
 
 }  // namespace

@@ -255,19 +255,6 @@ TEST_F(FrmPropsTest, APageThatIsOpenDuringAResetShowsAndStoresTheFactorysValues)
   EXPECT_EQ(Edit("txtStarfold_0").text().toStdString(), factory);
 }
 
-TEST_F(FrmPropsTest, ResetsFromTheMenuAskFirst) {
-  Store(RandomRecords(91).Make());
-  Open();
-  Boxes.Answers = {BoxAnswer::Cancel, BoxAnswer::Yes};
-  Choose("mnuResetProps_0");
-  EXPECT_TRUE(Disk.Contents.empty());
-  Choose("mnuResetProps_0");
-  EXPECT_TRUE(Disk.Contents.contains("/prog/propsave.sfd"));
-  EXPECT_EQ(Edit("txtUni_0").text(), "2500") << "theme 1 in its variant for 2.0";
-  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Pancake-Like Disk");
-  EXPECT_FALSE(Part<QAction>(*Dialog, "mnuResetProps_0").isChecked());
-}
-
 TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
   StoreFactory();
   Open();
@@ -287,47 +274,88 @@ TEST_F(FrmPropsTest, WhatCannotBeStoredStaysInTheDialog) {
   EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 5000);
 
   Open();
-  Enter("txtUni_0", "1234");
-  Tree.WritesUntilFull = 300;
+  Edit("txtUni_0").setText("99999999");
+  const MemoryTree before = Contents(LoadSettings(Tree));
+  Tree.WritesUntilFull = 800;
   Click("cmdAccept");
   EXPECT_TRUE(Dialog->IsOpen()) << "a disk that fills up in the middle";
+  EXPECT_TRUE(Contents(LoadSettings(Tree)) == before);
   Tree.WritesUntilFull = -1;
   Click("cmdAccept");
   EXPECT_FALSE(Dialog->IsOpen());
-  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_Stars, 1234);
+  EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, "Universe_Stars"), "30000")
+      << "also a box that was not left";
 }
 
-/// The button's key leaves no box.
-TEST_F(FrmPropsTest, AcceptClampsTheBoxInUse) {
-  StoreFactory();
+TEST_F(FrmPropsTest, AnUnreadableTreeShowsTheFactorySettingsAndIsKept) {
+  const SettingsRecords mine = RandomRecords(51).Make();
+  Store(mine);
+  const MemoryTree before = Tree;
+  Tree.Readable = false;  // held by another process
   Open();
-  Edit("txtUni_0").setText("99999999");
+  EXPECT_TRUE(Tree == before);
+  EXPECT_NE(LastBox().find("show the Factory Settings"), std::string::npos);
+  EXPECT_EQ(Edit("txtUni_0").text(), "5000");
+  Tree.Readable = true;
   Click("cmdAccept");
-  EXPECT_EQ(RegistryReadText(Tree, sections::kUniverse, "Universe_Stars"), "30000");
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
+  EXPECT_EQ(SavedName("/home/u/former-settings-1.sfd"), mine.Profiles[1].UniFoldName);
 }
 
-TEST_F(FrmPropsTest, ExitEndsTheProcess) {
-  StoreFactory();
+TEST_F(FrmPropsTest, ANewUserIsWelcomedOnceAndGetsTheFactorySettings) {
+  WhenShown<FrmWelcome>([](FrmWelcome& welcome) { welcome.reject(); });
   Open();
+  EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
+  EXPECT_FALSE(HasMark(Tree, kAnimationType)) << "nothing is accepted yet";
+  Click("cmdDismiss");
+  Open();
+  EXPECT_TRUE(HasMark(Tree, kAnimationType)) << "opened again, the settings are stored at once";
+  EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
   Choose("mnuExit");
   EXPECT_TRUE(Process->Requests.QuitApp());
   EXPECT_FALSE(Dialog->IsOpen());
 }
 
-TEST_F(FrmPropsTest, WelcomesAnUpgradeWithASafetyCopy) {
-  SettingsRecords mine = RandomRecords(95).Make();
-  SaveSettings(Tree, mine);
-  RegistryWrite(Tree, sections::kGeneral, kAnimationType, Long{0});
+TEST_F(FrmPropsTest, AnUpgradeAndAResetMakeASafetyCopy) {
+  const SettingsRecords mine = RandomRecords(95).Make();
+  Store(mine);
+  RegistryWrite(Tree, sections::kGeneral, kResetSettings, "");
   WhenShown<FrmWelcome>(
       [](FrmWelcome& welcome) { Part<QPushButton>(welcome, "cmdReset").click(); });
   Open();
-  SettingsRecords saved;
-  TemplateFile file(Disk);
-  ASSERT_EQ(ReadTemplate(file, "/prog/propsave.sfd", saved), std::nullopt);
-  EXPECT_EQ(saved.Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName);
+  EXPECT_EQ(SavedName("/prog/propsave.sfd"), mine.Profiles[1].UniFoldName);
   EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
   EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName)
       << "until the dialog is accepted";
+
+  Disk.ReadOnlyFolders = {"/prog"};
+  Boxes.Answers = {BoxAnswer::Cancel, BoxAnswer::Yes};
+  Choose("mnuResetProps_0");
+  EXPECT_EQ(Disk.Contents.size(), 1U);
+  Choose("mnuResetProps_0");
+  EXPECT_EQ(SavedName("/home/u/propsave.sfd"), "Star Rings");
+  EXPECT_EQ(Edit("txtUni_0").text(), "2500") << "theme 1 in its variant for 2.0";
+}
+
+TEST_F(FrmPropsTest, F1OpensTheTopicOfThePageOrTheFrameInUse) {
+  StoreFactory();
+  Open();
+  const auto topic = [&] {
+    emit Part<QShortcut>(*Dialog, "helpHere").activated();
+    return HelpBook.Topics.back();
+  };
+  for (int page = 0; page < kUniversePageCount; ++page) {
+    The<QComboBox>("cboUniExtras").setCurrentIndex(page);
+    The<QComboBox>("cboUniExtras").setFocus();
+    EXPECT_EQ(topic(), help::kUniversePage + page);
+  }
+  The<BodyList>("lstUniStarfold").setFocus();
+  EXPECT_EQ(topic(), help::kUniverseView);
+  The<QComboBox>("cboPropCopyList").setFocus();
+  EXPECT_EQ(topic(), help::kPropertyCopy);
+  OpenType(0);
+  The<QComboBox>("cboFoldExtras").setCurrentIndex(2);
+  EXPECT_EQ(topic(), help::kStarfoldPage + 2);
 }
 
 /// Whoever presses, types and chooses anywhere, previews included, leaves a tree that is valid.

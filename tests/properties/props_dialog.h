@@ -4,6 +4,7 @@
 #include "properties/frm_props.h"
 #include "settings/first_run.h"
 #include "settings/stored_records.h"
+#include "settings/templates.h"
 #include "widgets/dialog_test.h"
 
 namespace starfolds {
@@ -56,6 +57,14 @@ class FrmPropsTest : public DialogTest {
   void OpenType(int index) {
     The<BodyList>("lstUniStarfold").setCurrentRow(index);
     Click("cmdFoldProps");
+  }
+
+  /// The name of body 1 in a template that the dialog has written.
+  std::string SavedName(const std::string& path) {
+    SettingsRecords saved;
+    TemplateFile file(Disk);
+    EXPECT_EQ(ReadTemplate(file, path, saved), std::nullopt) << path;
+    return saved.Profiles[1].UniFoldName;
   }
 
   MemoryFiles Disk;

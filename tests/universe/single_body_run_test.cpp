@@ -41,5 +41,16 @@ TEST_F(SingleBody, CountsOfZeroBecomeOne) {
   EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 1);
 }
 
+TEST_F(SingleBody, ACompositeIsAsPinned) {
+  CompositeProfile& composite = Stage.Settings().Composites[2];
+  composite.CompFold_Count = 2;
+  composite.CompFold_Type = {4, 9};
+  Stage.Settings().Profiles[4].Starfold_ColorMult = 30000;
+  Stage.Settings().Profiles[9].Starfold_Radius = 100;
+  Stage.StopAfter(30);
+  Run({.Body = 2, .IsComposite = true, .Stars = 300});
+  EXPECT_EQ(Stage.Canvas.Hash(), 8522864330256078075U);
+}
+
 }  // namespace
 }  // namespace starfolds

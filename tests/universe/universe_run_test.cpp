@@ -146,12 +146,13 @@ TEST(Determinism, SmallUniversesAreAsPinned) {
          s.Universe.Universe_GravFrame = 2;
        },
        17449836048888091125U},
-      {"bodies in turn",
+      {"bodies in turn, without steps close to them",
        [](SettingsRecords& s) {
          s.Universe.Universe_GVisit = true;
+         s.Universe.Universe_GCCtrl = 0;
          for (const int profile : {2, 5, 49}) s.Profiles[profile].UniFoldPct = 1;
        },
-       11869149613901581594U},
+       8628735600907338174U},
       {"comet hues that drift by half a degree a frame",
        [](SettingsRecords& s) {
          s.Universe.Universe_GSteps = 20;
@@ -163,13 +164,23 @@ TEST(Determinism, SmallUniversesAreAsPinned) {
          }
        },
        9658403550749472750U},
+      {"ambient stars after a creation of one frame",
+       [](SettingsRecords& s) {
+         s.Universe.Universe_ESteps = 1;
+         s.Universe.Universe_AmStar = 200;
+       },
+       8719488215190937786U},
       {"a composite of several bodies",
        [](SettingsRecords& s) {
          s.Composites[0].CompFoldPct = 9999;
          s.Composites[0].CompFold_Count = 4;
          s.Composites[0].CompFold_Type = {14, 3, 4, 2};
+         for (const Integer body : {2, 3, 4, 14}) {
+           s.Profiles[body].Starfold_RadSegs = static_cast<Integer>(4 + body);
+           s.Profiles[body].Starfold_Radius = 100 * body;
+         }
        },
-       13591493277552013440U},
+       6707153877545879451U},
       {"a list of visits",
        [](SettingsRecords& s) { s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12"; },
        11256271799452298665U},
