@@ -45,21 +45,6 @@ TEST(Factory, TheTablesAreAsPinned) {
   }
 }
 
-/// A value beyond its range would be another one in the run than in the table.
-TEST(Factory, NoClampChangesAProfile) {
-  for (const FactorySet set : {Starfolds4x, Starfolds20}) {
-    SettingsRecords records;
-    LoadFactorySet(records, set);
-    for (StarfoldProfile& profile : records.Profiles) {
-      const StarfoldProfile before = profile;
-      ClampProfile(profile);
-      for (const auto& field : ProfileFields()) {
-        EXPECT_EQ(FieldText(profile, field), FieldText(before, field)) << before.UniFoldName;
-      }
-    }
-  }
-}
-
 /// One level leaves the settings of levels alone; points and atoms drive each other out.
 TEST(Factory, WhatTheRowBeforeLeaves) {
   StarfoldProfile record;

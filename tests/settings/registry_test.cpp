@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/window_placement.h"
-
 namespace starfolds {
 namespace {
 
@@ -49,55 +47,6 @@ TEST(Registry, NumbersAreReadByTheirType) {
     EXPECT_EQ(RegistryReadLong(tree, kSection, "Key", 7), c.AsLong) << c.Text;
     EXPECT_EQ(RegistryReadSingle(tree, kSection, "Key", 7), c.AsSingle) << c.Text;
   }
-}
-
-class StubWindow : public PlacedWindow {
- public:
-  WindowState TheState = WindowState::Normal;
-  WindowBounds TheBounds;
-  bool IsSizable = true;
-  bool Centred = false;
-
-  WindowState State() const override { return TheState; }
-  WindowBounds Bounds() const override { return TheBounds; }
-  bool Sizable() const override { return IsSizable; }
-  void ApplyState(WindowState state) override { TheState = state; }
-  void Move(Long left, Long top) override {
-    TheBounds.Left = left;
-    TheBounds.Top = top;
-  }
-  void Move(const WindowBounds& bounds) override { TheBounds = bounds; }
-  void CentreOnScreen() override { Centred = true; }
-};
-
-TEST(WindowPlacement, ComesBackAsItWasSaved) {
-  MemoryTree tree;
-  StubWindow window;
-  RestoreWindowPlacement(window, tree, "General");
-  EXPECT_TRUE(window.Centred);
-
-  window.TheBounds = {-300, 45, 12000, 123456};
-  SaveWindowPlacement(window, tree, "General");
-  EXPECT_EQ(RegistryReadText(tree, "General", "WindowSize"), "00000000451200099999");
-  window.TheState = WindowState::Minimised;
-  window.TheBounds = {};
-  SaveWindowPlacement(window, tree, "General");  // keeps the size of the last time
-  EXPECT_EQ(RegistryReadText(tree, "General", "WindowState"), "0");
-
-  StubWindow later;
-  RestoreWindowPlacement(later, tree, "General");
-  EXPECT_EQ(later.TheBounds, (WindowBounds{0, 45, 12000, 99999}));
-  StubWindow fixed;
-  fixed.IsSizable = false;
-  RestoreWindowPlacement(fixed, tree, "General");
-  EXPECT_EQ(fixed.TheBounds, (WindowBounds{0, 45, 0, 0}));
-
-  window.TheState = WindowState::Maximised;
-  SaveWindowPlacement(window, tree, "General");
-  StubWindow maximised;
-  RestoreWindowPlacement(maximised, tree, "General");
-  EXPECT_EQ(maximised.TheState, WindowState::Maximised);
-  EXPECT_EQ(maximised.TheBounds, WindowBounds()) << "the size is not applied";
 }
 
 }  // namespace

@@ -123,19 +123,6 @@ TEST(Storage, LongNamesAreCutToWholeCharactersRatherThanLost) {
   EXPECT_EQ(LoadSettings(tree).Profiles[7].UniFoldName, most);
 }
 
-TEST(Storage, ABulkIsAllOrNothing) {
-  RandomRecords random(9);
-  SettingsRecords before = random.Make();
-  SettingsRecords after = random.Make();
-  MemoryTree tree;
-  ASSERT_TRUE(SaveSettings(tree, before));
-  for (const int writes : {0, 1, 700, 3000}) {
-    tree.WritesUntilFull = writes;
-    EXPECT_FALSE(SaveSettings(tree, after));
-    EXPECT_EQ(tree, Contents(before)) << writes;
-  }
-}
-
 TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
   const auto machine = RootSelector::LocalMachine;
   MemoryTree tree;
