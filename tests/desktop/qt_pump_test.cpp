@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QObject>
-#include <QTimer>
 #include <chrono>
 #include <ctime>
 #include <thread>
@@ -54,18 +53,6 @@ TEST_P(QtPumpWith, WakesForAnEventAndRunsIt) {
   sender.join();
   EXPECT_TRUE(ran);
   EXPECT_LT(Since(begin), 10'000);
-}
-
-TEST_P(QtPumpWith, IsNotWokenByAFormerDeadline) {
-  QTimer soon;
-  soon.setSingleShot(true);
-  soon.start(0);
-  while (soon.isActive()) Events.WaitForEvents(40);
-  // The alarm of the wait above has been called off. Left alone it would cut this wait short.
-  Events.PumpEvents();
-  const Long begin = Events.TickCount();
-  Events.WaitForEvents(150);
-  EXPECT_GE(Since(begin), 140);
 }
 
 TEST_P(QtPumpWith, KeepsTheScreensPace) {

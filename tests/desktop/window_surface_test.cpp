@@ -233,15 +233,5 @@ TEST_F(WindowInputTest, CannotCloseTheWindowByItself) {
   EXPECT_TRUE(Target.Window().isVisible());
 }
 
-TEST_F(WindowInputTest, TellsOfTheWindowsEndAndSurvivesIt) {
-  ShowAt(200, 150);
-  Heard.Notes.clear();
-  Target.Window().destroy();
-  EXPECT_THAT(Heard.Notes, ElementsAre("destroyed"));
-  Scatter(10);
-  Target.Present();
-  EXPECT_FALSE(Target.IsExposed());
-}
-
 }  // namespace
 }  // namespace starfolds
