@@ -1,5 +1,4 @@
-// To be included by tests of widgets: makes the application object before the first test of the
-// program and takes it down after the last, and does what a user's hands do.
+// To be included by tests of widgets: an application object, and what a user's hands do.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,30 +10,14 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <map>
-#include <memory>
 
-#include "platform/pump.h"
+#include "application.h"
+#include "planned_pump.h"
 
 namespace starfolds {
 
-class WidgetsEnvironment : public testing::Environment {
- public:
-  void SetUp() override {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QApplication>(count_, arguments_);
-  }
-  void TearDown() override { application_.reset(); }
-
- private:
-  int count_ = 1;
-  char name_[6] = "tests";
-  char* arguments_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
-};
-
 inline testing::Environment* const kWidgets =
-    testing::AddGlobalTestEnvironment(new WidgetsEnvironment);
+    testing::AddGlobalTestEnvironment(new ApplicationEnvironment<QApplication>);
 
 inline void Press(QWidget& widget, int key, const QString& text = {},
                   Qt::KeyboardModifiers with = Qt::NoModifier) {
@@ -76,22 +59,5 @@ Widget& Part(QWidget& dialog, const char* name) {
   if (!part) std::abort();
   return *part;
 }
-
-/// Runs the toolkit's events in each pump of a run, and what is planned for it. A run that nobody
-/// ends is ended after a while, so that a fault fails instead of hanging.
-class DialogPump : public CountedPump {
- public:
-  static constexpr int kLongestRun = 3000;
-  std::map<int, std::function<void()>> Plan;
-  int Pumps = 0;
-  std::function<void()> OnTooLong;
-
-  void PumpEvents() override {
-    QApplication::processEvents();
-    ++Pumps;
-    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
-    if (Pumps >= kLongestRun && OnTooLong) OnTooLong();
-  }
-};
 
 }  // namespace starfolds

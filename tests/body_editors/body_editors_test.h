@@ -95,7 +95,7 @@ class BodyEditorsTest : public EditorTest {
   }
 
   MemoryDesktop Desktop;
-  DialogPump Events;
+  PlannedPump Events;
   BoxesOfNobody Props;
   std::unique_ptr<BodyEditor> Dialog;
 };

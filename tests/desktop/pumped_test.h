@@ -3,12 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <functional>
 
+#include "application.h"
 #include "desktop/qt_pump.h"
-#include "desktop/toolkit.h"
 
 namespace starfolds {
+
+inline testing::Environment* const kToolkit =
+    testing::AddGlobalTestEnvironment(new ApplicationEnvironment<QGuiApplication>);
 
 class PumpedTest : public testing::Test {
  protected:

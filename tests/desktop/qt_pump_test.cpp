@@ -8,7 +8,7 @@
 #include <ctime>
 #include <thread>
 
-#include "desktop/toolkit.h"
+#include "desktop/pumped_test.h"
 
 namespace starfolds {
 namespace {

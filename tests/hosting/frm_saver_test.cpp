@@ -81,8 +81,10 @@ TEST_F(FrmSaverTest, EndsWhenItsWindowIsClosedOrGone) {
   EXPECT_EQ(Run(), 10);
 }
 
-TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRun) {
+TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRunOfTheSettingsStoredThen) {
   Events.Plan[3] = [&] {
+    EXPECT_EQ(State->Universe.Universe_Stars, 50);
+    Store("Universe", "Universe_Stars", 70);
     Window().setWindowState(Qt::WindowNoState);
     Window().resize(300, 200);
   };
@@ -90,6 +92,7 @@ TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRun) {
     EXPECT_EQ(Seeds, 2);
     EXPECT_EQ(State->Screen.SurfaceWidth, 300);
     EXPECT_EQ(State->Screen.hDCDraw->Height(), 200);
+    EXPECT_EQ(State->Universe.Universe_Stars, 70);
     Window().resize(400, 200);
     Press(Window(), Qt::Key_A);
   };

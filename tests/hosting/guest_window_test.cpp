@@ -52,22 +52,6 @@ class GuestTest : public HostTest {
   HostWindow Host{Server(), 320, 200};
 };
 
-TEST_F(GuestTest, APreviewHasFewerStarsThanASaver) {
-  Store("Universe", "Universe_AmStar", 40);
-  Desktop.Windows = {HostId()};
-  const auto end = [&](int stars, int ambient) {
-    EXPECT_EQ(State->Universe.Universe_Stars, stars);
-    EXPECT_EQ(State->Universe.Universe_AmStar, ambient);
-    EXPECT_EQ(State->Screen.SurfaceWidth, 320);
-    EXPECT_EQ(State->Screen.SurfaceHeight, 200);
-    State->Requests.AskStop();
-  };
-  Events.Plan[5] = [&] { end(32, 20); };
-  EXPECT_EQ(RunPreview(), 5);
-  Events.Plan[10] = [&] { end(50, 40); };
-  EXPECT_EQ(RunSaver(), 10);
-}
-
 TEST_F(GuestTest, APreviewIsAboveTheHostsOwnChildrenAndASaverBelow) {
   Desktop.Windows = {HostId()};
   const xcb_window_t own = Host.AddChild();
@@ -114,31 +98,6 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
     State->Requests.AskStop();
   };
   EXPECT_EQ(RunSaver(), 11);
-}
-
-TEST_F(GuestTest, ASaverEndsInTheFrameOfItsHostsDeath) {
-  Events.Plan[7] = [&] {
-    Host.Destroy();
-    AwaitStop();
-  };
-  EXPECT_EQ(RunSaver(), 7);
-  EXPECT_EQ(Seeds, 1);
-}
-
-/// In the creation, in the one visit and in the pull-out, of 20 frames each.
-TEST_F(GuestTest, BeginsAtOnceAtTheHostsNewSize) {
-  std::uint32_t size = 320;
-  for (const int pump : {1, 22, 63}) {
-    Events.Plan[pump] = [&] { ResizeAndAwait(size += 80, 300); };
-    Events.Plan[pump + 1] = [&] {
-      EXPECT_EQ(State->Screen.SurfaceWidth, static_cast<int>(size));
-      EXPECT_EQ(State->Screen.CenterY, 150);
-      EXPECT_EQ(State->Screen.hDCDraw->Height(), 300);
-      if (size == 560) State->Requests.AskStop();
-    };
-  }
-  EXPECT_EQ(RunSaver(), 64);
-  EXPECT_EQ(Seeds, 4);
 }
 
 }  // namespace

@@ -5,45 +5,28 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWindow>
 #include <functional>
-#include <map>
 #include <memory>
 
-#include "desktop/toolkit.h"
+#include "application.h"
+#include "planned_pump.h"
 #include "process/process_state.h"
 #include "settings/stored_records.h"
 
 namespace starfolds {
 
-/// Counts the pumps of the run, and does in each what is planned for it. A run that nobody ends is
-/// ended after a while, so that a fault fails instead of hanging.
-class PlannedPump : public CountedPump {
- public:
-  static constexpr int kLongestRun = 2000;
-
-  explicit PlannedPump(ProcessState& process) : process_(process) {}
-
-  std::map<int, std::function<void()>> Plan;
-  int Pumps = 0;
-
-  void PumpEvents() override {
-    QCoreApplication::processEvents();
-    ++Pumps;
-    if (const auto planned = Plan.find(Pumps); planned != Plan.end()) planned->second();
-    if (Pumps >= kLongestRun) process_.Requests.AskQuit();
-  }
-
- private:
-  ProcessState& process_;
-};
+inline testing::Environment* const kToolkit =
+    testing::AddGlobalTestEnvironment(new ApplicationEnvironment<QGuiApplication>);
 
 class HostTest : public testing::Test {
  protected:
   HostTest() {
     State->Events = &Events;
+    Events.OnTooLong = [this] { State->StopRun = State->QuitApp = true; };
     State->Desktop = &Desktop;
     State->Platform = &Platform;
     State->Tree = &Tree;
@@ -80,7 +63,7 @@ class HostTest : public testing::Test {
   }
 
   std::unique_ptr<ProcessState> State = std::make_unique<ProcessState>();
-  PlannedPump Events{*State};
+  PlannedPump Events;
   MemoryDesktop Desktop;
   ScriptedPlatform Platform;
   MemoryTree Tree;

@@ -7,24 +7,6 @@
 namespace starfolds {
 namespace {
 
-TEST(SaverInput, EndsOnKeysAndButtonsButNotAsABackground) {
-  const SaverInput process(true, false);
-  EXPECT_TRUE(process.KeyDown());
-  EXPECT_TRUE(process.Scroll());
-  EXPECT_TRUE(process.MouseDown());
-  EXPECT_FALSE(process.DoubleClick());
-  SaverInput background(false, true);
-  EXPECT_FALSE(background.KeyDown());
-  EXPECT_FALSE(background.Scroll());
-  EXPECT_FALSE(background.MouseDown());
-  EXPECT_TRUE(background.DoubleClick());
-  SaverInput still(true, false);
-  for (int i = 0; i < 50; ++i) {
-    EXPECT_FALSE(still.MouseMove(1000));
-    EXPECT_FALSE(background.MouseMove(1000));
-  }
-}
-
 TEST(SaverInput, EndsOnTheFourthMoveWithinTenSeconds) {
   struct Case {
     const char* Why;

@@ -10,7 +10,7 @@ namespace {
 
 TEST(FrmAbout, ClosesWithTheProcessAndSoDoTheCredits) {
   const auto process = std::make_unique<ProcessState>();
-  DialogPump events;
+  PlannedPump events;
   MemoryDesktop desktop;
   MemoryHelp helpBook;
   process->Events = &events;

@@ -74,7 +74,7 @@ class FrmPropsTest : public DialogTest {
   std::vector<std::string> Overrides;
   int Diagnostics = 0;
   int Abouts = 0;
-  DialogPump Events;
+  PlannedPump Events;
   std::unique_ptr<ProcessState> Process = std::make_unique<ProcessState>();
   std::unique_ptr<FrmProps> Dialog;
 };

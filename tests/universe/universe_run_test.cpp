@@ -164,12 +164,6 @@ TEST(Determinism, SmallUniversesAreAsPinned) {
          }
        },
        9658403550749472750U},
-      {"ambient stars after a creation of one frame",
-       [](SettingsRecords& s) {
-         s.Universe.Universe_ESteps = 1;
-         s.Universe.Universe_AmStar = 200;
-       },
-       8719488215190937786U},
       {"a composite of several bodies",
        [](SettingsRecords& s) {
          s.Composites[0].CompFoldPct = 9999;
