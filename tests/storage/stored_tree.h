@@ -48,6 +48,18 @@ struct StoredTree {
   }
 };
 
+/// A folder for a tree's file. The folder between is made by the first write.
+class TreeTest : public testing::Test {
+ protected:
+  void Put(const std::string& name, const std::string& bytes) {
+    std::filesystem::create_directories(std::filesystem::path(Folder.Path(name)).parent_path());
+    std::ofstream(Folder.Path(name), std::ios::binary) << bytes;
+  }
+
+  TestFolder Folder{QuickFolder()};
+  const std::string File = Folder.Path("config/settings.db");
+};
+
 /// For tests in which somebody holds a lock for ever.
 constexpr TreePatience kImpatient{std::chrono::milliseconds(30), std::chrono::milliseconds(60)};
 

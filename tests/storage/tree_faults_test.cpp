@@ -3,8 +3,6 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <random>
 #include <thread>
 
 #include "storage/child.h"
@@ -16,46 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 
-constexpr int kValues = 400;  // some 10 pages of the file
-
-/// A text that fills more pages than "old" does.
-const std::string kNew(100, 'n');
-
-class TreeFaults : public testing::Test {
- protected:
-  TestFolder Folder{QuickFolder()};
-  const std::string File = Folder.Path("config/settings.db");
-};
-
-TEST_F(TreeFaults, AKilledSaveLeavesTheOldTreeOrTheNewOne) {
-  using Clock = std::chrono::steady_clock;
-  std::mt19937 random(1);
-  StoredTree stored(File);
-  ASSERT_TRUE(stored.Save("0", kValues));
-  std::string before = "0";
-  Clock::duration longest{};  // save that was seen
-  int torn = 0;
-  for (int round = 0; round < 30; ++round) {
-    const auto begin = Clock::now();
-    ASSERT_TRUE(stored.Save(before, kValues));
-    longest = std::max(longest, Clock::now() - begin);
-    const std::string tag = std::to_string(round) + "-";
-    {
-      const Child process([&] {
-        StoredTree own(File);
-        for (int i = 0;; ++i) own.Save(tag + std::to_string(i), kValues);
-      });
-      ASSERT_TRUE(WaitForFile(File + "-journal"));
-      std::this_thread::sleep_for(longest * (random() % 100) / 50);
-    }
-    torn += fs::exists(File + "-journal") ? 1 : 0;
-    const std::string saved = stored.Saved(kValues);
-    ASSERT_TRUE(saved == before || saved.starts_with(tag)) << saved;
-    before = saved;
-  }
-  EXPECT_GT(torn, 0) << "no save was hit in its middle";
-  EXPECT_TRUE(stored.Complaints.empty());
-}
+class TreeFaults : public TreeTest {};
 
 /// Locks as a reader of SQLite does, until the process ends.
 void LockForReading(const std::string& file) {
@@ -85,8 +44,7 @@ TEST_F(TreeFaults, ManyProcessesSaveAtOnceAndNobodyFails) {
 
 /// One process waits for the damaged file while another one sets it aside and begins a new one.
 TEST_F(TreeFaults, AFreshFileIsNotSetAside) {
-  fs::create_directories(Folder.Path("config"));
-  std::ofstream(File) << "damaged";
+  Put("config/settings.db", "damaged");
   const FileIdentity damaged = LookAtFile(File).Identity;
   const Child quicker([&] {
     LockForReading(File);
@@ -101,8 +59,7 @@ TEST_F(TreeFaults, AFreshFileIsNotSetAside) {
 }
 
 TEST_F(TreeFaults, ADamagedFileInUseIsLeft) {
-  fs::create_directories(Folder.Path("config"));
-  std::ofstream(File) << std::string(1000, '?');
+  Put("config/settings.db", std::string(1000, '?'));
   Child holder([&] {
     LockForReading(File);
     std::ofstream(Folder.Path("locked"));
@@ -175,28 +132,6 @@ TEST_F(TreeFaults, RightsThatAreMissing) {
   fs::permissions(Folder.Path("config"), perms::all);
   fs::permissions(File, perms::all);
   EXPECT_EQ(StoredTree(File).Saved(2), "old");
-}
-
-/// The bulk meets a page of rubbish long after it has begun. That is no missing value.
-TEST_F(TreeFaults, ADamagedPageIsNotTakenForMissingValues) {
-  StoredTree stored(File);
-  ASSERT_TRUE(stored.Save(kNew, kValues));
-  std::string bytes = FileText(File);
-  ASSERT_GT(bytes.size(), 40'000U);
-  std::fill(bytes.begin() + 3 * 4096, bytes.begin() + 4 * 4096, '\xEE');
-  std::ofstream(File) << bytes;
-  {
-    TreeBulk look = TreeBulk::Look(stored.Tree);
-    EXPECT_TRUE(look.Begun());
-    int missing = 0;
-    for (int i = 0; i < kValues; ++i) missing += stored.Read(std::to_string(i)) ? 0 : 1;
-    EXPECT_GT(missing, 0);
-    EXPECT_LT(missing, kValues);
-    EXPECT_FALSE(look.Commit());
-  }
-  EXPECT_EQ(FileText(File), bytes) << "a look changes nothing";
-  EXPECT_TRUE(stored.Save("new", kValues));
-  EXPECT_EQ(FileText(File + ".damaged-1"), bytes);
 }
 
 }  // namespace

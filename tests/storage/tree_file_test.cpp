@@ -21,32 +21,17 @@ void RunSql(const std::string& file, const std::string& sql) {
   sqlite3_close(db);
 }
 
-class TreeFile : public testing::Test {
+class TreeFile : public TreeTest {
  protected:
-  TestFolder Folder{QuickFolder()};
-  const std::string File = Folder.Path("config/Tessellane/settings.db");
   StoredTree Stored{File, Folder.Path("machine.db")};
-
-  void MakeFolder() { fs::create_directories(fs::path(File).parent_path()); }
 };
 
-TEST_F(TreeFile, TheFirstWriteMakesPrivateFoldersAndALookNothing) {
+TEST_F(TreeFile, TheFirstWriteMakesAPrivateFolderAndALookNothing) {
   EXPECT_EQ(Stored.Saved(3), "");
   EXPECT_FALSE(Stored.Tree.DeleteKey(kUser, "P"));
   EXPECT_TRUE(Folder.Names().empty());
   ASSERT_TRUE(Stored.Write("x", "1"));
-  for (const char* folder : {"config", "config/Tessellane"}) {
-    EXPECT_EQ(fs::status(Folder.Path(folder)).permissions(), fs::perms::owner_all);
-  }
-}
-
-TEST_F(TreeFile, AFileThatAStrangerHasSwitchedToALogWorks) {
-  ASSERT_TRUE(Stored.Save("old", 2));
-  RunSql(File, "PRAGMA journal_mode = WAL");
-  EXPECT_EQ(Stored.Saved(2), "old");
-  EXPECT_TRUE(Stored.Save("new", 2));
-  EXPECT_EQ(Stored.Saved(2), "new");
-  EXPECT_FALSE(fs::exists(File + "-wal"));
+  EXPECT_EQ(fs::status(Folder.Path("config")).permissions(), fs::perms::owner_all);
 }
 
 /// A start looks several times. What comes in between is seen all the same.
@@ -105,7 +90,7 @@ TEST_F(TreeFile, WhatCannotBeStoredSpoilsItsBulk) {
 }
 
 TEST_F(TreeFile, ALinkToTheFileStays) {
-  MakeFolder();
+  fs::create_directory(Folder.Path("config"));
   fs::create_symlink(Folder.Path("elsewhere.db"), File);
   ASSERT_TRUE(Stored.Write("x", "1"));
   std::ofstream(Folder.Path("elsewhere.db")) << std::string(2000, '?');
@@ -150,7 +135,7 @@ TEST_F(TreeFile, WhatOnlyLooksLikeATreeIsSetAside) {
       "CREATE TABLE Tree(path, name, text)",
       "CREATE VIRTUAL TABLE tree USING fts4(path, name, text)",
   };
-  MakeFolder();
+  fs::create_directory(Folder.Path("config"));
   int count = 0;
   for (const std::string& form : forms) {
     fs::remove(File);
@@ -165,7 +150,7 @@ TEST_F(TreeFile, WhatOnlyLooksLikeATreeIsSetAside) {
 }
 
 TEST_F(TreeFile, AnEndlessSchemaIsGivenUp) {
-  MakeFolder();
+  fs::create_directory(Folder.Path("config"));
   RunSql(File,
          "PRAGMA synchronous=OFF; CREATE TABLE t(a); PRAGMA writable_schema=ON;"
          "WITH RECURSIVE r(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM r LIMIT 100000) "

@@ -76,7 +76,7 @@ int Open(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* got
 
 enum class Fault { Once, FromThenOn };
 
-class TreeOnFailingDisk : public testing::TestWithParam<Fault> {
+class TreeOnFailingDisk : public TreeTest, public testing::WithParamInterface<Fault> {
  protected:
   TreeOnFailingDisk() {
     disk = {};
@@ -105,9 +105,6 @@ class TreeOnFailingDisk : public testing::TestWithParam<Fault> {
     disk.AccessesLeft = -1;
     return disk.Failed;
   }
-
-  TestFolder Folder{QuickFolder()};
-  const std::string File = Folder.Path("settings.db");
 };
 
 TEST_P(TreeOnFailingDisk, ASaveIsStoredAsAWholeOrNotAtAll) {
