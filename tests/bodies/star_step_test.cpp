@@ -31,20 +31,6 @@ std::set<std::pair<Long, Long>> LitPlaces(const Surface& surface) {
   return places;
 }
 
-TEST(StarStepTest, TheShortRoadDrawsWhatTheLongOneDoes) {
-  BodyStage shortRoad(320, 200, 600, 1, Busy);
-  BodyStage longRoad(320, 200, 600, 1, Busy);
-  std::size_t settled = 0;
-  for (int frame = 0; frame < 300; ++frame) {
-    for (StarState& star : longRoad.Run->Stars.Star) star.StarFrame = 0;
-    shortRoad.Step();
-    longRoad.Step();
-    for (const StarState& star : shortRoad.Run->Stars.Star) settled += star.StarFrame != 0;
-    ASSERT_EQ(shortRoad.Canvas.Hash(), longRoad.Canvas.Hash()) << "frame " << frame;
-  }
-  EXPECT_GT(settled, 10000U) << "hardly a star took the short road";
-}
-
 TEST(StarStepTest, NothingStaysOnTheScreenButTheStarsThatAreThere) {
   for (const Integer trail : {Integer{1}, Integer{5}}) {
     for (Integer shape = 0; shape <= 4; ++shape) {

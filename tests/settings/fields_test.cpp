@@ -32,26 +32,6 @@ TEST(FieldTable, EveryMemberHasItsOwnRow) {
   ExpectOneRowForEachMember(AdvancedFields());
 }
 
-TEST(SetFieldText, RubbishLeavesTheFormerValueAndExcessBecomesTheLimit) {
-  StarfoldProfile profile;
-  const auto* frames = FindField(ProfileFields(), "Starfold_NewFrames");
-  ASSERT_NE(frames, nullptr);
-  for (const char* rubbish : {"", "abc", "1x", "nan"}) {
-    EXPECT_FALSE(SetFieldText(profile, *frames, rubbish)) << rubbish;
-  }
-  EXPECT_EQ(profile.Starfold_NewFrames, 8);
-  EXPECT_TRUE(SetFieldText(profile, *frames, " 2.5 "));
-  EXPECT_EQ(profile.Starfold_NewFrames, 2);
-  EXPECT_TRUE(SetFieldText(profile, *frames, "70000"));
-  EXPECT_EQ(profile.Starfold_NewFrames, 32767);
-  UniverseSettings universe;
-  const auto* tour = FindField(UniverseFields(), "Universe_Tour");
-  EXPECT_TRUE(SetFieldText(universe, *tour, "0"));
-  EXPECT_FALSE(universe.Universe_Tour);
-  EXPECT_TRUE(SetFieldText(universe, *tour, "-1"));
-  EXPECT_TRUE(universe.Universe_Tour);
-}
-
 TEST(ClampProfileTest, RangesFollowTheClampedStyle) {
   struct Case {
     int Style, Segs, ExpectedStyle, ExpectedSegs;

@@ -9,6 +9,7 @@
 #include "random_records.h"
 #include "settings/first_run.h"
 #include "settings/former_settings.h"
+#include "test_folder.h"
 
 namespace starfolds {
 namespace {
@@ -73,6 +74,22 @@ TEST_F(Templates, RandomRecordsComeBackWhole) {
     CopyUntemplated(AdvancedSettings(), records.Advanced);
     EXPECT_EQ(Contents(Read(Disk.Contents["out.sfd"])), Contents(records));
   }
+}
+
+/// The templates that the project brings along. A value beyond its range would be written as the
+/// limit, and a file that another version has written would differ somewhere.
+TEST_F(Templates, ShippedOnesComeBackByteByByte) {
+  int count = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(STARFOLDS_TEMPLATES)) {
+    if (entry.path().extension() != ".sfd") continue;
+    const std::string bytes = FileText(entry.path());
+    SettingsRecords records = Read(bytes);
+    ClampUniverse(records.Universe);
+    ASSERT_EQ(Write(records), std::nullopt);
+    EXPECT_TRUE(Disk.Contents["out.sfd"] == bytes) << entry.path().filename();
+    ++count;
+  }
+  EXPECT_GE(count, 8);
 }
 
 TEST_F(Templates, WhatIsMissingIsADefaultOrZero) {
