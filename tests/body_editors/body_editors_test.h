@@ -78,22 +78,6 @@ class BodyEditorsTest : public EditorTest {
     Click("cmdPreview");
   }
 
-  /// All that an editor shows, but for what it is called.
-  std::string Contents() {
-    std::string all;
-    for (const QLineEdit* box : Dialog->findChildren<QLineEdit*>()) {
-      all += box->objectName().toStdString() + "=" + box->text().toStdString() + "\n";
-    }
-    for (const QComboBox* list : Dialog->findChildren<QComboBox*>()) {
-      if (list->objectName() == "cboTheme") continue;
-      all += list->objectName().toStdString() + "=" + std::to_string(list->currentIndex()) + "\n";
-    }
-    if (auto* atoms = Dialog->findChild<QListWidget*>("lstElements")) {
-      for (int i = 0; i < atoms->count(); ++i) all += atoms->item(i)->text().toStdString() + "\n";
-    }
-    return all;
-  }
-
   MemoryDesktop Desktop;
   PlannedPump Events;
   BoxesOfNobody Props;

@@ -85,7 +85,6 @@ TEST_F(CompositeEditorTest, CommitStoresTheMajorFirstAndOnceThenTheMinorsAndName
     std::initializer_list<int> Minors;
     std::vector<int> Members;
   } rows[] = {
-      {7, {}, {7}},
       {7, {7}, {7}},
       {7, {49, 7, 0, 12}, {7, 0, 12, 49}},
       {0, {1}, {0, 1}},

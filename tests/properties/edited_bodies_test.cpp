@@ -1,10 +1,7 @@
 // The editors of a body behind the properties dialog.
 #include <gtest/gtest.h>
 
-#include <QListWidget>
-
 #include "body_editors/frm_levels.h"
-#include "body_editors/frm_molecule.h"
 #include "body_editors/frm_user_def_ifs.h"
 #include "properties/props_dialog.h"
 
@@ -13,25 +10,9 @@ namespace {
 
 constexpr int kOfLevels = 4;
 constexpr int kOfPoints = 39;
-constexpr int kOfAtoms = 42;
 
 class EditedBodiesTest : public FrmPropsTest {
  protected:
-  /// Opens the page of a type with this style, and from there the editor, which `act` is done in.
-  template <class Editor>
-  void EditType(int type, int style, const char* button, const std::function<void(Editor&)>& act) {
-    OpenType(type);
-    The<QComboBox>("cboFoldStyle").setCurrentIndex(style);
-    bool opened = false;
-    WhenShown<Editor>([&](Editor& editor) {
-      opened = true;
-      act(editor);
-      if (editor.isVisible()) editor.close();
-    });
-    Click(button);
-    EXPECT_TRUE(opened);
-  }
-
   std::string Box(const char* name) { return Edit(name).text().toStdString(); }
 
   StarfoldProfile AcceptedType(int type) {
@@ -69,27 +50,11 @@ TEST_F(EditedBodiesTest, OkGoesToThePageAndWithItToTheTree) {
   EXPECT_EQ(body.Starfold_Distance, 1111);
 }
 
-TEST_F(EditedBodiesTest, CancelAfterAPreviewLeavesThePartThatNoBoxOfThePageShows) {
-  StoreFactory();
-  Open();
-  EditType<FrmMolecule>(kOfAtoms, 9, "cmdIFS_Chem", [&](FrmMolecule& editor) {
-    Part<QComboBox>(editor, "cboTheme").setCurrentIndex(1);
-    Events.Pumps = 0;
-    Events.Plan = {{3, [&] { Push(editor, "cmdPreview"); }}};
-    Push(editor, "cmdPreview");
-    Part<QComboBox>(editor, "cboTheme").setCurrentIndex(2);
-    Push(editor, "cmdDismiss");
-  });
-  const std::string radius = Box("txtStarfold_0");
-  const StarfoldProfile body = AcceptedType(kOfAtoms);
-  EXPECT_EQ(body.Starfold_Atoms, 5) << "methane's, of the preview";
-  EXPECT_EQ(std::to_string(body.Starfold_Radius), radius);
-}
-
 TEST_F(EditedBodiesTest, AProcessThatEndsTakesAPreviewInAnEditorWithIt) {
   StoreFactory();
   Open();
-  EditType<FrmUserDefIfs>(kOfPoints, 8, "cmdIFS_Chem", [&](FrmUserDefIfs& editor) {
+  OpenType(kOfPoints);
+  WhenShown<FrmUserDefIfs>([&](FrmUserDefIfs& editor) {
     Events.Pumps = 0;
     Events.Plan = {{5, [&] {
                       Process->Requests.AskQuit();
@@ -100,6 +65,8 @@ TEST_F(EditedBodiesTest, AProcessThatEndsTakesAPreviewInAnEditorWithIt) {
     EXPECT_LE(Events.Pumps, 6);
     EXPECT_FALSE(editor.isVisible());
   });
+  Click("cmdIFS_Chem");
+  EXPECT_EQ(Events.Pumps, 5);
   EXPECT_FALSE(Dialog->IsOpen());
 }
 

@@ -32,15 +32,6 @@ class FrmWelcomeTest : public testing::Test {
   MemoryHelp HelpBook;
 };
 
-TEST_F(FrmWelcomeTest, OffersANewUserNoReset) {
-  EXPECT_FALSE(Run(false, [&](FrmWelcome& dialog) {
-    EXPECT_EQ(dialog.findChild<QLabel*>("lblCaption")->text(), "Welcome to Starfolds 4.1a.");
-    EXPECT_FALSE(Button(dialog, "cmdReset").isVisible());
-    Button(dialog, "cmdDismiss").click();
-  }));
-  EXPECT_EQ(Copies, 0);
-}
-
 TEST_F(FrmWelcomeTest, ResetsOnlyAfterTheSafetyCopy) {
   FrmWelcome* shown = nullptr;
   OnCopy = [&] {

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QListWidget>
 #include <QPushButton>
 #include <QWheelEvent>
@@ -58,6 +59,11 @@ class EditorTest : public DialogTest {
   std::unique_ptr<ProcessState> Process = std::make_unique<ProcessState>();
   PropsModel Model{*Process, Boxes, HelpBook};
 };
+
+/// For long texts that are pinned.
+inline std::string HashOf(const QString& text) {
+  return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex().toStdString();
+}
 
 /// One notch of the wheel with the pointer over a widget. Returns whether the widget took it.
 inline bool TurnWheel(QWidget& widget, int angle) {
