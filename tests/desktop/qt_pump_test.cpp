@@ -55,17 +55,6 @@ TEST_P(QtPumpWith, WakesForAnEventAndRunsIt) {
   EXPECT_LT(Since(begin), 10'000);
 }
 
-TEST_P(QtPumpWith, KeepsTheScreensPace) {
-  constexpr int frames = 30;
-  Events.WaitForRefresh();
-  const double processorBegin = ProcessorMilliseconds();
-  const Long begin = Events.TickCount();
-  for (int i = 0; i < frames; ++i) Events.WaitForRefresh();
-  // The screen of these tests has 60 refreshes a second.
-  EXPECT_GE(Since(begin), frames * 1000 / 60 - 20);
-  EXPECT_LT(ProcessorMilliseconds() - processorBegin, 250);
-}
-
 INSTANTIATE_TEST_SUITE_P(Alarms, QtPumpWith, testing::Values(&MakeAlarm, &MakeToolkitAlarm),
                          [](const auto& alarm) {
                            return alarm.param == &MakeAlarm ? "Best" : "Toolkit";

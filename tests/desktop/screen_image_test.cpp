@@ -16,7 +16,6 @@ TEST(ScreenImage, IsBlackBesideTheSurfaceAndWritesNothingBesideItself) {
   constexpr int height = 3;
   constexpr int line = width + 1;
   MemorySurface surface(2, 1);
-  surface.SetPixelV(0, 0, 0xFFFFFF);
   for (const Integer surfaceWidth : {2, 0}) {
     surface.Resize(surfaceWidth, 1);
     PixelScale scale;

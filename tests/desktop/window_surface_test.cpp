@@ -150,22 +150,6 @@ TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {
   EXPECT_EQ(Target.Height(), 90);
 }
 
-TEST_F(WindowSurfaceTest, ComesBackWholeAfterItWasHidden) {
-  ShowAt(200, 150);
-  Scatter(100);
-  Target.Present();
-  Target.Window().hide();
-  ASSERT_TRUE(PumpUntil([&] { return !Target.IsExposed(); }));
-  Scatter(50);
-  Target.Present();
-  Target.Window().show();
-  ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
-  Scatter(5);
-  Target.Present();
-  ExpectShown();
-  EXPECT_GE(Heard.Exposures, 2);
-}
-
 TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
   if (QGuiApplication::platformName() != "xcb") GTEST_SKIP() << "nobody tells of covers";
   ShowAt(200, 150);

@@ -3,7 +3,6 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-#include <limits>
 #include <memory>
 
 #include "desktop/desktop_services_qt.h"
@@ -45,18 +44,6 @@ TEST_F(X11DesktopTest, BringsTheNamedWindowForward) {
   Desktop->BringToFront("nobody");
   Desktop->BringToFront("below");
   EXPECT_TRUE(PumpUntil([&] { return QGuiApplication::focusWindow() == &below; }));
-}
-
-TEST_F(X11DesktopTest, KnowsLivingWindowsFromAllOtherNumbers) {
-  QWindow window;
-  Show(window, "alive");
-  const auto handle = static_cast<Long>(window.winId());
-  EXPECT_TRUE(Desktop->IsWindow(handle));
-  window.destroy();
-  EXPECT_FALSE(Desktop->IsWindow(handle));
-  for (const Long number : {0, 1, -1, 12345, 0x7FFFFFFF, std::numeric_limits<Long>::min()}) {
-    EXPECT_FALSE(Desktop->IsWindow(number)) << number;
-  }
 }
 
 }  // namespace

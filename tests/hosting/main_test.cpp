@@ -87,16 +87,13 @@ TEST_F(MainTest, GoesByTheCommandLine) {
   EXPECT_THAT(Desktop.PasswordCalls, ElementsAre(77));
 }
 
-TEST_F(MainTest, StartsNoSecondSaver) {
+TEST_F(MainTest, StartsNoSecondSaverAndNoSecondDialog) {
   Desktop.Captions = {"TSLN:Starfolds 4.1a"};
   EXPECT_THAT(NotesOf("/S"), IsEmpty());
   EXPECT_THAT(Desktop.BroughtForward, IsEmpty());
   // Only the switch itself asks for running savers.
   EXPECT_EQ(NotesOf(" /S"), kSaver);
   EXPECT_EQ(NotesOf("other"), kSaver);
-}
-
-TEST_F(MainTest, BringsTheOpenPropertiesForward) {
   Desktop.Captions = {"Starfold Properties"};
   EXPECT_THAT(NotesOf(""), IsEmpty());
   EXPECT_THAT(Desktop.BroughtForward, ElementsAre("Starfold Properties"));

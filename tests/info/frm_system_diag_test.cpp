@@ -35,17 +35,6 @@ class FrmSystemDiagTest : public testing::Test {
   std::unique_ptr<FrmSystemDiag> Dialog;
 };
 
-TEST_F(FrmSystemDiagTest, ShowsWhatIsSo) {
-  Open();
-  EXPECT_EQ(Field(0).text(), "OK");
-  EXPECT_EQ(Field(1).text().toStdString(), SystemVersion());
-  const QSize twips = Dialog->screen()->size() * 15;
-  EXPECT_EQ(Field(2).text().remove(',').split(' ', Qt::SkipEmptyParts),
-            QStringList({QString::number(twips.width()), QString::number(twips.height())}));
-  EXPECT_EQ(Field(3).text(), "15");
-  EXPECT_EQ(Field(4).text().toStdString(), Grouped(ColoursOf(Dialog->screen()->depth())));
-}
-
 /// Read back from the screen. Runs on an X server as well.
 TEST_F(FrmSystemDiagTest, TheCircleIsDrawnInAWindowOfItsOwn) {
   Open();

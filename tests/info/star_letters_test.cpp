@@ -38,17 +38,5 @@ TEST(StarLetters, StarsSettleWhereTheyAreToldAndLeaveNothingBehind) {
   EXPECT_LT(LitWithin(surface, 20, 20, 20), 20);  // of those that drift or found no place
 }
 
-TEST(StarLetters, NoSkyAndNoPlacesAreNoFault) {
-  for (const Integer side : {Integer{0}, Integer{1}, Integer{100}}) {
-    MemorySurface surface(side, side);
-    for (const int stars : {0, 1, 100}) {
-      StarLetters letters(surface, stars, 1);
-      letters.Form({});
-      for (int i = 0; i < kLongEnough; ++i) letters.Step();
-      EXPECT_EQ(letters.Settled(), 0);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -29,25 +29,5 @@ TEST(Registry, ValuesOf127CharactersAreTheLongestThatComeBack) {
   EXPECT_EQ(RegistryReadText(tree, kSection, "Key"), "ab");
 }
 
-TEST(Registry, NumbersAreReadByTheirType) {
-  struct Case {
-    const char* Text;
-    Integer AsInteger;
-    Long AsLong;
-    Single AsSingle;
-  };
-  MemoryTree tree;
-  for (const Case& c :
-       {Case{"5", 5, 5, 5}, Case{"1.5", 2, 2, 1.5F}, Case{"2.5", 2, 2, 2.5F},
-        Case{" -3 ", -3, -3, -3}, Case{"1e2", 100, 100, 100}, Case{"70000", 0, 70000, 70000},
-        Case{"3e9", 0, 0, 3e9F}, Case{"1e300", 0, 0, 0}, Case{"abc", 7, 7, 7}, Case{"", 7, 7, 7},
-        Case{"1,5", 7, 7, 7}, Case{"5 stars", 7, 7, 7}}) {
-    tree.Write(Hive::CurrentUser, kPath, "Key", c.Text);
-    EXPECT_EQ(RegistryReadInteger(tree, kSection, "Key", 7), c.AsInteger) << c.Text;
-    EXPECT_EQ(RegistryReadLong(tree, kSection, "Key", 7), c.AsLong) << c.Text;
-    EXPECT_EQ(RegistryReadSingle(tree, kSection, "Key", 7), c.AsSingle) << c.Text;
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

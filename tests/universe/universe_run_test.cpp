@@ -84,38 +84,6 @@ TEST(SmallPreview, TakesFewerStars) {
   EXPECT_EQ(stage.Process->Universe.Universe_AmStar, 12);
 }
 
-TEST(UniverseRunTest, AUniverseIsCreationVisitsAndPullOut) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  Long lastStamp = -1;
-  int unstamped = 0;
-  stage.Canvas.OnFrame = [&] {
-    if (++stage.FramesShown >= 2 * (10 + 36 + 8)) stage.Process->Requests.AskStop();
-    unstamped += stage.Process->Screen.FrameStartTick == lastStamp;
-    lastStamp = stage.Process->Screen.FrameStartTick;
-  };
-  stage.Read();
-  UniverseRun(*stage.Process);
-  EXPECT_EQ(stage.FramesShown, 108);
-  EXPECT_EQ(unstamped, 16) << "only the frames of the two pull-outs are not stamped";
-}
-
-TEST(UniverseRunTest, NewRunEndsTheRunWithinAFrameAndIsCleared) {
-  Stage stage(160, 120);
-  MakeSmall(stage.Settings().Universe);
-  for (const int at : {5, 30}) {  // in the creation, and on the tour
-    stage.FramesShown = 0;
-    stage.Canvas.OnFrame = [&stage, at] {
-      if (++stage.FramesShown == at) stage.Process->Requests.AskNewRun();
-    };
-    stage.Read();
-    UniverseRun(*stage.Process);
-    EXPECT_EQ(stage.FramesShown, at);
-    EXPECT_FALSE(stage.Process->Requests.NewRun());
-    EXPECT_FALSE(stage.Process->Requests.StopRun());
-  }
-}
-
 /// The picture of a run is a promise: the same seed gives the same pixels, in every build. If a
 /// change is meant to alter pictures, these numbers change with it, and the change log says so.
 TEST(Determinism, ThePinnedPicturesStand) {
@@ -176,7 +144,8 @@ TEST(Determinism, SmallUniversesAreAsPinned) {
        },
        6598404112273737445U},
       {"a list of visits",
-       [](SettingsRecords& s) { s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12"; }, 9579622239061947776U},
+       [](SettingsRecords& s) { s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12"; },
+       9579622239061947776U},
       {"a list of visits without a tour",
        [](SettingsRecords& s) {
          s.Universe.Universe_GS_Idx = " 3  x 66 0 67 1.0 12";
@@ -240,29 +209,13 @@ void SetAll(SettingsRecords& settings, double value) {
 
 INSTANTIATE_TEST_SUITE_P(
     , Limits,
-    ::testing::Values(
-        LimitCase{"MostStars", [](SettingsRecords& s) { s.Universe.Universe_Stars = 30000; }},
-        LimitCase{"LongestTrail", [](SettingsRecords& s) { s.Universe.Universe_STrail = 99; }},
-        LimitCase{"MostStarfoldsWithGravity",
-                  [](SettingsRecords& s) {
-                    s.Universe.Universe_Starfold = 999;
-                    s.Universe.Universe_GravForce = 999999;
-                    s.Universe.Universe_GravFrame = 5;
-                  }},
-        LimitCase{"OneStepEach",
-                  [](SettingsRecords& s) {
-                    s.Universe.Universe_ESteps = 1;
-                    s.Universe.Universe_GSteps = 1;
-                    s.Universe.Universe_GPCtrl = 1;
-                    s.Universe.Universe_GCCtrl = 0;
-                  }},
-        LimitCase{"AllAtZero", [](SettingsRecords& s) { SetAll(s, 0); }},
-        LimitCase{"AllBelow", [](SettingsRecords& s) { SetAll(s, -1e30); }},
-        LimitCase{"AllBeyond",
-                  [](SettingsRecords& s) {
-                    SetAll(s, 1e30);
-                    s.Universe.Universe_ESteps = 20;
-                  }}),
+    ::testing::Values(LimitCase{"AllAtZero", [](SettingsRecords& s) { SetAll(s, 0); }},
+                      LimitCase{"AllBelow", [](SettingsRecords& s) { SetAll(s, -1e30); }},
+                      LimitCase{"AllBeyond",
+                                [](SettingsRecords& s) {
+                                  SetAll(s, 1e30);
+                                  s.Universe.Universe_ESteps = 20;
+                                }}),
     [](const auto& limits) { return limits.param.Name; });
 
 }  // namespace

@@ -46,21 +46,6 @@ TEST_F(SamplesTest, EveryBodyFillsItsPictureAndLooksLikeNoOther) {
   }
 }
 
-TEST_F(SamplesTest, ABodyIsFramedWhateverItsSizeAndItsPlace) {
-  struct Row {
-    Long Radius, Distance;
-  };
-  for (const Row& row : {Row{300, 400}, {3, 30000}, {30000, 1000}, {30000, 0}, {0, 0}}) {
-    Profiles()[0].Starfold_Radius = row.Radius;
-    Profiles()[0].Starfold_Distance = row.Distance;
-    const QImage picture = ProfileSample(Profiles(), 0, kSize);
-    EXPECT_EQ(picture.size(), kSize.Size);
-    if (row.Radius > 0 && row.Distance > row.Radius) {
-      EXPECT_GT(LitPart(picture).width(), 100) << row.Radius;
-    }
-  }
-}
-
 TEST_F(SamplesTest, ABodyOutOfItsRangesIsDrawnAllTheSame) {
   StarfoldProfile& profile = Profiles()[0];
   for (const Integer word : {std::numeric_limits<Integer>::min(), Integer{-1}, Integer{0},
