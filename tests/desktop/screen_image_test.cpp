@@ -31,7 +31,7 @@ TEST(ScreenImage, IsBlackBesideTheSurfaceAndWritesNothingBesideItself) {
 TEST(PlacesByColour, GiveUpOnTooManyColoursAndGoOnWithTheNextFrame) {
   MemorySurface surface(1025, 1);
   for (Long x = 0; x < 1025; ++x) surface.SetPixelV(x, 0, static_cast<Colour>(x));
-  std::vector<Surface::PixelPlace> frame(1025);
+  std::vector<PixelPlace> frame(1025);
   std::iota(frame.begin(), frame.end(), 0U);
   PlacesByColour places;
   EXPECT_FALSE(places.Sort(surface, frame));

@@ -26,7 +26,7 @@ class HostTest : public testing::Test {
  protected:
   HostTest() {
     State->Events = &Events;
-    Events.OnTooLong = [this] { State->StopRun = State->QuitApp = true; };
+    Events.OnTooLong = [this] { State->Requests.AskQuit(); };
     State->Desktop = &Desktop;
     State->Platform = &Platform;
     State->Tree = &Tree;

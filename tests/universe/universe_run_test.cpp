@@ -163,7 +163,7 @@ TEST(Determinism, SmallUniversesAreAsPinned) {
     std::uint64_t hash = 0;
     stage.Canvas.OnFrame = [&] {
       hash = hash * 31 + stage.Canvas.Hash();
-      stage.Process->StopRun = ++stage.FramesShown == 150;
+      if (++stage.FramesShown == 150) stage.Process->Requests.AskStop();
     };
     stage.Read();
     UniverseRun(*stage.Process);
