@@ -148,17 +148,6 @@ TEST_F(CommandLines, OfPeople) {
   });
 }
 
-TEST_F(CommandLines, OfHosts) {
-  Check({
-      {{"--root"}, 1, "", "XSCREENSAVER_WINDOW names no window"},
-      {{"--root"}, 0, "", "there is no window 77", {"XSCREENSAVER_WINDOW=77"}},
-      {{"--window-id", "77"}, 1, "", "there is no window 77"},
-      {{"--root", "--window-id=0x4D"}, 1, "", "there is no window 77"},
-      {{"--window-id", "77"}, 1, "", "no X server", kDeadServer},
-      {{"--window-id", "77"}, 1, "", "no X server", kNoDesktop},
-  });
-}
-
 TEST_F(CommandLines, ThatInform) {
   Check({
       {{"-h"}, 0, "(?s)^Usage: starfolds .*\n  --full-screen ", "", kNoDesktop},
@@ -173,6 +162,9 @@ TEST_F(CommandLines, ThatInform) {
 TEST_F(CommandLines, ThatAreWrong) {
   Check({
       {{"--roots"}, 2, "", "unknown option \"--roots\""},
+      {{"--window-id", "5", "--saver"}, 2, "", "goes alone"},
+      {{"--window", "--size", "5x5", "--full-screen"}, 2, "", "exclude each other"},
+      {{"--window-id", "77"}, 1, "", "no X server", kDeadServer},
       {{"--saver=1"}, 2, "", "--saver takes no value"},
       {{"--seed", "--saver"}, 2, "", "--seed needs a value"},
       {{"--saver", "--seed=many"}, 2, "", "--seed: takes a whole number .*, not \"many\""},

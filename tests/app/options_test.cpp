@@ -114,24 +114,5 @@ TEST(StartOptions, AreHandedOnToCompanions) {
   EXPECT_EQ(seeded, "--saver --seed 5 --saver --companion --screens 2 --seed 6 ");
 }
 
-TEST(StartOptions, AreRefusedWhereTheyMakeNoSense) {
-  EXPECT_NE(Refused({"--roots"}).find("\"--roots\""), std::string::npos);
-  for (const Arguments& given : {Arguments{"--window-id", "5", "--saver"},
-                                 {"--saver=1"},
-                                 {"-S", "-x"},
-                                 {"--window", ""},
-                                 {"--window", "--seed="},
-                                 {"--window", "--size", "16385x1"},
-                                 {"--window", "--size", "5x5", "--full-screen"},
-                                 {"--saver", "--full-screen"},
-                                 {"a.sfd", "--stars", "5"},
-                                 {"--seed", "1"},
-                                 {"--settings", "--seed", "1"},
-                                 {"--stars", "5"},
-                                 {"--window", "--screens", "1"}}) {
-    EXPECT_NE(Refused(given), "") << testing::PrintToString(given);
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

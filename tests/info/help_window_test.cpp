@@ -91,15 +91,6 @@ TEST_F(HelpWindowTest, SearchLeadsToAMarkedPlace) {
   EXPECT_EQ(Shown()->focusWidget(), &The<QTreeWidget>("treContents"));
 }
 
-TEST_F(HelpWindowTest, WebPagesAreTheBrowsersBusiness) {
-  Book.ShowContents();
-  Follow("https://example.org/a?b=c");
-  EXPECT_EQ(Desktop.WebPages, std::vector<std::string>{"https://example.org/a?b=c"});
-  Desktop.HasBrowser = false;
-  Follow("https://example.org/");
-  ASSERT_EQ(Boxes.Log.size(), 1U);
-}
-
 TEST_F(HelpWindowTest, EscapeClosesAndThePlaceIsRemembered) {
   Book.ShowContents();
   Shown()->resize(700, 500);

@@ -53,16 +53,5 @@ TEST(Conversions, WhereAClampFollowsTheLimitsHold) {
   EXPECT_EQ(RoundedToLimits<Long>(1e18), 2147483647);
 }
 
-TEST(Conversions, WrappedIndexesAreNeverNegative) {
-  EXPECT_EQ(WrapIndex(-1, 8), 7);
-  EXPECT_EQ(WrapIndex(-8, 8), 0);
-  EXPECT_EQ(WrapIndex(725, 360), 5);
-}
-
-TEST(Conversions, ClampTakesNoNumberForTheLowLimit) {
-  EXPECT_EQ(ClampTo(std::nanf(""), 0.25F, 1.0F), 0.25F);
-  EXPECT_EQ(ClampTo(2.0F, 0.25F, 1.0F), 1.0F);
-}
-
 }  // namespace
 }  // namespace starfolds

@@ -109,17 +109,6 @@ TEST_F(FrmAdvancedTest, NumbersAreHeldToTheirRanges) {
   }
 }
 
-/// A hundred characters of any script are shown.
-TEST_F(FrmAdvancedTest, AMessageIsCutAfterWholeCharacters) {
-  for (const QString one : {"x", "\u661F", "\U0001F468\u200D\U0001F469\u200D\U0001F467"}) {
-    Open();
-    Edit("txtMessage").setText("  " + one.repeated(150));
-    Click("cmdOK");
-    EXPECT_EQ(Stored("LockMessage"), one.repeated(125).toStdString()) << "two were blanks";
-    EXPECT_EQ(LoadAdvancedFromRegistry(Tree).LockMessage, one.repeated(100).toStdString());
-  }
-}
-
 TEST_F(FrmAdvancedTest, StoresAllOrNothing) {
   Store(kOther);
   Open();

@@ -103,17 +103,5 @@ TEST(Options, BadOnesAreRefusedWithAMessage) {
   }
 }
 
-TEST(FramePlan, CountsTheFramesThatItWrites) {
-  for (const FramePlan plan : {FramePlan{10, 1, 1}, FramePlan{10, 1, 3}, FramePlan{10, 4, 3},
-                               FramePlan{10, 10, 3}, FramePlan{10, 2, 100}, FramePlan{10, 11, 1}}) {
-    std::vector<FrameNumber> written;
-    for (FrameNumber frame = 0; frame <= 20; ++frame) {
-      if (plan.Writes(frame)) written.push_back(frame);
-    }
-    EXPECT_EQ(static_cast<FrameNumber>(written.size()), plan.Count());
-    EXPECT_TRUE(written.empty() || written.front() == plan.First);
-  }
-}
-
 }  // namespace
 }  // namespace starfolds

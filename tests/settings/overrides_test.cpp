@@ -54,17 +54,6 @@ TEST_F(OverridesTest, HoldWhateverIsStored) {
   EXPECT_TRUE(Stored == Before);
 }
 
-TEST_F(OverridesTest, AreToldInWords) {
-  const std::vector<SettingChange> changes = {{"Universe_Stars", "5"},
-                                              {"Adv_TimeDelay", "40"},
-                                              {"Starfold7/Starfold_Radius", "321"},
-                                              {"Universe_Stars", "6"}};
-  const std::vector<std::string> words = {"Frame delay in milliseconds = 40",
-                                          "Starfold7/Starfold_Radius = 321",
-                                          "Stars in all the Starfolds = 6"};
-  EXPECT_EQ(ChangesInWords(changes), words);
-}
-
 TEST_F(OverridesTest, ValuesToBeginWithAreSeenUntilTheyAreWritten) {
   SettingsRecords records;
   records.Universe.Universe_Stars = 1111;

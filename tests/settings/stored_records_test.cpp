@@ -114,15 +114,6 @@ TEST(Storage, CountsBeyondTheRoomReadWhatThereIsRoomFor) {
   }
 }
 
-TEST(Storage, LongNamesAreCutToWholeCharactersRatherThanLost) {
-  SettingsRecords records;
-  const std::string most = std::string(126, 'x') + "\xE2\x98\x85";
-  records.Profiles[7].UniFoldName = most + " star";
-  MemoryTree tree;
-  SaveSettings(tree, records);
-  EXPECT_EQ(LoadSettings(tree).Profiles[7].UniFoldName, most);
-}
-
 TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
   const auto machine = RootSelector::LocalMachine;
   MemoryTree tree;

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QDir>
-#include <QFileInfo>
 
 #include "test_folder.h"
 
@@ -41,21 +39,6 @@ TEST(TemplateFolders, ListWhatMatchesInOrderWithoutWhatIsHidden) {
   }
   EXPECT_FALSE(ReadFolder(QString::fromStdString(folder.Path("b.sfd")), "*"));
   EXPECT_FALSE(ReadFolder(QString::fromStdString(folder.Path("nowhere")), "*"));
-}
-
-TEST(TemplateFolders, TypedTextsAreNamesWaysAndPaths) {
-  const QString home = QDir::homePath();
-  struct Case {
-    const char* Typed;
-    QString Path;
-  };
-  for (const Case& each : {Case{"x.sfd", "/a/b/x.sfd"}, Case{"../x.sfd", "/a/x.sfd"},
-                           Case{"c/x", "/a/b/c/x"}, Case{"/x//y/", "/x/y"}, Case{"~", home},
-                           Case{"~/x y.sfd", QDir::cleanPath(home + "/x y.sfd")},
-                           Case{"~x", "/a/b/~x"}, Case{"..", "/a"}, Case{"../../../../..", "/"}}) {
-    EXPECT_EQ(TypedPath("/a/b", each.Typed), each.Path) << each.Typed;
-  }
-  EXPECT_EQ(TypedPath("/", "x"), "/x") << "no doubled separator";
 }
 
 TEST(TemplateFolders, ANameCanBeWrittenWhereAFileMayStand) {

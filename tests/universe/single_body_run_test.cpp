@@ -34,13 +34,6 @@ TEST_F(SingleBody, NewRunEndsItAtTheNextFrameAndIsCleared) {
   EXPECT_FALSE(Stage.Process->Requests.NewRun());
 }
 
-TEST_F(SingleBody, CountsOfZeroBecomeOne) {
-  Stage.StopAfter(3);
-  Run({.Stars = 0, .Trail = 0});
-  EXPECT_EQ(Stage.Process->Universe.Universe_Stars, 1);
-  EXPECT_EQ(Stage.Process->RunUniverse.RunTrail, 1);
-}
-
 TEST_F(SingleBody, ACompositeIsAsPinned) {
   CompositeProfile& composite = Stage.Settings().Composites[2];
   composite.CompFold_Count = 2;
