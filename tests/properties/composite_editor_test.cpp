@@ -109,19 +109,6 @@ TEST_F(CompositeEditorTest, CommitStoresTheMajorFirstAndOnceThenTheMinorsAndName
   EXPECT_EQ(Editor.Selected(), 2);
 }
 
-TEST_F(CompositeEditorTest, CommitNeedsAnEntryAndAMajorType) {
-  Choose(3, {4});
-  Click("cmdCompCommit");
-  EXPECT_EQ(LastBox(), "");
-  for (int i = 0; i < kCompositeCount; ++i) EXPECT_EQ(Members(i).size(), i == 2 ? 3U : 0U);
-
-  Select(2);
-  Choose(-1, {4});
-  Click("cmdCompCommit");
-  EXPECT_EQ(LastBox(), "Please select a Major Starfold Type.");
-  EXPECT_THAT(Members(2), ElementsAre(9, 4, 6));
-}
-
 TEST_F(CompositeEditorTest, TwoIteratedFunctionSystemsAreWarnedOfAndStored) {
   for (Integer style = 0; style < kStyleCount; ++style) {
     Process->Profiles[style].Starfold_FoldStyle = style;

@@ -90,23 +90,6 @@ TEST_F(PropertyCopyTest, EveryEntryChangesItsSettingOnly) {
   EXPECT_EQ(HashOf(QString::fromStdString(all)), "37214f391a7116efe2c622c8cfb287f6") << all;
 }
 
-TEST_F(PropertyCopyTest, WithoutASelectionOrAValueNothingIsCopied) {
-  Copy.SetupPropCopyValue(68);  // behind the last one
-  EXPECT_TRUE(Box.isHidden() && Choice.isHidden() && Closed.isHidden());
-  Properties.setCurrentIndex(-1);
-  PressCopy();
-  EXPECT_EQ(LastBox(), "Please select a Property to copy.");
-  Properties.setCurrentIndex(0);
-  Box.SetText(" ");
-  PressCopy();
-  EXPECT_EQ(LastBox(), "Please enter a Property value.");
-  Properties.setCurrentIndex(12);
-  Choice.setCurrentIndex(-1);
-  PressCopy();
-  EXPECT_EQ(LastBox(), "Please select a Property value.");
-  EXPECT_EQ(Copies, 0);
-}
-
 /// The mnemonic of the button leaves no box.
 TEST_F(PropertyCopyTest, TheButtonHoldsTheNumberAndColoursFollow) {
   Properties.setCurrentIndex(0);

@@ -58,18 +58,6 @@ TEST(Program, ACompositeIsOneBodyOfAllItsMembers) {
   EXPECT_NE(body, Hashes("--frames 3 --composite 1 --set Starfold49/Starfold_Radius=100"));
 }
 
-TEST(Program, ATemplateShowsTheUniverseThatItWasSavedFrom) {
-  const TestFolder folder;
-  const std::string path = folder.Path("theme.sfd");
-  EXPECT_EQ(RunProgram(folder, "--theme 4 --set Universe_Stars=321 --save '" + path + "'").ExitCode,
-            0);
-  EXPECT_EQ(Hashes("--frames 40 --template '" + path + "'"),
-            Hashes("--frames 40 --theme 4 --set Universe_Stars=321"));
-  const Outcome missing = RunProgram(folder, "--hash --template missing.sfd");
-  EXPECT_EQ(missing.ExitCode, 2);
-  EXPECT_THAT(missing.Err, HasSubstr("cannot read \"missing.sfd\": No such file or directory"));
-}
-
 TEST(Program, StoredSettingsAreTheUsersOwnAndStayAsTheyAre) {
   const TestFolder home;
   SqliteTree tree({home.Path("Tessellane/settings.db"), ""}, {});
