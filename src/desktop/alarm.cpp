@@ -39,7 +39,7 @@ class KernelAlarm : public Alarm {
  public:
   /// `file` is a timerfd, owned by the alarm.
   explicit KernelAlarm(int file) : file_(file), notifier_(file, QSocketNotifier::Read) {
-    QObject::connect(&notifier_, &QSocketNotifier::activated, [this] { Drain(); });
+    QObject::connect(&notifier_, &QSocketNotifier::activated, [this] { Disarm(); });
   }
   ~KernelAlarm() override { close(file_); }
 
@@ -48,9 +48,13 @@ class KernelAlarm : public Alarm {
     const auto wait = std::max(fromNow, nanoseconds(1)).count();
     constexpr std::int64_t second = 1'000'000'000;
     Set({.tv_sec = static_cast<time_t>(wait / second), .tv_nsec = wait % second});
+    armed_ = true;
   }
   /// Setting the timer also resets its expiration, so nothing is left to be read.
-  void Disarm() override { Set({}); }
+  void Disarm() override {
+    if (armed_) Set({});
+    armed_ = false;
+  }
 
  private:
   void Set(timespec fromNow) {
@@ -58,12 +62,8 @@ class KernelAlarm : public Alarm {
     timerfd_settime(file_, 0, &once, nullptr);
   }
 
-  void Drain() const {
-    std::uint64_t times = 0;
-    [[maybe_unused]] const auto got = read(file_, &times, sizeof times);
-  }
-
   int file_;
+  bool armed_ = false;
   QSocketNotifier notifier_;
 };
 

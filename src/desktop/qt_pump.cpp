@@ -41,7 +41,9 @@ Long QtPump::TickCount() {
   return static_cast<Long>(static_cast<std::uint32_t>(milliseconds));
 }
 
+/// A frame pumps right after each wait. That wait has processed the events already.
 void QtPump::PumpEvents() {
+  if (std::exchange(hasWaited_, false)) return;
   QCoreApplication::processEvents(QEventLoop::AllEvents, kLongestPump);
   DeleteWhatIsDue();
 }
@@ -69,6 +71,7 @@ void QtPump::SleepUntil(Clock::time_point end) {
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   alarm_->Disarm();
   DeleteWhatIsDue();
+  hasWaited_ = true;
 }
 
 }  // namespace starfolds

@@ -29,6 +29,7 @@ class QtPump : public Pump {
 
   std::unique_ptr<Alarm> alarm_;
   Clock::time_point lastRefresh_;
+  bool hasWaited_ = false;  // since the last `PumpEvents`
 };
 
 }  // namespace starfolds
