@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <numeric>
 
 namespace starfolds {
 namespace {
 
-std::int64_t Area(const TileRect& rect) {
+std::int64_t AreaOf(const TileRect& rect) {
   return static_cast<std::int64_t>(rect.Width) * rect.Height;
 }
 
@@ -24,6 +25,16 @@ void DirtyTiles::Resize(int width, int height) {
   touched_.assign(columns_ * rows_, 0);
 }
 
+std::int64_t DirtyTiles::Area() const {
+  const auto tiles = std::accumulate(touched_.begin(), touched_.end(), std::int64_t{0});
+  return tiles * kTileSize * kTileSize;
+}
+
+void DirtyTiles::TakeFrom(DirtyTiles& other) {
+  for (std::size_t i = 0; i < touched_.size(); ++i) touched_[i] |= other.touched_[i];
+  std::fill(other.touched_.begin(), other.touched_.end(), std::uint8_t{0});
+}
+
 const std::vector<TileRect>& DirtyTiles::Take() {
   rects_.clear();
   for (std::size_t row = 0; row < rows_; ++row) TakeRow(row);
@@ -31,9 +42,9 @@ const std::vector<TileRect>& DirtyTiles::Take() {
 
   const TileRect bounds = Bounds();
   std::int64_t covered = 0;
-  for (const TileRect& rect : rects_) covered += Area(rect);
+  for (const TileRect& rect : rects_) covered += AreaOf(rect);
   const bool nearlyFull =
-      static_cast<double>(covered) > kFullShare * static_cast<double>(Area(bounds));
+      static_cast<double>(covered) > kFullShare * static_cast<double>(AreaOf(bounds));
   if (rects_.size() > 1 && (nearlyFull || rects_.size() > kMaxRects)) rects_.assign(1, bounds);
   return rects_;
 }

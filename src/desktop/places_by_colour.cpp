@@ -1,11 +1,9 @@
 #include "desktop/places_by_colour.h"
 
-#include "desktop/screen_image.h"
-
 namespace starfolds {
 
-bool PlacesByColour::Sort(const Surface& surface, std::span<const PixelPlace> places) {
-  const bool few = Count(surface, places);
+bool PlacesByColour::Sort(std::span<const PixelChange> changes) {
+  const bool few = Count(changes);
   for (const std::size_t slot : usedSlots_) groupOfSlot_[slot] = kFree;
   if (!few) return false;
   std::size_t begin = 0;
@@ -14,23 +12,20 @@ bool PlacesByColour::Sort(const Surface& surface, std::span<const PixelPlace> pl
     begin += group.Count;
     group.Count = 0;
   }
-  sorted_.resize(places.size());
-  for (std::size_t i = 0; i < places.size(); ++i) {
+  sorted_.resize(changes.size());
+  for (std::size_t i = 0; i < changes.size(); ++i) {
     Group& group = groups_[groupOfPlace_[i]];
-    sorted_[group.Begin + group.Count++] = places[i];
+    sorted_[group.Begin + group.Count++] = changes[i].Place;
   }
   return true;
 }
 
-bool PlacesByColour::Count(const Surface& surface, std::span<const PixelPlace> places) {
-  const Colour* const pixels = surface.Pixels().data();
-  const auto width = static_cast<std::size_t>(surface.Width());
+bool PlacesByColour::Count(std::span<const PixelChange> changes) {
   groups_.clear();
   usedSlots_.clear();
-  groupOfPlace_.resize(places.size());
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    const auto row = static_cast<std::size_t>(RowOf(places[i]));
-    const Colour ink = pixels[row * width + static_cast<std::size_t>(ColumnOf(places[i]))];
+  groupOfPlace_.resize(changes.size());
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    const Colour ink = changes[i].Ink;
     const std::size_t slot = SlotOf(ink);
     std::uint16_t& number = groupOfSlot_[slot];
     if (number == kFree) {

@@ -1,4 +1,4 @@
-// The pixels of a journal, grouped by their current colour.
+// The changed pixels of a frame, grouped by colour.
 #pragma once
 
 #include <array>
@@ -24,8 +24,8 @@ class PlacesByColour {
     std::size_t Count = 0;
   };
 
-  /// Groups pixels of the surface. False if they have too many colours.
-  bool Sort(const Surface& surface, std::span<const PixelPlace> places);
+  /// Groups the pixels. False if they have too many colours.
+  bool Sort(std::span<const PixelChange> changes);
 
   std::span<const Group> Groups() const { return groups_; }
   std::span<const PixelPlace> Places() const { return sorted_; }
@@ -35,7 +35,7 @@ class PlacesByColour {
   static constexpr std::size_t kSlots = 4 * kMostColours;
   static constexpr std::uint16_t kFree = 0;
 
-  bool Count(const Surface& surface, std::span<const PixelPlace> places);
+  bool Count(std::span<const PixelChange> changes);
   std::size_t SlotOf(Colour ink) const;
 
   std::array<std::uint16_t, kSlots> groupOfSlot_{};  // group number from 1; 0: empty

@@ -12,7 +12,7 @@ class QWindow;
 
 namespace starfolds {
 
-/// Draws the pixels of a journal into a window, grouped by colour, so that the cost of a frame
+/// Draws changed pixels into a window, grouped by colour, so that the cost of a frame
 /// depends on what changed: a star is a few bytes, while the tile around it is some kilobytes.
 class PointPainter {
  public:
@@ -20,8 +20,8 @@ class PointPainter {
 
   /// `area` is the number of physical pixels of the tiles that contain these pixels. False if
   /// nothing was drawn, because sending the tiles is cheaper.
-  virtual bool Draw(const Surface& surface, std::span<const PixelPlace> places,
-                    const PixelScale& scale, std::int64_t area) = 0;
+  virtual bool Draw(std::span<const PixelChange> changes, const PixelScale& scale,
+                    std::int64_t area) = 0;
 };
 
 /// Null if the window system has no such requests or another pixel format. The native window must

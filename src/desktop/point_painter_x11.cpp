@@ -32,11 +32,11 @@ class X11PointPainter : public PointPainter {
   }
   ~X11PointPainter() override { xcb_free_gc(connection_, context_); }
 
-  bool Draw(const Surface& surface, std::span<const PixelPlace> places, const PixelScale& scale,
+  bool Draw(std::span<const PixelChange> changes, const PixelScale& scale,
             std::int64_t area) override {
     const double picture = kPictureCost * static_cast<double>(area);
-    const auto points = static_cast<std::int64_t>(places.size()) * kPointCost;
-    if (static_cast<double>(points) > picture || !sorted_.Sort(surface, places)) return false;
+    const auto points = static_cast<std::int64_t>(changes.size()) * kPointCost;
+    if (static_cast<double>(points) > picture || !sorted_.Sort(changes)) return false;
     const auto colours = static_cast<std::int64_t>(sorted_.Groups().size()) * kColourCost;
     if (static_cast<double>(points + colours) > picture) return false;
     for (const PlacesByColour::Group& group : sorted_.Groups()) DrawGroup(group, scale);

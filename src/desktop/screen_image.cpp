@@ -1,6 +1,7 @@
 #include "desktop/screen_image.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace starfolds {
 
@@ -12,51 +13,43 @@ void ScreenImage::PaintBlock(const PixelScale& scale, int x, int y, std::uint32_
   }
 }
 
-/// Most of a frame's cost is here, in scattered memory accesses: the one-to-one scale has a loop
-/// without any scaling.
-void ScreenImage::PaintPlaces(const PixelScale& scale, const Surface& surface,
-                              std::span<const PixelPlace> places) {
-  const Colour* const pixels = surface.Pixels().data();
-  const std::ptrdiff_t width = surface.Width();
+/// A frame's cost is in scattered memory accesses: the one-to-one scale has a loop without any
+/// scaling.
+void ScreenImage::PaintChanges(const PixelScale& scale, std::span<const PixelChange> changes) {
   if (scale.IsOneToOne()) {
-    for (const PixelPlace place : places) {
-      const int x = ColumnOf(place);
-      const int y = RowOf(place);
-      Line(y)[x] = ScreenWord(pixels[y * width + x]);
-    }
+    for (const auto& [place, ink] : changes) Line(RowOf(place))[ColumnOf(place)] = ScreenWord(ink);
     return;
   }
-  for (const PixelPlace place : places) {
-    const int x = ColumnOf(place);
-    const int y = RowOf(place);
-    PaintBlock(scale, x, y, ScreenWord(pixels[y * width + x]));
+  for (const auto& [place, ink] : changes) {
+    PaintBlock(scale, ColumnOf(place), RowOf(place), ScreenWord(ink));
   }
 }
 
-void ScreenImage::PaintLine(int row, const AxisScale& columns, const Colour* colours) {
-  std::uint32_t* const line = Line(row);
-  const int size = columns.Size();
-  std::fill(line, line + columns.Begin(0), ScreenWord(0));
-  for (int x = 0; x < size; ++x) {
-    std::fill(line + columns.Begin(x), line + columns.End(x), ScreenWord(colours[x]));
+void ScreenImage::PaintRow(const PixelScale& scale, int x, int y, std::span<const Colour> colours) {
+  const int begin = scale.Rows.Begin(y);
+  const int end = scale.Rows.End(y);
+  if (begin == end || colours.empty()) return;
+  std::uint32_t* const line = Line(begin);
+  const int left = scale.Columns.Begin(x);
+  for (const Colour colour : colours) {
+    std::fill(line + scale.Columns.Begin(x), line + scale.Columns.End(x), ScreenWord(colour));
+    ++x;
   }
-  std::fill(line + columns.End(size - 1), line + width_, ScreenWord(0));
+  const int width = scale.Columns.End(x - 1) - left;
+  for (int row = begin + 1; row < end; ++row) std::copy_n(line + left, width, Line(row) + left);
+}
+
+void ScreenImage::PaintRect(const PixelScale& scale, const Surface& surface, const TileRect& rect) {
+  std::vector<Colour> colours(static_cast<std::size_t>(rect.Width));
+  for (int y = rect.Y; y < rect.Y + rect.Height; ++y) {
+    surface.CopyRow(rect.X, y, colours);
+    PaintRow(scale, rect.X, y, colours);
+  }
 }
 
 void ScreenImage::PaintAll(const PixelScale& scale, const Surface& surface) {
-  const int width = surface.Width();
-  int painted = 0;
-  for (int y = 0; width > 0 && y < surface.Height(); ++y) {
-    const Colour* const colours = surface.Pixels().data() + static_cast<std::ptrdiff_t>(y) * width;
-    const int begin = scale.Rows.Begin(y);
-    const int end = scale.Rows.End(y);
-    if (begin == end) continue;
-    for (; painted < begin; ++painted) std::fill_n(Line(painted), width_, ScreenWord(0));
-    PaintLine(begin, scale.Columns, colours);
-    for (int row = begin + 1; row < end; ++row) std::copy_n(Line(begin), width_, Line(row));
-    painted = end;
-  }
-  for (int row = painted; row < height_; ++row) std::fill_n(Line(row), width_, ScreenWord(0));
+  for (int row = 0; row < height_; ++row) std::fill_n(Line(row), width_, ScreenWord(0));
+  PaintRect(scale, surface, {0, 0, surface.Width(), surface.Height()});
 }
 
 }  // namespace starfolds

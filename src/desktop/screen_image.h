@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 
+#include "desktop/dirty_tiles.h"
 #include "desktop/pixel_scale.h"
 #include "platform/surface.h"
 
@@ -20,12 +21,14 @@ class ScreenImage {
         width_(width),
         height_(height) {}
 
-  /// Paints the pixels of the surface that a journal lists.
-  void PaintPlaces(const PixelScale& scale, const Surface& surface,
-                   std::span<const PixelPlace> places);
+  // `scale` must have been measured for the size of the surface.
 
-  /// Paints the whole surface, and black outside of it. `scale` must have been measured for the
-  /// size of the surface.
+  void PaintChanges(const PixelScale& scale, std::span<const PixelChange> changes);
+
+  /// Paints a part of the surface.
+  void PaintRect(const PixelScale& scale, const Surface& surface, const TileRect& rect);
+
+  /// Paints the whole surface, and black outside of it.
   void PaintAll(const PixelScale& scale, const Surface& surface);
 
  private:
@@ -33,7 +36,8 @@ class ScreenImage {
     return reinterpret_cast<std::uint32_t*>(bits_ + row * bytesPerLine_);
   }
   void PaintBlock(const PixelScale& scale, int x, int y, std::uint32_t word);
-  void PaintLine(int row, const AxisScale& columns, const Colour* colours);
+  /// Paints a row of the surface into the rows of the image that it covers.
+  void PaintRow(const PixelScale& scale, int x, int y, std::span<const Colour> colours);
 
   std::byte* bits_;
   std::ptrdiff_t bytesPerLine_;

@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/huge_pages.h"
 #include "desktop/key_presses.h"
+#include "desktop/surface_image.h"
 #include "desktop/window_hints.h"
 
 namespace starfolds {
@@ -38,6 +40,13 @@ Qt::WindowFlags StackingFlags(Stacking stacking) {
 }
 
 bool IsWhole(double factor) { return factor == std::floor(factor); }
+
+/// nullopt if the picture has another format than the screen image.
+std::optional<ScreenImage> DirectImage(QPaintDevice& picture) {
+  if (picture.devType() != QInternal::Image || picture.depth() != 32) return std::nullopt;
+  auto& image = static_cast<QImage&>(picture);
+  return ScreenImage(image.bits(), image.bytesPerLine(), image.width(), image.height());
+}
 
 }  // namespace
 
@@ -90,7 +99,7 @@ class WindowSurface::EffectWindow : public QWindow {
 };
 
 WindowSurface::WindowSurface(WindowEvents& events)
-    : Surface(0, 0, kJournalCapacity),
+    : Surface(0, 0, kJournalCapacity, HugePages()),
       window_(std::make_unique<EffectWindow>(*this, events)),
       store_(std::make_unique<QBackingStore>(window_.get())) {}
 
@@ -207,29 +216,77 @@ void WindowSurface::TakeSize(QSize size) {
 bool WindowSurface::HasWindowSize() const { return window_->size() == QSize(Width(), Height()); }
 
 void WindowSurface::Present() {
-  if (IsSeen()) {
-    FitBackingStore();
-    const bool whole = repaintAll_ || EverythingChanged();
-    const QRegion region = whole ? QRegion(QRect(QPoint(), store_->size())) : TouchedRegion();
-    if (!region.isEmpty()) {
-      store_->beginPaint(region);
-      repaintAll_ = !Paint(*store_->paintDevice(), whole);
-      store_->endPaint();
-      if (whole || repaintAll_ || !DrawPoints(region)) store_->flush(region);
-    }
-  } else {
+  if (!IsSeen()) {
     repaintAll_ = true;
+    return ForgetJournal();
   }
-  ForgetJournal();
+  FitBackingStore();
+  if (repaintAll_ || EverythingChanged()) {
+    ForgetJournal();
+    ShowAll();
+  } else {
+    ShowChanges(TakeChanges());
+  }
 }
 
-/// Also updates the window's image, for later exposures.
-bool WindowSurface::DrawPoints(const QRegion& region) {
-  if (!points_) return false;
-  double area = 0;
-  for (const QRect& rect : region) area += rect.width() * factor_ * rect.height() * factor_;
-  return points_->Draw(*this, {JournalBegin(), JournalEnd()}, scale_,
-                       static_cast<std::int64_t>(area));
+void WindowSurface::ShowAll() {
+  const QRegion region(QRect(QPoint(), store_->size()));
+  store_->beginPaint(region);
+  QPaintDevice& picture = *store_->paintDevice();
+  MeasureScale({picture.width(), picture.height()});
+  if (auto image = DirectImage(picture)) {
+    image->PaintAll(scale_, *this);
+  } else {
+    QPainter(&picture).fillRect(QRect(QPoint(), store_->size()), Qt::black);
+    PaintWithPainter(picture, {{0, 0, Width(), Height()}});
+  }
+  store_->endPaint();
+  store_->flush(region);
+  repaintAll_ = false;
+}
+
+/// Changes that are drawn as points are not painted into the window's image: it is as large as the
+/// screen, and mostly out of the caches. The tiles where it is behind are noted instead.
+void WindowSurface::ShowChanges(std::span<const PixelChange> changes) {
+  if (changes.empty()) return;
+  for (const auto& [place, ink] : changes) tiles_.Touch(ColumnOf(place), RowOf(place));
+  const double area = static_cast<double>(tiles_.Area()) * factor_ * factor_;
+  if (points_ && points_->Draw(changes, scale_, static_cast<std::int64_t>(area))) {
+    tilesBehind_.TakeFrom(tiles_);
+  } else {
+    ShowTiles(changes);
+  }
+}
+
+/// If the window system has reallocated the image, all of it must be painted.
+void WindowSurface::ShowTiles(std::span<const PixelChange> changes) {
+  const bool isBehind = tilesBehind_.Area() > 0;
+  tiles_.TakeFrom(tilesBehind_);
+  const std::vector<TileRect>& tiles = tiles_.Take();
+  const QRegion region = RegionOf(tiles);
+  store_->beginPaint(region);
+  QPaintDevice& picture = *store_->paintDevice();
+  const bool isSame = QSize(picture.width(), picture.height()) == pictureSize_;
+  if (isSame) PaintTiles(picture, tiles, isBehind ? std::span<const PixelChange>() : changes);
+  store_->endPaint();
+  if (isSame) {
+    store_->flush(region);
+  } else {
+    ShowAll();
+  }
+}
+
+/// Paints the changes if there are any, and else the tiles as a whole.
+void WindowSurface::PaintTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles,
+                               std::span<const PixelChange> changes) {
+  auto image = DirectImage(picture);
+  if (!image) {
+    PaintWithPainter(picture, tiles);
+  } else if (changes.empty()) {
+    for (const TileRect& tile : tiles) image->PaintRect(scale_, *this, tile);
+  } else {
+    image->PaintChanges(scale_, changes);
+  }
 }
 
 void WindowSurface::Repaint() {
@@ -245,14 +302,11 @@ void WindowSurface::FitBackingStore() {
   repaintAll_ = true;
 }
 
-/// The tiles that the journal touches, in logical pixels. With a fractional factor the window
-/// system rounds their borders in its own way, so they are enlarged by one.
-QRegion WindowSurface::TouchedRegion() {
-  for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
-    tiles_.Touch(ColumnOf(*place), RowOf(*place));
-  }
+/// The tiles in logical pixels of the window. With a fractional factor the window system rounds
+/// their borders in its own way, so they are enlarged by one.
+QRegion WindowSurface::RegionOf(const std::vector<TileRect>& tiles) {
   rects_.clear();
-  for (const TileRect& tile : tiles_.Take()) {
+  for (const TileRect& tile : tiles) {
     rects_.emplace_back(tile.X + origin_.x(), tile.Y + origin_.y(), tile.Width, tile.Height);
   }
   QRegion region;
@@ -264,24 +318,6 @@ QRegion WindowSurface::TouchedRegion() {
   return region & QRect(QPoint(), store_->size());
 }
 
-/// False if the window system has reallocated the image, so that painting the changes is not enough
-/// and the next frame must be painted as a whole.
-bool WindowSurface::Paint(QPaintDevice& picture, bool whole) {
-  const QSize size(picture.width(), picture.height());
-  if (whole) {
-    MeasureScale(size);
-  } else if (size != pictureSize_) {
-    return false;
-  }
-  if (picture.devType() == QInternal::Image && picture.depth() == 32) {
-    auto& image = static_cast<QImage&>(picture);
-    PaintDirectly({image.bits(), image.bytesPerLine(), image.width(), image.height()}, whole);
-  } else {
-    PaintWithPainter(picture, whole);
-  }
-  return true;
-}
-
 void WindowSurface::MeasureScale(QSize pictureSize) {
   pictureSize_ = pictureSize;
   const QSize room = store_->size() - QSize(Width(), Height());
@@ -289,34 +325,16 @@ void WindowSurface::MeasureScale(QSize pictureSize) {
   scale_.Columns.Measure(Width(), factor_, pictureSize.width(), origin_.x());
   scale_.Rows.Measure(Height(), factor_, pictureSize.height(), origin_.y());
   tiles_.Resize(Width(), Height());
-}
-
-void WindowSurface::PaintDirectly(ScreenImage image, bool whole) {
-  if (whole) {
-    image.PaintAll(scale_, *this);
-  } else {
-    image.PaintPlaces(scale_, *this, {JournalBegin(), JournalEnd()});
-  }
+  tilesBehind_.Resize(Width(), Height());
 }
 
 /// The slow path, for screens with fewer colours. QPainter uses logical pixels.
-void WindowSurface::PaintWithPainter(QPaintDevice& picture, bool whole) {
+void WindowSurface::PaintWithPainter(QPaintDevice& picture, const std::vector<TileRect>& tiles) {
   QPainter painter(&picture);
   painter.translate(origin_);
-  if (!whole) {
-    for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
-      const int x = ColumnOf(*place);
-      const int y = RowOf(*place);
-      painter.fillRect(x, y, 1, 1, QColor::fromRgb(ScreenWord(Pixel(x, y))));
-    }
-    return;
-  }
-  painter.fillRect(QRect(-origin_, store_->size()), Qt::black);
-  QImage line(std::max(Width(), 1), 1, QImage::Format_RGB32);
-  for (int y = 0; y < Height(); ++y) {
-    auto* const words = reinterpret_cast<std::uint32_t*>(line.bits());
-    for (int x = 0; x < Width(); ++x) words[x] = ScreenWord(Pixel(x, y));
-    painter.drawImage(QRect(0, y, Width(), 1), line, QRect(0, 0, Width(), 1));
+  for (const TileRect& tile : tiles) {
+    const QRect rect(tile.X, tile.Y, tile.Width, tile.Height);
+    painter.drawImage(rect.topLeft(), ImageOf(*this, rect));
   }
 }
 

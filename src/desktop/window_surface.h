@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -33,8 +34,8 @@ struct ScreenPlace {
   bool Leads = true;  // of a saver's windows on several screens, the one that takes the focus
 };
 
-/// `Present` copies the pixels that the journal lists from the canvas into the window's image, and
-/// shows the changed tiles of it, or draws the pixels one by one where that is cheaper. The surface
+/// `Present` draws the changed pixels one by one, or, where that is cheaper, paints them into the
+/// window's image and shows its changed tiles. The surface
 /// has its own size, which only `TakeWindowSize` and `TakeSize` change; until then a resized window
 /// shows the middle of the surface, or all of it with a black border.
 class WindowSurface : public Surface {
@@ -88,12 +89,14 @@ class WindowSurface : public Surface {
   void ShowInState();
   void Repaint();
   void FitBackingStore();
-  QRegion TouchedRegion();
-  bool Paint(QPaintDevice& picture, bool whole);
-  bool DrawPoints(const QRegion& region);
+  void ShowAll();
+  void ShowChanges(std::span<const PixelChange> changes);
+  void ShowTiles(std::span<const PixelChange> changes);
+  void PaintTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles,
+                  std::span<const PixelChange> changes);
+  void PaintWithPainter(QPaintDevice& picture, const std::vector<TileRect>& tiles);
   void MeasureScale(QSize pictureSize);
-  void PaintDirectly(ScreenImage image, bool whole);
-  void PaintWithPainter(QPaintDevice& picture, bool whole);
+  QRegion RegionOf(const std::vector<TileRect>& tiles);
 
   std::unique_ptr<EffectWindow> window_;
   std::unique_ptr<QBackingStore> store_;
@@ -102,8 +105,9 @@ class WindowSurface : public Surface {
   std::optional<ScreenWatch> screens_;
   bool atBottom_ = false;
   bool repaintAll_ = true;
-  double factor_ = 1;  // physical pixels per logical one
-  DirtyTiles tiles_;
+  double factor_ = 1;       // physical pixels per logical one
+  DirtyTiles tiles_;        // changed in the frame that is being shown
+  DirtyTiles tilesBehind_;  // where the window's image lacks changes that were drawn as points
   PixelScale scale_;
   QPoint origin_;             // of the surface in the window, logical pixels
   QSize pictureSize_;         // the size for which `scale_` was measured, in physical pixels

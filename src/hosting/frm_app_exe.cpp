@@ -4,12 +4,12 @@
 #include <chrono>
 #include <utility>
 
+#include "desktop/surface_image.h"
 #include "hosting/lock_message.h"
 #include "hosting/saved_picture.h"
 #include "settings/registry.h"
 #include "universe/host_surface.h"
 #include "widgets/captions.h"
-#include "widgets/picture_box.h"
 #include "widgets/placed_qt_window.h"
 
 namespace starfolds {

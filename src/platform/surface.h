@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
+#include <span>
 #include <vector>
 
 #include "numbers/words.h"
@@ -10,21 +12,35 @@
 
 namespace starfolds {
 
-/// An entry of a surface's journal: y in the high, x in the low 16 bits.
+/// The coordinates of a pixel: y in the high, x in the low 16 bits.
 using PixelPlace = std::uint32_t;
 
 constexpr PixelPlace PlaceOfPixel(std::uint32_t x, std::uint32_t y) { return y << 16U | x; }
 constexpr int ColumnOf(PixelPlace place) { return static_cast<int>(place & 0xFFFFU); }
 constexpr int RowOf(PixelPlace place) { return static_cast<int>(place >> 16U); }
 
+/// A pixel that differs from what is shown, with the colour that it has now.
+struct PixelChange {
+  PixelPlace Place = 0;
+  Colour Ink = 0;
+
+  bool operator==(const PixelChange&) const = default;
+};
+
 /// A canvas of colours, and a journal of the pixels written since the last `Present`, from which a
 /// screen copies only what changed. The engine draws only with `SetPixelV`; a pixel keeps its
 /// colour until it is written again.
+///
+/// A third of the writes change nothing that is shown: a star that stands still is erased and drawn
+/// again. So an entry of the journal keeps what the pixel was before the write; a flag in the spare
+/// byte of a pixel tells the first write of a frame from later ones.
 class Surface {
  public:
-  /// `journalCapacity` is the number of writes between two `Present`s that are recorded one by one;
-  /// after more (always with 0) the whole canvas counts as changed.
-  explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0);
+  /// `journalCapacity` is the number of writes between two `Present`s that are recorded; after more
+  /// (always with 0) the whole canvas counts as changed. `memory` holds the canvas and
+  /// outlives the surface.
+  explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0,
+                   std::pmr::memory_resource* memory = std::pmr::get_default_resource());
   virtual ~Surface() = default;
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
@@ -56,15 +72,28 @@ class Surface {
     /// Whether a place is on the surface. Negative coordinates arrive as large numbers.
     bool Holds(std::uint64_t x, std::uint64_t y) const { return x < width_ && y < height_; }
 
+    /// Requests the pixel's cache line for a write that follows some hundred instructions later.
+    /// Any coordinates are allowed.
+    void Prefetch(Long x, Long y) const {
+      const auto column = static_cast<std::uint32_t>(x);
+      const auto row = static_cast<std::uint32_t>(y);
+      if (Holds(column, row)) {
+        __builtin_prefetch(pixels_ + static_cast<std::size_t>(row) * width_ + column, 1);
+      }
+    }
+
     /// `SetPixelV` for a place on the surface; undefined elsewhere.
     void SetPixelWithin(Long x, Long y, Colour colour) {
       const auto column = static_cast<std::uint32_t>(x);
       const auto row = static_cast<std::uint32_t>(y);
-      pixels_[static_cast<std::size_t>(row) * width_ + column] = colour;
+      Colour& pixel = pixels_[static_cast<std::size_t>(row) * width_ + column];
       if (surface_.journalSize_ < journalCapacity_) {
-        journal_[surface_.journalSize_++] = PlaceOfPixel(column, row);
+        // Nothing here waits for the pixel's former colour, which is often not in the caches.
+        journal_[surface_.journalSize_++] = {PlaceOfPixel(column, row), pixel};
+        pixel = colour | kJournalled;
       } else {
         surface_.everythingChanged_ = true;
+        pixel = colour | (pixel & kJournalled);
       }
     }
 
@@ -73,15 +102,18 @@ class Surface {
     Colour* pixels_;
     std::size_t width_;
     std::size_t height_;
-    PixelPlace* journal_;
+    PixelChange* journal_;
     std::size_t journalCapacity_;
   };
 
   /// The colour at a place; 0 (black) off the surface.
   Colour Pixel(Long x, Long y) const;
 
-  /// Row by row, `Width() * Height()` values, without padding.
-  const std::vector<Colour>& Pixels() const { return pixels_; }
+  /// Copies `colours.size()` pixels of row `y` from column `x` on; all of them on the surface.
+  void CopyRow(int x, int y, std::span<Colour> colours) const;
+
+  /// A copy of the canvas: row by row, `Width() * Height()` values, without padding.
+  std::vector<Colour> Pixels() const;
 
   /// Makes every pixel black.
   void Clear();
@@ -93,21 +125,30 @@ class Surface {
   virtual void Present() = 0;
 
  protected:
+  /// The journal is incomplete, and the whole canvas must be shown.
   bool EverythingChanged() const { return everythingChanged_; }
-  const PixelPlace* JournalBegin() const { return journal_.data(); }
-  const PixelPlace* JournalEnd() const { return journal_.data() + journalSize_; }
 
-  /// Starts the journal of the next frame. Not called by a presenter that could not show anything.
-  void ForgetJournal() {
-    journalSize_ = 0;
-    everythingChanged_ = false;
-  }
+  /// The pixels that differ from the last frame, in the order in which they were first written,
+  /// each once. Starts the journal of the next frame. Valid until the next write.
+  std::span<const PixelChange> TakeChanges();
+
+  /// The same for a presenter that needs no changes.
+  void ForgetJournal();
 
  private:
   std::uint32_t width_ = 0;
   std::uint32_t height_ = 0;
-  std::vector<Colour> pixels_;
-  std::vector<PixelPlace> journal_;
+  /// Set in the pixels that were written since the last `Present`. Colours leave the highest byte
+  /// free.
+  static constexpr Colour kJournalled = 0x80000000U;
+
+  Colour& PixelAt(PixelPlace place) {
+    return pixels_[static_cast<std::size_t>(RowOf(place)) * width_ +
+                   static_cast<std::size_t>(ColumnOf(place))];
+  }
+
+  std::pmr::vector<Colour> pixels_;
+  std::vector<PixelChange> journal_;  // with the pixels as they were before the write
   std::size_t journalSize_ = 0;
   bool everythingChanged_ = true;
 };

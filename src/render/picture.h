@@ -2,20 +2,21 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "platform/surface.h"
 
 namespace starfolds {
 
-/// `Width * Height` colours, row by row, without padding. Does not own the colours.
+/// `Width * Height` colours, row by row, without padding.
 struct Picture {
   int Width = 0;
   int Height = 0;
-  std::span<const Colour> Pixels;
+  std::vector<Colour> Pixels;
 
   std::span<const Colour> Row(int y) const {
     const auto width = static_cast<std::size_t>(Width);
-    return Pixels.subspan(static_cast<std::size_t>(y) * width, width);
+    return std::span(Pixels).subspan(static_cast<std::size_t>(y) * width, width);
   }
 };
 

@@ -3,19 +3,10 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "desktop/surface_image.h"
 #include "numbers/conversions.h"
 
 namespace starfolds {
-
-QImage ImageOf(const Surface& surface) {
-  QImage image(surface.Width(), surface.Height(), QImage::Format_RGB32);
-  const Colour* pixel = surface.Pixels().data();
-  for (int y = 0; y < surface.Height(); ++y) {
-    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < surface.Width(); ++x) *line++ = ScreenWord(*pixel++);
-  }
-  return image;
-}
 
 /// Copies the changes of each frame to the box's picture and repaints at once, because the run does
 /// not return to the event loop. A box is small enough to be painted as a whole.
@@ -32,10 +23,8 @@ class PictureBox::Canvas : public Surface {
     if (EverythingChanged()) {
       box_.picture_ = ImageOf(*this);
     } else {
-      for (const PixelPlace* place = JournalBegin(); place != JournalEnd(); ++place) {
-        const int x = ColumnOf(*place);
-        const int y = RowOf(*place);
-        box_.picture_.setPixel(x, y, ScreenWord(Pixel(x, y)));
+      for (const auto& [place, ink] : TakeChanges()) {
+        box_.picture_.setPixel(ColumnOf(place), RowOf(place), ScreenWord(ink));
       }
     }
     ForgetJournal();

@@ -40,7 +40,4 @@ class PictureBox : public QWidget, public ProgressPicture {
   QImage picture_;
 };
 
-/// The whole surface as a picture.
-QImage ImageOf(const Surface& surface);
-
 }  // namespace starfolds

@@ -54,10 +54,12 @@ struct LitPixel {
 
 std::vector<LitPixel> LitPixels(const Surface& surface) {
   std::vector<LitPixel> lit;
-  const Colour* pixel = surface.Pixels().data();
+  std::vector<Colour> row(static_cast<std::size_t>(surface.Width()));
   for (int y = 0; y < surface.Height(); ++y) {
-    for (int x = 0; x < surface.Width(); ++x, ++pixel) {
-      if (*pixel != 0) lit.push_back({x, y, *pixel});
+    surface.CopyRow(0, y, row);
+    for (int x = 0; x < surface.Width(); ++x) {
+      const Colour light = row[static_cast<std::size_t>(x)];
+      if (light != 0) lit.push_back({x, y, light});
     }
   }
   return lit;

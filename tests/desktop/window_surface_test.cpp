@@ -130,6 +130,10 @@ TEST_F(WindowSurfaceTest, ShowsTheCanvasFrameByFrame) {
   }
   Target.Present();
   ExpectShown();
+  // These need the window's image, which lacks the former ones.
+  Scatter(500);
+  Target.Present();
+  ExpectShown();
 }
 
 TEST_F(WindowSurfaceTest, KeepsItsSizeInTheMiddleOfAResizedWindow) {

@@ -7,17 +7,17 @@
 namespace starfolds {
 namespace {
 
-/// A surface that lets the test look into its journal.
+/// A surface that gives the test its changes.
 class JournalSurface : public Surface {
  public:
   using Surface::EverythingChanged;
   using Surface::Surface;
 
   void Present() override {
-    Changed.assign(JournalBegin(), JournalEnd());
-    ForgetJournal();
+    const auto changes = TakeChanges();
+    Changed.assign(changes.begin(), changes.end());
   }
-  std::vector<PixelPlace> Changed;
+  std::vector<PixelChange> Changed;
 };
 
 TEST(SurfaceTest, PlacesOffTheSurfaceAreHarmless) {
@@ -35,17 +35,42 @@ TEST(SurfaceTest, PlacesOffTheSurfaceAreHarmless) {
   EXPECT_EQ(surface.Pixel(8, 0), 0U) << "not the first one of the next row";
 }
 
-TEST(SurfaceTest, TheJournalNamesEveryWrittenPlaceUntilItIsFull) {
-  JournalSurface surface(300, 200, 3);
+TEST(SurfaceTest, ChangesAreThePixelsThatDifferFromTheLastFrame) {
+  constexpr Colour white = 0xFFFFFF;
+  JournalSurface surface(300, 200, 4);
   surface.Present();
   surface.SetPixelV(299, 199, 1);
   surface.SetPixelV(5, 6, 2);
   surface.SetPixelV(300, 6, 3);
-  EXPECT_FALSE(surface.EverythingChanged());
   surface.Present();
-  EXPECT_EQ(surface.Changed, (std::vector<PixelPlace>{199U << 16U | 299U, 6U << 16U | 5U}));
+  const PixelPlace corner = PlaceOfPixel(299, 199);
+  const PixelPlace inside = PlaceOfPixel(5, 6);
+  EXPECT_EQ(surface.Changed, (std::vector<PixelChange>{{corner, 1}, {inside, 2}}));
+
+  surface.SetPixelV(5, 6, 0);  // erased, and drawn again by another star
+  surface.SetPixelV(299, 199, 0);
+  surface.SetPixelV(299, 199, 1);
+  surface.SetPixelV(5, 6, white);
+  EXPECT_EQ(surface.Pixel(5, 6), white) << "not the flag of the journal";
+  EXPECT_EQ(surface.Pixels()[6 * 300 + 5], white);
+  surface.Present();
+  EXPECT_EQ(surface.Changed, (std::vector<PixelChange>{{inside, white}}));
+  surface.Present();
+  EXPECT_TRUE(surface.Changed.empty());
+}
+
+TEST(SurfaceTest, AFullJournalChangesEverythingUntilTheNextFrame) {
+  JournalSurface surface(300, 200, 4);
+  surface.Present();
   for (Long x = 0; x < 4; ++x) surface.SetPixelV(x, 0, 1);
-  EXPECT_TRUE(surface.EverythingChanged()) << "a fourth write has no room";
+  EXPECT_FALSE(surface.EverythingChanged());
+  surface.SetPixelV(4, 0, 1);
+  EXPECT_TRUE(surface.EverythingChanged());
+  surface.Present();
+  EXPECT_FALSE(surface.EverythingChanged());
+  for (Long x = 0; x < 4; ++x) surface.SetPixelV(x, 0, 2);
+  surface.Present();
+  EXPECT_EQ(surface.Changed.size(), 4U) << "a pixel that was in the full journal is in this one";
 }
 
 TEST(SurfaceTest, ANewSizeAndClearingChangeEverything) {
