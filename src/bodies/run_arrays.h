@@ -74,9 +74,8 @@ struct RelPlace {
   RelPlace(Single x, Single y, Single z) : X(x), Y(y), Z(z) {}
 };
 
-/// One level of a starfold, for one frame: all that its stars share, in a cache line.
+/// One level of a profile, for one frame: all that its stars share, in a cache line.
 struct alignas(64) BodyFrame {
-  RelPlace Rel;
   double TiltCos = 1, TiltSin = 0;
   const StarMotion* Motion = nullptr;
   const Colour* HueTable = nullptr;  // nullptr if the hues do not cycle
@@ -91,7 +90,6 @@ struct StarfoldArrays {
   std::vector<Single> StarfoldX, StarfoldY, StarfoldZ;
   std::vector<Single> StarfoldVX, StarfoldVY, StarfoldVZ;  // from gravity
   std::vector<RelPlace> StarfoldRel;
-  std::vector<BodyFrame> Frames;  // ten levels a starfold, from index 1 on; 0 is not used
 
   explicit StarfoldArrays(std::size_t folds)
       : StarfoldProf(folds),
@@ -101,8 +99,7 @@ struct StarfoldArrays {
         StarfoldVX(folds),
         StarfoldVY(folds),
         StarfoldVZ(folds),
-        StarfoldRel(folds),
-        Frames(folds * kMaxLevels + 1) {}
+        StarfoldRel(folds) {}
 };
 
 /// Per ambient star.
@@ -164,9 +161,17 @@ struct CometArrays {
         CometStarLive(kCometStars) {}
 };
 
+/// The `BodyFrame`s by profile and level, from index 1 on; 0 is not used.
+using BodyFrames = std::array<BodyFrame, kProfileCount * kMaxLevels + 1>;
+
+constexpr std::size_t FrameIndex(std::size_t profile, std::size_t level) {
+  return profile * kMaxLevels + level + 1;
+}
+
 /// Everything a run owns.
 struct RunArrays {
   StarArrays Stars;
+  BodyFrames Frames;
   StarfoldArrays Folds;
   AmbientArrays Ambient;
   CometArrays Comets;

@@ -54,38 +54,29 @@ void StepFlareWithoutTrail(const FrameScene& scene, std::size_t i) {
   PlaceAndDrawNewStar(scene, i, ViewStar(star, motion, scene.Arrays.Folds));
 }
 
-/// The frame of reference that a settled star can share with others; 0 where its body is a
-/// composite and holds stars of several profiles.
-Long SharedFrame(const FrameScene& scene, const StarState& star) {
-  const Integer home = star.StarHome;
-  const bool shared =
-      scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(home)] == star.StarProf;
-  return shared ? home * kMaxLevels + star.StarLevel + 1 : 0;
+/// The `BodyFrame` of a settled star.
+Long FrameOf(const StarState& star) {
+  return static_cast<Long>(FrameIndex(static_cast<std::size_t>(star.StarProf),
+                                      static_cast<std::size_t>(star.StarLevel)));
 }
 
-/// Notes for each level of the starfolds what its stars share in this frame.
+/// Notes for each level of the profiles what its stars share in this frame.
 void FillFrames(const FrameScene& scene) {
-  StarfoldArrays& folds = scene.Arrays.Folds;
   const bool hueWorkDue = scene.Arrays.Stars.HueWorkDue;
-  for (std::size_t home = 0; home < folds.StarfoldProf.size(); ++home) {
-    const Integer entry = folds.StarfoldProf[home];
-    if (IsComposite(entry)) continue;
-    const PreparedProfile& run = scene.Process.Prepared[static_cast<std::size_t>(entry)];
-    for (int level = 0; level < run.RunLevels; ++level) {
-      folds.Frames[home * kMaxLevels + static_cast<std::size_t>(level) + 1] = {
-          folds.StarfoldRel[home],
-          run.Star.LevelCos[level],
-          run.Star.LevelSin[level],
-          &run.Star,
-          hueWorkDue && run.Star.HueCycleOn ? scene.Process.Colours.Profile[entry].HueTable.data()
-                                            : nullptr,
-          run.Star.HWheelInc,
-          run.Star.AxisPlane};
+  for (std::size_t prof = 0; prof < kProfileCount; ++prof) {
+    const PreparedProfile& run = scene.Process.Prepared[prof];
+    const Colour* const hues = hueWorkDue && run.Star.HueCycleOn
+                                   ? scene.Process.Colours.Profile[prof].HueTable.data()
+                                   : nullptr;
+    for (std::size_t level = 0; level < static_cast<std::size_t>(run.RunLevels); ++level) {
+      scene.Arrays.Frames[FrameIndex(prof, level)] = {
+          run.Star.LevelCos[level], run.Star.LevelSin[level], &run.Star, hues,
+          run.Star.HWheelInc,       run.Star.AxisPlane};
     }
   }
 }
 
-/// A star in flare, one of a composite, or one that was seeded in the last frame.
+/// A star in flare, or one that was seeded in the last frame.
 void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   StarArrays& stars = scene.Arrays.Stars;
   StarState& star = stars.Star[i];
@@ -100,8 +91,12 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   if (view.InFront()) {
     PlotView(pen, Lens(scene.Process.Screen), view, trail, star.StarColor);
   }
-  star.StarFrame = SharedFrame(scene, star);
+  star.StarFrame = FrameOf(star);
 }
+
+/// How many stars ahead the pixel is requested that a star erases, and near which it is then drawn.
+/// A saver begins each frame with most of the canvas outside of the caches.
+constexpr std::size_t kLookAhead = 8;
 
 /// The loop of the common case. A settled star costs two pixels, and what it shares with the rest
 /// of its body is made ready once a frame.
@@ -113,22 +108,27 @@ void StepStarsWithoutTrails(const FrameScene& scene) {
   FillFrames(scene);
   StarState* const stars = scene.Arrays.Stars.Star.data();
   TrailPlace* const trails = scene.Arrays.Stars.Trail.data();
-  const BodyFrame* const frames = scene.Arrays.Folds.Frames.data();
+  const BodyFrame* const frames = scene.Arrays.Frames.data();
+  const RelPlace* const places = scene.Arrays.Folds.StarfoldRel.data();
   Surface::Pen pen(*scene.Process.Screen.hDCDraw);
   const Lens lens(scene.Process.Screen);
   const std::size_t count = scene.Arrays.Stars.Star.size();
   for (std::size_t i = 0; i < count; ++i) {
+    if (i + kLookAhead < count) {
+      pen.Prefetch(trails[i + kLookAhead].TrailX, trails[i + kLookAhead].TrailY);
+    }
     StarState& star = stars[i];
     if (star.StarFrame == 0) [[unlikely]] {
       StepStarTheLongWay(scene, i);
       continue;
     }
-    assert(star.StarFrame == SharedFrame(scene, star) && "set anew with StarProf and StarHome");
+    assert(star.StarFrame == FrameOf(star) && "set anew with StarProf and StarLevel");
     pen.SetPixelV(trails[i].TrailX, trails[i].TrailY, 0);
     const BodyFrame& frame = frames[star.StarFrame];
     if (frame.HueTable) MoveHue(star, frame.HWheelInc, frame.HueTable);
     MoveStar(star, *frame.Motion);
-    const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane, frame.Rel);
+    const View view = TiltStar(star, frame.TiltCos, frame.TiltSin, frame.AxisPlane,
+                               places[static_cast<std::size_t>(star.StarHome)]);
     if (view.InFront()) PlotView(pen, lens, view, trails[i], star.StarColor);
   }
   scene.Arrays.Stars.HueWorkDue = true;
