@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Measures the cost of the whole saver on an X server, compared with two savers of the xscreensaver
-# collection that also draw points: processor time per second, of the program and of the server.
+# collection that also draw points: processor time per second, of the program and of the server, and
+# how often the program goes to sleep in a second.
 # galaxy moves about 2250 stars a galaxy and erases them; discrete plots 4096 points a frame in few
 # colours and erases none. Takes about six minutes and needs an idle machine.
 # Usage: bench/saver_cost.sh [PROGRAM]   (the path of starfolds)
@@ -45,11 +46,15 @@ start_server() {
   export DISPLAY
 }
 
-# cpu PROCESS: prints its processor time so far, in milliseconds.
+# cpu PROCESS: prints its processor time so far, in milliseconds. The scheduler counts nanoseconds;
+# the ticks of /proc/PID/stat are too coarse for programs that run for less than one.
 cpu() {
-  local fields
-  fields=$(sed 's/.*) //' "/proc/$1/stat")
-  awk -v tick="$(getconf CLK_TCK)" '{ print ($12 + $13) * 1000 / tick }' <<<"$fields"
+  cat "/proc/$1"/task/*/schedstat | awk '{ sum += $1 } END { print sum / 1e6 }'
+}
+
+# sleeps PROCESS: prints how often its threads have waited for something so far.
+sleeps() {
+  cat "/proc/$1"/task/*/status | awk '/^voluntary_ctxt_switches/ { sum += $2 } END { print sum }'
 }
 
 # Keeps the user's settings out.
@@ -57,20 +62,21 @@ export HOME=$folder XDG_DATA_HOME=$folder XDG_CONFIG_HOME=$folder
 
 # row SIZE NAME STARS FRAMES COMMAND...: runs the command on a new server and prints its row.
 row() {
-  local size=$1 name=$2 stars=$3 frames=$4 before after
+  local size=$1 name=$2 stars=$3 frames=$4 before after asleep
   shift 4
   start_server "$size"
   env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1 "$@" >/dev/null 2>&1 &
   client=$!
   sleep "$warm_up"
-  before=$(cpu "$client") before_server=$(cpu "$server")
+  before=$(cpu "$client") before_server=$(cpu "$server") asleep=$(sleeps "$client")
   sleep "$seconds"
-  after=$(cpu "$client") after_server=$(cpu "$server")
+  after=$(cpu "$client") after_server=$(cpu "$server") asleep=$(($(sleeps "$client") - asleep))
   awk -v size="$size" -v name="$name" -v stars="$stars" -v frames="$frames" -v s="$seconds" \
-    -v client="$after $before" -v server="$after_server $before_server" 'BEGIN {
+    -v client="$after $before" -v server="$after_server $before_server" -v sleeps="$asleep" 'BEGIN {
       split(client, c); split(server, x)
       a = (c[1] - c[2]) / s; b = (x[1] - x[2]) / s
-      printf "%-10s %-10s %7s %7s %9.1f %9.1f %9.1f\n", size, name, stars, frames, a, b, a + b }'
+      printf "%-10s %-10s %7s %7s %9.1f %9.1f %9.1f %9.0f\n", size, name, stars, frames, a, b, a + b,
+        sleeps / s }'
   end_both
 }
 
@@ -90,7 +96,8 @@ hack() {
 
 install_missing
 printf 'milliseconds of processor time for each second\n'
-printf '%-10s %-10s %7s %7s %9s %9s %9s\n' screen saver stars frames/s program server both
+printf '%-10s %-10s %7s %7s %9s %9s %9s %9s\n' \
+  screen saver stars frames/s program server both sleeps/s
 for size in 1920x1080 3840x2160; do
   saver "$size" 5000 25 40
   hack "$size" galaxy 4500 25 --count 2
