@@ -27,7 +27,7 @@ sheet() {
     arguments+=(-label "${label#*_}" "$picture")
   done
   montage -background '#303030' -fill '#d0d0d0' -pointsize 13 "${arguments[@]}" \
-    -tile "${columns}x" -geometry +3+3 -strip "$file"
+    -tile "${columns}x" -geometry +3+3 -strip -dither None -colors 255 "PNG8:$file"
   rm -r "$scratch/tiles"
 }
 
