@@ -34,11 +34,11 @@ TEST(Factory, TheTablesAreAsPinned) {
     std::uint64_t Hash;
   };
   for (const Case& c :
-       {Case{Starfolds20, 1, 8755346365602671799U}, Case{Starfolds4x, 1, 15902060072741313189U},
-        Case{Starfolds4x, 2, 18250692413990618780U}, Case{Starfolds4x, 3, 13332739017843469203U},
-        Case{Starfolds4x, 4, 10861821890351133852U}, Case{Starfolds4x, 5, 15321757183697586015U},
-        Case{Starfolds4x, 6, 15349201617993440805U}, Case{Starfolds4x, 7, 5576662669449606220U},
-        Case{Starfolds4x, 8, 11382738677919274610U}}) {
+       {Case{Starfolds20, 1, 2807469903758787076U}, Case{Starfolds4x, 1, 3415672818660291428U},
+        Case{Starfolds4x, 2, 17227024946656116913U}, Case{Starfolds4x, 3, 2952327922269283582U},
+        Case{Starfolds4x, 4, 3587108048639418033U}, Case{Starfolds4x, 5, 12480569422461592258U},
+        Case{Starfolds4x, 6, 17847912770471305956U}, Case{Starfolds4x, 7, 6906210063362441601U},
+        Case{Starfolds4x, 8, 15069930917385928627U}}) {
     SettingsRecords records;
     LoadFactorySettings(records, c.Set, c.Theme);
     EXPECT_EQ(HashOf(records), c.Hash) << "theme " << c.Theme;
