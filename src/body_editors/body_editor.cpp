@@ -100,7 +100,7 @@ QLayout* BodyEditor::MakeButtons(QPushButton* cmdClear) {
 void BodyEditor::AddBodyBox(QGridLayout& page, const char* array, int index, const BodyBox& row) {
   auto* box = new NumberBox;
   box->SetNames(array, index);
-  box->SetRange(row.Range);
+  box->SetRange(RangeIn(texts_.Ranges, row.What));
   box->setAccessibleName(tr(row.Label));
   AddLine(page, tr(row.Label), box, {box});
   connect(box, &NumberBox::Changed, this, &BodyEditor::Touched);

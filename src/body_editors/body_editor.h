@@ -13,6 +13,7 @@
 
 #include "numbers/text.h"
 #include "widgets/dialog_model.h"
+#include "widgets/editor_ranges.h"
 #include "widgets/number_box.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
@@ -52,12 +53,6 @@ struct BoundBox {
   void Store(Record& record) const { SetFieldNumber(record, *Row, LenientNumber(Text())); }
 };
 
-/// The range of a setting in the field table.
-template <class Record>
-NumberRange WholeRange(const Field<Record>& field) {
-  return {NumberKind::AsInteger, field.Low, field.High};
-}
-
 /// Edits a part of one profile's record and previews it. A preview stores the values of the editor
 /// in the record, where they stay even after "Cancel"; only "OK" changes the boxes of the
 /// properties dialog.
@@ -79,13 +74,13 @@ class BodyEditor : public PlacedDialog {
     std::string_view Caption;         // after the profile's name
     std::string_view PreviewCaption;  // before the profile's name
     const char* Preview;              // of the button while no preview runs
+    RangedEditor Ranges;              // of the boxes for settings of the profile
   };
 
   /// A numeric setting of the profile.
   struct BodyBox {
     Setting<StarfoldProfile> What;
     const char* Label;
-    NumberRange Range;
     int PropsBox;  // index of the `txtStarfold` that "OK" writes it to, or `kNoPropsBox`
   };
   static constexpr int kNoPropsBox = -1;

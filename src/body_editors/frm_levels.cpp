@@ -22,23 +22,14 @@ constexpr ToggleRow kToggles[] = {
 
 FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
     : BodyEditor({"frmLevels", sections::kLevelsPlace, help::kLevels,
-                  "Starfold Levels:  ", "Levels Preview - ", "Preview"},
+                  "Starfold Levels:  ", "Levels Preview - ", "Preview", RangedEditor::Levels},
                  editing, parent) {
-  const BodyBox bodyRows[] = {
-      {&StarfoldProfile::Starfold_Radius, "Radius:", {NumberKind::AsLong, 1, 30000}, 0},
-      {&StarfoldProfile::Starfold_Distance, "Distance:", {NumberKind::AsLong, 1, 30000}, 2}};
-  const BodyBox levelRows[] = {{&StarfoldProfile::Starfold_StdLevels,
-                                "Levels (1 - 10):",
-                                {NumberKind::AsInteger, 1, kMaxLevels},
-                                9},
-                               {&StarfoldProfile::Starfold_StdLevDRad,
-                                "Radius Increment (1 - 30000):",
-                                {NumberKind::AsLong, 1, 30000},
-                                kNoPropsBox},
-                               {&StarfoldProfile::Starfold_StdLevHSca,
-                                "Height Multiplier (0.0 - 99.9):",
-                                {NumberKind::AsSingle, 0, 99.9},
-                                kNoPropsBox}};
+  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", 0},
+                              {&StarfoldProfile::Starfold_Distance, "Distance:", 2}};
+  const BodyBox levelRows[] = {
+      {&StarfoldProfile::Starfold_StdLevels, "Levels (1 - 10):", 9},
+      {&StarfoldProfile::Starfold_StdLevDRad, "Radius Increment (1 - 30000):", kNoPropsBox},
+      {&StarfoldProfile::Starfold_StdLevHSca, "Height Multiplier (0.0 - 99.9):", kNoPropsBox}};
 
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);

@@ -36,9 +36,9 @@ constexpr int kPropY = 1;
 constexpr int kPropZ = 2;
 constexpr int kPropSymmetry = 4;
 // Labels for lattices, if different.
-const char kPointsPerEdge[] = "Points per\nEdge (1-99)";
+const char kEdgeLabel[] = "Points per\nEdge (1-99)";
 const char kAtomOffset[] = "Atom Offset";
-constexpr NumberRange kEdgeRange{NumberKind::AsInteger, 1, 99};
+constexpr NumberRange kEdgeRange{NumberKind::AsInteger, kPointsPerEdge.Low, kPointsPerEdge.High};
 
 const char kNoAtoms[] =
     "You must specify at least one Atomic Structure in order to Preview the Molecule.  \n"
@@ -80,10 +80,10 @@ Colour StarColorAt(const StarfoldProfile& profile, int hue) {
 }  // namespace
 
 FrmMolecule::FrmMolecule(const BodyEditing& editing, QWidget* parent)
-    : ThemedEditor(
-          {"frmMolecule", sections::kAtomicsPlace, help::kMolecule,
-           "User Defined Molecular Structure:  ", "Molecule Preview - ", "Preview Molecule"},
-          editing, MoleculeThemes(), parent) {
+    : ThemedEditor({"frmMolecule", sections::kAtomicsPlace, help::kMolecule,
+                    "User Defined Molecular Structure:  ", "Molecule Preview - ",
+                    "Preview Molecule", RangedEditor::Themed},
+                   editing, MoleculeThemes(), parent) {
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
   left->addLayout(MakeList(), 1);
@@ -189,7 +189,7 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     const Field<AtomPoint>* field = &FieldOf(row.What);
     auto* box = new NumberBox;
     box->SetNames("Props", index);
-    box->SetRange(WholeRange(*field));
+    box->SetRange(RangeOf(*field));
     box->SetBlankAllowed();
     lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
@@ -232,10 +232,10 @@ void FrmMolecule::ShowElement(int position) {
 /// A lattice has points per edge in place of a location; a single point has no symmetry.
 void FrmMolecule::ShowStructure(int structure) {
   const bool lattice = IsLattice(static_cast<Integer>(structure));
-  lblProps_[kPropX]->setText(tr(lattice ? kPointsPerEdge : kProps[kPropX].Label));
+  lblProps_[kPropX]->setText(tr(lattice ? kEdgeLabel : kProps[kPropX].Label));
   lblProps_[kPropSymmetry]->setText(tr(lattice ? kAtomOffset : kProps[kPropSymmetry].Label));
   const auto& x = txtProps_[kPropX];
-  x.Box->SetRange(lattice ? kEdgeRange : WholeRange(*x.Row));
+  x.Box->SetRange(lattice ? kEdgeRange : RangeOf(*x.Row));
   txtProps_[kPropY].Box->setEnabled(!lattice);
   txtProps_[kPropZ].Box->setEnabled(!lattice);
   txtProps_[kPropSymmetry].Box->setEnabled(structure != 0);

@@ -38,10 +38,10 @@ const char kTooFewPoints[] =
 }  // namespace
 
 FrmUserDefIfs::FrmUserDefIfs(const BodyEditing& editing, QWidget* parent)
-    : ThemedEditor(
-          {"frmUserDefIFS", sections::kIfsPlace, help::kIfs,
-           "User Defined Iterated Function System (IFS):  ", "IFS Preview - ", "Preview I.F.S."},
-          editing, IfsThemes(), parent) {
+    : ThemedEditor({"frmUserDefIFS", sections::kIfsPlace, help::kIfs,
+                    "User Defined Iterated Function System (IFS):  ", "IFS Preview - ",
+                    "Preview I.F.S.", RangedEditor::Themed},
+                   editing, IfsThemes(), parent) {
   Controls().addLayout(MakeBodyAndCenter());
   Controls().addWidget(MakePoints());
   Controls().addStretch();
@@ -80,7 +80,7 @@ void FrmUserDefIfs::AddPoint(QGridLayout& grid) {
     } else {
       auto* box = new NumberBox;
       box->SetNames(about.Array, index);
-      box->SetRange(WholeRange(*field));
+      box->SetRange(RangeOf(*field));
       box->SetBlankAllowed();
       connect(box, &NumberBox::Changed, this, &FrmUserDefIfs::Touched);
       row.Boxes.push_back({box, field});

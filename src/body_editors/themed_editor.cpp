@@ -32,10 +32,9 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
 }
 
 QLayout* ThemedEditor::MakeBodyAndCenter() {
-  const NumberRange bodyRange{NumberKind::AsLong, 0, 30000};
-  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", bodyRange, 0},
-                              {&StarfoldProfile::Starfold_Rotation, "Rotation:", bodyRange, 1},
-                              {&StarfoldProfile::Starfold_Distance, "Distance:", bodyRange, 2}};
+  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", 0},
+                              {&StarfoldProfile::Starfold_Rotation, "Rotation:", 1},
+                              {&StarfoldProfile::Starfold_Distance, "Distance:", 2}};
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);
   for (int i = 0; i < static_cast<int>(std::size(bodyRows)); ++i) {
@@ -48,7 +47,6 @@ QLayout* ThemedEditor::MakeBodyAndCenter() {
     const QString label = tr("Center %1:").arg(QChar('X' + static_cast<int>(i)));
     auto* box = new NumberBox;
     box->SetNames("Center", static_cast<int>(i));
-    box->SetRange({NumberKind::AsInteger, 0, 9999});
     box->SetBlankAllowed();
     box->setAccessibleName(label);
     AddLine(*page, label, box, {box});

@@ -20,12 +20,14 @@ class ThemedEditor : public BodyEditor {
 
   /// The frames with the body's numbers and with the centre, side by side.
   QLayout* MakeBodyAndCenter();
-  /// Sets the record that the boxes of the centre edit.
+  /// Sets the record that the boxes of the centre edit, and their ranges.
   template <class Record>
   std::vector<BoundBox<Record>> BindCenter(std::span<const Field<Record>> fields) const {
     std::vector<BoundBox<Record>> bound;
-    for (std::size_t i = 0; i < txtCenter_.size(); ++i)
+    for (std::size_t i = 0; i < txtCenter_.size(); ++i) {
+      txtCenter_[i]->SetRange(RangeOf(fields[i]));
       bound.push_back({txtCenter_[i], &fields[i]});
+    }
     return bound;
   }
 

@@ -12,6 +12,7 @@
 #include "colour/tables.h"
 #include "settings/registry.h"
 #include "widgets/dialog_model.h"
+#include "widgets/editor_ranges.h"
 #include "widgets/lines.h"
 #include "widgets/number_box.h"
 #include "widgets/picture_box.h"
@@ -63,11 +64,6 @@ QString LabelOf(const Setting<A>& setting) {
                                 [&](const Row& each) { return each.What == setting; });
   QString label = Escaped(FieldOf(setting).Label);
   return label.insert(label.indexOf(QLatin1Char(row->Mnemonic)), '&');
-}
-
-NumberRange RangeOf(const AdvancedField& field) {
-  const bool single = std::holds_alternative<Single AdvancedSettings::*>(field.Where);
-  return {single ? NumberKind::AsSingle : NumberKind::AsInteger, field.Low, field.High};
 }
 
 /// The default font is there under its name on every system: where it is missing, the window system

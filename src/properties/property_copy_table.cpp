@@ -4,6 +4,7 @@
 
 #include "numbers/text.h"
 #include "settings/fields.h"
+#include "widgets/editor_ranges.h"
 
 namespace starfolds {
 namespace {
@@ -16,8 +17,8 @@ constexpr Styles kIfs{1, 2, 3};
 constexpr Styles kAllButNebula{0, 1, 2, 3, 5, 6, 7, 8, 9};
 
 /// An entry with a number for the setting whose label it has.
-constexpr CopyRow Number(Setting<P> setting, Styles skipped = kNone, NumberRange range = {}) {
-  return {.Labelled = setting, .Range = range, .Target = setting, .Skipped = skipped};
+constexpr CopyRow Number(Setting<P> setting, Styles skipped = kNone) {
+  return {.Labelled = setting, .Target = setting, .Skipped = skipped};
 }
 
 /// The same with a position in a list.
@@ -30,9 +31,7 @@ constexpr CopyRow Choice(Setting<P> setting, NameList choices) {
 constexpr CopyRow Dead(std::string_view text, NumberRange range) {
   return {.Text = text, .Range = range};
 }
-constexpr CopyRow Dead(Setting<P> labelled, NumberRange range = {}) {
-  return {.Labelled = labelled, .Range = range};
-}
+constexpr CopyRow Dead(Setting<P> labelled) { return {.Labelled = labelled}; }
 
 constexpr CopyRow kRows[] = {
     Number(&P::Starfold_HueRed),
@@ -43,24 +42,24 @@ constexpr CopyRow kRows[] = {
     Number(&P::Starfold_Radius, Styles{7}),
     Number(&P::Starfold_Rotation),
     Number(&P::Starfold_Distance),
-    Number(&P::Starfold_RadSegs, kIfs, {AsInteger, 1, 99}),
-    Number(&P::Starfold_RadFill, kIfs, {AsInteger, 0, 100}),
-    Number(&P::Starfold_RadBands, Styles{1, 2, 7}, {AsInteger, 1, 99}),
-    Number(&P::Starfold_RadBFill, Styles{7}, {AsInteger, 0, 100}),
+    Number(&P::Starfold_RadSegs, kIfs),
+    Number(&P::Starfold_RadFill, kIfs),
+    Number(&P::Starfold_RadBands, Styles{1, 2, 7}),
+    Number(&P::Starfold_RadBFill, Styles{7}),
     Choice(&P::Starfold_FoldStyle, StyleNames),
     Choice(&P::Starfold_AxisPlane, PlaneNames),
     Choice(&P::Starfold_Profile, ShapeNames),
     Number(&P::Starfold_GHW_Ratio),
     Number(&P::Starfold_RadiusExp, Styles{4, 7}),
     Number(&P::Starfold_HeightExp, Styles{4}),
-    Number(&P::Starfold_AngleTilt, kNone, {AsInteger, 0, 359}),
+    Number(&P::Starfold_AngleTilt),
     Number(&P::Starfold_AngleTInc),
     Choice(&P::Starfold_ColorComp, ColorRuleNames),
     Number(&P::Starfold_ColorMult),
     Number(&P::Starfold_HueStart),
     Number(&P::Starfold_HWheelInc),
     Number(&P::Starfold_NewFreq),
-    Number(&P::Starfold_NewFrames, kNone, {AsInteger, 1, 999}),
+    Number(&P::Starfold_NewFrames),
     Number(&P::Starfold_NewExtMult),
     Number(&P::Starfold_NovaFreq),
     Number(&P::Starfold_NovaFrames),
@@ -91,7 +90,7 @@ constexpr CopyRow kRows[] = {
     Dead("Fractal Iteration Scale %", {AsInteger, 0, 100}),
     // Changes another setting than it says.
     {.Labelled = &P::Starfold_CP_Points, .Target = &P::Starfold_CP_Close, .Skipped = kAllButNebula},
-    Dead(&P::Starfold_CP_Steps, {AsInteger, 1, 9999}),
+    Dead(&P::Starfold_CP_Steps),
     Dead(&P::Starfold_CP_B_Pts),
     Dead(&P::Starfold_CP_B_Exp),
     Dead(&P::Starfold_CP_B_Spd),
@@ -106,12 +105,6 @@ constexpr CopyRow kRows[] = {
     Dead("Starwave Particle Angle Increment", {AsSingle, 0, 99.9}),
 };
 
-NumberKind KindOf(const Field<StarfoldProfile>& field) {
-  if (std::holds_alternative<Single StarfoldProfile::*>(field.Where)) return AsSingle;
-  if (std::holds_alternative<Long StarfoldProfile::*>(field.Where)) return AsLong;
-  return AsInteger;
-}
-
 }  // namespace
 
 std::span<const CopyRow> CopyRows() { return kRows; }
@@ -121,9 +114,7 @@ std::string EntryText(const CopyRow& row) {
 }
 
 NumberRange RangeOf(const CopyRow& row) {
-  if (row.Range.High > 0 || !row.Labelled) return row.Range;
-  const Field<P>& field = FieldOf(*row.Labelled);
-  return {KindOf(field), field.Low, field.High};
+  return row.Labelled ? RangeIn(RangedEditor::PropertyCopy, *row.Labelled) : row.Range;
 }
 
 /// The point of "360.0" says that fractions are taken.

@@ -23,7 +23,7 @@ struct CopyRow {
       {};                      // the setting whose label the entry has, or
   std::string_view Text = {};  // its own text
   CopyControl Control = CopyControl::Text;
-  NumberRange Range = {};      // of the number; `High` of 0: the range of `Labelled`
+  NumberRange Range = {};      // of the number, if the entry has its own text
   NameList Choices = nullptr;  // of the list
   std::optional<Setting<StarfoldProfile>> Target = {};  // what is changed; nullopt: nothing
   Styles Skipped{};                                     // profiles of these styles are left alone

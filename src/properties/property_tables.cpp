@@ -49,56 +49,70 @@ constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
     "Comet and Color Properties"};
 
 constexpr StarfoldRow kStarfoldRows[] = {
-    {0, &P::Starfold_Radius, {}, AsLong, SP::Shape, 0},
-    {1, &P::Starfold_Rotation, {}, AsLong, SP::Shape, 0},
-    {2, &P::Starfold_Distance, {}, AsLong, SP::Shape, 1},
-    {3, &P::Starfold_RadSegs, &P::Starfold_CP_Points, AsInteger, SP::Shape, 2, StyleBox::Radials},
-    {4, &P::Starfold_RadFill, &P::Starfold_CP_Steps, AsInteger, SP::Shape, 2, StyleBox::Radials},
-    {5, &P::Starfold_RadBands, &P::Starfold_CP_B_Pts, AsInteger, SP::Shape, 3, StyleBox::Bands},
-    {6, &P::Starfold_RadBFill, &P::Starfold_CP_B_Exp, AsInteger, SP::Shape, 3, StyleBox::BandFill},
-    {9, &P::Starfold_StdLevels, {}, AsInteger, SP::Shape, 90, StyleBox::Levels},
-    {8, &P::Starfold_QG_Force, {}, AsSingle, SP::Shape, 90, StyleBox::Force},
-    {90, &P::Starfold_GHW_Ratio, {}, AsSingle, SP::Shape, 90, StyleBox::Ratio},
-    {91, &P::Starfold_RadiusExp, {}, AsSingle, SP::Shape, 91, StyleBox::RadiusExponent},
-    {92, &P::Starfold_HeightExp, {}, AsSingle, SP::Shape, 92, StyleBox::HeightExponent},
-    {93, &P::Starfold_AngleTilt, &P::Starfold_CP_B_Spd, AsSingle, SP::Shape, 93},
-    {94, &P::Starfold_AngleTInc, {}, AsSingle, SP::Shape, 94},
-    {95, &P::Starfold_HueStart, {}, AsInteger, SP::Shape, 96, StyleBox::HueWheel},
-    {96, &P::Starfold_HWheelInc, {}, AsSingle, SP::Shape, 96, StyleBox::HueWheel},
-    {7, &P::Starfold_ColorMult, {}, AsLong, SP::Shape, 7},
-    {10, &P::Starfold_NewFreq, {}, AsInteger, SP::Flares, 10},
-    {11, &P::Starfold_NewFrames, {}, AsInteger, SP::Flares, 11},
-    {12, &P::Starfold_NewExtMult, {}, AsInteger, SP::Flares, 12},
-    {20, &P::Starfold_NovaFreq, {}, AsInteger, SP::Flares, 20},
-    {21, &P::Starfold_NovaFrames, {}, AsInteger, SP::Flares, 21},
-    {22, &P::Starfold_NovaExtMult, {}, AsInteger, SP::Flares, 22},
-    {30, &P::Starfold_PulsarFreq, {}, AsInteger, SP::Flares, 30},
-    {31, &P::Starfold_PulsarDepth, {}, AsInteger, SP::Flares, 31},
-    {32, &P::Starfold_PulsarCycles, {}, AsInteger, SP::Flares, 32},
-    {33, &P::Starfold_PulsarFrames, {}, AsInteger, SP::Flares, 33},
-    {34, &P::Starfold_PulsarMinExt, {}, AsInteger, SP::Flares, 34},
-    {35, &P::Starfold_PulsarMaxExt, {}, AsInteger, SP::Flares, 35},
-    {40, &P::Starfold_CometFreq, {}, AsInteger, SP::Comets, 40},
-    {41, &P::Starfold_CometStars, {}, AsInteger, SP::Comets, 41},
-    {42, &P::Starfold_CometOrbit, {}, AsInteger, SP::Comets, 42},
-    {43, &P::Starfold_CometSpeed, {}, AsInteger, SP::Comets, 43},
-    {44, &P::Starfold_CometSWind, {}, AsInteger, SP::Comets, 44},
-    {45, &P::Starfold_CometCPersist, {}, AsSingle, SP::Comets, 45},
-    {46, &P::Starfold_CometSPersist, {}, AsSingle, SP::Comets, 46},
-    {47, &P::Starfold_HWC_Start, {}, AsInteger, SP::Comets, 47},
-    {48, &P::Starfold_HWC_End, {}, AsInteger, SP::Comets, 48},
-    {49, &P::Starfold_HWC_Inc, {}, AsSingle, SP::Comets, 49},
+    {0, &P::Starfold_Radius, AsLong, SP::Shape, 0},
+    {1, &P::Starfold_Rotation, AsLong, SP::Shape, 0},
+    {2, &P::Starfold_Distance, AsLong, SP::Shape, 1},
+    {3, &P::Starfold_RadSegs, AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {4, &P::Starfold_RadFill, AsInteger, SP::Shape, 2, StyleBox::Radials},
+    {5, &P::Starfold_RadBands, AsInteger, SP::Shape, 3, StyleBox::Bands},
+    {6, &P::Starfold_RadBFill, AsInteger, SP::Shape, 3, StyleBox::BandFill},
+    {9, &P::Starfold_StdLevels, AsInteger, SP::Shape, 90, StyleBox::Levels},
+    {8, &P::Starfold_QG_Force, AsSingle, SP::Shape, 90, StyleBox::Force},
+    {90, &P::Starfold_GHW_Ratio, AsSingle, SP::Shape, 90, StyleBox::Ratio},
+    {91, &P::Starfold_RadiusExp, AsSingle, SP::Shape, 91, StyleBox::RadiusExponent},
+    {92, &P::Starfold_HeightExp, AsSingle, SP::Shape, 92, StyleBox::HeightExponent},
+    {93, &P::Starfold_AngleTilt, AsSingle, SP::Shape, 93},
+    {94, &P::Starfold_AngleTInc, AsSingle, SP::Shape, 94},
+    {95, &P::Starfold_HueStart, AsInteger, SP::Shape, 96, StyleBox::HueWheel},
+    {96, &P::Starfold_HWheelInc, AsSingle, SP::Shape, 96, StyleBox::HueWheel},
+    {7, &P::Starfold_ColorMult, AsLong, SP::Shape, 7},
+    {10, &P::Starfold_NewFreq, AsInteger, SP::Flares, 10},
+    {11, &P::Starfold_NewFrames, AsInteger, SP::Flares, 11},
+    {12, &P::Starfold_NewExtMult, AsInteger, SP::Flares, 12},
+    {20, &P::Starfold_NovaFreq, AsInteger, SP::Flares, 20},
+    {21, &P::Starfold_NovaFrames, AsInteger, SP::Flares, 21},
+    {22, &P::Starfold_NovaExtMult, AsInteger, SP::Flares, 22},
+    {30, &P::Starfold_PulsarFreq, AsInteger, SP::Flares, 30},
+    {31, &P::Starfold_PulsarDepth, AsInteger, SP::Flares, 31},
+    {32, &P::Starfold_PulsarCycles, AsInteger, SP::Flares, 32},
+    {33, &P::Starfold_PulsarFrames, AsInteger, SP::Flares, 33},
+    {34, &P::Starfold_PulsarMinExt, AsInteger, SP::Flares, 34},
+    {35, &P::Starfold_PulsarMaxExt, AsInteger, SP::Flares, 35},
+    {40, &P::Starfold_CometFreq, AsInteger, SP::Comets, 40},
+    {41, &P::Starfold_CometStars, AsInteger, SP::Comets, 41},
+    {42, &P::Starfold_CometOrbit, AsInteger, SP::Comets, 42},
+    {43, &P::Starfold_CometSpeed, AsInteger, SP::Comets, 43},
+    {44, &P::Starfold_CometSWind, AsInteger, SP::Comets, 44},
+    {45, &P::Starfold_CometCPersist, AsSingle, SP::Comets, 45},
+    {46, &P::Starfold_CometSPersist, AsSingle, SP::Comets, 46},
+    {47, &P::Starfold_HWC_Start, AsInteger, SP::Comets, 47},
+    {48, &P::Starfold_HWC_End, AsInteger, SP::Comets, 48},
+    {49, &P::Starfold_HWC_Inc, AsSingle, SP::Comets, 49},
 };
 
 constexpr StarfoldRow kPixHueRows[] = {
-    {0, &P::Starfold_HueRed, {}, AsInteger, SP::Comets, 0},
-    {1, &P::Starfold_HueGrn, {}, AsInteger, SP::Comets, 1},
-    {2, &P::Starfold_HueBlu, {}, AsInteger, SP::Comets, 2},
-    {3, &P::Starfold_HueBase, {}, AsInteger, SP::Comets, 3},
-    {4, &P::Starfold_HueBlend, {}, AsInteger, SP::Comets, 4},
+    {0, &P::Starfold_HueRed, AsInteger, SP::Comets, 0},
+    {1, &P::Starfold_HueGrn, AsInteger, SP::Comets, 1},
+    {2, &P::Starfold_HueBlu, AsInteger, SP::Comets, 2},
+    {3, &P::Starfold_HueBase, AsInteger, SP::Comets, 3},
+    {4, &P::Starfold_HueBlend, AsInteger, SP::Comets, 4},
 };
 
-/// The captions that all styles share but for those below.
+/// Boxes that edit another setting for a style.
+struct StyleSetting {
+  FoldStyle Style;
+  Setting<P> Usual;  // `What` of the box's row
+  Setting<P> What;
+};
+constexpr StyleSetting kStyleSettings[] = {
+    {FoldStyle::Nebula, &P::Starfold_RadSegs, &P::Starfold_CP_Points},
+    {FoldStyle::Nebula, &P::Starfold_RadFill, &P::Starfold_CP_Steps},
+    {FoldStyle::Nebula, &P::Starfold_RadBands, &P::Starfold_CP_B_Pts},
+    {FoldStyle::Nebula, &P::Starfold_RadBFill, &P::Starfold_CP_B_Exp},
+    {FoldStyle::Nebula, &P::Starfold_AngleTilt, &P::Starfold_CP_B_Spd},
+};
+
+/// The captions of all styles that have none of their own (`StyleFacts::Captions`).
 struct Caption {
   int Label;
   std::string_view Text;
@@ -160,8 +174,12 @@ bool IsShown(const StarfoldRow& row, int style) {
 }
 
 const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style) {
-  const bool isNebula = style == static_cast<int>(FoldStyle::Nebula);
-  return FieldOf(isNebula ? row.OfNebula.value_or(row.What) : row.What);
+  for (const StyleSetting& setting : kStyleSettings) {
+    if (static_cast<int>(setting.Style) == style && setting.Usual == row.What) {
+      return FieldOf(setting.What);
+    }
+  }
+  return FieldOf(row.What);
 }
 
 NumberRange RangeOf(const StarfoldRow& row, int style) {

@@ -51,8 +51,7 @@ class Styles {
 /// An element of `txtStarfold`, or of `txtPixHue`.
 struct StarfoldRow {
   int Index;
-  Setting<StarfoldProfile> What;
-  std::optional<Setting<StarfoldProfile>> OfNebula;  // what a Nebula edits here, if it differs
+  Setting<StarfoldProfile> What;  // of most styles; `FieldOf` knows the exceptions
   NumberKind Kind;
   StarfoldPage Page;
   int Label;                           // of `lblStarfold`; rows with the same label share a line
@@ -62,6 +61,7 @@ bool IsShown(const StarfoldRow& row, int style);
 std::span<const StarfoldRow> StarfoldRows();
 std::span<const StarfoldRow> PixHueRows();
 
+/// The setting that the box edits for a style.
 const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style);
 /// The range of the box: that of the setting that it edits for this style.
 NumberRange RangeOf(const StarfoldRow& row, int style);

@@ -362,7 +362,7 @@ void ClampProfile(StarfoldProfile& profile) {
     AtomPoint& atom = profile.Atom.Atoms[i];
     ClampFields(atom, AtomPointFields());
     atom.Atom_Count = ClampTo<Integer>(atom.Atom_Count, 1, 100);
-    if (IsLattice(atom.Atom_Structure)) atom.Atom_LocX = ClampTo<Integer>(atom.Atom_LocX, 1, 99);
+    if (IsLattice(atom.Atom_Structure)) ClampNumber(atom.Atom_LocX, kPointsPerEdge, false);
   }
 }
 

@@ -95,6 +95,9 @@ Integer AtomPoints(Integer structure);
 /// Whether an atom's structure has a number of points per edge in place of a location.
 bool IsLattice(Integer structure);
 
+/// The range of a lattice's points per edge, which are stored as `Atom_LocX`.
+inline constexpr Limits kPointsPerEdge{1, 99};
+
 /// Holds every field to its range, as before each run (universe) or after each load (others).
 void ClampUniverse(UniverseSettings& universe);
 void ClampProfile(StarfoldProfile& profile);
