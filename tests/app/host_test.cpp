@@ -40,50 +40,42 @@ bool WaitUntil(const std::function<bool()>& done) {
 
 std::string FromEnvironment(const char* name) { return qgetenv(name).toStdString(); }
 
-/// The program, from its start to its end, with what it says on stderr.
-class Program {
+class Program : public QProcess {
  public:
   Program(const Texts& arguments, const Texts& environment) {
-    QStringList given;
-    for (const std::string& argument : arguments) given.append(QString::fromStdString(argument));
-    QStringList variables;
-    for (const std::string& text : environment) variables.append(QString::fromStdString(text));
-    process_.setEnvironment(variables);
-    process_.start(STARFOLDS_PROGRAM, given);
-    process_.waitForStarted();
+    const auto list = [](const Texts& texts) {
+      QStringList strings;
+      for (const std::string& text : texts) strings.append(QString::fromStdString(text));
+      return strings;
+    };
+    setEnvironment(list(environment));
+    start(STARFOLDS_PROGRAM, list(arguments));
+    waitForStarted();
   }
-  ~Program() {
-    process_.kill();
-    process_.waitForFinished();
+  ~Program() override {
+    kill();
+    waitForFinished();
   }
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
 
-  void Signal(int number) const { kill(static_cast<pid_t>(process_.processId()), number); }
-  bool Runs() { return !process_.waitForFinished(0) && process_.state() == QProcess::Running; }
+  bool Runs() { return !waitForFinished(0) && state() == Running; }
 
-  /// The exit code; nothing if it is killed by a signal or does not end.
+  /// nullopt if it is killed by a signal or does not end.
   std::optional<int> ExitCode() {
-    if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(kPatienceMs))
-      return {};
-    if (process_.exitStatus() != QProcess::NormalExit) return {};
-    return process_.exitCode();
+    if (state() != NotRunning && !waitForFinished(kPatienceMs)) return {};
+    return exitStatus() == NormalExit ? std::optional(exitCode()) : std::nullopt;
   }
 
-  std::string Words() { return process_.readAllStandardError().toStdString(); }
+  std::string Words() { return readAllStandardError().toStdString(); }
 
   /// Whether SIGTERM no longer kills it.
   bool CatchesSignals() const {
-    std::ifstream status("/proc/" + std::to_string(process_.processId()) + "/status");
+    std::ifstream status("/proc/" + std::to_string(processId()) + "/status");
     for (std::string line; std::getline(status, line);) {
       if (!line.starts_with("SigCgt:")) continue;
       return (std::stoull(line.substr(7), nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
     }
     return false;
   }
-
- private:
-  QProcess process_;
 };
 
 class Host : public testing::Test {
@@ -225,7 +217,7 @@ TEST_F(Host, SigtermEndsItSoonAtAnyMoment) {
     Program program({"--root"}, Stripped({Names(window)}));
     ASSERT_TRUE(WaitUntil([&] { return program.CatchesSignals(); }));
     std::this_thread::sleep_for(RandomTime(400));
-    program.Signal(SIGTERM);
+    program.terminate();
     ASSERT_EQ(program.ExitCode(), 0) << program.Words();
   }
 }
@@ -235,10 +227,6 @@ TEST_F(Host, NumbersThatNameNoWindowAreRefused) {
   HostWindow stale(Server, 300, 200);
   const std::string staleNumber = stale.Number();
   stale.Destroy();
-  const xcb_pixmap_t pixmap = xcb_generate_id(Server.get());
-  const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(Server.get())).data;
-  xcb_create_pixmap(Server.get(), screen.root_depth, pixmap, screen.root, 16, 16);
-  xcb_flush(Server.get());
 
   struct Case {
     Texts Arguments;
@@ -249,13 +237,11 @@ TEST_F(Host, NumbersThatNameNoWindowAreRefused) {
   const std::string noWindow = "XSCREENSAVER_WINDOW=";
   const Case cases[] = {
       {{"--window-id", staleNumber}, {}, 1, "there is no window"},
-      {{"--window-id", std::to_string(pixmap)}, {}, 1, "there is no window"},
       {{"--window-id", blind.Number()}, {}, 1, "there is no window"},
       {{"--root"}, {noWindow + "b7f3-token"}, 1, "'b7f3-token', which is no window"},
       {{"--root"}, {noWindow + staleNumber}, 0, "there is no window"},
       {{"/P", "-1"}, {}, 0, ""},
       {{"/P", staleNumber}, {}, 0, ""},
-      {{"/P", std::to_string(pixmap)}, {}, 0, ""},
       {{"/P", blind.Number()}, {}, 0, ""},
       {{"/P", "99999999999999999999"}, {}, 0, ""},
   };

@@ -5,8 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -104,24 +102,6 @@ TEST_F(InstanceTest, ADeadOwnerIsNone) {
   owner.kill();  // by SIGKILL, so that it leaves all its files behind
   owner.waitForFinished(kPatienceMs);
   EXPECT_FALSE(Desktop->WindowExists(kCaption));
-}
-
-TEST_F(InstanceTest, AGarbledLockFileLocksNothing) {
-  {
-    Process owner("stay");  // makes the lock file
-    EXPECT_EQ(owner.Answer(), "mine");
-  }
-  const QDir folder(folder_.path());
-  ASSERT_EQ(folder.entryList({"*.lock"}).size(), 1);
-  QFile file(folder.filePath(folder.entryList({"*.lock"}).front()));
-  for (const QByteArray& text : {QByteArray(), QByteArray("\xFF not a process\n\n")}) {
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(text);
-    file.close();
-    Process next("stay");
-    EXPECT_EQ(next.Answer(), "mine") << text.constData();
-    EXPECT_EQ(Process("ask").Answer(), "exists") << text.constData();
-  }
 }
 
 TEST_F(InstanceTest, AnUnlistedWindowDoesNotTakeItsCaption) {

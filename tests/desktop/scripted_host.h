@@ -79,15 +79,17 @@ class HostWindow {
     return text;
   }
 
-  /// The window's content as it stands on the screen, what is inside it included.
-  std::vector<std::uint32_t> Picture(int width, int height) const {
+  /// The pixels of the window on the screen that are not black, those inside it included.
+  int Lit(int width, int height) const {
     const auto request = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0,
                                        static_cast<std::uint16_t>(width),
                                        static_cast<std::uint16_t>(height), ~std::uint32_t{0});
     const Answer<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection_, request, nullptr));
-    if (!reply) return {};
+    if (!reply) return 0;
     const auto* const words = reinterpret_cast<std::uint32_t*>(xcb_get_image_data(reply.get()));
-    return {words, words + xcb_get_image_data_length(reply.get()) / 4};
+    return static_cast<int>(
+        std::count_if(words, words + xcb_get_image_data_length(reply.get()) / 4,
+                      [](std::uint32_t word) { return (word & 0xFFFFFFU) != 0; }));
   }
 
   /// A window inside this one that covers all of it.
@@ -117,12 +119,6 @@ class HostWindow {
         connection_, xcb_get_geometry(connection_, children.front()), nullptr));
     if (!place) return {};
     return {place->width, place->height};
-  }
-
-  /// Pixels that are not black.
-  int Lit(int width, int height) const {
-    const auto isLit = [](std::uint32_t word) { return (word & 0xFFFFFFU) != 0; };
-    return static_cast<int>(std::ranges::count_if(Picture(width, height), isLit));
   }
 
  private:

@@ -78,8 +78,8 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
     }
     return static_cast<QWindow*>(nullptr);
   };
-  const auto isCentred = [](const QWindow& window, int width) {
-    return std::abs(2 * window.x() + window.width() - width) <= 1;
+  const auto isCentred = [&](int width) {
+    return std::abs(2 * message()->x() + message()->width() - width) <= 1;
   };
   Events.Plan[5] = [&] {
     EXPECT_EQ(message(), nullptr);
@@ -88,13 +88,13 @@ TEST_F(GuestTest, OnlyASaverShowsTheMessage) {
   RunPreview();
   Events.Plan[10] = [&] {
     ASSERT_NE(message(), nullptr);
-    EXPECT_TRUE(isCentred(*message(), 320));
+    EXPECT_TRUE(isCentred(320));
     ResizeAndAwait(500, 300);
   };
   Events.Plan[11] = [&] {
     const QDeadlineTimer patience(10000);
-    while (!isCentred(*message(), 500) && !patience.hasExpired()) QCoreApplication::processEvents();
-    EXPECT_TRUE(isCentred(*message(), 500));
+    while (!isCentred(500) && !patience.hasExpired()) QCoreApplication::processEvents();
+    EXPECT_TRUE(isCentred(500));
     State->Requests.AskStop();
   };
   EXPECT_EQ(RunSaver(), 11);

@@ -56,19 +56,12 @@ struct Setting {
   std::string Default;
 };
 
-template <class Record>
-bool Find(std::span<const Field<Record>> fields, const std::string& name, Setting& setting) {
-  const Field<Record>* const field = FindField(fields, name);
-  if (field == nullptr) return false;
-  setting = {{field->Low, field->High}, FieldText(Record(), *field)};
-  return true;
-}
-
 Setting Find(const std::string& name) {
-  Setting setting;
-  EXPECT_TRUE(Find(UniverseFields(), name, setting) || Find(AdvancedFields(), name, setting))
-      << name;
-  return setting;
+  if (const auto* field = FindField(UniverseFields(), name)) {
+    return {{field->Low, field->High}, FieldText(UniverseSettings(), *field)};
+  }
+  const auto& field = *FindField(AdvancedFields(), name);
+  return {{field.Low, field.High}, FieldText(AdvancedSettings(), field)};
 }
 
 TEST(HostSettings, NumbersAreWithinTheirRange) {

@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolTip>
 #include <QWindow>
 #include <set>
@@ -354,6 +355,36 @@ TEST_F(FrmPropsTest, F1OpensTheTopicOfThePageOrTheFrameInUse) {
   OpenType(0);
   The<QComboBox>("cboFoldExtras").setCurrentIndex(2);
   EXPECT_EQ(topic(), help::kStarfoldPage + 2);
+}
+
+/// Whatever a user does, previews included, leaves a valid tree.
+TEST_F(FrmPropsTest, RandomEventsLeaveAValidTree) {
+  StoreFactory();
+  Open();
+  RandomHands hands(7);
+  for (int i = 1; i < 400; ++i) Events.Plan[i * 6] = [&] { Press(*Dialog, Qt::Key_Escape); };
+  QTimer closer;  // of the editors, which are modal
+  closer.callOnTimeout([] {
+    if (QWidget* editor = QApplication::activeModalWidget()) editor->close();
+  });
+  closer.start(0);
+  const auto accepts = [&] { return The<QPushButton>("cmdAccept").text() == "&Accept Settings"; };
+  for (int i = 0; i < 2000; ++i) {
+    Events.Pumps = 0;
+    hands.Act(*Dialog, [&](const QString& name) {
+      return name == "cmdDismiss" || (name == "cmdAccept" && accepts()) ||
+             (name.startsWith("cmdPreview") && hands.Draw(20) > 0);
+    });
+    if (hands.Draw(200) == 0) Choose(i % 2 == 0 ? "mnuResetProps_0" : "mnuResetProps_2");
+  }
+  if (!accepts()) Click("cmdAccept");
+  Click("cmdAccept");
+  for (const UniverseRow& row : UniverseRows()) {
+    const std::string stored = RegistryReadText(Tree, sections::kUniverse, FieldOf(row.What).Name);
+    EXPECT_EQ(stored, ClampedText(stored, RangeOf(row))) << FieldOf(row.What).Name;
+  }
+  MemoryTree again = Contents(LoadSettings(Tree));
+  EXPECT_EQ(Contents(LoadSettings(again)), again);
 }
 
 TEST_F(FrmPropsTest, SettingsOfTheRunAreToldAndNotStored) {

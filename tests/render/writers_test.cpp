@@ -1,5 +1,4 @@
 // The writers of files, fed with surfaces that the test has drawn.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "render/contact_sheet.h"
@@ -9,8 +8,6 @@
 
 namespace starfolds {
 namespace {
-
-using testing::ElementsAre;
 
 constexpr Colour kRed = 0x0000FF;
 constexpr Colour kGreen = 0x00FF00;
@@ -41,26 +38,6 @@ TEST(WritePng, ReadsBackAsTheSurface) {
       }
     }
   }
-}
-
-TEST(OutputFile, LeavesTheFormerFileWhereItIsNotCommitted) {
-  const TestFolder folder;
-  const std::string path = folder.Path("kept");
-  std::ofstream(path) << "former";
-  const std::uint8_t bytes[] = {'n', 'e', 'w'};
-  {
-    OutputFile file;
-    ASSERT_EQ(file.Open(path), std::nullopt);
-    ASSERT_EQ(file.Write(bytes), std::nullopt);
-  }
-  EXPECT_EQ(FileText(path), "former");
-  EXPECT_THAT(folder.Names(), ElementsAre("kept"));
-  OutputFile file;
-  ASSERT_EQ(file.Open(path), std::nullopt);
-  ASSERT_EQ(file.Write(bytes), std::nullopt);
-  ASSERT_EQ(file.Commit(), std::nullopt);
-  EXPECT_EQ(FileText(path), "new");
-  EXPECT_THAT(folder.Names(), ElementsAre("kept"));
 }
 
 TEST(Y4mVideo, IsAHeaderAndThreePlanesAFrame) {

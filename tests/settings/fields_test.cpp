@@ -59,16 +59,6 @@ TEST(ClampProfileTest, OnlyEntriesInUseAreTouchedAndALatticeHasAnEdge) {
   EXPECT_EQ(profile.Atom.Atoms[1].Atom_Element, 99);
 }
 
-TEST(ClampCompositeTest, ACountBeyondTheRoomWalksNoMemberBeyondIt) {
-  CompositeProfile composite;
-  composite.CompFold_Count = 3000;
-  composite.CompFold_Type.fill(77);
-  ClampComposite(composite);
-  EXPECT_EQ(composite.CompFold_Count, 49);
-  EXPECT_EQ(composite.MemberCount(), kMaxMembers);
-  for (const Integer member : composite.CompFold_Type) EXPECT_EQ(member, 49);
-}
-
 TEST(ClampAdvancedTest, TextsHaveTheirLimits) {
   AdvancedSettings advanced;
   advanced.LockMessage = "  " + std::string(120, 'x') + " ";

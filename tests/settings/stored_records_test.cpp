@@ -106,9 +106,11 @@ TEST(Storage, CountsBeyondTheRoomReadWhatThereIsRoomFor) {
     RegistryWrite(tree, ProfileSection(0), "Starfold_IFS_Points", count);
     RegistryWrite(tree, ProfileSection(0), "Starfold_Atoms", count);
     RegistryWrite(tree, CompositeSection(0), "CompFold_Count", count);
+    RegistryWrite(tree, CompositeSection(0), "CompFold_Type0", "77");
     SettingsRecords records = LoadSettings(tree);
     EXPECT_LE(records.Profiles[0].Starfold_IFS_Points, kMaxIfsPoints);
     EXPECT_LE(records.Profiles[0].Starfold_Atoms, kMaxAtoms);
+    EXPECT_LE(records.Composites[0].CompFold_Type[0], kProfileCount - 1);
     MemoryTree again;
     EXPECT_TRUE(SaveSettings(again, records));
   }

@@ -213,22 +213,5 @@ TEST_F(DiskFilesTest, SignalsRemoveTemporaryFiles) {
   }
 }
 
-TEST_F(DiskFilesTest, ManyReplaceAtOnceAndNobodyFails) {
-  const auto replace = [&](char tag) {
-    return [this, tag] {
-      for (int i = 0; i < 30; ++i) {
-        EXPECT_EQ(Disk.Replace(File, std::string(300'000, tag)), std::nullopt);
-      }
-    };
-  };
-  Child a(replace('a'));
-  Child b(replace('b'));
-  EXPECT_TRUE(a.Succeeded());
-  EXPECT_TRUE(b.Succeeded());
-  const std::string text = FileText(File);
-  EXPECT_EQ(text, std::string(300'000, text[0]));
-  EXPECT_THAT(Folder.Names(), ElementsAre("u.sfd"));
-}
-
 }  // namespace
 }  // namespace starfolds

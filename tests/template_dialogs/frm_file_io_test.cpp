@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QPushButton>
 
 #include "settings/registry.h"
@@ -169,9 +168,6 @@ TEST_F(FrmFileIoTest, BeginsWhereTheUserWasOrAtTheTemplates) {
   }
   RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Home.Path("prog/templates"));
   Choose(false, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
-  RegistryWrite(Tree, sections::kTemplate, "Path_Dir", "");
-  RegistryWrite(Tree, sections::kTemplate, "Path_Drive", QDir::homePath().toStdString());
-  Choose(true, [&] { EXPECT_EQ(Texts("filTemp"), QStringList{"old.sfd"}); });
 }
 
 TEST_F(FrmFileIoTest, AFolderThatCannotBeStoredIsRememberedByTheOneAbove) {

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <functional>
 #include <memory>
+#include <random>
 #include <string>
 
 #include "toolkit.h"
@@ -72,5 +73,35 @@ inline bool TurnWheel(QWidget& widget, int angle) {
   QApplication::sendEvent(&widget, &turn);
   return turn.isAccepted();
 }
+
+/// A user who clicks, types and chooses at random places of a window.
+class RandomHands {
+ public:
+  explicit RandomHands(unsigned seed) : random_(seed) {}
+
+  /// From 0 to below `end`.
+  int Draw(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
+
+  /// Uses one of the window's widgets, unless `spared` holds for its name.
+  void Act(QWidget& window, const std::function<bool(const QString& name)>& spared) {
+    const QWidgetList widgets = window.findChildren<QWidget*>();
+    QWidget* widget = widgets[Draw(static_cast<int>(widgets.size()))];
+    if (!widget->isEnabled() || !widget->isVisible() || spared(widget->objectName())) return;
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      button->click();
+    } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
+      if (list->count() > 0) list->setCurrentIndex(Draw(list->count()));
+    } else if (auto* items = qobject_cast<QListWidget*>(widget)) {
+      if (items->count() > 0) items->setCurrentRow(Draw(items->count()));
+    } else {
+      const int key = Qt::Key_Space + Draw(95);
+      Press(*widget, key, QChar(key));
+    }
+    if (Draw(50) == 0) Leave(*widget);
+  }
+
+ private:
+  std::mt19937 random_;
+};
 
 }  // namespace starfolds
