@@ -1,9 +1,9 @@
 #include "desktop/desktop_services_qt.h"
 
-#include "desktop/instance.h"
+#include "desktop/desktop_services_locks.h"
 
 #ifdef STARFOLDS_X11
-#include "desktop/x11_desktop.h"
+#include "desktop/desktop_services_x11.h"
 #endif
 
 namespace starfolds {
@@ -12,7 +12,7 @@ std::unique_ptr<DesktopServices> MakeDesktopServices() {
 #ifdef STARFOLDS_X11
   if (auto desktop = MakeX11Desktop()) return desktop;
 #endif
-  return MakeInstanceDesktop();
+  return MakeLockDesktop();
 }
 
 }  // namespace starfolds

@@ -14,19 +14,21 @@
 #include "properties/frm_advanced.h"
 #include "properties/frm_welcome.h"
 #include "settings/registry.h"
+#include "settings/safety_copy.h"
 #include "widgets/captions.h"
 #include "widgets/lines.h"
+#include "widgets/list_wheel_guard.h"
 #include "widgets/placed_qt_window.h"
 #include "widgets/samples.h"
 #include "widgets/web_page.h"
-#include "widgets/wheel_guard.h"
 
 namespace starfolds {
 namespace {
 
 constexpr QSize kLeastPreview{300, 225};
 constexpr int kStillPauseMs = 150;
-constexpr double kMostOfScreen = 0.94;  // of a first placement; the rest is for frames and panels
+constexpr double kMostOfScreen =
+    0.94;  // for the first placement; the rest is for window frames and panels
 
 // Entries of `mnuResetProps`; with a separator between them.
 constexpr int kReset20 = 0;
@@ -54,12 +56,12 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
   editing_->Events = events_.get();
   editing_->Desktop = process.Desktop;
   editing_->Mode = RunMode::ScreenSaver;
-  // A preview of a universe keeps the pace of the run beside the dialog, or has none.
+  // A preview of a universe has the frame delay of the process.
   editing_->Screen.FrameDelayMs = process.Screen.FrameDelayMs;
 
   setObjectName("frmProps");
   setWindowTitle(kPropertiesCaption);
-  // The application's window waits behind it, the help does not.
+  // Modal to the application's window, but not to the help.
   setWindowModality(Qt::WindowModal);
   MakeCentre();
   MakeMenus();
@@ -83,15 +85,15 @@ void FrmProps::ShowModal() {
 void FrmProps::Open() {
   open_ = true;
   resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
-  winId();  // a window that can have an owner before it is shown
+  winId();  // creates the window, so that its owner can be set before it is shown
   windowHandle()->setTransientParent(around_.Owner);
-  // Read before anything is asked: a safety copy takes the values from the dialog.
+  // Before any question: a safety copy contains the values of the dialog.
   const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
   ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
   OpenProperties(settings_, *this, stored);
 }
 
-/// A preview that is on ends first: its run is on the stack above the dialog.
+/// Ends a running preview first, because its call frame is above the dialog's.
 void FrmProps::closeEvent(QCloseEvent* event) {
   if (preview_.DelaysClose()) return event->ignore();
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
@@ -101,8 +103,7 @@ void FrmProps::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
-/// Escape leads back one step. It does not cancel: an accidental press must not lose an evening's
-/// universe.
+/// Escape goes back one step. It does not cancel, so that an accidental press loses no settings.
 void FrmProps::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
   if (preview_.IsOn()) return preview_.Stop();
@@ -123,7 +124,7 @@ void FrmProps::AddProfileEntry(std::string_view name, Integer percent) {
   universe_->AddProfileEntry(name, percent);
 }
 
-/// The last step of a list that is filled anew.
+/// Must be called after the last entry of a list that is refilled.
 void FrmProps::SelectProfileEntry(int position) {
   universe_->Bodies().setCurrentRow(position);
   universe_->Composites().Rebuild();
@@ -153,27 +154,27 @@ bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
       around_.HelpBook);
 }
 
-/// Brings into the records and boxes what is still being edited.
+/// Stores what is still being edited in the records and clamps the boxes.
 void FrmProps::Settle() {
   if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
   universe_->ClampTextFields();
 }
 
-/// A page that is open shows the profile as it is then; it would else be stored over it later.
+/// Reloads an open page, which would otherwise overwrite the profile when it is stored.
 void FrmProps::Reset(int menuIndex) {
   Settle();
   ResetFromMenu(settings_, *this, menuIndex);
   if (inStarfoldView_) OpenStarfoldView(true);
 }
 
-/// A page that is open shows the loaded profile before it is put away, so that it stores the same.
+/// Reloads an open page before it is closed, because closing stores it.
 TemplateHost FrmProps::MakeTemplateHost() {
   const auto loaded = [this] {
     if (inStarfoldView_) {
       starfold_->LoadProfileToPage(currentProfile_);
       OpenStarfoldView(false);
     }
-    universe_->SelectTheme(0);  // whatever theme was chosen before, it is not what stands there now
+    universe_->SelectTheme(0);  // the settings are no longer those of the selected theme
   };
   return {*this,
           settings_,
@@ -218,7 +219,7 @@ void FrmProps::MakeMenus() {
   addHelp(tr("A&bout Starfolds..."), "mnuAbout", [this] { around_.ShowAbout(*this); });
 }
 
-/// The topic of what has the focus, or else of the page that is shown.
+/// The topic of the control with the focus, or else of the current page.
 Integer FrmProps::TopicHere() const {
   const auto isIn = [this](const char* name) {
     const auto* const part = findChild<QWidget*>(name);
@@ -230,7 +231,7 @@ Integer FrmProps::TopicHere() const {
   return static_cast<Integer>(help::kUniversePage + universe_->ShownPage());
 }
 
-/// A program that was built without an address tells of its home in the help.
+/// If the program was built without an address, the help says where the project is.
 void FrmProps::ShowHomePage() {
   if (around_.HomePage.empty()) return around_.HelpBook.ShowTopic(help::kProject);
   OpenWebPage(*around_.Process.Desktop, around_.Boxes, around_.HomePage);
@@ -258,8 +259,8 @@ void FrmProps::MakeCentre() {
   buttons->addWidget(cmdDismiss_);
   rows->addLayout(buttons);
   setCentralWidget(centre);
-  LetWheelPass(*centre);
-  // A file that is dropped is a template wherever it lands, not a text for a box.
+  GuardListsFromWheel(*centre);
+  // A file dropped on any widget is a template, not text for a box.
   for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
 
   connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
@@ -269,7 +270,7 @@ void FrmProps::MakeCentre() {
     currentProfile_ = index;
     OpenStarfoldView(true);
   });
-  // A picture of that size is felt in typing; it waits for a pause.
+  // Drawing a picture of this size delays typing, so it waits for a pause.
   stillTimer_.setSingleShot(true);
   stillTimer_.setInterval(kStillPauseMs);
   connect(&stillTimer_, &QTimer::timeout, this, &FrmProps::ShowStill);
@@ -284,9 +285,9 @@ void FrmProps::MakeCentre() {
   });
 }
 
-/// The values in the dialog are not those of such a run.
+/// A run with overridden settings has other values than the dialog.
 QWidget* FrmProps::MakeOverridesNote() {
-  constexpr std::size_t most = 3;  // that are named; the others are in the tool tip
+  constexpr std::size_t most = 3;  // named in the label; all are in the tool tip
   const std::vector<std::string>& overrides = around_.Overrides;
   auto* note = new QLabel;
   note->setObjectName("lblOverrides");
@@ -343,7 +344,7 @@ void FrmProps::OpenStarfoldView(bool open) {
 
 void FrmProps::Accept() {
   if (inStarfoldView_) return OpenStarfoldView(false);
-  universe_->ClampTextFields();  // the button's key leaves no box
+  universe_->ClampTextFields();  // Return does not take the focus from the box
   while (!SaveDialogToRegistry(settings_, *this)) {
     switch (AskAfterFailedSave(settings_)) {
       case BoxAnswer::TryAgain: continue;
@@ -366,7 +367,7 @@ void FrmProps::ApplyTheme(int position) {
   universe_->ApplyThemeRowToPage(FactoryThemeRow(position, is20));
 }
 
-/// The editor works on the record, and what it leaves there comes back to the page.
+/// The editor changes the record; the page then reloads what it has no box for.
 template <class Editor>
 void FrmProps::RunEditor() {
   starfold_->StorePageToProfile(currentProfile_);
@@ -374,8 +375,8 @@ void FrmProps::RunEditor() {
   starfold_->TakeProfile(currentProfile_);
 }
 
-/// The run is called from the click that started it; the click that stops it comes through the
-/// run's pump. Everything but the button is disabled meanwhile.
+/// The preview runs inside the click handler that started it; the click that stops it arrives
+/// through the run's pump. All other controls are disabled meanwhile.
 void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
   if (preview_.IsOn()) return preview_.Stop();
   std::vector<QWidget*> disabled;
@@ -397,8 +398,7 @@ void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
   if (end == PreviewEnd::Close) close();
 }
 
-/// A body that is selected, or open, shows itself as it stands in the dialog, until a preview does
-/// it better.
+/// Shows a still of the selected or open body with the values of the dialog, unless a preview runs.
 void FrmProps::ShowStill() {
   if (preview_.IsOn()) return;
   const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
@@ -432,7 +432,7 @@ void FrmProps::PreviewSelectedComposite() {
 void FrmProps::PreviewOne(QPushButton* button, int body, bool isComposite) {
   TogglePreview(button, [&](Surface& surface) {
     const UniverseSettings universe = universe_->Settings();
-    editing_->Universe = universe;  // some of it counts for a single body, too
+    editing_->Universe = universe;  // a single body uses some of its settings
     PreviewBody(*editing_, surface, PreviewIn(universe, body, isComposite), around_.Seed());
   });
 }

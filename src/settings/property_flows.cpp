@@ -7,6 +7,7 @@
 #include "settings/former_settings.h"
 #include "settings/product.h"
 #include "settings/registry.h"
+#include "settings/safety_copy.h"
 #include "settings/stored_records.h"
 #include "settings/templates.h"
 
@@ -14,10 +15,8 @@ namespace starfolds {
 namespace {
 
 constexpr unsigned kProgressColour = 0xFFFF00;
-constexpr std::string_view kSafetyCopy = "propsave.sfd";
 
-/// The values in the dialog's controls. Numbers are scanned leniently, so whatever is typed there
-/// is one.
+/// The values in the dialog's controls. Numbers are parsed leniently, so every text is one.
 UniverseSettings UniverseOnDialog(const PropertiesDialog& dialog) {
   UniverseSettings universe;
   for (const Field<UniverseSettings>& field : UniverseFields()) {
@@ -50,17 +49,11 @@ void WriteAdvancedDefaults(KeyValueTree& tree) {
   change.Commit();
 }
 
-std::string InFolder(const std::string& folder, std::string_view name) {
-  std::string path = folder;
-  if (!path.ends_with('/') && !path.ends_with('\\')) path += '/';
-  return path.append(name);
-}
-
 void Warn(PropertySettings& settings, const std::string& text) {
   settings.Boxes.Show(text, BoxStyle::Exclamation, std::string(kProductName));
 }
 
-/// Which set and which name go with an entry of the reset menu.
+/// The factory set and the name of an entry of the reset menu.
 struct ResetEntry {
   FactorySet Set;
   std::string_view Name;
@@ -120,7 +113,7 @@ void ShowRecords(PropertySettings& settings, PropertiesDialog& dialog,
   ShowUniverse(dialog, records.Universe);
 }
 
-/// As `FactoryReset`, and leaves the tree alone.
+/// Like `FactoryReset`, but without a change of the tree.
 void ShowFactorySettings(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set) {
   LoadFactoryComposites(settings.Composites, set);
   dialog.ClearProfileList();
@@ -129,13 +122,13 @@ void ShowFactorySettings(PropertySettings& settings, PropertiesDialog& dialog, F
     LoadFactoryProfile(settings.Profiles[row], set, row);
   }
   dialog.SelectProfileEntry(0);
-  // The change of position is what applies the theme, so it has to change.
+  // Only a change of the position applies the theme.
   dialog.SelectUniverseTheme(0);
   dialog.SelectUniverseTheme(1);
   dialog.SelectUniverseExtras(0);
 }
 
-/// Gives a reason for the user where nothing was stored.
+/// Returns a reason for the user if nothing was stored.
 std::optional<std::string> StoreDialog(PropertySettings& settings, const PropertiesDialog& dialog) {
   TreeBulk change = TreeBulk::Change(settings.Tree);
   if (settings.ReplacesUnread) {
@@ -245,20 +238,6 @@ void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int men
   if (answer == BoxAnswer::Yes && dialog.Preview()) dialog.Preview()->Clear();
   settings.Template.TemplateFileName = former;
   dialog.MarkResetMenu(menuIndex, false);
-}
-
-std::string SafetyCopyPath(PropertySettings& settings) {
-  const bool beside = settings.Disk.CanWriteFolder(settings.ProgramFolder);
-  return InFolder(beside ? settings.ProgramFolder : settings.UserFolder, kSafetyCopy);
-}
-
-void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog,
-                    ProgressPicture* picture) {
-  settings.Template.TemplateFileName = SafetyCopyPath(settings);
-  if (const auto fault = SaveTemplate(settings, dialog, picture)) {
-    Warn(settings, "The current settings could not be saved to:\n" +
-                       settings.Template.TemplateFileName + "\n\n" + *fault);
-  }
 }
 
 std::optional<std::string> SaveTemplate(PropertySettings& settings, PropertiesDialog& dialog,

@@ -1,6 +1,5 @@
-// How the properties dialog comes to its settings and leaves them: first run, upgrade, factory
-// reset, loading and accepting. The dialog is behind an interface, so none of this knows a
-// widget.
+// Loading, accepting and resetting the settings of the properties dialog, also in the first run and
+// after an upgrade. Uses the dialog through an interface, without widgets.
 #pragma once
 
 #include <string>
@@ -15,7 +14,8 @@
 
 namespace starfolds {
 
-/// What the flows work on. The profiles and composites are the ones that the dialog edits.
+/// The arguments of the functions below. The profiles and composites are those that the dialog
+/// edits.
 struct PropertySettings {
   KeyValueTree& Tree;
   ProfileArray& Profiles;
@@ -24,11 +24,11 @@ struct PropertySettings {
   Files& Disk;
   MessageBoxes& Boxes;
   std::string ProgramFolder;
-  std::string UserFolder;  // takes the safety copy where the program's folder cannot be written
+  std::string UserFolder;       // for the safety copy, if the program's folder cannot be written
   bool ReplacesUnread = false;  // the tree could not be read when the dialog was opened
 };
 
-/// A picture that shows how far a load or save has come.
+/// A picture with the progress of a load or save.
 class ProgressPicture {
  public:
   virtual ~ProgressPicture() = default;
@@ -38,10 +38,10 @@ class ProgressPicture {
   virtual void Clear() = 0;
 };
 
-/// A bar of `step` / `total` of the picture, if there is one.
+/// Draws a bar of `step` / `total` of the picture's width; does nothing for nullptr.
 void DrawProgress(ProgressPicture* picture, int step, int total);
 
-/// What `frmWelcome` says.
+/// The texts of `frmWelcome`.
 struct WelcomePage {
   std::string Caption;
   std::string Text;
@@ -49,13 +49,13 @@ struct WelcomePage {
   std::string Dismiss;       // cmdDismiss
 };
 
-/// What the flows ask of `frmProps`.
+/// `frmProps`, as the functions below use it.
 class PropertiesDialog {
  public:
   virtual ~PropertiesDialog() = default;
 
-  /// The text of the control of a universe setting: what is typed, "1" or "0" of a check box, the
-  /// position in a list.
+  /// The text of the control of a universe setting: the typed text, "1" or "0" of a check box, or
+  /// the position in a list.
   virtual std::string UniverseText(const Field<UniverseSettings>& field) const = 0;
   virtual void SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) = 0;
 
@@ -63,11 +63,11 @@ class PropertiesDialog {
   virtual void ClearProfileList() = 0;
   virtual void AddProfileEntry(std::string_view name, Integer percent) = 0;
   virtual void SelectProfileEntry(int position) = 0;
-  /// Anew from the records in memory.
+  /// Refills the list from the records in memory.
   virtual void RebuildProfileList() = 0;
   virtual void RebuildCompositeLists() = 0;
 
-  /// Positions of `cboUniTheme` and `cboUniExtras`, with all that a change of position does.
+  /// Select a position of `cboUniTheme` and `cboUniExtras`, with all effects of the change.
   virtual void SelectUniverseTheme(int position) = 0;
   virtual void SelectUniverseExtras(int position) = 0;
 
@@ -76,17 +76,17 @@ class PropertiesDialog {
   /// `picPreview`, which shows the progress of a safety copy.
   virtual ProgressPicture* Preview() = 0;
 
-  /// Shows `frmWelcome` and waits until it is dismissed. True: its reset was asked for, and
-  /// `SaveSafetyCopy` was called from it.
+  /// Shows `frmWelcome` until it is dismissed. True if the user chose the reset; then it has called
+  /// `SaveSafetyCopy`.
   virtual bool ShowWelcomeDialog(const WelcomePage& page) = 0;
 };
 
-/// For somebody who has settings of an earlier version, or for a new user.
+/// The page for a user with settings of an earlier version, or for a new user.
 WelcomePage MakeWelcomePage(bool isUpgrade);
 
 /// What the stored tree held when the dialog read it.
 struct StoredProperties {
-  bool Readable = false;        // if not, nothing is known of the others
+  bool Readable = false;        // if false, the others are meaningless
   bool Complete = false;        // has the mark `kAnimationType`
   bool WelcomeOffered = false;  // has the mark `kResetSettings`
 };
@@ -95,12 +95,12 @@ struct StoredProperties {
 /// in the dialog. A tree that is damaged, locked or forbidden leaves the factory's settings there.
 StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog);
 
-/// The end of `frmProps`'s load, when it shows what `LoadDialogFromRegistry` has found: says what
-/// has to be said, and resets a tree that is not complete.
+/// Called when `frmProps` shows the result of `LoadDialogFromRegistry`: shows the messages that are
+/// due, and resets the settings if the tree is incomplete.
 void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
                     const StoredProperties& stored);
 
-/// Marks that the welcome was offered, shows it and does what the user decides.
+/// Marks that the welcome was offered, shows it, and resets the settings if the user chose that.
 void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog,
                  const StoredProperties& stored);
 
@@ -108,8 +108,8 @@ void ShowWelcome(PropertySettings& settings, PropertiesDialog& dialog,
 /// only; the rest when the dialog is accepted.
 void FactoryReset(PropertySettings& settings, PropertiesDialog& dialog, FactorySet set);
 
-/// Stores what the dialog and the records hold: all of it, or nothing. Where it cannot be stored
-/// a message box says so, and the result is false.
+/// Stores the values of the dialog and the records, all or none. If that fails, shows a message box
+/// and returns false.
 bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog);
 
 /// Asks what to do with settings that could not be stored: "try again", "save as a template",
@@ -120,20 +120,14 @@ BoxAnswer AskAfterFailedSave(PropertySettings& settings);
 /// copy if wanted, resets.
 void ResetFromMenu(PropertySettings& settings, PropertiesDialog& dialog, int menuIndex);
 
-/// Writes "propsave.sfd" from the dialog and the records. If that fails, a message box says so.
-void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog, ProgressPicture* picture);
-
-/// Where the safety copy goes: the program's folder, or the user's if that cannot be written.
-std::string SafetyCopyPath(PropertySettings& settings);
-
 /// Writes the dialog's values, the records and the stored advanced values to `TemplateFileName`.
-/// Gives a reason for the user where it cannot.
+/// Returns a reason for the user if that fails.
 std::optional<std::string> SaveTemplate(PropertySettings& settings, PropertiesDialog& dialog,
                                         ProgressPicture* picture);
 
 /// Loads the file `TemplateFileName` into the dialog and the records. The advanced values go
-/// straight to the tree, and a later "Cancel" does not bring them back. Gives a reason for the user
-/// where the file cannot be read; then nothing is changed.
+/// straight to the tree, and a later "Cancel" does not restore them. Returns a reason for the user
+/// if the file cannot be read; then nothing is changed.
 std::optional<std::string> LoadTemplate(PropertySettings& settings, PropertiesDialog& dialog,
                                         ProgressPicture* picture);
 

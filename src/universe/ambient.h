@@ -3,8 +3,8 @@
 #pragma once
 
 #include "bodies/run_arrays.h"
+#include "universe/camera_path.h"
 #include "universe/expansion.h"
-#include "universe/tour.h"
 
 namespace starfolds {
 

@@ -6,10 +6,10 @@
 #include "bodies/star_step.h"
 #include "process/prepare_run.h"
 #include "universe/ambient.h"
+#include "universe/camera_path.h"
 #include "universe/creation.h"
 #include "universe/gravity.h"
 #include "universe/pacing.h"
-#include "universe/tour.h"
 
 namespace starfolds {
 namespace {

@@ -4,8 +4,8 @@
 #include <QWindow>
 
 #include "widgets/dialog_parts.h"
+#include "widgets/list_wheel_guard.h"
 #include "widgets/placed_qt_window.h"
-#include "widgets/wheel_guard.h"
 
 namespace starfolds {
 
@@ -17,7 +17,7 @@ PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
 }
 
 void PlacedDialog::ShowInPlace() {
-  LetWheelPass(*this);
+  GuardListsFromWheel(*this);
   adjustSize();
   ShowWherePlaced(*this, place_.Tree, place_.Section);
 }

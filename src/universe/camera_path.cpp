@@ -1,4 +1,4 @@
-#include "universe/tour.h"
+#include "universe/camera_path.h"
 
 #include "numbers/b_spline.h"
 

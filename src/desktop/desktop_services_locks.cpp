@@ -1,4 +1,4 @@
-#include "desktop/instance.h"
+#include "desktop/desktop_services_locks.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -53,8 +53,8 @@ QString MeetingPlace(const std::string& caption) {
   return QDir(folder).filePath("starfolds-" + QString::fromLatin1(digest.left(16)));
 }
 
-/// False for boxes that belong to another window, and are shown and hidden with it.
-bool StandsForItself(const QWindow& window) {
+/// Whether the window takes its caption. Dialogs that belong to another window do not.
+bool TakesCaption(const QWindow& window) {
   return window.isTopLevel() && window.transientParent() == nullptr && !window.title().isEmpty() &&
          !window.property(kUnlistedProperty).toBool();
 }
@@ -147,13 +147,14 @@ class OwnedCaption {
   void Answer() {
     while (QLocalSocket* const caller = server_.nextPendingConnection()) {
       QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-      QObject::connect(caller, &QLocalSocket::readyRead, caller, [this, caller] { Obey(*caller); });
-      if (caller->bytesAvailable() > 0) Obey(*caller);
+      QObject::connect(caller, &QLocalSocket::readyRead, caller,
+                       [this, caller] { AnswerCaller(*caller); });
+      if (caller->bytesAvailable() > 0) AnswerCaller(*caller);
     }
   }
 
   /// Reads a line with the caller's token, which may be empty, and raises the window.
-  void Obey(QLocalSocket& caller) const {
+  void AnswerCaller(QLocalSocket& caller) const {
     if (!caller.canReadLine()) {
       if (caller.bytesAvailable() > kLongestToken) caller.abort();
       return;
@@ -181,9 +182,9 @@ void AskForward(const std::string& caption) {
   owner.waitForDisconnected(kPatienceMs);
 }
 
-class InstanceDesktop : public StartsOtherPrograms, private QObject {
+class LockDesktop : public StartsOtherPrograms, private QObject {
  public:
-  InstanceDesktop() { qGuiApp->installEventFilter(this); }
+  LockDesktop() { qGuiApp->installEventFilter(this); }
 
   bool WindowExists(const std::string& caption) override {
     return OwnWindow(caption) != nullptr || !Take(caption);
@@ -211,7 +212,7 @@ class InstanceDesktop : public StartsOtherPrograms, private QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::Show && object->isWindowType()) {
       const auto& window = static_cast<const QWindow&>(*object);
-      if (StandsForItself(window)) Take(window.title().toStdString());
+      if (TakesCaption(window)) Take(window.title().toStdString());
     }
     return false;
   }
@@ -221,8 +222,6 @@ class InstanceDesktop : public StartsOtherPrograms, private QObject {
 
 }  // namespace
 
-std::unique_ptr<DesktopServices> MakeInstanceDesktop() {
-  return std::make_unique<InstanceDesktop>();
-}
+std::unique_ptr<DesktopServices> MakeLockDesktop() { return std::make_unique<LockDesktop>(); }
 
 }  // namespace starfolds

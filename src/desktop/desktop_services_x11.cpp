@@ -1,4 +1,4 @@
-#include "desktop/x11_desktop.h"
+#include "desktop/desktop_services_x11.h"
 
 #include <xcb/xcb.h>
 

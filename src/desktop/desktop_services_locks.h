@@ -15,6 +15,6 @@ namespace starfolds {
 /// several simultaneous starts only one gets false. A window that is shown takes its caption too.
 ///
 /// The application object must exist, and outlive the result.
-std::unique_ptr<DesktopServices> MakeInstanceDesktop();
+std::unique_ptr<DesktopServices> MakeLockDesktop();
 
 }  // namespace starfolds

@@ -7,6 +7,6 @@ namespace starfolds {
 
 /// Ignores wheel events on the lists of `window` without the focus, so that scrolling over a list
 /// of themes does not change the settings. Applies to the lists that exist at the call.
-void LetWheelPass(QWidget& window);
+void GuardListsFromWheel(QWidget& window);
 
 }  // namespace starfolds

@@ -1,6 +1,6 @@
-// The other processes are this test program itself, started once more with an order in its
+// The other processes are this test program itself, started once more with a command in its
 // environment.
-#include "desktop/instance.h"
+#include "desktop/desktop_services_locks.h"
 
 #include <gtest/gtest.h>
 
@@ -19,38 +19,38 @@ namespace starfolds {
 namespace {
 
 constexpr char kCaption[] = "TSLN:Sterne \xC3\xBC";
-constexpr char kOrder[] = "INSTANCE_TEST_ORDER";
+constexpr char kCommand[] = "INSTANCE_TEST_COMMAND";
 constexpr int kPatienceMs = 20000;
 
 /// What the other process does: says whether the window exists, and stays (if told so) until its
 /// input ends.
-int Obey(const QByteArray& order) {
-  const auto desktop = MakeInstanceDesktop();
-  if (order == "raise") {
+int RunCommand(const QByteArray& command) {
+  const auto desktop = MakeLockDesktop();
+  if (command == "raise") {
     desktop->BringToFront(kCaption);
     return 0;
   }
   std::puts(desktop->WindowExists(kCaption) ? "exists" : "mine");
   std::fflush(stdout);
-  if (order == "stay") std::getchar();
+  if (command == "stay") std::getchar();
   return 0;
 }
 
-/// Runs before all tests, and in place of them where there is an order.
-class ObeyingEnvironment : public testing::Environment {
+/// Runs before all tests, and in place of them if there is a command.
+class OtherProcessEnvironment : public testing::Environment {
  public:
   void SetUp() override {
-    if (qEnvironmentVariableIsSet(kOrder)) std::_Exit(Obey(qgetenv(kOrder)));
+    if (qEnvironmentVariableIsSet(kCommand)) std::_Exit(RunCommand(qgetenv(kCommand)));
   }
 };
-[[maybe_unused]] testing::Environment* const kObeying =
-    testing::AddGlobalTestEnvironment(new ObeyingEnvironment);
+[[maybe_unused]] testing::Environment* const kOtherProcess =
+    testing::AddGlobalTestEnvironment(new OtherProcessEnvironment);
 
 class Process : public QProcess {
  public:
-  explicit Process(const char* order) {
+  explicit Process(const char* command) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(kOrder, order);
+    environment.insert(kCommand, command);
     setProcessEnvironment(environment);
     start(QCoreApplication::applicationFilePath(), {});
   }
@@ -80,7 +80,7 @@ class InstanceTest : public PumpedTest {
   }
 
   QTemporaryDir folder_;
-  std::unique_ptr<DesktopServices> Desktop = MakeInstanceDesktop();
+  std::unique_ptr<DesktopServices> Desktop = MakeLockDesktop();
 };
 
 TEST_F(InstanceTest, OneOwnerOfSeveralAtOnce) {
@@ -95,7 +95,7 @@ TEST_F(InstanceTest, OneOwnerOfSeveralAtOnce) {
   EXPECT_EQ(owners, 1);
 }
 
-TEST_F(InstanceTest, ADeadOwnerIsNone) {
+TEST_F(InstanceTest, AKilledOwnerLosesItsCaption) {
   Process owner("stay");
   EXPECT_EQ(owner.Answer(), "mine");
   EXPECT_TRUE(Desktop->WindowExists(kCaption));

@@ -1,4 +1,4 @@
-#include "widgets/wheel_guard.h"
+#include "widgets/list_wheel_guard.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -6,7 +6,7 @@
 namespace starfolds {
 namespace {
 
-class WheelGuard : public QObject {
+class ListWheelGuard : public QObject {
  public:
   using QObject::QObject;
 
@@ -20,10 +20,10 @@ class WheelGuard : public QObject {
 
 }  // namespace
 
-void LetWheelPass(QWidget& window) {
+void GuardListsFromWheel(QWidget& window) {
   for (QComboBox* list : window.findChildren<QComboBox*>()) {
     list->setFocusPolicy(Qt::StrongFocus);  // the wheel does not give it the focus
-    list->installEventFilter(new WheelGuard(list));
+    list->installEventFilter(new ListWheelGuard(list));
   }
 }
 

@@ -1,0 +1,24 @@
+#include "settings/safety_copy.h"
+
+#include "settings/product.h"
+
+namespace starfolds {
+
+std::string SafetyCopyPath(PropertySettings& settings) {
+  const bool beside = settings.Disk.CanWriteFolder(settings.ProgramFolder);
+  std::string path = beside ? settings.ProgramFolder : settings.UserFolder;
+  if (!path.ends_with('/') && !path.ends_with('\\')) path += '/';
+  return path + "propsave.sfd";
+}
+
+void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog,
+                    ProgressPicture* picture) {
+  settings.Template.TemplateFileName = SafetyCopyPath(settings);
+  if (const auto fault = SaveTemplate(settings, dialog, picture)) {
+    settings.Boxes.Show("The current settings could not be saved to:\n" +
+                            settings.Template.TemplateFileName + "\n\n" + *fault,
+                        BoxStyle::Exclamation, std::string(kProductName));
+  }
+}
+
+}  // namespace starfolds
