@@ -14,24 +14,23 @@ using P = StarfoldProfile;
 
 constexpr Styles kNone{};
 constexpr Styles kIfs{1, 2, 3};
-constexpr Styles kAllButNebula{0, 1, 2, 3, 5, 6, 7, 8, 9};
 
 /// An entry with a number for the setting whose label it has.
 constexpr CopyRow Number(Setting<P> setting, Styles skipped = kNone) {
   return {.Labelled = setting, .Target = setting, .Skipped = skipped};
 }
 
-/// The same with a position in a list.
+/// An entry with a list, whose position is the value.
 constexpr CopyRow Choice(Setting<P> setting, NameList choices) {
   return {
       .Labelled = setting, .Control = CopyControl::Choice, .Choices = choices, .Target = setting};
 }
 
-/// An entry that can be chosen and changes nothing. Users of earlier versions know them like that.
-constexpr CopyRow Dead(std::string_view text, NumberRange range) {
+/// An entry that changes nothing, as in earlier versions.
+constexpr CopyRow NoEffect(std::string_view text, NumberRange range) {
   return {.Text = text, .Range = range};
 }
-constexpr CopyRow Dead(Setting<P> labelled) { return {.Labelled = labelled}; }
+constexpr CopyRow NoEffect(Setting<P> labelled) { return {.Labelled = labelled}; }
 
 constexpr CopyRow kRows[] = {
     Number(&P::Starfold_HueRed),
@@ -72,37 +71,39 @@ constexpr CopyRow kRows[] = {
     Number(&P::Starfold_PulsarMaxExt),
     Choice(&P::Starfold_PulsarShape, PulsarShapeNames),
     Number(&P::Starfold_CometFreq),
-    Dead(&P::Starfold_CometStars),
-    Dead(&P::Starfold_CometOrbit),
+    NoEffect(&P::Starfold_CometStars),
+    NoEffect(&P::Starfold_CometOrbit),
     Number(&P::Starfold_CometSpeed),
     Number(&P::Starfold_CometSWind),
     Number(&P::Starfold_CometCPersist),
     Number(&P::Starfold_CometSPersist),
     Number(&P::Starfold_HWC_Start),
     Number(&P::Starfold_HWC_End),
-    Dead("Attractor Iteration Points", {AsInteger, 1, 99}),
-    Dead("Attractor Iteration Scale %", {AsInteger, 0, 100}),
-    Dead("Attractor Rotation Angle", {AsInteger, 0, 360}),
-    Dead("Wireframe Vertices", {AsInteger, 4, 10}),
-    Dead("Wireframe Scale %", {AsInteger, 0, 100}),
-    Dead("Wireframe Iteration Levels", {AsInteger, 1, 99}),
-    Dead("Fractal Iteration Points", {AsInteger, 4, 10}),
-    Dead("Fractal Iteration Scale %", {AsInteger, 0, 100}),
-    // Changes another setting than it says.
-    {.Labelled = &P::Starfold_CP_Points, .Target = &P::Starfold_CP_Close, .Skipped = kAllButNebula},
-    Dead(&P::Starfold_CP_Steps),
-    Dead(&P::Starfold_CP_B_Pts),
-    Dead(&P::Starfold_CP_B_Exp),
-    Dead(&P::Starfold_CP_B_Spd),
-    Dead("Nebula Expansion Speed", {AsSingle, 0, 99.9}),
-    Dead("Nebula Solar Wind Magnitude", {AsSingle, 0, 99.9}),
+    NoEffect("Attractor Iteration Points", {AsInteger, 1, 99}),
+    NoEffect("Attractor Iteration Scale %", {AsInteger, 0, 100}),
+    NoEffect("Attractor Rotation Angle", {AsInteger, 0, 360}),
+    NoEffect("Wireframe Vertices", {AsInteger, 4, 10}),
+    NoEffect("Wireframe Scale %", {AsInteger, 0, 100}),
+    NoEffect("Wireframe Iteration Levels", {AsInteger, 1, 99}),
+    NoEffect("Fractal Iteration Points", {AsInteger, 4, 10}),
+    NoEffect("Fractal Iteration Scale %", {AsInteger, 0, 100}),
+    // Changes another setting than its label says, as in earlier versions.
+    {.Labelled = &P::Starfold_CP_Points,
+     .Target = &P::Starfold_CP_Close,
+     .Skipped = Styles::AllBut(FoldStyle::Nebula)},
+    NoEffect(&P::Starfold_CP_Steps),
+    NoEffect(&P::Starfold_CP_B_Pts),
+    NoEffect(&P::Starfold_CP_B_Exp),
+    NoEffect(&P::Starfold_CP_B_Spd),
+    NoEffect("Nebula Expansion Speed", {AsSingle, 0, 99.9}),
+    NoEffect("Nebula Solar Wind Magnitude", {AsSingle, 0, 99.9}),
     {.Labelled = &P::Starfold_CP_Close, .Control = CopyControl::Check},
-    Dead("Quasar Emit Speed", {AsSingle, 0, 99.9}),
-    Dead("Graviton Force", {AsSingle, 0, 99.9}),
-    Dead("Starwave Expansion Rate", {AsInteger, 1, 30000}),
-    Dead("Starwave Interleaved Waves", {AsInteger, 1, 99}),
-    Dead("Starwave Amplitude Persistence", {AsInteger, 1, 999}),
-    Dead("Starwave Particle Angle Increment", {AsSingle, 0, 99.9}),
+    NoEffect("Quasar Emit Speed", {AsSingle, 0, 99.9}),
+    NoEffect("Graviton Force", {AsSingle, 0, 99.9}),
+    NoEffect("Starwave Expansion Rate", {AsInteger, 1, 30000}),
+    NoEffect("Starwave Interleaved Waves", {AsInteger, 1, 99}),
+    NoEffect("Starwave Amplitude Persistence", {AsInteger, 1, 999}),
+    NoEffect("Starwave Particle Angle Increment", {AsSingle, 0, 99.9}),
 };
 
 }  // namespace
@@ -117,7 +118,7 @@ NumberRange RangeOf(const CopyRow& row) {
   return row.Labelled ? RangeIn(RangedEditor::PropertyCopy, *row.Labelled) : row.Range;
 }
 
-/// The point of "360.0" says that fractions are taken.
+/// "360.0" instead of "360" shows that fractions are accepted.
 std::string RangeText(const NumberRange& range) {
   std::string high = NumberText(static_cast<Single>(range.High));
   if (range.Kind == NumberKind::AsSingle && high.find('.') == std::string::npos) high += ".0";

@@ -1,5 +1,5 @@
 // The layout of the properties dialog: which setting each element of a control array edits,
-// on which page, and what a style of body shows and calls it. No row is wired by hand.
+// on which page, and under which caption each style shows it.
 #pragma once
 
 #include <optional>
@@ -41,6 +41,11 @@ class Styles {
  public:
   constexpr Styles(std::initializer_list<int> styles) {
     for (const int style : styles) bits_ |= 1U << static_cast<unsigned>(style);
+  }
+  static constexpr Styles AllBut(FoldStyle style) {
+    Styles styles{static_cast<int>(style)};
+    styles.bits_ = ~styles.bits_;
+    return styles;
   }
   constexpr bool Has(int style) const { return (bits_ >> static_cast<unsigned>(style) & 1U) != 0; }
 

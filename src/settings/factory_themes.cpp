@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "settings/factory.h"
@@ -32,7 +33,11 @@ constexpr std::array<FactoryTheme, kThemeCount> kThemes{{
      "4000, 20, 1, 3500, 300, 0.99, 0.05, 360, 240, 20, 0, 2000, 0, 300, "
      "1, 0, 8000, 0, 0, 0, 0, 200, 0.999, 0.07, 50, 1000, 125000, 1,"},
 }};
-static_assert(!kThemes.back().Name.empty(), "there are fewer themes than kThemeCount");
+/// Whether a theme has a name and all of its values; see `kThemeLayout` in factory.cpp.
+constexpr bool IsComplete(const FactoryTheme& theme) {
+  return !theme.Name.empty() && std::ranges::count(theme.Row, ',') == 28;
+}
+static_assert(std::ranges::all_of(kThemes, IsComplete), "there are kThemeCount complete themes");
 
 constexpr std::string_view kClassicalTheme20 =
     "2500, 100, 2, 3000, 300, 0.985, 0.015, 180, 225, 30, 0, 400, 70, 250, "
