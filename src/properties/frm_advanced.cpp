@@ -35,7 +35,7 @@ constexpr Setting<A> kDrift = &A::Adv_FontDrift;
 struct Row {
   Setting<A> What;
   const char* Control;
-  int Index;      // of `txtAdv`; less than 0: a control of its own
+  int Index;      // of `txtAdv`; negative if the control is not in that array
   char Mnemonic;  // in the setting's label
 };
 constexpr int kAlone = -1;
@@ -66,8 +66,7 @@ QString LabelOf(const Setting<A>& setting) {
   return label.insert(label.indexOf(QLatin1Char(row->Mnemonic)), '&');
 }
 
-/// The default font is there under its name on every system: where it is missing, the window system
-/// has another one in its place.
+/// The default font is listed even if it is not installed: the window system then substitutes it.
 QComboBox* MakeFontList() {
   QStringList names;
   for (const QString& name : QFontDatabase::families()) {
@@ -83,10 +82,10 @@ QComboBox* MakeFontList() {
   return list;
 }
 
-/// Holds the text to what can be read back from the tree.
-void HoldToStorable(QLineEdit* box, const QString& text) {
+/// Cuts the text, with a beep, to what can be stored.
+void CutToStorable(QLineEdit* box, const QString& text) {
   const std::string typed = text.toStdString();
-  const std::string_view kept = HeldToLongestValue(typed);
+  const std::string_view kept = FirstStorableCharacters(typed);
   if (kept.size() == typed.size()) return;
   QApplication::beep();
   box->setText(Shown(kept));
@@ -119,7 +118,7 @@ QColor InkOf(int hue) {
   return QColor::fromRgb(ScreenWord(HueToRgb(static_cast<Integer>(hue), 55, 100, 100, 100)));
 }
 
-/// The line in its font and colour, drawn smaller where there is no room for it.
+/// The message in its font and colour, drawn smaller if it is too wide.
 QImage MessageSample(const AdvancedSettings& advanced, qreal ratio) {
   QImage sample(kMessageSize * ratio, QImage::Format_RGB32);
   sample.setDevicePixelRatio(ratio);
@@ -186,7 +185,7 @@ void FrmAdvanced::MakeControls() {
       auto* box = new QLineEdit;
       box->setPlaceholderText(tr("None"));
       connect(box, &QLineEdit::textChanged, this, [this, box](const QString& text) {
-        HoldToStorable(box, text);
+        CutToStorable(box, text);
         ShowSamples();
       });
       control = box;
@@ -251,7 +250,7 @@ QLayout* FrmAdvanced::MakeButtons() {
   return line;
 }
 
-/// The line of a setting: its check box, or its label and its box.
+/// Adds the line of a setting: its check box, or its label and its box.
 void FrmAdvanced::AddSetting(QGridLayout& page, const Setting<AdvancedSettings>& setting,
                              const std::vector<QWidget*>& alsoInLine) {
   QWidget* control = controls_.at(&FieldOf(setting));
@@ -274,9 +273,9 @@ void FrmAdvanced::LoadAdvancedToDialog() {
   look.Commit();
 }
 
-/// What cannot be stored stays as it was, and nothing is said of it.
+/// If the settings cannot be stored they stay unchanged, without a message.
 void FrmAdvanced::SaveAdvancedFromDialog() {
-  // The default button's key leaves no box.
+  // Return presses the button without taking the focus from the box, which would clamp its number.
   if (auto* number = qobject_cast<NumberBox*>(focusWidget())) number->ClampTextField();
   TreeBulk change = TreeBulk::Change(tree_);
   for (const Row& row : kRows) {

@@ -1,4 +1,4 @@
-// The periodic table's first 17 elements, as the molecules show them.
+// The first 17 elements of the periodic table, and how molecules show them.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// Orders of settings that differ from the order of their record.
+// Orders of settings that differ from that of their record.
 #pragma once
 
 #include <algorithm>
@@ -13,14 +13,14 @@ namespace starfolds {
 template <class Record>
 using FieldOrder = std::vector<const Field<Record>*>;
 
-/// A setting that follows another one.
+/// A setting that is moved to the place after another one.
 template <class Record>
 struct Moved {
   Setting<Record> What;
   Setting<Record> Behind;
 };
 
-/// Moves settings, one after the other. All of them must be in the order.
+/// Moves settings, one after the other. The order must contain all of them.
 template <class Record>
 void MoveFields(FieldOrder<Record>& order, std::span<const Moved<Record>> moves) {
   const auto place = [&](const Setting<Record>& setting) {

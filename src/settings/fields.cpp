@@ -24,7 +24,7 @@ constexpr Oddities kWholeWiderInDialog{.WholeNumber = true, .DialogHigh = 99999}
 constexpr Oddities kReadAsLong{.ReadAs = Reader::AsLong};
 constexpr Oddities kExactlyOne{.ReadAs = Reader::ExactlyOne};
 constexpr Oddities kExactlyOneNoTemplate{.ReadAs = Reader::ExactlyOne, .InTemplate = false};
-/// Templates without it are the same as those of versions that do not know it.
+/// Templates with the default are identical to those of versions that lack the setting.
 constexpr Oddities kUsualNotInTemplate{.UsualNotInTemplate = true};
 constexpr Oddities kReadOnly{.InDialog = false, .InTemplate = false};
 constexpr Oddities kZeroInTemplate{.ZeroInTemplate = true};
@@ -217,7 +217,7 @@ const Field<AtomPoint> kAtomPointFields[] = {
     {"Atom_Radius", &AtomPoint::Atom_Radius, Fixed, 0, 9999, "Symmetry Radius"},
 };
 
-/// Characters of the on-screen message.
+/// The maximum length of the on-screen message, in characters.
 constexpr std::size_t kLongestMessage = 100;
 constexpr std::size_t kMostBytesOfMessage = 4096;
 
@@ -229,7 +229,7 @@ void ClampNumber(Word& value, Limits limits, bool wholeNumber) {
   value = ClampTo(value, static_cast<Word>(limits.Low), static_cast<Word>(limits.High));
 }
 
-/// Holds one field of a record to `limits`; texts and Booleans have none.
+/// Clamps one field of a record to `limits`; texts and Booleans are not changed.
 template <class Record>
 void ClampField(Record& record, const Field<Record>& field, Limits limits) {
   std::visit(
@@ -257,13 +257,13 @@ const Field<Record>& RowOf(std::span<const Field<Record>> fields, const Setting<
 }
 
 template <class Record>
-std::optional<std::string> SetOrSay(Record& record, const Field<Record>& field,
-                                    std::string_view text) {
+std::optional<std::string> SetFieldOrFault(Record& record, const Field<Record>& field,
+                                           std::string_view text) {
   if (SetFieldText(record, field, text)) return std::nullopt;
   return Quoted(field.Name) + " takes a number, not " + Quoted(text);
 }
 
-/// The number behind `prefix` in a section's name, if it is one below `count`.
+/// The number after `prefix` in a section's name; nullopt if it is missing or not below `count`.
 std::optional<int> SectionIndex(std::string_view section, std::string_view prefix, int count) {
   if (!section.starts_with(prefix)) return std::nullopt;
   const std::string_view digits = section.substr(prefix.size());
@@ -278,7 +278,7 @@ std::optional<int> SectionIndex(std::string_view section, std::string_view prefi
 std::optional<std::string> SetInComposite(CompositeProfile& composite, std::string_view name,
                                           std::string_view value) {
   if (const auto* field = FindField(CompositeFields(), name)) {
-    return SetOrSay(composite, *field, value);
+    return SetFieldOrFault(composite, *field, value);
   }
   const auto member = SectionIndex(name, "CompFold_Type", kMaxMembers);
   if (!member) return "there is no setting " + Quoted(name) + " in a composite";
@@ -378,7 +378,7 @@ void ClampAdvanced(AdvancedSettings& advanced) {
   if (advanced.Adv_FontName.empty()) advanced.Adv_FontName = "MS Sans Serif";
   const std::string_view message =
       FirstCharacters(Trimmed(advanced.LockMessage), kLongestMessage, kMostBytesOfMessage);
-  advanced.LockMessage = std::string(Trimmed(message));  // the cut may have left blanks at the end
+  advanced.LockMessage = std::string(Trimmed(message));  // blanks where the text was cut
   if (advanced.Adv_EffectFPC > 0) {
     advanced.Adv_EffectFPC = ClampTo<Long>(advanced.Adv_EffectFPC, 100, 30000);
   }
@@ -459,14 +459,14 @@ STARFOLDS_FIELD_TEXT(AtomPoint)
 std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
                                      std::string_view value) {
   if (const auto* field = FindField(UniverseFields(), name)) {
-    return SetOrSay(records.Universe, *field, value);
+    return SetFieldOrFault(records.Universe, *field, value);
   }
   if (const auto* field = FindField(AdvancedFields(), name)) {
-    return SetOrSay(records.Advanced, *field, value);
+    return SetFieldOrFault(records.Advanced, *field, value);
   }
   if (const auto* field = FindField(ProfileFields(), name)) {
     for (StarfoldProfile& profile : records.Profiles) {
-      if (auto message = SetOrSay(profile, *field, value)) return message;
+      if (auto message = SetFieldOrFault(profile, *field, value)) return message;
     }
     return std::nullopt;
   }
@@ -477,7 +477,7 @@ std::optional<std::string> SetByName(SettingsRecords& records, std::string_view 
     if (const auto index = SectionIndex(section, "Starfold", kProfileCount)) {
       const auto* field = FindField(ProfileFields(), key);
       if (!field) return "there is no setting " + Quoted(key) + " in a profile";
-      return SetOrSay(records.Profiles[*index], *field, value);
+      return SetFieldOrFault(records.Profiles[*index], *field, value);
     }
     if (const auto index = SectionIndex(section, "CompFold", kCompositeCount)) {
       return SetInComposite(records.Composites[*index], key, value);

@@ -1,5 +1,5 @@
-// The one table of the settings. Whoever reads, writes, clamps, labels or tests a setting walks
-// these rows; a new setting is one member in records.h and one row here.
+// The table of all settings. Code that reads, writes, clamps, labels or tests settings iterates
+// over it; a new setting is one member in records.h and one row here.
 #pragma once
 
 #include <optional>
@@ -17,28 +17,28 @@ namespace starfolds {
 /// profile's style, see `StyleLimits`.
 enum class RangeRule { None, Fixed, RadSegs, RadFill, RadBands, RadBFill };
 
-/// Where a setting is not as its kind and its range say.
+/// Exceptions from what the type of a setting and its range imply.
 struct Oddities {
   enum class Reader {
     ByKind,
-    AsLong,      // read as a Long into a shorter word, so that too large a number becomes a limit
+    AsLong,      // an Integer read as a Long, so that a number that is too large is clamped, not 0
     ExactlyOne,  // a Boolean that only the text "1" turns on; others: any number but 0
   };
-  bool WholeNumber = false;            // a Single that its clamp rounds to a whole number
-  double DialogHigh = 0;               // the dialog's high limit where it differs from the run's
-  Reader ReadAs = Reader::ByKind;      // from the stored tree
-  bool InDialog = true;                // some dialog writes it
-  bool InTemplate = true;              // template files hold it
-  bool UsualNotInTemplate = false;     // template files hold it only if it is not the default
-  bool ZeroInTemplate = false;         // a template that lacks it means 0, not the default
-  std::string_view TemplateName = {};  // where templates call it otherwise
-  std::string_view DefaultText = {};   // where the default is written otherwise than its number
+  bool WholeNumber = false;         // a Single that its clamp rounds to a whole number
+  double DialogHigh = 0;            // the dialog's high limit where it differs from the run's
+  Reader ReadAs = Reader::ByKind;   // from the stored tree
+  bool InDialog = true;             // some dialog writes it
+  bool InTemplate = true;           // template files contain it
+  bool UsualNotInTemplate = false;  // template files contain it only if it differs from the default
+  bool ZeroInTemplate = false;      // 0, not the default, if a template lacks it
+  std::string_view TemplateName = {};  // if templates use another name
+  std::string_view DefaultText = {};   // if the default is not stored as its shortest number
 };
 
 /// One setting of a record.
 template <class Record>
 struct Field {
-  /// A typed pointer to the member; its kind is the kind of the setting.
+  /// A typed pointer to the member; its type is the type of the setting.
   using Member = std::variant<Integer Record::*, Long Record::*, Single Record::*, bool Record::*,
                               std::string Record::*>;
 
@@ -56,7 +56,7 @@ std::span<const Field<UniverseSettings>> UniverseFields();
 std::span<const Field<StarfoldProfile>> ProfileFields();
 std::span<const Field<CompositeProfile>> CompositeFields();
 std::span<const Field<AdvancedSettings>> AdvancedFields();
-/// The sub-records of a profile: the centres, and one point or atom in its packed order.
+/// The sub-records of a profile: the centres, and one point or atom in the order of its columns.
 std::span<const Field<IfsRecord>> IfsCenterFields();
 std::span<const Field<IfsPoint>> IfsPointFields();
 std::span<const Field<AtomRecord>> AtomCenterFields();
@@ -66,7 +66,7 @@ std::span<const Field<AtomPoint>> AtomPointFields();
 template <class Record>
 using Setting = typename Field<Record>::Member;
 
-/// The row of a setting. The member must have one.
+/// The row of a setting. Every member of a record that is a setting has one.
 const Field<UniverseSettings>& FieldOf(Setting<UniverseSettings> setting);
 const Field<StarfoldProfile>& FieldOf(Setting<StarfoldProfile> setting);
 const Field<CompositeProfile>& FieldOf(Setting<CompositeProfile> setting);
@@ -89,57 +89,58 @@ const Field<Record>* FindField(std::span<const Field<Record>> fields, std::strin
 /// rules.
 Limits StyleLimits(RangeRule rule, Integer style);
 
-/// Points of an atom's structure, 0 to 13; 1 outside.
+/// The number of points of an atom's structure; 1 for lattices and invalid numbers.
 Integer AtomPoints(Integer structure);
 
-/// Whether an atom's structure has a number of points per edge in place of a location.
+/// Whether an atom's structure is a lattice, whose `Atom_LocX` is its number of points per edge.
 bool IsLattice(Integer structure);
 
-/// The range of a lattice's points per edge, which are stored as `Atom_LocX`.
+/// The range of a lattice's points per edge.
 inline constexpr Limits kPointsPerEdge{1, 99};
 
-/// Holds every field to its range, as before each run (universe) or after each load (others).
+/// Clamps every field to its range. The universe is clamped before each run, the others after each
+/// load.
 void ClampUniverse(UniverseSettings& universe);
 void ClampProfile(StarfoldProfile& profile);
 void ClampComposite(CompositeProfile& composite);
 void ClampAdvanced(AdvancedSettings& advanced);
 
-/// The name under which a template holds the setting.
+/// The name of the setting in templates.
 template <class Record>
 std::string_view TemplateKey(const Field<Record>& field) {
   return field.Odd.TemplateName.empty() ? field.Name : field.Odd.TemplateName;
 }
 
-/// The setting's value as the text it is stored as.
+/// The text as which the setting's value is stored.
 template <class Record>
 std::string FieldText(const Record& record, const Field<Record>& field);
 
 /// Sets a number, rounded if the setting is a whole number, and clamped to its type.
-/// Texts stay as they are.
+/// Text settings are not changed.
 template <class Record>
 void SetFieldNumber(Record& record, const Field<Record>& field, double number);
 
-/// The text of the setting's default, as it is written where there is nothing yet.
+/// The text of the setting's default, as it is stored for a new user.
 template <class Record>
 std::string DefaultText(const Field<Record>& field) {
   if (!field.Odd.DefaultText.empty()) return std::string(field.Odd.DefaultText);
   return FieldText(Record(), field);
 }
 
-/// Reads the setting from text. Text that is no number leaves a number as it was and gives false;
-/// a number beyond the type's range becomes the type's limit.
+/// Sets the setting from text. False, and no change, if it is numeric and the text is not a number.
+/// A number beyond the type's range is clamped to the type.
 template <class Record>
 bool SetFieldText(Record& record, const Field<Record>& field, std::string_view text);
 
-/// Sets any setting of all the records by its name: "Universe_Stars", "Adv_TimeDelay",
+/// Sets any setting by its name: "Universe_Stars", "Adv_TimeDelay",
 /// "Starfold_Radius" (in all 50 profiles), "Starfold7/Starfold_Radius" (in profile 7),
 /// "CompFold3/CompFold_Type0". Returns a message if the name or the value is invalid.
 std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
                                      std::string_view value);
 
-/// The bodies that `Universe_GS_Idx` names, 0-based, at most 64: of each piece between blanks that
-/// is a number above 0 and up to 66, the number less 1, rounded with halves to even. All other
-/// pieces, and those that round below 0, name no body and are ignored.
+/// The bodies that `Universe_GS_Idx` lists, 0-based, at most 64. The text is split at blanks. A
+/// part that is a number above 0 and up to 66 gives that number less 1, rounded half to even; parts
+/// that are something else, or round below 0, are ignored.
 struct VisitList {
   static constexpr int kRoom = 64;
   std::array<Integer, kRoom> Bodies{};

@@ -16,7 +16,7 @@ bool HasMarkIn(KeyValueTree& tree, std::string_view mark, RootSelector root) {
   return RegistryReadInteger(tree, sections::kGeneral, mark, missing, root) != missing;
 }
 
-/// The values of section "Advanced" that earlier versions knew.
+/// The values of section "Advanced" that earlier versions stored.
 using A = AdvancedSettings;
 using U = UniverseSettings;
 constexpr Setting<A> kEarlierAdvanced[] = {&A::FocalLength,   &A::Adv_TimeDelay, &A::Adv_FontName,
@@ -70,8 +70,8 @@ SettingsRecords SettingsToShow(KeyValueTree& tree) {
 
 bool EnsureFactoryProfiles(KeyValueTree& tree) {
   if (HasMark(tree, kAnimationType)) return true;
-  // Looked at once more within the change: a tree that could not be read just now must not be
-  // taken for an empty one.
+  // Checked again inside the transaction: a tree that could not be read before must not be treated
+  // as an empty one.
   TreeBulk change = TreeBulk::Change(tree);
   if (!change.Begun()) return false;
   if (!HasMark(tree, kAnimationType)) {

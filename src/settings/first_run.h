@@ -1,5 +1,5 @@
-// What happens before anything is read: settings of an earlier version are brought over, and a tree
-// that is empty gets the factory's bodies.
+// What is done before settings are read: importing those of an earlier version, and storing the
+// factory's bodies in an empty tree.
 #pragma once
 
 #include "platform/key_value_tree.h"
@@ -20,13 +20,13 @@ bool HasMark(KeyValueTree& tree, std::string_view mark);
 /// machine's tree is complete and the user's is not.
 void MigrateMachineSettings(KeyValueTree& tree);
 
-/// What a run shows without storing anything: the user's settings, with the factory's bodies where
-/// the tree is not complete or could not be read as a whole.
+/// The settings of a run that stores nothing: the user's, with the factory's bodies if the tree is
+/// incomplete or could not be read as a whole.
 SettingsRecords SettingsToShow(KeyValueTree& tree);
 
-/// Writes the factory's bodies to a user's tree that is not complete. The mark is left to the
-/// properties dialog, so that its first opening still counts as the first. False where the tree is
-/// not complete and cannot be written: a run from it would show the bare defaults.
+/// Writes the factory's bodies to a user's tree that is incomplete. It stays marked as incomplete
+/// until the properties dialog is first opened. False if the tree is incomplete and cannot be
+/// written: a run from it would show only defaults.
 bool EnsureFactoryProfiles(KeyValueTree& tree);
 
 }  // namespace starfolds

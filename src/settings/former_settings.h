@@ -1,4 +1,4 @@
-// What becomes of the settings that a template, or a dialog that could not read them, replaces.
+// Saves settings before a template, or a dialog that could not read them, replaces them.
 #pragma once
 
 #include <optional>
@@ -11,25 +11,25 @@
 
 namespace starfolds {
 
-/// A path, or why there is none.
+/// The path of a copy, or why there is none.
 struct KeptCopy {
-  std::string Path;   // empty: there was nothing to keep
-  std::string Fault;  // a reason for the user; empty: the copy is whole, and on the disk
+  std::string Path;   // empty if there was nothing to save
+  std::string Fault;  // a reason for the user; empty if the copy is complete, and on the disk
 };
 
 /// Writes all stored settings as the template "former-settings-N.sfd" in `folder`, with the first
-/// free number from 1. Settings that such a file holds already are not written again, and those
-/// that the program comes with need no copy. When all 99 numbers are taken the last one is
-/// replaced; no other copy ever is.
+/// free number from 1. Settings that such a file contains already are not written again, and the
+/// factory settings are not copied. If all 99 numbers are in use, the last one is replaced; other
+/// copies never are.
 ///
-/// To be called within a change of the tree, which keeps other processes from choosing the same
+/// Must be called inside a write transaction of the tree, so that no other process chooses the same
 /// number.
 KeptCopy KeepFormerSettings(KeyValueTree& tree, Files& disk, const std::string& folder);
 
-/// What an import from the command line has done.
+/// The result of an import from the command line.
 struct TemplateImport {
   std::optional<std::string> Fault;  // a reason for the user; then nothing was stored
-  std::string FormerSettings;        // the file that holds them; empty: there were none
+  std::string FormerSettings;        // the file with the copy; empty if there is none
 };
 
 /// `ImportTemplate` for a user who runs the program with a template: a tree without bodies gets the
@@ -39,7 +39,7 @@ TemplateImport ImportOverFormerSettings(TemplateFile& file, const std::string& p
                                         KeyValueTree& tree, ProfileArray& profiles, Files& disk,
                                         const std::string& folder);
 
-/// What the import did and how to undo it, for the terminal.
+/// The text for the terminal: what the import did, and how to undo it.
 std::string ImportNote(const std::string& path, const TemplateImport& done);
 
 }  // namespace starfolds

@@ -14,7 +14,7 @@ namespace {
 /// Copies the value `key` of `section` if there is one.
 void CopyValue(KeyValueTree& from, KeyValueTree& to, std::string_view section,
                std::string_view key) {
-  // No stored text holds a NUL.
+  // A stored text never contains NUL, so this one means that the value is missing.
   static constexpr std::string_view missing("\0", 1);
   const std::string text = RegistryReadText(from, section, key, missing);
   if (text != missing) RegistryWrite(to, section, key, text);
@@ -27,7 +27,7 @@ std::string SectionOf(std::string_view record) {
   return "Universe\\" + std::string(record.substr(0, digits)) + std::to_string(number);
 }
 
-/// Copies what a good `name` stands for among the sections of all records.
+/// Copies the values that a valid `name` denotes, from the sections of all records.
 void CopyNamed(KeyValueTree& from, KeyValueTree& to, std::string_view name) {
   const std::size_t slash = name.find_first_of("/\\");
   if (slash != std::string_view::npos) {
@@ -38,7 +38,8 @@ void CopyNamed(KeyValueTree& from, KeyValueTree& to, std::string_view name) {
   for (int i = 0; i < kProfileCount; ++i) CopyValue(from, to, ProfileSection(i), name);
 }
 
-/// A label of the dialogs without its range and its colon; the stored name where none is alone.
+/// The label of a setting in the dialogs, without range and colon; the stored name if several
+/// settings share the label.
 std::string NameInWords(std::string_view setting) {
   std::string_view label = setting;
   if (const auto* field = FindField(UniverseFields(), setting)) label = field->Label;
@@ -94,7 +95,7 @@ bool BeginningTree::Begin(Access access) {
   return LayeredTree::Begin(access);
 }
 
-/// What could not be stored is not written here, either.
+/// Values that could not be stored below are discarded here as well.
 bool BeginningTree::End(bool keep) {
   const bool ended = LayeredTree::End(keep);
   if (ended) valuesBulk_->Commit();
@@ -102,10 +103,11 @@ bool BeginningTree::End(bool keep) {
   return ended;
 }
 
-/// The routines that save records decide how a value is written as text.
+/// Saves the records to a tree in memory, so that the values have the texts as which they are
+/// stored.
 void OverriddenTree::Override(std::span<const SettingChange> changes) {
   const auto records = std::make_unique<SettingsRecords>();
-  // Only members that count are saved.
+  // Only the first `CompFold_Count` members are saved.
   for (CompositeProfile& composite : records->Composites) composite.CompFold_Count = kMaxMembers;
   std::vector<std::string_view> names;
   for (const auto& [name, value] : changes) {

@@ -1,4 +1,4 @@
-// Settings that hold for one process, whatever is stored.
+// Settings that are valid for one process and override the stored ones.
 #pragma once
 
 #include <memory>
@@ -16,7 +16,7 @@ namespace starfolds {
 /// A setting by its name for `SetByName`, and its value.
 using SettingChange = std::pair<std::string, std::string>;
 
-/// Lies over another tree, which outlives it, and passes everything on.
+/// Forwards every call to another tree, which must outlive it.
 class LayeredTree : public KeyValueTree {
  public:
   explicit LayeredTree(KeyValueTree& below) : below_(below) {}
@@ -35,13 +35,13 @@ class LayeredTree : public KeyValueTree {
   std::unique_ptr<TreeBulk> bulk_;  // of the tree below, while there is one of this
 };
 
-/// Values to begin with, such as those of a template that a window shows: they are seen in place of
+/// Initial values, such as those of a template that a window shows: reads return them in place of
 /// the stored ones until they are written. The properties dialog edits this tree.
 class BeginningTree : public LayeredTree {
  public:
   using LayeredTree::LayeredTree;
 
-  /// To be filled before anybody reads.
+  /// Must be filled before the first read.
   KeyValueTree& Values() { return values_; }
 
   std::optional<std::string> Read(Hive hive, std::string_view path, std::string_view name) override;
@@ -58,7 +58,7 @@ class BeginningTree : public LayeredTree {
 };
 
 /// Settings of one run, such as those of the command line: reads return them in place of the
-/// values below, and writes go past them.
+/// values below; writes go to the tree below.
 class OverriddenTree : public LayeredTree {
  public:
   using LayeredTree::LayeredTree;
@@ -72,8 +72,8 @@ class OverriddenTree : public LayeredTree {
   MemoryTree overrides_;
 };
 
-/// The changes for people, such as "Stars in all the Starfolds = 123", in their order. Of several
-/// changes of one setting the last one counts.
+/// The changes as texts for the user, such as "Stars in all the Starfolds = 123", in their order.
+/// Of several changes of one setting the last one counts.
 std::vector<std::string> ChangesInWords(std::span<const SettingChange> changes);
 
 }  // namespace starfolds

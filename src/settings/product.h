@@ -1,4 +1,4 @@
-// What the program calls itself.
+// Names of the program.
 #pragma once
 
 #include <string_view>

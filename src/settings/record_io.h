@@ -1,8 +1,8 @@
-// How profiles and composites are laid out, the same in the stored tree and in templates: the
-// fields, and below them the points and atoms or the members, as many as a field counts.
+// The layout of profiles and composites, which is the same in the stored tree and in templates: the
+// fields, then the points and atoms or the members, as many as a field says.
 //
 // `Section` is one section of either. It provides
-//   void Read(const Field<Record>&, Record&) const;         no valid value leaves the default
+//   void Read(const Field<Record>&, Record&) const;         keeps the default if invalid
 //   void Write(const Field<Record>&, const Record&) const;
 //   std::string ReadText(const std::string& key) const;     empty if there is none
 //   void WriteText(const std::string& key, const std::string&) const;

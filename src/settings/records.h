@@ -1,5 +1,5 @@
-// The settings records. A field has the name under which it is stored and the default that holds
-// where nothing is stored; ranges, labels and kinds are in the field table (fields.h).
+// The settings records. A member has the name under which it is stored, and the default for a value
+// that is not stored; ranges and labels are in the field table (fields.h).
 #pragma once
 
 #include <array>
@@ -11,15 +11,15 @@ namespace starfolds {
 
 inline constexpr int kProfileCount = 50;
 inline constexpr int kCompositeCount = 16;
-/// Profiles 0 to 49 and composites 50 to 65 share one number space.
+/// Bodies are numbered: 0 to 49 are profiles, 50 to 65 composites.
 inline constexpr int kBodyCount = kProfileCount + kCompositeCount;
 inline constexpr int kFirstComposite = kProfileCount;
 
 inline constexpr int kMaxIfsPoints = 5;
 inline constexpr int kMaxAtoms = 32;
 inline constexpr int kMaxLevels = 10;
-/// Room for the members of a composite. The clamp lets a count of 49 pass, one more than the room;
-/// loops over the members stop at the room.
+/// The maximum number of members of a composite. The range of the count allows 49, one more; loops
+/// over the members stop at the maximum.
 inline constexpr int kMaxMembers = 48;
 
 /// `Starfold_FoldStyle`.
@@ -61,10 +61,10 @@ struct UniverseSettings {
   Integer Universe_GPCtrl = 2;
   Integer Universe_GCCtrl = 3;
   Single Universe_DstCen = 4000;
-  Integer Universe_C_Ramp = 750;  // kept and edited; no run uses it
+  Integer Universe_C_Ramp = 750;  // stored and edited; no run uses it
   std::string Universe_GS_Idx;
   bool Universe_GVisit = false;
-  bool Universe_RotCam = false;  // kept and edited; no run uses it
+  bool Universe_RotCam = false;  // stored and edited; no run uses it
   Integer Universe_AmStar = 300;
   Single Universe_AmPers = 0.998F;
   Single Universe_AmCAge = 0.1F;
@@ -184,14 +184,15 @@ struct StarfoldProfile {
   FoldStyle Style() const { return static_cast<FoldStyle>(Starfold_FoldStyle); }
 };
 
-/// Several profiles shown together as one body. The first member represents the whole.
+/// Several profiles shown together as one body. What only one profile can determine, such as the
+/// distance of the camera, is that of the first member.
 struct CompositeProfile {
   std::string CompFoldName;  // stored as "_CompFoldName"
   Integer CompFoldPct = 0;   // stored as "_CompFoldPct"
   Integer CompFold_Count = 0;
   std::array<Integer, kMaxMembers> CompFold_Type{};
 
-  /// The members that there is room for, whatever the count says.
+  /// The number of members: the count, clamped to the size of the array.
   int MemberCount() const {
     return CompFold_Count < 0 ? 0 : (CompFold_Count > kMaxMembers ? kMaxMembers : CompFold_Count);
   }
@@ -210,9 +211,9 @@ struct AdvancedSettings {
   bool Adv_Randomize = false;
   Integer Adv_RandomMag = 5;
   Integer Adv_RandomExp = 2;
-  bool Adv_FontDrift = false;  // the message wanders over the screen
-  Single Adv_PerfMult = 1;     // kept and passed on; no run uses it
-  Long Adv_EffectFPC = 0;      // kept and passed on; no run uses it
+  bool Adv_FontDrift = false;  // the message drifts over the screen
+  Single Adv_PerfMult = 1;     // stored; no run uses it
+  Long Adv_EffectFPC = 0;      // stored; no run uses it
 };
 
 using ProfileArray = std::array<StarfoldProfile, kProfileCount>;

@@ -28,7 +28,7 @@ std::string PathOf(std::string_view app, std::string_view section) {
   return path;
 }
 
-/// The value's number; nothing where the value is missing or no number.
+/// The value as a number; nullopt if it is missing or not a number.
 std::optional<double> StoredNumber(KeyValueTree& tree, std::string_view section,
                                    std::string_view key, RootSelector root, std::string_view app) {
   const std::string text = RegistryReadText(tree, section, key, {}, root, app);
@@ -41,7 +41,7 @@ std::optional<double> StoredNumber(KeyValueTree& tree, std::string_view section,
 std::string RegistryReadText(KeyValueTree& tree, std::string_view section, std::string_view key,
                              std::string_view fallback, RootSelector root, std::string_view app) {
   std::optional<std::string> text = tree.Read(HiveOf(root), PathOf(app, section), key);
-  if (!text || HeldToLongestValue(*text).size() != text->size()) return std::string(fallback);
+  if (!text || FirstStorableCharacters(*text).size() != text->size()) return std::string(fallback);
   text->resize(std::min(text->find('\0'), text->size()));
   return *std::move(text);
 }
@@ -75,12 +75,14 @@ bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_vie
   return RegistryWrite(tree, section, key, NumberText(value), root, app);
 }
 
-std::string_view HeldToLongestValue(std::string_view text) {
+std::string_view FirstStorableCharacters(std::string_view text) {
   if (text.size() <= kLongestValue) return text;
   return FirstCharacters(text, kLongestValue, kMostBytesOfValue);
 }
 
-std::string_view StorableText(std::string_view text) { return HeldToLongestValue(Trimmed(text)); }
+std::string_view StorableText(std::string_view text) {
+  return FirstStorableCharacters(Trimmed(text));
+}
 
 void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_view section,
                        std::string_view subkey, RootSelector root) {

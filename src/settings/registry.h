@@ -1,5 +1,5 @@
-// The thin layer through which everybody reaches the stored tree: one text per setting, and typed
-// readers that never fail. What cannot be read is the caller's default.
+// Access to single values of the stored tree. The typed readers never fail: they return the
+// caller's default for a value that cannot be read.
 #pragma once
 
 #include <string>
@@ -11,8 +11,8 @@
 
 namespace starfolds {
 
-/// `RootSelector`: which hive. Settings live under 1; 0 holds what earlier versions wrote for the
-/// whole machine.
+/// The hive of an access. Settings are under 1; 0 has what earlier versions stored for the whole
+/// machine.
 enum class RootSelector : Integer {
   LocalMachine = 0,
   CurrentUser = 1,
@@ -22,8 +22,8 @@ enum class RootSelector : Integer {
 
 inline constexpr std::string_view kAppName = "TSLN_Starfold";
 
-/// The longest value that can be read back, in characters as people count them, and in bytes: 127
-/// of the longest emoji that are in use.
+/// The length of the longest value that can be read back: in user-perceived characters, and in
+/// bytes (127 of the longest emoji in use).
 inline constexpr std::size_t kLongestValue = 127;
 inline constexpr std::size_t kMostBytesOfValue = 4096;
 
@@ -43,15 +43,14 @@ inline constexpr std::string_view kAdvanced = "Advanced";
 inline constexpr std::string_view kUniverse = "Universe";
 }  // namespace sections
 
-/// The text of a value, up to its first NUL. A missing value, and one that is too long, is
-/// `fallback`.
+/// The text of a value, up to its first NUL; `fallback` if the value is missing or too long.
 std::string RegistryReadText(KeyValueTree& tree, std::string_view section, std::string_view key,
                              std::string_view fallback = {},
                              RootSelector root = RootSelector::CurrentUser,
                              std::string_view app = kAppName);
 
-/// The value as a number, rounded to the nearest whole one with halves to even where it is an
-/// integer. Text that is no number is `fallback`; a number beyond the type's range is 0.
+/// The value as a number, rounded half to even for an integer type. `fallback` if the text is not a
+/// number; 0 if the number is out of the type's range.
 Integer RegistryReadInteger(KeyValueTree& tree, std::string_view section, std::string_view key,
                             Integer fallback, RootSelector root = RootSelector::CurrentUser,
                             std::string_view app = kAppName);
@@ -70,21 +69,21 @@ bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_vie
 bool RegistryWrite(KeyValueTree& tree, std::string_view section, std::string_view key, Long value,
                    RootSelector root = RootSelector::CurrentUser, std::string_view app = kAppName);
 
-/// As much of a text, in whole characters, as a value can hold.
-std::string_view HeldToLongestValue(std::string_view text);
+/// The beginning of a text, in whole characters, that a value can store.
+std::string_view FirstStorableCharacters(std::string_view text);
 
 /// The same without blanks at the ends.
 std::string_view StorableText(std::string_view text);
 
-/// Removes `subkey` below `section`. Callers do not care whether it was there.
+/// Removes `subkey` below `section`, if it exists.
 void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_view section,
                        std::string_view subkey, RootSelector root);
 
 /// Whether the user's tree can be written. If not, a message box says so.
 bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes);
 
-/// Copies a value as text from the machine's tree to the user's; a missing one arrives as
-/// `fallback`.
+/// Copies a value as text from the machine's tree to the user's; writes `fallback` if it is
+/// missing.
 void CopyMachineValueToUser(KeyValueTree& tree, std::string_view section, std::string_view key,
                             std::string_view fallback);
 

@@ -45,8 +45,8 @@ class TreeSection {
 
   TreeSection Below(const char* sub) const { return {tree_, name_ + sub, root_}; }
 
-  /// The section is deleted in the machine's hive, not in the one that is written: points of a
-  /// longer list before stay behind the new ones, which no reader reads.
+  /// Deletes the section in the machine's hive, not in the one that is written: the points of a
+  /// longer former list stay stored after the new ones, where they are never read.
   void Drop() const {
     const std::size_t last = name_.rfind('\\');
     RegistryDeleteKey(tree_, kAppName, name_.substr(0, last), name_.substr(last + 1),

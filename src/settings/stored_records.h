@@ -1,5 +1,5 @@
-// The settings records on their way to and from the stored tree. Whatever is missing or no number
-// there is its default; a value out of range is clamped.
+// Reads and writes whole records of the stored tree. A value that is missing or not a number gives
+// the default; a value out of range is clamped.
 #pragma once
 
 #include <string>
@@ -43,8 +43,8 @@ void SaveCompositeToRegistry(KeyValueTree& tree, const CompositeProfile& composi
 void SaveAllProfiles(KeyValueTree& tree, ProfileArray& profiles);
 void SaveAllComposites(KeyValueTree& tree, const CompositeArray& composites);
 
-/// Everything that a run reads, as one look or one change. Loading from a tree that cannot be read
-/// gives the defaults; saving is true if all of it was stored.
+/// All settings that a run reads, in one transaction. Loading from a tree that cannot be read gives
+/// the defaults; saving returns true if everything was stored.
 SettingsRecords LoadSettings(KeyValueTree& tree);
 bool SaveSettings(KeyValueTree& tree, SettingsRecords& records);
 

@@ -1,5 +1,5 @@
-// The styles of body: what each one is to the settings, to the frame loop and to the dialogs. One
-// row per `FoldStyle`; the routines of the styles are in bodies/styles.h.
+// The styles of bodies: what settings, frame loop and dialogs need to know of each. One row per
+// `FoldStyle`; the routines of the styles are in bodies/styles.h.
 #pragma once
 
 #include <array>
@@ -22,7 +22,7 @@ struct Limits {
 /// How a star moves in a frame.
 enum class Motion : Integer { Rotate, Drift, Attract, Wave };
 
-/// When the hues of a style's stars move on from frame to frame (those of black stars never do).
+/// When the hues of a style's stars advance from frame to frame (those of black stars never do).
 enum class HueCycling { Always, IfNebulaAdvances, Never };
 
 /// The groups of controls that the starfold page shows for some styles only.
@@ -53,7 +53,7 @@ class StyleBoxes {
   unsigned bits_ = 0;
 };
 
-/// The caption of an element of `lblStarfold` where a style has one of its own.
+/// The caption of an element of `lblStarfold` for one style.
 struct StyleCaption {
   int Label;
   std::string_view Text;
@@ -67,7 +67,7 @@ struct StyleFacts {
   // The frame loop.
   Motion RunMotion = Motion::Rotate;
   bool IsIfs = false;         // an iterated function system
-  bool NestedLevels = false;  // `Starfold_StdLevels` counts; other styles have one level
+  bool NestedLevels = false;  // has `Starfold_StdLevels` levels; other styles have one
   double ForceUnit = 0.0001;  // `RunForce` for a `Starfold_QG_Force` of 1
   HueCycling Hues = HueCycling::Always;
 
@@ -85,7 +85,7 @@ struct StyleFacts {
   }
 };
 
-/// The row of a style. A number that is no style takes the nearest one.
+/// The row of a style. `style` is clamped to the valid styles.
 const StyleFacts& FactsOf(Integer style);
 inline const StyleFacts& FactsOf(FoldStyle style) { return FactsOf(static_cast<Integer>(style)); }
 

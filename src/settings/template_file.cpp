@@ -26,7 +26,7 @@ std::string WithLineEnds(std::string text) {
   return ended;
 }
 
-/// A line break in a value would cut it, and texts of one line have none.
+/// Replaces line breaks, which would end the value, by blanks. Texts of one line have none.
 std::string InOneLine(std::string_view value) {
   std::string text(value);
   for (char& c : text) {
@@ -38,7 +38,7 @@ std::string InOneLine(std::string_view value) {
 constexpr std::string_view kEscapesSection = "Escapes";
 constexpr char kEscape = '\\';
 
-/// What a character is written as behind a backslash.
+/// The character that stands for `c` after a backslash.
 struct EscapedAs {
   char Plain;
   char Written;
@@ -52,15 +52,16 @@ bool IsKeyLetter(char c) {
   return c == '_' || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-/// Whether the equals sign at `at` may end the text of a key, which a reader would find here.
+/// Whether the text before the equals sign at `at` may end in a key, which a reader would find
+/// there.
 bool MayEndKey(std::string_view text, std::size_t at) {
   std::size_t begin = at;
   while (begin > 0 && IsKeyLetter(text[begin - 1])) --begin;
   return at - begin >= kShortestKey;
 }
 
-/// Whether the character would mislead a reader. A backslash does so only before what would make
-/// an escape of it.
+/// Whether the character must be escaped. A backslash must be only if it would form an escape with
+/// the next character.
 bool NeedsEscape(std::string_view text, std::size_t at) {
   switch (text[at]) {
     case '[':
@@ -75,7 +76,8 @@ bool NeedsEscape(std::string_view text, std::size_t at) {
   }
 }
 
-/// Whether the text has more than backslashes to escape. If no text has, they can stay as they are.
+/// Whether the text has other characters than backslashes to escape. If no text of the file has, it
+/// is written without escapes.
 bool Misleads(std::string_view text) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (text[at] != kEscape && NeedsEscape(text, at)) return true;
@@ -112,7 +114,7 @@ std::string Unescaped(std::string_view text) {
   return plain;
 }
 
-/// Whether the text is `prefix` and a number below `count`, written as templates have it.
+/// Whether the text is `prefix` and a number below `count` without leading zeros.
 bool IsNumbered(std::string_view text, std::string_view prefix, int count) {
   for (int i = 0; i < count; ++i) {
     if (text == std::string(prefix) + std::to_string(i)) return true;

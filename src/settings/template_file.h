@@ -1,5 +1,5 @@
-// Template files ("sfd"): sections "[name]" of lines "key=value", ended by CR LF. Here is how they
-// are read and written; their contents are defined in templates.h.
+// The syntax of template files ("sfd"): sections "[name]" of lines "key=value", ended by CR LF.
+// Their contents are defined in templates.h.
 #pragma once
 
 #include <cstddef>
@@ -13,33 +13,33 @@
 
 namespace starfolds {
 
-/// The largest file that is taken for a template. One with every list filled has a quarter of it.
+/// The size of the largest file that is read as a template, in bytes; four times that of a template
+/// with all lists full.
 inline constexpr std::size_t kLargestTemplate = std::size_t{1} << 20;
 
-/// The text of a template, and the reader's way of finding values in it: by the first place where
-/// the wanted text stands. So a key is also found inside an earlier value or at the end of a longer
-/// key, a "[" anywhere ends a section, and a last line without a line break does not count.
+/// The text of a template, searched for the first occurrence of a section or key. A key is
+/// therefore also found inside an earlier value or at the end of a longer key, a "[" anywhere ends
+/// a section, and a last line without a line break is ignored.
 ///
-/// Values that would not survive that are escaped, with a backslash: "\(" is "[", "\)" is "]", "\:"
-/// is "=", "\\" is a backslash, and any other backslash is itself. So a reader that knows
-/// nothing of it finds all keys, and shows "\(" where a bracket was. Only a file with the section
-/// "Escapes" has any: others keep every backslash.
+/// Values that could not be found again are escaped with a backslash: "\(" is "[", "\)" is "]",
+/// "\:" is "=", "\\" is a backslash, and any other backslash is itself. A reader without escapes
+/// finds all keys, and shows "\(" for a bracket. Escapes are decoded only in files with the section
+/// "Escapes".
 ///
-/// Sections and keys are looked up in an index of their brackets and equals signs, so that a load
-/// does not search the file once for every key; what is found is the same.
+/// An index of brackets and equals signs makes a load linear in the file's size; the result is that
+/// of a search.
 class TemplateText {
  public:
-  /// A text without a single CR LF was saved by an editor of another system; its line feeds count
-  /// as line ends then.
+  /// If the text has no CR LF at all, as from an editor of another system, LF ends a line.
   explicit TemplateText(std::string text);
   TemplateText(const TemplateText&) = delete;
   TemplateText& operator=(const TemplateText&) = delete;
 
-  /// The value, as UTF-8: bytes that are none are taken as Windows-1252. Nothing where the section,
-  /// the key or the line's end is not found. Section and key hold no "[", "]" and "=".
+  /// The value, as UTF-8; invalid UTF-8 is read as Windows-1252. nullopt if the section, the key or
+  /// the line's end is not found. Section and key must not contain "[", "]" or "=".
   std::optional<std::string> Find(std::string_view section, std::string_view key) const;
 
-  /// Whether there is any section that templates have, be it a single one.
+  /// Whether at least one section is one that templates have.
   bool HasTemplateSection() const;
 
  private:
@@ -47,25 +47,25 @@ class TemplateText {
 
   std::string text_;
   std::unordered_map<std::string, std::size_t> sections_;  // where the first of each begins
-  // The section of the last lookup, as keys are asked for section by section.
+  // The section of the last lookup: keys are looked up section by section.
   bool escaped_ = false;
   mutable std::string entered_;
   mutable std::string_view section_;
   mutable std::vector<std::size_t> equals_;
 };
 
-/// The one template that is read or written at a time.
+/// A template file that is read or written.
 class TemplateFile {
  public:
   explicit TemplateFile(Files& files) : files_(files) {}
 
-  /// The path used by a read or write that gets none of its own.
+  /// The path for reads and writes without a path argument.
   std::string TemplateFileName;
-  /// The path that "Save" reuses; empty until one was chosen.
+  /// The path that "Save" uses again; empty until the user has chosen one.
   std::string CurrentTemplate;
 
-  /// Reads the file into the buffer, if it is not there yet. Gives a reason for the user where it
-  /// cannot be read or is no template; then reads give their defaults.
+  /// Reads the file, unless it was read already. Returns a reason for the user if it cannot be read
+  /// or is not a template; `TemplateRead` then returns the fallbacks.
   std::optional<std::string> Load(const std::string& path = {});
 
   /// The value of a key, or `fallback`. Loads the file on the first call.
@@ -81,8 +81,8 @@ class TemplateFile {
   void TemplateWrite(std::string_view section, std::string_view key, std::string_view value,
                      const std::string& path = {});
 
-  /// Writes the file, in place of the one that was there. Gives a reason for the user where it
-  /// cannot; then the former file is unchanged. Does nothing if nothing was written.
+  /// Replaces the file. Returns a reason for the user if that fails; then the former file is
+  /// unchanged. Does nothing if nothing was written.
   std::optional<std::string> CloseTemplate();
 
  private:

@@ -17,7 +17,7 @@ namespace {
 using P = StarfoldProfile;
 using U = UniverseSettings;
 
-/// What templates hold of an order, with some fields moved once more.
+/// The fields of an order that templates contain, some of them moved.
 template <class Record>
 FieldOrder<Record> InTemplates(FieldOrder<Record> order, std::span<const Moved<Record>> moves) {
   std::erase_if(order, [](const Field<Record>* field) { return !field->Odd.InTemplate; });
@@ -42,8 +42,7 @@ const FieldOrder<StarfoldProfile>& ProfileTemplateOrder() {
   return order;
 }
 
-/// A number that counts as 0 when it is missing: a "0" is put before the text, so nothing
-/// is negative either.
+/// A number, 0 if it is missing. Never negative, because the text is parsed after a "0".
 double NumberWithZeroBefore(const std::optional<std::string>& text) {
   return LenientNumber("0" + text.value_or(std::string()));
 }
@@ -87,7 +86,7 @@ class TemplateSection {
 
   TemplateSection Below(const char* sub) const { return {file_, name_ + sub}; }
 
-  /// A template is written from its beginning.
+  /// Nothing to do: a template is written from its beginning.
   void Drop() const {}
 
  private:

@@ -9,8 +9,8 @@
 namespace starfolds {
 namespace {
 
-// `WindowSize` is four numbers of five digits each. What is negative, or too large for its digits,
-// is clamped.
+// `WindowSize` is four numbers of five digits each. Numbers that are negative or have more digits
+// are clamped.
 constexpr std::size_t kDigits = 5;
 constexpr Long kLargest = 99999;
 

@@ -1,4 +1,4 @@
-// Where a window stood, kept in the stored tree.
+// The position and size of a window, in the stored tree.
 #pragma once
 
 #include <string_view>
@@ -21,8 +21,8 @@ struct WindowBounds {
 /// `WindowState`.
 enum class WindowState : Integer { Normal = 0, Minimised = 1, Maximised = 2 };
 
-/// A window as its placement sees it. Bounds come from the tree as they are; the window holds them
-/// to what it can be.
+/// A window with a stored placement. The stored bounds are passed on unchecked; the window limits
+/// them to what is possible.
 class PlacedWindow {
  public:
   virtual ~PlacedWindow() = default;
@@ -38,7 +38,7 @@ class PlacedWindow {
 /// Writes `WindowState` and, unless the window is minimised, `WindowSize`.
 void SaveWindowPlacement(const PlacedWindow& window, KeyValueTree& tree, std::string_view section);
 
-/// Puts the window where it stood, or in the middle of the screen if it was never saved.
+/// Restores the stored placement, or centres the window on the screen if there is none.
 void RestoreWindowPlacement(PlacedWindow& window, KeyValueTree& tree, std::string_view section);
 
 }  // namespace starfolds
