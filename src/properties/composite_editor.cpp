@@ -17,8 +17,8 @@ namespace {
 constexpr NumberRange kPercents{NumberKind::AsInteger, 0, 9999};
 constexpr Colour kWarning = 0xFFFF00;
 constexpr int kLabelGap = 3;         // logical pixels between a label and its control
-constexpr int kGroupGap = 5;         // and what comes to that between two of them
-constexpr int kNameCharacters = 16;  // of a type, at least in sight
+constexpr int kGroupGap = 5;         // additional space between two such pairs
+constexpr int kNameCharacters = 16;  // of a type's name that are always visible
 constexpr std::string_view kIfsNote =
     "Two or more of the selected Starfold Types have a Style of IFS.";
 
@@ -26,8 +26,8 @@ QColor Halfway(const QColor& a, const QColor& b) {
   return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
-/// Shows what is selected as a tick. A highlight would be lost on a long list of which a few
-/// entries are chosen.
+/// Shows selected entries with a check mark. A highlight is hard to find in a long list with few
+/// selected entries.
 class TickDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -43,7 +43,7 @@ class TickDelegate : public QStyledItemDelegate {
     option->features |= QStyleOptionViewItem::HasCheckIndicator;
     option->checkState = selected ? Qt::Checked : Qt::Unchecked;
     option->state.setFlag(QStyle::State_Selected, false);
-    // The frame of an empty box is a shade of the window, which a dark palette swallows.
+    // Qt draws the frame of an empty box in a shade of the window, which is invisible if dark.
     option->palette.setColor(QPalette::Window, Halfway(option->palette.color(QPalette::Text),
                                                        option->palette.color(QPalette::Base)));
   }
@@ -60,7 +60,7 @@ QBoxLayout* Line(std::initializer_list<QWidget*> widgets) {
   return line;
 }
 
-/// A label and below it the line of the control that it is for.
+/// A label with its control below it.
 void AddGroup(QBoxLayout& column, const QString& text, std::initializer_list<QWidget*> line,
               int stretch = 0) {
   QWidget* control = *line.begin();
@@ -180,8 +180,8 @@ void CompositeEditor::SetBodies(const std::vector<std::string>& names) {
     major_->removeItem(major_->count() - 1);
     delete minors_->takeItem(minors_->count() - 1);
   }
-  major_->setCurrentIndex(major < count ? major : -1);  // the first entry chooses itself
-  PaintWarning();                                       // a type may have another style now
+  major_->setCurrentIndex(major < count ? major : -1);  // Qt selects the first entry that is added
+  PaintWarning();                                       // the style of a type may have changed
 }
 
 void CompositeEditor::ClearEditor() {
@@ -257,7 +257,7 @@ void CompositeEditor::ShowEntry(int position) {
   list_->ReplaceEntry(position, composite.CompFoldName, composite.CompFoldPct);
 }
 
-/// As many as a record has room for.
+/// At most `kMaxMembers`.
 std::vector<Integer> CompositeEditor::Members() const {
   std::vector<Integer> members;
   const int major = major_->currentIndex();
@@ -276,7 +276,7 @@ bool CompositeEditor::MixesIfs() const {
   return std::count_if(members.begin(), members.end(), isIfs) >= 2;
 }
 
-/// Black on the warning colour, as a light text of the palette could not be read there.
+/// Black on the warning colour, on which the light text of a dark palette would be illegible.
 void CompositeEditor::PaintWarning() {
   const bool warning = MixesIfs();
   QPalette colours;

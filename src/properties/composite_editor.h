@@ -25,10 +25,9 @@ class CompositeEditor : public QWidget {
 
   /// Fills the list from the records and clears the editor.
   void Rebuild();
-  /// The types that a composite can be made of, in the order of the profiles. What is chosen stays
-  /// chosen.
+  /// Sets the names of the profiles, in their order. The selection is kept.
   void SetBodies(const std::vector<std::string>& names);
-  /// Clears selection, choice and typed text.
+  /// Clears the selected composite, the selected types and the text boxes.
   void ClearEditor();
   /// The selected composite, or -1.
   int Selected() const;
@@ -50,7 +49,7 @@ class CompositeEditor : public QWidget {
   void ResetPercents();
   void ShowEntry(int position);
 
-  /// The chosen types, the major one first and each of them once.
+  /// The selected types, the major one first, without duplicates.
   std::vector<Integer> Members() const;
   /// Whether the members mix two or more iterated function systems, which fit together badly.
   bool MixesIfs() const;

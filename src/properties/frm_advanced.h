@@ -1,4 +1,4 @@
-// `frmAdvanced`: how the effect is displayed, and the user's message over it.
+// `frmAdvanced`: the settings of the display and of the user's message.
 #pragma once
 
 #include <QGridLayout>
@@ -14,8 +14,8 @@
 
 namespace starfolds {
 
-/// Reads the stored settings when it is made and stores them at "OK", whatever becomes of the
-/// dialog behind it.
+/// Reads the stored settings when it is created and stores them at "OK", independently of the
+/// properties dialog.
 class FrmAdvanced : public PlacedDialog {
   Q_OBJECT
 
@@ -35,13 +35,13 @@ class FrmAdvanced : public PlacedDialog {
   void SaveAdvancedFromDialog();
   void ShowDefaults();
   void ShowSamples();
-  /// What would be stored, as a run reads it.
+  /// The settings in the controls, as a run would read them after "OK".
   AdvancedSettings Settings() const;
 
   KeyValueTree& tree_;
   std::map<const Field<AdvancedSettings>*, QWidget*> controls_;
   QLabel* picHueStart_ = nullptr;
-  QLabel* picMessage_ = nullptr;  // the message as it will look
+  QLabel* picMessage_ = nullptr;  // a sample of the message
 };
 
 }  // namespace starfolds

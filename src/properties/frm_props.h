@@ -24,27 +24,27 @@
 
 namespace starfolds {
 
-/// What the dialog needs of its surroundings. All of it outlives the dialog.
+/// The arguments of the dialog. All references must outlive it.
 struct PropsSurroundings {
   ProcessState& Process;  // the state of the process: its pump and flags
-  KeyValueTree& Tree;     // what is edited, without the settings that hold for this run alone
+  KeyValueTree& Tree;     // the edited settings, below those that override them for this run
   MessageBoxes& Boxes;
   Files& Disk;
   Help& HelpBook;
   std::string ProgramFolder;
   std::string UserFolder;
   std::function<std::uint64_t()> Seed;  // of each preview
-  QWindow* Owner = nullptr;             // waits behind the dialog
-  std::string HomePage = {};            // address of the product's; empty where it has none
-  /// Windows of other layers, which open over the dialog and return when they are closed.
+  QWindow* Owner = nullptr;             // blocked while the dialog is open
+  std::string HomePage = {};            // address of the project's page; empty if it has none
+  /// Show dialogs of other layers; they return when these are closed.
   std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
   std::function<void(QWidget& over)> ShowAbout = nullptr;
-  std::vector<std::string> Overrides = {};  // settings that hold for this run alone, in words
+  std::vector<std::string> Overrides = {};  // the settings that override the edited ones, as texts
 };
 
 /// Edits the universe in its controls and the bodies in memory; nothing reaches the stored tree
-/// before "Accept Settings". It has a state of its own for the records and previews, so that a run
-/// beside it, which waits in its pump meanwhile, finds everything as it left it.
+/// before "Accept Settings". It has a `ProcessState` of its own for records and previews, so that a
+/// run of the same process, which waits in its pump meanwhile, is not affected.
 class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxes {
   Q_OBJECT
 
@@ -52,10 +52,11 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   explicit FrmProps(const PropsSurroundings& surroundings);
   ~FrmProps() override;
 
-  /// Shows the dialog, asks what has to be asked at its opening, and returns when it is closed.
+  /// Shows the dialog, with the messages that are due at its opening, and returns when it is
+  /// closed.
   void ShowModal();
 
-  /// The two steps of it, for who runs the events otherwise: a test.
+  /// The two steps of `Run`, for tests, which run the events themselves.
   void Open();
   bool IsOpen() const { return open_; }
 
@@ -64,7 +65,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  // What the flows of the settings ask of the dialog.
+  // `PropertiesDialog`.
   std::string UniverseText(const Field<UniverseSettings>& field) const override;
   void SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) override;
   void ClearProfileList() override;
@@ -78,7 +79,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   ProgressPicture* Preview() override;
   bool ShowWelcomeDialog(const WelcomePage& page) override;
 
-  // What the editors of a body ask of it.
+  // `PropsBoxes`.
   UniverseSettings UniverseOnDialog() const override { return universe_->Settings(); }
   void SetStarfoldBox(int index, const std::string& text) override {
     starfold_->SetBox(index, text);
@@ -110,7 +111,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void PreviewOne(QPushButton* button, int body, bool isComposite);
 
   PropsSurroundings around_;
-  std::unique_ptr<ProcessState> editing_;  // what the dialog edits and previews
+  std::unique_ptr<ProcessState> editing_;  // the edited records and their previews
   std::unique_ptr<WatchfulPump> events_;
   PropsModel model_;
   TemplateFile template_;

@@ -23,13 +23,13 @@ constexpr int kStatusHeight = 12;
 constexpr int kBannerHeight = 96;
 constexpr int kBannerBodies[] = {9, 18, 22, 38};
 
-/// With its double blanks.
+/// The double blanks are part of the text.
 QString AsItStands(const QString& text) {
   return "<span style='white-space: pre-wrap'>" + text.toHtmlEscaped() + "</span>";
 }
 
-/// The page's blocks are parted by empty lines. One of several lines is a list: the notes come
-/// first, then what is new.
+/// The page's paragraphs are separated by empty lines. One of several lines is a list: first the
+/// notes, then the new features.
 QString PageAsHtml(const QString& text) {
   QStringList headings = {"Notes", "New in this version"};
   QString html;
@@ -47,7 +47,7 @@ QString PageAsHtml(const QString& text) {
   return html;
 }
 
-/// Some of the factory's bodies in a row.
+/// A row of pictures of factory bodies.
 QImage Banner(qreal ratio) {
   const auto factory = std::make_unique<SettingsRecords>();
   LoadFactorySet(*factory, FactorySet::Starfolds4x);
@@ -118,7 +118,7 @@ void FrmWelcome::AddButtons(const WelcomePage& page) {
   picStatus_->setAccessibleName("Progress of the safety copy");
   picStatus_->setFixedHeight(kStatusHeight);
   QSizePolicy policy = picStatus_->sizePolicy();
-  policy.setRetainSizeWhenHidden(page.OffersReset);  // the dialog does not jump
+  policy.setRetainSizeWhenHidden(page.OffersReset);  // so that the layout does not change
   picStatus_->setSizePolicy(policy);
   picStatus_->hide();
   column_->addWidget(picStatus_);
@@ -141,7 +141,7 @@ void FrmWelcome::AddButtons(const WelcomePage& page) {
   column_->addLayout(buttons);
 }
 
-/// Nothing closes the dialog while the copy is written, which may show a message of its own.
+/// The dialog cannot be closed while the copy is written, which may show a message box.
 void FrmWelcome::Reset() {
   saving_ = true;
   cmdReset_->setEnabled(false);

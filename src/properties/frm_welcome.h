@@ -1,4 +1,4 @@
-// The dialog that greets a new user, and one who comes from an earlier version.
+// The dialog shown once to a new user, and after an upgrade.
 #pragma once
 
 #include <QDialog>
@@ -13,7 +13,7 @@ class QVBoxLayout;
 
 namespace starfolds {
 
-/// Writes the safety copy of the settings, and shows in the picture how far it has come.
+/// Writes the safety copy of the settings, and shows its progress in the picture.
 using SafetyCopy = std::function<void(ProgressPicture*)>;
 
 class FrmWelcome : public QDialog {
@@ -23,7 +23,7 @@ class FrmWelcome : public QDialog {
   FrmWelcome(const WelcomePage& page, SafetyCopy saveCopy, Help& helpBook,
              QWidget* parent = nullptr);
 
-  /// Whether the user asked for the factory settings; then the safety copy has been written.
+  /// Whether the user chose the factory settings; then the safety copy has been written.
   bool ResetRequested() const { return resetRequested_; }
 
   void reject() override;
@@ -43,7 +43,7 @@ class FrmWelcome : public QDialog {
   PictureBox* picStatus_ = nullptr;
 };
 
-/// Shows the dialog over `parent` until it is dismissed. True: a reset was asked for.
+/// Shows the dialog over `parent` until it is dismissed. True if the user chose the reset.
 bool RunWelcome(QWidget* parent, const WelcomePage& page, const SafetyCopy& saveCopy,
                 Help& helpBook);
 

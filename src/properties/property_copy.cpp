@@ -11,7 +11,7 @@
 namespace starfolds {
 namespace {
 
-constexpr int kAllRoom = 1000;  // as against the empty room beside the other two
+constexpr int kAllRoom = 1000;  // stretch factor, against the empty space beside the other two
 
 }  // namespace
 
@@ -52,7 +52,7 @@ void PropertyCopy::LayOut() {
     box->setMinimumContentsLength(20);
     box->setMaxVisibleItems(20);
   }
-  // One of the three is there at a time, and none of them moves the others.
+  // One of the three is visible at a time, in the same place.
   auto* value = new QHBoxLayout;
   value->addWidget(range_);
   value->addWidget(text_);
@@ -75,7 +75,7 @@ void PropertyCopy::LayOut() {
 void PropertyCopy::ConnectControls() {
   connect(property_, &QComboBox::currentIndexChanged, this, &PropertyCopy::SetupPropCopyValue);
   connect(text_, &NumberBox::Left, this, &PropertyCopy::ClampPropCopyValue);
-  // Its mnemonic presses the button without leaving the box.
+  // The mnemonic presses the button without taking the focus from the box.
   connect(copy_, &QPushButton::clicked, this, [this] {
     if (HasValue()) ClampPropCopyValue();
     CopyPropertyToAllProfiles();
@@ -112,7 +112,7 @@ void PropertyCopy::ShowTextBox(const CopyRow& row) {
   ShowValueControl(*text_, row);
 }
 
-/// The first one that comes into an empty list is selected.
+/// Qt selects the first entry that is added.
 void PropertyCopy::ShowChoices(const CopyRow& row) {
   for (const std::string_view name : row.Choices()) choice_->addItem(Shown(name));
   ShowValueControl(*choice_, row);

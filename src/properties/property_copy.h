@@ -20,16 +20,16 @@ class PropertyCopy : public QWidget {
  public:
   explicit PropertyCopy(const PropsModel& model, QWidget* parent = nullptr);
 
-  /// Shows the control for the value of the property at `position` of the list, empty; none of them
-  /// beyond the ends of the list.
+  /// Shows the empty control for a value of the property at `position` of the list; no control if
+  /// the position is out of range.
   void SetupPropCopyValue(int position);
-  /// Holds the number to the property's range. Runs by itself when its box is left.
+  /// Clamps the number to the property's range. Called when its box loses the focus.
   void ClampPropCopyValue();
-  /// Copies, or says what is missing.
+  /// Copies the value, or shows a message if property or value is missing.
   void CopyPropertyToAllProfiles();
 
  signals:
-  /// Records have changed.
+  /// The records have changed.
   void Copied();
 
  private:

@@ -1,4 +1,4 @@
-// What can be copied into all profiles at once, without the widgets.
+// The properties that can be copied into all profiles, without widgets.
 #pragma once
 
 #include <optional>
@@ -12,7 +12,7 @@
 
 namespace starfolds {
 
-/// Where the value comes from: `txtPropCopy`, `cboPropCopy`, `chkPropCopy`.
+/// The control for the value: `txtPropCopy`, `cboPropCopy`, `chkPropCopy`.
 enum class CopyControl { Text, Choice, Check };
 
 using NameList = std::span<const std::string_view> (*)();
@@ -25,8 +25,9 @@ struct CopyRow {
   CopyControl Control = CopyControl::Text;
   NumberRange Range = {};      // of the number, if the entry has its own text
   NameList Choices = nullptr;  // of the list
-  std::optional<Setting<StarfoldProfile>> Target = {};  // what is changed; nullopt: nothing
-  Styles Skipped{};                                     // profiles of these styles are left alone
+  std::optional<Setting<StarfoldProfile>> Target =
+      {};            // the setting that is changed; nullopt: none
+  Styles Skipped{};  // profiles of these styles are not changed
 };
 
 /// In the order of the list.
@@ -38,7 +39,7 @@ NumberRange RangeOf(const CopyRow& row);
 std::string RangeText(const NumberRange& range);
 
 /// Writes the value into the row's target in all profiles but those of skipped styles, rounded
-/// where the target is a whole number. False if the row has no target.
+/// if the target is a whole number. False if the row has no target.
 bool CopyProperty(const CopyRow& row, Single value, ProfileArray& profiles);
 
 }  // namespace starfolds

@@ -16,10 +16,9 @@ namespace {
 
 constexpr QSize kShapeSize{120, 60};
 constexpr QSize kHueSize{220, 22};
-constexpr Integer kDefaultColorRule = 3;
-// What the styles without a choice of colour rule have.
+constexpr Integer kDefaultColorRule = 3;  // after a style that has its own rule
 
-// The lines that have a control beside their boxes.
+// The lines with another control beside their boxes.
 constexpr int kDistanceLabel = 1;
 constexpr int kLevelsLabel = 90;
 constexpr int kColorLabel = 7;
@@ -71,9 +70,9 @@ void StarfoldView::LoadProfileToPage(int index) {
 }
 
 void StarfoldView::StorePageToProfile(int index) {
-  StoreBoxes(page_, Numbers::Held);
+  StoreBoxes(page_, Numbers::Clamped);
   StarfoldProfile& profile = model_.Profiles()[index];
-  // Name and weight belong to the other view.
+  // Name and weight are edited in the universe view.
   page_.UniFoldName = profile.UniFoldName;
   page_.UniFoldPct = profile.UniFoldPct;
   profile = page_;
@@ -92,7 +91,7 @@ void StarfoldView::SetBox(int index, const std::string& text) {
 
 StarfoldProfile StarfoldView::Page() const {
   StarfoldProfile shown = page_;
-  StoreBoxes(shown, Numbers::Held);
+  StoreBoxes(shown, Numbers::Clamped);
   return shown;
 }
 
@@ -124,7 +123,7 @@ void StarfoldView::ApplyStyle(int style) {
   cmdIFS_Chem_->setText(Escaped(facts.BodyEditorCaption));
 }
 
-/// A row without points or atoms leaves the profile's own alone.
+/// If the row has no points or atoms, those of the profile are kept.
 void StarfoldView::ApplyFactoryRowToPage(std::string_view row) {
   const StarfoldProfile before = page_;
   DecodeProfileRow(page_, row);
@@ -280,13 +279,13 @@ void StarfoldView::LoadBoxes() {
   ShowSamples();
 }
 
-/// Only what the style shows is taken; what it hides keeps its value.
+/// Stores only the boxes that the style shows; hidden settings keep their values.
 void StarfoldView::StoreBoxes(StarfoldProfile& profile, Numbers numbers) const {
   const int style = Style();
   for (const auto& [row, box] : boxes_) {
     if (!IsShown(*row, style)) continue;
-    const bool held = numbers == Numbers::Held;
-    const std::string text = held ? ClampedText(box->Text(), RangeOf(*row, style)) : box->Text();
+    const bool clamped = numbers == Numbers::Clamped;
+    const std::string text = clamped ? ClampedText(box->Text(), RangeOf(*row, style)) : box->Text();
     SetFieldNumber(profile, FieldOf(*row, style), LenientNumber(text));
   }
   profile.Starfold_AxisPlane = static_cast<Integer>(cboFoldPlane_->currentIndex());

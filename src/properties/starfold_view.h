@@ -17,8 +17,8 @@
 
 namespace starfolds {
 
-/// The page edits a copy of the profile; `StorePageToProfile` brings it back. The copy holds what
-/// the boxes of another style last showed, so that trying a style and going back loses nothing.
+/// The page edits a copy of the profile, which `StorePageToProfile` stores. The copy keeps the last
+/// values of boxes that another style hides, so that trying a style and going back loses nothing.
 class StarfoldView : public QWidget {
   Q_OBJECT
 
@@ -27,16 +27,16 @@ class StarfoldView : public QWidget {
 
   /// Shows profile `index`.
   void LoadProfileToPage(int index);
-  /// Puts what the page shows into profile `index`, every number clamped.
+  /// Stores the page in profile `index`, with every number clamped.
   void StorePageToProfile(int index);
 
-  /// Takes what profile `index` has by now where the page has no box for it. The boxes keep what
-  /// they show: it is stored with the page.
+  /// Reloads the settings without a box from profile `index`. The values of the boxes are kept and
+  /// stored with the page.
   void TakeProfile(int index);
   /// Shows a number in `txtStarfold(index)`.
   void SetBox(int index, const std::string& text);
 
-  /// What would be stored.
+  /// The profile as it would be stored.
   StarfoldProfile Page() const;
 
   /// Position of `cboFoldExtras`.
@@ -44,18 +44,18 @@ class StarfoldView : public QWidget {
 
   /// Shows, hides and labels the rows for the style.
   void ApplyStyle(int style);
-  /// Applies a row of the factory's to the page: all but name and weight.
+  /// Applies a factory row to the page, except name and weight.
   void ApplyFactoryRowToPage(std::string_view row);
 
  signals:
-  /// Something on the page is another.
+  /// A value of the page has changed.
   void Changed();
   /// `cmdFoldLevels` and `cmdIFS_Chem`.
   void LevelsAskedFor();
   void BodyEditorAskedFor();
 
  private:
-  /// A label and the boxes that it speaks of.
+  /// A label and its boxes.
   struct Line {
     int Label;
     QLabel* Text;
@@ -73,7 +73,7 @@ class StarfoldView : public QWidget {
   void AddPixHue(QGridLayout& page);
 
   void LoadBoxes();
-  enum class Numbers { Held, AsTyped };  // to their ranges, or not
+  enum class Numbers { Clamped, AsTyped };
   void StoreBoxes(StarfoldProfile& profile, Numbers numbers) const;
   void ChangeStyle(int style);
   void ChooseTheme(int position);
@@ -82,7 +82,7 @@ class StarfoldView : public QWidget {
 
   PropsModel model_;
   StarfoldProfile page_;
-  bool loading_ = false;  // the controls follow the copy, not the other way round
+  bool loading_ = false;  // the controls are being set from the copy
 
   std::map<const StarfoldRow*, NumberBox*> boxes_;  // txtStarfold and txtPixHue
   std::vector<Line> lines_;

@@ -23,7 +23,7 @@ constexpr int kProfileNameLength = 30;  // characters of an entry of `cboUniProf
 constexpr QSize kSampleSize{160, 90};
 constexpr QSize kHueSize{188, 14};
 
-/// The three settings of a universe that are on or off, and what their boxes are called.
+/// The Boolean settings of a universe and the names of their check boxes.
 struct Check {
   Setting<UniverseSettings> What;
   const char* Name;
@@ -395,7 +395,7 @@ void UniverseView::EnableTour() {
   rampBox_->setEnabled(tour && checks_.at(&FieldOf(&U::Universe_RotCam))->isChecked());
 }
 
-/// The toolkit has put the entry in place of the text already.
+/// Qt has already replaced the text by the entry.
 void UniverseView::AddTourBody(int position) {
   QString text = tourText_.trimmed();
   if (!text.isEmpty()) text += ' ';

@@ -1,5 +1,5 @@
-// The universe view of the properties dialog: the bodies with their weights, and all that makes a
-// universe.
+// The universe view of the properties dialog: the bodies with their weights, and the settings of
+// the universe.
 #pragma once
 
 #include <QCheckBox>
@@ -28,26 +28,26 @@ class UniverseView : public QWidget {
  public:
   explicit UniverseView(const PropsModel& model, QWidget* parent = nullptr);
 
-  /// The text of the control of a universe setting: what is typed, "0" or "1" of a check box, the
-  /// position in a list.
+  /// The text of the control of a universe setting: the typed text, "0" or "1" of a check box, or
+  /// the position in a list.
   std::string Text(const Field<UniverseSettings>& field) const;
   void SetText(const Field<UniverseSettings>& field, const std::string& text);
-  /// Holds every number to its range, as leaving its box does.
+  /// Clamps the number of every box to its range.
   void ClampTextFields();
-  /// All of them, as the run would have them.
+  /// All settings of the universe, clamped as in a run.
   UniverseSettings Settings() const;
 
   BodyList& Bodies() { return *lstUniStarfold_; }
   CompositeEditor& Composites() { return *composites_; }
 
-  /// Adds to `lstUniStarfold`. Whoever has added the last one calls `BodiesChanged`.
+  /// Adds an entry to `lstUniStarfold`. After the last one `BodiesChanged` must be called.
   void AddProfileEntry(std::string_view name, int weight);
-  /// Anew from the records, with the entry that was selected.
+  /// Refills the list from the records and keeps the selection.
   void RebuildProfileList();
-  /// Lets everything that shows the list of bodies follow it.
+  /// Updates all controls that list the bodies.
   void BodiesChanged();
 
-  /// Positions of `cboUniTheme` and `cboUniExtras`.
+  /// Select a position of `cboUniTheme` and `cboUniExtras`.
   void SelectTheme(int position) { cboUniTheme_->setCurrentIndex(position); }
   void SelectPage(int position) { cboUniExtras_->setCurrentIndex(position); }
   int ShownPage() const { return cboUniExtras_->currentIndex(); }
@@ -59,7 +59,7 @@ class UniverseView : public QWidget {
   /// `cmdFoldProps`: the selected body, or -1.
   void PropsAskedFor(int index);
   void CompositePreviewAskedFor();
-  /// The records of profiles were changed here.
+  /// Records of profiles were changed by this view.
   void ProfilesChanged();
 
  private:
