@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "floor_loop.h"
+#include "minimal_loop.h"
 #include "scenes/scenes.h"
 
 namespace {
@@ -22,8 +22,8 @@ starfolds::scenes::BodyStage PlainBody(starfolds::Integer stars) {
 }  // namespace
 
 /// The functions that callgrind counts, with C linkage so that it finds their names.
-extern "C" void CountedFloor(starfolds::Floor& floor) {
-  for (int i = 0; i < kFrames; ++i) floor.Step();
+extern "C" void CountedMinimalLoop(starfolds::MinimalLoop& minimal) {
+  for (int i = 0; i < kFrames; ++i) minimal.Step();
 }
 
 extern "C" void CountedStep(starfolds::scenes::BodyStage& stage) {
@@ -34,10 +34,10 @@ int main(int argc, char** argv) {
   if (argc < 3) return 2;
   auto stage = PlainBody(static_cast<starfolds::Integer>(std::atoi(argv[2])));
   stage.Step();  // until every star has settled
-  if (std::string_view(argv[1]) == "floor") {
-    starfolds::Floor floor(stage);
-    auto* volatile counted = &CountedFloor;  // prevents inlining
-    counted(floor);
+  if (std::string_view(argv[1]) == "minimal") {
+    starfolds::MinimalLoop minimal(stage);
+    auto* volatile counted = &CountedMinimalLoop;  // prevents inlining
+    counted(minimal);
   } else {
     auto* volatile counted = &CountedStep;
     counted(stage);

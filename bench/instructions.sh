@@ -14,13 +14,13 @@ count() {
     "$program" "$@" 2>&1 | sed -n 's/.*Collected : \([0-9]*\).*/\1/p'
 }
 
-printf '\n%-8s %12s %12s %8s\n' stars floor/star step/star ratio
+printf '\n%-8s %12s %12s %8s\n' stars minimal/star step/star ratio
 for stars in 1000 5000 30000; do
-  floor=$(count star_instructions CountedFloor floor "$stars")
+  minimal=$(count star_instructions CountedMinimalLoop minimal "$stars")
   step=$(count star_instructions CountedStep step "$stars")
-  awk -v stars="$stars" -v floor="$floor" -v step="$step" -v frames="$frames" 'BEGIN {
-    printf "%-8d %12.1f %12.1f %8.2f\n", stars, floor / stars / frames, step / stars / frames,
-      step / floor }'
+  awk -v stars="$stars" -v minimal="$minimal" -v step="$step" -v frames="$frames" 'BEGIN {
+    printf "%-8d %12.1f %12.1f %8.2f\n", stars, minimal / stars / frames, step / stars / frames,
+      step / minimal }'
 done
 
 printf '\n%-16s %8s %14s %12s\n' template values instructions each

@@ -1,8 +1,8 @@
 // The star step, compared with the least that any program must do for a star: read its position,
 // rotate it, project it, and write two pixels. Compare the ns/star columns of the same run as a
 // ratio, which does not depend on the machine's speed.
-#include "floor_loop.h"
 #include "measure.h"
+#include "minimal_loop.h"
 
 namespace starfolds {
 namespace {
@@ -23,12 +23,12 @@ scenes::BodyStage PlainBody(const benchmark::State& state) {
 
 void FloorLoop(benchmark::State& state) {
   scenes::BodyStage stage = PlainBody(state);
-  Floor floor(stage);
+  MinimalLoop minimal(stage);
   for (auto _ : state) {
-    floor.Step();
+    minimal.Step();
     benchmark::ClobberMemory();
   }
-  CountStars(state, floor.X.size());
+  CountStars(state, minimal.X.size());
 }
 
 void StandardStars(benchmark::State& state) {

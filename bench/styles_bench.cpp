@@ -4,8 +4,8 @@
 #include <string>
 
 #include "bodies/comets.h"
-#include "floor_loop.h"
 #include "measure.h"
+#include "minimal_loop.h"
 #include "settings/factory.h"
 #include "universe/ambient.h"
 #include "universe/universe_run.h"
@@ -67,12 +67,12 @@ void MeasureStep(benchmark::State& state, FoldStyle style, Integer trail) {
 }
 
 void FloorLoop(benchmark::State& state) {
-  Floor floor(FactoryBody(FactoryRowOf(FoldStyle::Standard), kStars, 1));
+  MinimalLoop minimal(FactoryBody(FactoryRowOf(FoldStyle::Standard), kStars, 1));
   for (auto _ : state) {
-    for (int frame = 0; frame < kBatch; ++frame) floor.Step();
+    for (int frame = 0; frame < kBatch; ++frame) minimal.Step();
     benchmark::ClobberMemory();
   }
-  CountStars(state, floor.X.size() * kBatch);
+  CountStars(state, minimal.X.size() * kBatch);
 }
 
 FoldStyle StyleOf(const benchmark::State& state) { return static_cast<FoldStyle>(state.range(0)); }

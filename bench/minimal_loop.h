@@ -9,14 +9,14 @@ namespace starfolds {
 
 /// The minimal loop that draws the same picture: one body, without flares, profiles, levels and
 /// hues, on arrays and a canvas of the same size, with the same arithmetic.
-struct Floor {
+struct MinimalLoop {
   std::vector<Single> X, Y, Z, Cos, Sin;
   std::vector<Long> OldX, OldY;
   std::vector<Colour> Tint, Canvas;
   int Width, Height;
   double Focal, TiltCos, TiltSin, Distance;
 
-  explicit Floor(const scenes::BodyStage& stage)
+  explicit MinimalLoop(const scenes::BodyStage& stage)
       : OldX(stage.Run->Stars.Star.size()),
         OldY(OldX.size()),
         Canvas(static_cast<std::size_t>(stage.Canvas.Width()) * stage.Canvas.Height()),
