@@ -26,12 +26,12 @@ TEST(AtomRows, AreReadBackAsTheyWereWritten) {
   }
 }
 
-TEST(AtomRows, HoldWhatNoColumnHasRoomFor) {
+TEST(AtomRows, ClampNumbersToTheirColumns) {
   const AtomPoint read = ReadAtomRow(FormatAtomRow({99, -1, 32767, 10000, -5, -32768, 12345}));
   EXPECT_EQ(FormatAtomRow(read), FormatAtomRow({17, 0, 9999, 9999, 0, 0, 9999}));
 }
 
-TEST(AtomRows, OfNonsenseGiveAnAtom) {
+TEST(AtomRows, OfAnyTextGiveAValidAtom) {
   const std::string hostile[] = {"",
                                  "x",
                                  "Carbon",

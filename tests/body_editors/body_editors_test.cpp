@@ -44,7 +44,7 @@ TEST_F(BodyEditorsTest, EveryThemeGoesToTheRecord) {
   EXPECT_EQ(HashOf(all), "0303c615ea7ebdeaa07e141ff1e0e238") << all.toStdString();
 }
 
-TEST_F(BodyEditorsTest, LevelsAreHeldToTheirRangesAndHandedOn) {
+TEST_F(BodyEditorsTest, LevelsAreClampedAndPassedToThePage) {
   struct Row {
     std::string Typed[5], Held[5];
   };
@@ -76,7 +76,7 @@ TEST_F(BodyEditorsTest, LevelsAreHeldToTheirRangesAndHandedOn) {
   EXPECT_EQ(Text("txtLevel_1"), "1234567") << "as it stands in the record";
 }
 
-TEST_F(BodyEditorsTest, WhatAPreviewGathersStaysAlsoAfterCancel) {
+TEST_F(BodyEditorsTest, ValuesOfAPreviewStayInTheRecordAfterCancel) {
   Open(Kind::Levels);
   Put("txtLevel_0", "6");
   Put("txtStarfold_1", "1500");
@@ -96,7 +96,7 @@ TEST_F(BodyEditorsTest, WhatAPreviewGathersStaysAlsoAfterCancel) {
   EXPECT_TRUE(Props.Texts.empty());
 }
 
-TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDroppedAndTheOthersCloseUp) {
+TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDropped) {
   Record().Starfold_IFS_Points = 5;
   for (IfsPoint& point : Record().IFS.Points) point = {1, 2, 3, 4, 2, 6, 7};
   Open(Kind::Ifs);
@@ -107,7 +107,9 @@ TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDroppedAndTheOthersCloseUp) {
   Put("txtAngle_2", "400");
   Put("txtLocX_2", "");
   List("cboRAxis_4").setCurrentIndex(-1);
+  Put("txtStarfold_0", "0");
   Click("cmdOK");
+  EXPECT_EQ(Props.Texts[0], "0");
   EXPECT_EQ(Record().Starfold_IFS_Points, 3);
   const auto& points = Record().IFS.Points;
   EXPECT_EQ(points[0].IFS_Scale, 4);
@@ -138,7 +140,7 @@ TEST_F(BodyEditorsTest, PointsWithoutAWeightAreDroppedAndTheOthersCloseUp) {
   EXPECT_EQ(Text("txtStarfold_0"), "300") << "the body's own numbers are not cleared";
 }
 
-TEST_F(BodyEditorsTest, WhatIsNoBodyIsRefusedAndTheEditorStays) {
+TEST_F(BodyEditorsTest, AnIncompleteBodyIsRefused) {
   for (const Kind kind : {Kind::Ifs, Kind::Molecule}) {
     Record().Starfold_IFS_Points = Record().Starfold_Atoms = 3;
     Open(kind);
