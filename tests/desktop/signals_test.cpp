@@ -23,7 +23,7 @@ TEST_P(StopSignalsTest, StopTheRunFromInsideThePumpAndAreKeptUntilSomebodyWatche
   EXPECT_TRUE(PumpUntil([&] { return Stops == 2; }));
 }
 
-TEST_P(StopSignalsTest, StayIgnoredWhereTheyWere) {
+TEST_P(StopSignalsTest, StayIgnoredIfTheParentIgnoresThem) {
   const auto former = signal(GetParam(), SIG_IGN);
   {
     StopSignals signals_;

@@ -183,7 +183,7 @@ class WindowInputTest : public WindowSurfaceTest {
   void Send(QEvent&& event) { QCoreApplication::sendEvent(&Target.Window(), &event); }
 };
 
-TEST_F(WindowInputTest, OnlyKeysOfAPersonWhoWantsSomethingCount) {
+TEST_F(WindowInputTest, IgnoresRepeatsModifiersAndMediaKeys) {
   for (const int key : {Qt::Key_Shift, Qt::Key_NumLock, Qt::Key_VolumeUp}) {
     Send(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
   }
@@ -201,7 +201,7 @@ TEST_F(WindowInputTest, OnlyKeysOfAPersonWhoWantsSomethingCount) {
   EXPECT_THAT(Heard.Notes, ElementsAre("key " + std::to_string(Qt::Key_A)));
 }
 
-TEST_F(WindowInputTest, ScrollingIsToldButNotWhatRollsOn) {
+TEST_F(WindowInputTest, ReportsScrollingButNotMomentum) {
   const auto scroll = [this](QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
     Send(QWheelEvent({5, 5}, {5, 5}, pixels, angle, Qt::NoButton, Qt::NoModifier, phase, false));
     return Heard.Notes.size();

@@ -80,7 +80,7 @@ TEST_F(FrmSaverTest, EndsWhenItsWindowIsClosedOrGone) {
   EXPECT_EQ(Run(), 10);
 }
 
-TEST_F(FrmSaverTest, FitsAScreenThatChangesItsSizeWithAnotherRunOfTheSettingsStoredThen) {
+TEST_F(FrmSaverTest, AResizedScreenStartsARunWithTheStoredSettings) {
   Events.Plan[3] = [&] {
     EXPECT_EQ(State->Universe.Universe_Stars, 50);
     Store("Universe", "Universe_Stars", 70);

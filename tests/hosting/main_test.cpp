@@ -63,7 +63,7 @@ class MainTest : public testing::Test {
 
 const std::vector<std::string> kSaver{"saver as saver"};
 
-TEST_F(MainTest, GoesByTheCommandLine) {
+TEST_F(MainTest, TheCommandLineChoosesTheWindow) {
   const std::vector<std::string> properties{"properties as saver"};
   const struct {
     std::string CommandLine;

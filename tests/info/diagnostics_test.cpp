@@ -30,7 +30,7 @@ TEST(TestCircle, LiesWithinItsBox) {
   PlotTestCircle(none);
 }
 
-TEST(Grouped, PartsTheThousands) {
+TEST(Grouped, SeparatesThousands) {
   EXPECT_EQ(Grouped(0), "0");
   EXPECT_EQ(Grouped(999), "999");
   EXPECT_EQ(Grouped(1000), "1,000");

@@ -40,7 +40,7 @@ TEST(HelpBookTest, EveryDialogFindsItsOwnTopic) {
   }
 }
 
-TEST(HelpBookTest, TheContentsHoldEveryFileOnceAndEachHasSomethingToSay) {
+TEST(HelpBookTest, EveryFileIsListedOnceAndNotEmpty) {
   const HelpBook book;
   std::set<std::string> files;
   int level = -1;

@@ -21,7 +21,7 @@ TEST(Conversions, RoundsHalvesToEven) {
   }
 }
 
-TEST(Conversions, WhatNo64BitNumberHoldsIsTheLowestOne) {
+TEST(Conversions, ValuesOutOfRangeGiveTheLowestNumber) {
   constexpr std::int64_t lowest = std::numeric_limits<std::int64_t>::min();
   // As constants, which the compiler folds, and as values that it cannot know.
   EXPECT_EQ(RoundHalfEven(1e300), lowest);
@@ -46,7 +46,7 @@ TEST(Conversions, AValueThatDoesNotFitLeavesTheFormerOne) {
   EXPECT_EQ(wide, 7);
 }
 
-TEST(Conversions, WhereAClampFollowsTheLimitsHold) {
+TEST(Conversions, RoundedToLimitsClamps) {
   EXPECT_EQ(RoundedToLimits<Integer>(1e9), 32767);
   EXPECT_EQ(RoundedToLimits<Integer>(-kInfinity), -32768);
   EXPECT_EQ(RoundedToLimits<Integer>(std::nan("")), 0);

@@ -70,7 +70,7 @@ TEST_F(CompositeEditorTest, ShowsTheRecordThatIsSelected) {
   EXPECT_TRUE(ChosenMinors().empty());
 }
 
-TEST_F(CompositeEditorTest, RecordsThatNobodyShouldHaveStoredDoNoHarm) {
+TEST_F(CompositeEditorTest, InvalidRecordsAreHarmless) {
   Process->Composites[1].CompFold_Count = 49;
   Process->Composites[1].CompFold_Type.fill(30000);
   Process->Composites[1].CompFold_Type[5] = -1;

@@ -50,7 +50,7 @@ TEST_F(EditedBodiesTest, OkGoesToThePageAndWithItToTheTree) {
   EXPECT_EQ(body.Starfold_Distance, 1111);
 }
 
-TEST_F(EditedBodiesTest, AProcessThatEndsTakesAPreviewInAnEditorWithIt) {
+TEST_F(EditedBodiesTest, QuittingEndsThePreviewOfAnEditor) {
   StoreFactory();
   Open();
   OpenType(kOfPoints);

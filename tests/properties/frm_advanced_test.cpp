@@ -88,7 +88,7 @@ TEST_F(FrmAdvancedTest, DefaultsStandWhereNothingIsStoredAndChangeOnlyTheControl
   EXPECT_TRUE(Tree == fresh);
 }
 
-TEST_F(FrmAdvancedTest, NumbersAreHeldToTheirRanges) {
+TEST_F(FrmAdvancedTest, NumbersAreClamped) {
   struct Case {
     const char *Box, *Typed, *Held;
   };

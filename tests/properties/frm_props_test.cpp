@@ -22,7 +22,7 @@ namespace {
 
 std::string Shortest(double number) { return NumberText(static_cast<Single>(number)); }
 
-TEST_F(FrmPropsTest, EveryUniverseRowIsHeldStoredAndShownAgain) {
+TEST_F(FrmPropsTest, EveryUniverseRowIsClampedStoredAndShownAgain) {
   StoreFactory();
   for (const bool high : {true, false}) {
     Open();

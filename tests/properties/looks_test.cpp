@@ -56,7 +56,7 @@ class LooksTest : public FrmPropsTest {
   CountingTree Counted{Tree};
 };
 
-TEST_F(LooksTest, WhoReadsManyValuesDoesItInOneLook) {
+TEST_F(LooksTest, ManyValuesAreReadInOneTransaction) {
   EXPECT_EQ(Looks([&] { LoadAdvancedFromRegistry(Counted); }), 1) << "the check itself";
   const auto startRun = [&] {
     MigrateMachineSettings(Counted);

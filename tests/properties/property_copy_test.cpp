@@ -91,7 +91,7 @@ TEST_F(PropertyCopyTest, EveryEntryChangesItsSettingOnly) {
 }
 
 /// The mnemonic of the button leaves no box.
-TEST_F(PropertyCopyTest, TheButtonHoldsTheNumberAndColoursFollow) {
+TEST_F(PropertyCopyTest, TheButtonClampsTheNumberAndUpdatesTheColours) {
   Properties.setCurrentIndex(0);
   Box.SetText("0");
   PressCopy();

@@ -46,7 +46,7 @@ TEST(Factory, TheTablesAreAsPinned) {
 }
 
 /// One level leaves the settings of levels alone; points and atoms drive each other out.
-TEST(Factory, WhatTheRowBeforeLeaves) {
+TEST(Factory, ARowKeepsLevelsAndReplacesPointsAndAtoms) {
   StarfoldProfile record;
   record.Starfold_StdLevels = 3;
   record.Starfold_StdLevDRad = 777;
@@ -62,7 +62,7 @@ TEST(Factory, WhatTheRowBeforeLeaves) {
   }
 }
 
-TEST(Factory, BeyondTheListsIsNothing) {
+TEST(Factory, IndexesOutOfRangeGiveNothing) {
   UniverseSettings universe;
   StarfoldProfile profile;
   profile.UniFoldName = "former";

@@ -30,7 +30,7 @@ class OverridesTest : public testing::Test {
   OverriddenTree Tree{Edited};
 };
 
-TEST_F(OverridesTest, HoldWhateverIsStored) {
+TEST_F(OverridesTest, ReplaceStoredValues) {
   Override({{"Universe_Stars", "5000"},
             {"Universe_Tour", "0"},
             {"Adv_TimeDelay", "40"},
@@ -54,7 +54,7 @@ TEST_F(OverridesTest, HoldWhateverIsStored) {
   EXPECT_TRUE(Stored == Before);
 }
 
-TEST_F(OverridesTest, ValuesToBeginWithAreSeenUntilTheyAreWritten) {
+TEST_F(OverridesTest, InitialValuesAreReadUntilTheyAreStored) {
   SettingsRecords records;
   records.Universe.Universe_Stars = 1111;
   records.Universe.Universe_Starfold = 11;

@@ -57,7 +57,7 @@ void ExpectEveryFieldHolds(std::span<const Field<Record>> fields, std::string_vi
   }
 }
 
-TEST(Storage, EveryFieldIsHeldToItsRangeAndRubbishIsTheDefault) {
+TEST(Storage, EveryFieldIsClampedAndInvalidTextGivesTheDefault) {
   ExpectEveryFieldHolds(UniverseFields(), "Universe", [](MemoryTree tree) {
     UniverseSettings universe = LoadUniverseFromRegistry(tree);
     ClampUniverse(universe);

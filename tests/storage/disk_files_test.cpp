@@ -104,7 +104,7 @@ TEST_F(DiskFilesTest, ReplacesWhatALinkLeadsTo) {
   }
 }
 
-TEST_F(DiskFilesTest, RightsCount) {
+TEST_F(DiskFilesTest, PermissionsAreRespected) {
   fs::create_directory(Folder.Path("shut"));
   Put("shut/u.sfd", "old");
   Put("locked.sfd", "old");

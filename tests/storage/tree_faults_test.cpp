@@ -108,7 +108,7 @@ TEST_F(TreeFaults, ALockedFileIsWaitedForOnce) {
 }
 
 /// For those who may look but not touch, and for those who may do neither.
-TEST_F(TreeFaults, RightsThatAreMissing) {
+TEST_F(TreeFaults, MissingPermissions) {
   using fs::perms;
   const perms look = perms::owner_read | perms::group_read | perms::others_read;
   const perms enter = perms::owner_exec | perms::group_exec | perms::others_exec;

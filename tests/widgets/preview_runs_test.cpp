@@ -128,7 +128,7 @@ TEST_F(PreviewTest, RunsClampAndScaleWithoutTouchingTheRecords) {
   expectUntouched();
 }
 
-TEST_F(PreviewTest, AUniverseIsTheOneOnTheDialogHeldToItsRanges) {
+TEST_F(PreviewTest, AUniverseHasTheClampedValuesOfTheDialog) {
   Dialog.Universe_Stars = 3;
   Dialog.Universe_HW_Start = 5000;
   Dialog.Universe_GS_Idx = "7 66 nothing";

@@ -46,7 +46,7 @@ TEST_F(SamplesTest, EveryBodyFillsItsPictureAndLooksLikeNoOther) {
   }
 }
 
-TEST_F(SamplesTest, ABodyOutOfItsRangesIsDrawnAllTheSame) {
+TEST_F(SamplesTest, ABodyOutOfRangeIsDrawn) {
   StarfoldProfile& profile = Profiles()[0];
   for (const Integer word : {std::numeric_limits<Integer>::min(), Integer{-1}, Integer{0},
                              std::numeric_limits<Integer>::max()}) {
