@@ -21,7 +21,7 @@ constexpr std::chrono::seconds kStepTime{1};
 
 /// The position after `steps` steps of one pixel from `start`, reversing at 0 and at `end`. If
 /// there is no room to move, `start`.
-int Wandered(int start, int end, int steps) {
+int Drifted(int start, int end, int steps) {
   if (end <= 0) return start;
   const int place = (start + steps) % (2 * end);
   return place <= end ? place : 2 * end - place;
@@ -82,8 +82,8 @@ class MessageWindow::Line : public QRasterWindow {
   void Place() {
     const QSize room = parent()->size() - size();
     const int rest = place_ == MessagePlace::UpperEdge ? kRoom : room.height() - kRoom;
-    setPosition(Wandered(room.width() / 2, room.width(), steps_),
-                Wandered(rest, room.height(), steps_));
+    setPosition(Drifted(room.width() / 2, room.width(), steps_),
+                Drifted(rest, room.height(), steps_));
   }
 
   MessagePlace place_;
