@@ -67,7 +67,9 @@ class TemplateSection {
 
   template <class Record>
   void Write(const Field<Record>& field, const Record& record) const {
-    file_.TemplateWrite(name_, TemplateKey(field), FieldText(record, field));
+    const std::string text = FieldText(record, field);
+    if (field.Odd.UsualNotInTemplate && text == DefaultText(field)) return;
+    file_.TemplateWrite(name_, TemplateKey(field), text);
   }
 
   std::string ReadText(const std::string& key) const { return file_.TemplateRead(name_, key, {}); }

@@ -9,7 +9,8 @@ TEST(ClampProfileTest, RangesFollowTheClampedStyle) {
   struct Case {
     int Style, Segs, ExpectedStyle, ExpectedSegs;
   };
-  for (const Case& c : {Case{2, 2, 2, 4}, Case{12, 500, 9, 99}, Case{-4, 0, 0, 1}}) {
+  for (const Case& c :
+       {Case{2, 2, 2, 4}, Case{kStyleCount + 2, 500, kStyleCount - 1, 99}, Case{-4, 0, 0, 1}}) {
     StarfoldProfile profile;
     profile.Starfold_FoldStyle = static_cast<Integer>(c.Style);
     profile.Starfold_RadSegs = static_cast<Integer>(c.Segs);
