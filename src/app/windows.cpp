@@ -13,6 +13,7 @@
 #include "hosting/frm_saver.h"
 #include "info/frm_about.h"
 #include "info/frm_system_diag.h"
+#include "numbers/text.h"
 #include "platform/console.h"
 #include "properties/frm_props.h"
 #include "settings/former_settings.h"
@@ -119,12 +120,12 @@ void AppWindows::LoadTemplate(const std::string& path) {
   DiskFiles disk;
   TemplateFile file(disk);
   if (const auto fault = file.Load(path)) {
-    return Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+    return Fail("cannot read " + Quoted(path) + ": " + *fault, kExitWrongUse);
   }
   TemplateImport done =
       ImportOverFormerSettings(file, path, edited_, process_.Profiles, disk, UserFolder());
   if (done.Fault) {
-    return Fail("cannot store the universe of \"" + path + "\": " + *done.Fault, kExitWrongUse);
+    return Fail("cannot store the universe of " + Quoted(path) + ": " + *done.Fault, kExitWrongUse);
   }
   done.FormerSettings = Harmless(done.FormerSettings);
   Print(ImportNote(Harmless(path), done));
@@ -136,7 +137,7 @@ bool AppWindows::BeginWithTemplate(const std::string& path, KeyValueTree& tree) 
   TemplateFile file(disk);
   const auto fault = StoreTemplate(file, path, tree);
   if (!fault) return true;
-  Fail("cannot read \"" + path + "\": " + *fault, kExitWrongUse);
+  Fail("cannot read " + Quoted(path) + ": " + *fault, kExitWrongUse);
   boxes_.Show(TemplateFaultText(true, path, *fault), BoxStyle::Exclamation,
               std::string(kProductName));
   return false;

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "numbers/text.h"
 #include "render/contact_sheet.h"
 #include "render/options.h"
 #include "render/png_picture.h"
@@ -21,7 +22,7 @@ class PngFolder : public FrameSink {
   Fault Take(FrameNumber frame, const MemorySurface& surface) override {
     std::error_code error;
     fs::create_directories(folder_, error);
-    if (error) return "cannot make the folder \"" + folder_ + "\": " + error.message();
+    if (error) return "cannot make the folder " + Quoted(folder_) + ": " + error.message();
     return WritePng((fs::path(folder_) / FileName(frame)).string(), PictureOf(surface), scale_);
   }
 

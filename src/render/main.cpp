@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "numbers/text.h"
 #include "platform/console.h"
 #include "render/render_run.h"
 #include "settings/stored_records.h"
@@ -36,7 +37,7 @@ Fault Save(const std::string& path, Files& disk, SettingsRecords& records) {
   const Fault fault =
       WriteTemplate(file, tree, records.Universe, records.Profiles, records.Composites, {});
   if (!fault) return std::nullopt;
-  return "cannot write \"" + path + "\": " + *fault;
+  return "cannot write " + Quoted(path) + ": " + *fault;
 }
 
 Fault WriteAll(const RenderOptions& options, Files& disk, SettingsRecords& records) {

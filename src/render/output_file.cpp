@@ -1,5 +1,6 @@
 #include "render/output_file.h"
 
+#include "numbers/text.h"
 #include "render/standard_streams.h"
 
 namespace starfolds {
@@ -21,7 +22,7 @@ Fault OutputFile::Write(std::span<const std::uint8_t> bytes) {
 Fault OutputFile::Commit() { return WithName(writer_.Commit()); }
 
 std::string OutputFile::CannotWrite(const std::string& reason) const {
-  const std::string name = IsStandardOutput(path_) ? "the standard output" : "\"" + path_ + "\"";
+  const std::string name = IsStandardOutput(path_) ? "the standard output" : Quoted(path_);
   return "cannot write " + name + ": " + reason;
 }
 
