@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "storage/plain_file.h"
+#include "storage/tree_file.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/message_boxes.h"
-#include "template_dialogs/template_folders.h"
+#include "template_dialogs/folder_contents.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
 

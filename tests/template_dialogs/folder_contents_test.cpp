@@ -1,4 +1,4 @@
-#include "template_dialogs/template_folders.h"
+#include "template_dialogs/folder_contents.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "storage/plain_file.h"
+#include "storage/tree_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
