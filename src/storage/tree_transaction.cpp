@@ -44,6 +44,9 @@ constexpr std::pair<int, int> kLimits[] = {
     {SQLITE_LIMIT_FUNCTION_ARG, 8},    {SQLITE_LIMIT_ATTACHED, 0},
     {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
 };
+/// Memory of SQLite in this process. To compare a key SQLite reads its whole row, however long, in
+/// one step that cannot be interrupted; a row of more than this fails at once.
+constexpr sqlite3_int64 kMostMemory = sqlite3_int64{64} << 20;
 constexpr int kStepsAtOnce = 1000;  // of SQLite's virtual machine; a value takes about 30
 
 constexpr int kCopyFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
@@ -82,6 +85,7 @@ std::optional<std::string_view> Column(sqlite3_stmt* statement) {
 
 /// Sets the limits, and disables everything in a file that could run code.
 void Distrust(sqlite3* db) {
+  sqlite3_hard_heap_limit64(kMostMemory);
   for (const auto& [limit, value] : kLimits) sqlite3_limit(db, limit, value);
   const std::pair<int, int> switches[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
                                           {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
@@ -143,6 +147,7 @@ int TreeTransaction::Run(const std::function<int()>& statement) {
   if (IsExhausted()) return SQLITE_INTERRUPT;
   const int code = statement();
   worked_ += std::clock() - runningSince_;
+  if ((code & 0xFF) == SQLITE_NOMEM) trouble_ = TreeTrouble::TooMuch;
   return code;
 }
 

@@ -149,6 +149,15 @@ TEST_F(TreeFile, WhatOnlyLooksLikeATreeIsSetAside) {
   EXPECT_EQ(Stored.Complaints.size(), std::size(forms));
 }
 
+/// To compare keys, SQLite would read it whole, again and again.
+TEST_F(TreeFile, ARowThatFillsTheMemoryIsGivenUp) {
+  ASSERT_TRUE(Stored.Save("old", 2));
+  sqlite3_hard_heap_limit64(0);  // for the stranger
+  RunSql(File, "PRAGMA synchronous=OFF; INSERT INTO tree VALUES ('P', '00', zeroblob(70000000))");
+  EXPECT_EQ(Stored.Saved(2), "unread");
+  EXPECT_EQ(Stored.Complaints.size(), 1U);
+}
+
 TEST_F(TreeFile, AnEndlessSchemaIsGivenUp) {
   fs::create_directory(Folder.Path("config"));
   RunSql(File,
