@@ -45,6 +45,7 @@ SOAK = Row("soak", "memory and open files do not grow with the universes shown")
 
 def attempt(row, action, share, shop, *more):
     """A trial that cannot be made is a failure of its row, and the other rows go on."""
+    print(f"endure: {row.name}", flush=True)
     begin = time.monotonic()
     shop.mkdir()
     try:

@@ -3,8 +3,9 @@ import shutil
 import signal
 import sqlite3
 import subprocess
+import threading
 
-from common import RENDER, ROOT, SAVER, end, environment, run, start
+from common import PATIENCE, RENDER, ROOT, SAVER, end, environment, run, start, wait
 
 OLD_TEMPLATE = ROOT / "templates/clockwork.sfd"
 NEW_TEMPLATE = ROOT / "templates/fern-house.sfd"
@@ -54,14 +55,15 @@ class TreeSave(Operation):
         template is stored), standard output and standard error."""
         env = environment(self.shop / "home", XDG_CONFIG_HOME=str(self.target))
         process = start([*prefix, SAVER, template], env=env, stdout=subprocess.PIPE,
-                        stderr=subprocess.PIPE, restore_signals=True)
-        first_line = process.stdout.readline()  # or nothing, at the end of the process
-        code = end(process, signal.SIGTERM) if first_line else None
+                        stderr=subprocess.PIPE)
+        hung = threading.Event()
+        watchdog = threading.Timer(PATIENCE, lambda: (hung.set(), end(process)))
+        watchdog.start()
+        first_line = process.stdout.readline()  # empty if the process ends without one
+        watchdog.cancel()
+        code = end(process, signal.SIGTERM) if first_line else wait(process)
         rest, err = process.communicate()
-        if not first_line:
-            end(process)  # forgets it
-            code = process.returncode
-        return code, first_line + rest, err
+        return None if hung.is_set() else code, first_line + rest, err
 
     def run(self, prefix=()):
         return self._import(NEW_TEMPLATE, prefix)
