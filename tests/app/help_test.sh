@@ -7,7 +7,7 @@ program=$1
 # wait_for_window TITLE-PATTERN: prints its number.
 wait_for_window() {
   local found
-  for _ in $(seq 1 100); do
+  for _ in $(seq 1 300); do
     found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1)
     [ -n "$found" ] && echo "$found" && return
     sleep 0.1
@@ -17,7 +17,7 @@ wait_for_window() {
 
 # expect_title WINDOW TITLE WHAT
 expect_title() {
-  for _ in $(seq 1 50); do
+  for _ in $(seq 1 300); do
     [ "$(xdotool getwindowname "$1" 2>/dev/null)" = "$2" ] && return
     sleep 0.1
   done

@@ -34,11 +34,32 @@ expect() {
   done
 }
 
+fail() {
+  echo "$1" >&2
+  faults=$((faults + 1))
+}
+
+# wait_until COMMAND...: until it succeeds, for at most thirty seconds.
+wait_until() {
+  for _ in $(seq 1 600); do
+    "$@" && return
+    sleep 0.05
+  done
+  return 1
+}
+
+# Before that a signal ends the process with another exit code.
+catches_signals() {
+  local caught
+  caught=$(sed -n 's/^SigCgt:\t/0x/p' "/proc/$1/status")
+  [ $((${caught:-0} & 0x4000)) != 0 ] # SIGTERM
+}
+
 unset DISPLAY WAYLAND_DISPLAY
 export QT_QPA_PLATFORM=offscreen
 # runs ARGUMENT...: stays until it is told to end, and says nothing.
 runs() {
-  timeout -k 5 -s TERM 2 "$program" "$@" 2>"$errors" </dev/null
+  timeout -k 60 -s TERM 2 "$program" "$@" 2>"$errors" </dev/null
   local got=$?
   sed -i '/^QStandardPaths: /d; /^This plugin does not support/d' "$errors"
   if [ "$got" != 124 ] || [ -s "$errors" ]; then
@@ -61,11 +82,10 @@ template="$XDG_CONFIG_HOME/a universe.sfd"
 "$render" --theme 3 --set Universe_Stars=1234 --save "$template"
 # What was stored before is kept beside the settings, unless it came with the program.
 for said in 'To get the factory settings back' 'kept in ".*/Tessellane/former-settings-1.sfd"'; do
-  timeout -s TERM 2 "$program" "$template" >"$output" 2>"$errors"
-  if [ $? != 124 ] || ! grep -q "$said" "$output"; then
-    echo "the template did not show, or said nothing of '$said'" >&2
-    faults=$((faults + 1))
-  fi
+  "$program" "$template" >"$output" 2>"$errors" &
+  wait_until grep -q "$said" "$output" || fail "the program says nothing of '$said'"
+  kill -TERM $!
+  wait $! || fail "after a template: exit code $?"
 done
 XDG_CONFIG_HOME=/dev/null expect 2 '' 'cannot store the universe of' "$template"
 "$render" --stored --save "$XDG_CONFIG_HOME/stored.sfd"
@@ -107,7 +127,7 @@ export XDG_RUNTIME_DIR
 # expect_one PROCESS...: waits until all the others have gone, and sets `one`.
 expect_one() {
   local process
-  for _ in $(seq 1 200); do
+  for _ in $(seq 1 600); do
     one=
     for process in "$@"; do
       case $(ps -o stat= -p "$process") in
@@ -133,6 +153,7 @@ kill -9 $one
 wait $one 2>/dev/null
 "$program" --saver &
 saver=$!
+wait_until catches_signals $saver || fail "the saver after a killed one does not start"
 sleep 0.5
 expect_one $saver
 kill -TERM $saver

@@ -18,14 +18,18 @@ xsetroot -solid '#ff00ff'
 for scale_and_area in 1:1 1.25:1 1.5:2 2:4; do
   scale=${scale_and_area%:*}
   QT_SCALE_FACTOR=$scale start "$program" --saver --seed 5
-  sleep 1
-  import -silent -window root "$picture"
+  for _ in $(seq 1 100); do
+    import -silent -window root "$picture"
+    seen=$(convert "$picture" -fill black +opaque '#ff00ff' -format '%[fx:ceil(mean*w*h)]' info:)
+    area=
+    [ "$seen" = 0 ] && area=$(usual_area "$picture")
+    [ "$area" = "${scale_and_area#*:}" ] && break
+    sleep 0.3
+  done
   xdotool key a
   expect_end "scale $scale"
 
-  seen=$(convert "$picture" -fill black +opaque '#ff00ff' -format '%[fx:ceil(mean*w*h)]' info:)
   [ "$seen" = 0 ] || fault "scale $scale: the desktop can be seen"
-  area=$(usual_area "$picture")
   [ "$area" = "${scale_and_area#*:}" ] || fault "scale $scale: a star has $area pixels"
 done
 rm "$picture"

@@ -15,11 +15,15 @@ window=$(xdotool search --name "^$caption\$")
 geometry=$(xdotool getwindowgeometry --shell "${window:-0}" | tr '\n' ' ')
 [[ $geometry == *'X=0 Y=0 WIDTH=1920 HEIGHT=1080 '* ]] || fault "the saver stands at $geometry"
 first=$(import -silent -window root -depth 8 rgb:- | cksum)
-sleep 0.3
-[ "$first" != "$(import -silent -window root -depth 8 rgb:- | cksum)" ] || fault "the stars stand still"
+for _ in $(seq 1 300); do
+  second=$(import -silent -window root -depth 8 rgb:- | cksum)
+  [ "$first" != "$second" ] && break
+  sleep 0.1
+done
+[ "$first" != "$second" ] || fault "the stars stand still"
 
 # A second start finds the first and goes away quietly.
-timeout 10 "$program" /S 2>/dev/null || fault "the second saver: exit code $?"
+timeout 30 "$program" /S 2>/dev/null || fault "the second saver: exit code $?"
 [ "$(xdotool search --name "^$caption\$" | wc -l)" = 1 ] || fault "a second saver is there"
 expect_running "while a second one starts"
 kill -TERM "$running"
@@ -34,7 +38,7 @@ expect_end "a key"
 start "$program" --window --set Adv_WinResize=1
 application=$running
 for count in 1 2; do
-  for _ in $(seq 1 200); do
+  for _ in $(seq 1 600); do
     [ "$(xdotool search --name "^$caption\$" | wc -l)" = $count ] && break
     sleep 0.05
   done
@@ -82,7 +86,7 @@ expect_end "Esc"
 start "$program" --window --seed 5
 wait_for_stars
 xdotool key a
-for _ in $(seq 1 200); do
+for _ in $(seq 1 600); do
   xdotool search --name '^Starfold Properties$' >/dev/null && break
   sleep 0.05
 done

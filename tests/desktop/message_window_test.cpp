@@ -23,6 +23,7 @@ class MessageWindowTest : public PumpedTest {
     Target.Window().setFlags(Qt::Window | Qt::FramelessWindowHint);
     Target.Window().setGeometry(20, 10, 500, 200);
     Target.Window().show();
+    ASSERT_TRUE(PumpUntil([&] { return Target.IsExposed(); }));
     Settle(100);
     Target.TakeWindowSize();
   }
@@ -68,7 +69,7 @@ class MessageWindowTest : public PumpedTest {
 
 TEST_F(MessageWindowTest, IsNeverDrawnOver) {
   Message.Print("Back at ten", {"Arial", 20, kGreen});
-  Settle(100);
+  ASSERT_TRUE(PumpUntil([&] { return StrangeAndInked(Grab(Box())).second > 100; }));
   for (int i = 0; i < 20; ++i) {
     ShowNoise();
     Events.WaitForEvents(5);

@@ -23,7 +23,7 @@ start() {
 # wait_for_stars [GEOMETRY]
 wait_for_stars() {
   local tries
-  for tries in $(seq 1 40); do
+  for tries in $(seq 1 300); do
     [ "$(lit "${1:-}")" -gt 1000 ] && return
     sleep 0.1
   done
@@ -44,10 +44,10 @@ has_ended() {
   return 1
 }
 
-# expect_end WHAT: the program has been told to go, and does so within ten seconds with code 0.
+# expect_end WHAT: the program has been told to go, and does so within thirty seconds with code 0.
 expect_end() {
   local tries code
-  for tries in $(seq 1 500); do
+  for tries in $(seq 1 1500); do
     has_ended "$running" && break
     sleep 0.02
   done

@@ -59,7 +59,7 @@ ends 'xdotool click 4' saver $keep_still
 stays 'xdotool click 4' saver $background
 nothing_meant='xdotool key shift key XF86AudioRaiseVolume key Caps_Lock key Caps_Lock'
 stays "$nothing_meant" saver
-ends 'moves 5' saver
+ends 'moves 20' saver # a busy machine merges some of them
 stays 'moves 3' saver
 stays 'moves 20' saver $keep_still
 stays disturb_all saver $background
@@ -95,14 +95,5 @@ output=$(mktemp)
 asks_for_properties 0 "$nothing_meant"
 asks_for_properties 2 'xdotool key a key shift+a'
 rm "$output"
-
-# A key ends the process within a frame of a slow pace, and some time for the process to go.
-start "$host" saver Advanced/Adv_TimeDelay=2000
-wait_for_stars
-begin=$(date +%s%N)
-xdotool key a
-expect_end "a key in a long frame"
-took=$((($(date +%s%N) - begin) / 1000000))
-[ "$took" -lt 1000 ] || fault "a key waits $took ms for the end of a frame"
 
 [ "$faults" = 0 ] || exit 1

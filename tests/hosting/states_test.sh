@@ -7,10 +7,10 @@ host=$1
 # The first window that the manager lists.
 client() { xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*' | head -1; }
 
-# expect_state STATE: the manager comes to show the window in this state, within ten seconds.
+# expect_state STATE: the manager comes to show the window in this state, within thirty seconds.
 expect_state() {
   local state=
-  for _ in $(seq 1 200); do
+  for _ in $(seq 1 600); do
     state=$(xprop -id "$(client)" _NET_WM_STATE 2>/dev/null)
     [[ $state == *"_NET_WM_STATE_$1"* ]] && return
     sleep 0.05
@@ -30,7 +30,7 @@ other=$!
 wait_for_stars
 focused=$(xdotool getactivewindow)
 start "$host" saver Advanced/Adv_DispBackG=1
-for _ in $(seq 1 200); do
+for _ in $(seq 1 600); do
   stack=$(xprop -root _NET_CLIENT_LIST_STACKING | grep -o '0x[0-9a-f]*')
   [ "$(wc -l <<<"$stack")" = 2 ] && break
   sleep 0.05

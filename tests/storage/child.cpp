@@ -44,7 +44,7 @@ bool Child::Succeeded() {
 }
 
 bool WaitForFile(const std::string& path) {
-  for (int i = 0; i < 5000; ++i) {
+  for (int i = 0; i < 30000; ++i) {
     if (access(path.c_str(), F_OK) == 0) return true;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
