@@ -38,6 +38,14 @@ def _value(low, high):
         _ODD_NUMBERS)
 
 
+def _place(name):
+    """The body whose setting it is: one composite; one profile, or all of them."""
+    if name.startswith("_CompFold"):
+        return f"CompFold{random.randint(0, 15)}/"
+    one = name.startswith("Starfold_") and random.random() < 0.3
+    return f"Starfold{random.randint(0, 49)}/" if one else ""
+
+
 def try_settings(row, share, shop, frames):
     settings = _settings()
     shown = 0
@@ -49,9 +57,7 @@ def try_settings(row, share, shop, frames):
         command += random.choice(([], ["--factory", random.randint(0, 1)],
                                   ["--theme", random.randint(1, 8)]))
         for name, low, high in random.sample(settings, random.randint(1, 40)):
-            where = f"Starfold{random.randint(0, 49)}/" if (
-                name.startswith("Starfold_") and random.random() < 0.3) else ""
-            command += ["--set", f"{where}{name}={_value(low, high)}"]
+            command += ["--set", f"{_place(name)}{name}={_value(low, high)}"]
         code, out, err = run(command, env=environment(shop))
         shown += bool(out)
         fault = _fault(code, err)
