@@ -5,8 +5,8 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -21,8 +21,7 @@ inline testing::Environment* const kWidgets =
 
 inline void Press(QWidget& widget, int key, const QString& text = {},
                   Qt::KeyboardModifiers with = Qt::NoModifier) {
-  QKeyEvent press(QEvent::KeyPress, key, with, text);
-  QApplication::sendEvent(&widget, &press);
+  QTest::sendKeyEvent(QTest::Press, &widget, static_cast<Qt::Key>(key), text, with);
 }
 
 inline void Type(QWidget& widget, const QString& text) {

@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/surface_image.h"
+#include "desktop/qimage_of_surface.h"
 #include "hosting/host_fixture.h"
 #include "widgets/picture_box.h"
 
