@@ -1,4 +1,4 @@
-#include "desktop/surface_image.h"
+#include "desktop/qimage_of_surface.h"
 
 #include <algorithm>
 

@@ -14,7 +14,7 @@
 
 #include "desktop/huge_pages.h"
 #include "desktop/key_presses.h"
-#include "desktop/surface_image.h"
+#include "desktop/qimage_of_surface.h"
 #include "desktop/window_hints.h"
 
 namespace starfolds {

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <utility>
 
-#include "desktop/surface_image.h"
+#include "desktop/qimage_of_surface.h"
 #include "hosting/lock_message.h"
 #include "hosting/saved_picture.h"
 #include "settings/registry.h"

@@ -6,7 +6,8 @@
 namespace starfolds {
 
 /// Derives the prepared values and the colour tables from the records of `process`, which must be
-/// within their ranges. A random variation of the bodies is drawn here, so each call makes another.
+/// within their ranges. `PrepareProfiles` draws a random variation of the bodies, so each call
+/// makes another.
 void PrepareRun(ProcessState& process);
 
 }  // namespace starfolds

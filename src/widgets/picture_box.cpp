@@ -3,7 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "desktop/surface_image.h"
+#include "desktop/qimage_of_surface.h"
 #include "numbers/conversions.h"
 
 namespace starfolds {
