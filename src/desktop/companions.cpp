@@ -47,6 +47,12 @@ struct Companions::Companion {
   QElapsedTimer Running;
   int Failures = 0;  // in a row, each soon after a start
   QProcess Process;
+  QTimer Pause;
+
+  Companion() {
+    Pause.setSingleShot(true);
+    Pause.callOnTimeout([this] { Start(); });
+  }
 
   void Start() {
     Running.start();
@@ -56,7 +62,7 @@ struct Companions::Companion {
   void StartAgain() {
     if (Running.elapsed() > kStartTime) Failures = 0;
     if (++Failures > kMostFailures) return;
-    QTimer::singleShot(kRestartPause, &Process, [this] { Start(); });
+    Pause.start(kRestartPause);
   }
 };
 
