@@ -37,14 +37,12 @@ class DirtyTiles {
              static_cast<std::size_t>(x >> kTileShift)] = 1;
   }
 
-  /// The pixels in changed tiles.
+  /// The number of pixels in changed tiles; those at the edge of the surface count as whole.
   std::int64_t Area() const;
 
   /// Marks the changed tiles of `other` as well; they are unchanged in `other` afterwards. Both
   /// have the same size.
   void TakeFrom(DirtyTiles& other);
-
-  bool IsEmpty() const { return Area() == 0; }
 
   /// The changed tiles as rectangles that do not overlap, sorted by row and then by column, each as
   /// wide as possible within its row and clipped to the surface. All tiles are unchanged

@@ -21,7 +21,7 @@ namespace starfolds {
 namespace {
 
 /// Writes between two frames that are recorded one by one: enough for 30000 stars that are erased
-/// and plotted, with their flares (512 KiB). A frame with more writes is painted as a whole.
+/// and plotted, with their flares (1 MiB). A frame with more writes is painted as a whole.
 constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
 /// The initial size of a resizable window, in logical pixels.

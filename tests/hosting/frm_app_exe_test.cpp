@@ -17,7 +17,6 @@
 
 #include "desktop/qimage_of_surface.h"
 #include "hosting/host_fixture.h"
-#include "widgets/picture_box.h"
 
 namespace starfolds {
 namespace {
