@@ -8,7 +8,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 #include "widgets/picture_box.h"
 
 namespace starfolds {

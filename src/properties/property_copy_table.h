@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 #include "settings/records.h"
 #include "widgets/number_box.h"
 

@@ -11,7 +11,7 @@
 #include <map>
 #include <vector>
 
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 #include "widgets/dialog_model.h"
 #include "widgets/number_box.h"
 

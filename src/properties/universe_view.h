@@ -14,7 +14,7 @@
 
 #include "properties/composite_editor.h"
 #include "properties/property_copy.h"
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 #include "widgets/body_list.h"
 #include "widgets/dialog_model.h"
 #include "widgets/name_box.h"

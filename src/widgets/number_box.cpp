@@ -15,21 +15,7 @@ namespace {
 
 constexpr int kSingleLength = 8;  // maximum length of a number with a point
 
-bool IsWhole(NumberKind kind) { return kind != NumberKind::AsSingle; }
-
-std::string TextOf(double number, NumberKind kind) {
-  if (IsWhole(kind)) return NumberText(RoundedToLimits<Long>(number));
-  return NumberText(static_cast<Single>(number));
-}
-
 }  // namespace
-
-/// A "0" is prepended, so that empty text is 0 and a sign is ignored.
-std::string ClampedText(const std::string& text, const NumberRange& range) {
-  double number = LenientNumber("0" + text);
-  if (IsWhole(range.Kind)) number = RoundedToLimits<Long>(number);
-  return TextOf(ClampTo(number, range.Low, range.High), range.Kind);
-}
 
 NumberBox::NumberBox(QWidget* parent) : QAbstractSpinBox(parent) {
   setFocusPolicy(Qt::StrongFocus);

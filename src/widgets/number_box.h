@@ -4,19 +4,9 @@
 #include <QAbstractSpinBox>
 #include <string>
 
+#include "settings/number_range.h"
+
 namespace starfolds {
-
-/// What can be typed: digits only for the whole kinds, one point as well for `AsSingle`.
-enum class NumberKind { AsInteger = 0, AsSingle = 1, AsLong = 2 };
-
-struct NumberRange {
-  NumberKind Kind = NumberKind::AsInteger;
-  double Low = 0;
-  double High = 0;
-};
-
-/// The typed text as a number: parsed leniently, rounded for the whole kinds, clamped to the range.
-std::string ClampedText(const std::string& text, const NumberRange& range);
 
 /// Rejects keys that are not part of a number, with a beep. Clamps to the range when it loses the
 /// focus. Ignores wheel events without the focus, so that the page under it can be scrolled.

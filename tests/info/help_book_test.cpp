@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "numbers/text.h"
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 
 namespace starfolds {
 namespace {

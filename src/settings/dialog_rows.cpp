@@ -1,4 +1,4 @@
-#include "properties/property_tables.h"
+#include "settings/dialog_rows.h"
 
 #include <array>
 

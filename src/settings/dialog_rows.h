@@ -1,5 +1,6 @@
-// The layout of the properties dialog: which setting each element of a control array edits,
-// on which page, and under which caption each style shows it.
+// The rows of the properties dialog: which setting each element of a control array edits, on which
+// page, and under which caption each style shows it. No widgets: other editors of the settings have
+// the same pages.
 #pragma once
 
 #include <optional>
@@ -7,8 +8,8 @@
 #include <string_view>
 
 #include "settings/fields.h"
+#include "settings/number_range.h"
 #include "settings/styles.h"
-#include "widgets/number_box.h"
 
 namespace starfolds {
 
