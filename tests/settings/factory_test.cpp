@@ -34,11 +34,11 @@ TEST(Factory, TheTablesAreAsPinned) {
     std::uint64_t Hash;
   };
   for (const Case& c :
-       {Case{Starfolds20, 1, 2807469903758787076U}, Case{Starfolds4x, 1, 3415672818660291428U},
-        Case{Starfolds4x, 2, 17227024946656116913U}, Case{Starfolds4x, 3, 2952327922269283582U},
-        Case{Starfolds4x, 4, 3587108048639418033U}, Case{Starfolds4x, 5, 12480569422461592258U},
-        Case{Starfolds4x, 6, 17847912770471305956U}, Case{Starfolds4x, 7, 6906210063362441601U},
-        Case{Starfolds4x, 8, 15069930917385928627U}}) {
+       {Case{Starfolds20, 1, 11753217735273281910U}, Case{Starfolds4x, 1, 11326408855952322607U},
+        Case{Starfolds4x, 2, 12197726869254754344U}, Case{Starfolds4x, 3, 8612810588936556017U},
+        Case{Starfolds4x, 4, 16343754250884364840U}, Case{Starfolds4x, 5, 10767867934231148589U},
+        Case{Starfolds4x, 6, 4793958118028636847U}, Case{Starfolds4x, 7, 7464397733202929368U},
+        Case{Starfolds4x, 8, 10973958280075177114U}}) {
     SettingsRecords records;
     LoadFactorySettings(records, c.Set, c.Theme);
     EXPECT_EQ(HashOf(records), c.Hash) << "theme " << c.Theme;
