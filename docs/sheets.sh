@@ -27,7 +27,10 @@ sheet() {
     arguments+=(-label "${label#*_}" "$picture")
   done
   montage -background '#303030' -fill '#d0d0d0' -pointsize 13 "${arguments[@]}" \
-    -tile "${columns}x" -geometry +3+3 -strip -dither None -colors 255 "PNG8:$file"
+    -tile "${columns}x" -geometry +3+3 "$scratch/sheet.png"
+  # In a step of its own: montage reduces the tiles one by one, and PNG8 then all colours to 256
+  # fixed ones.
+  convert "$scratch/sheet.png" +dither -colors 255 -strip "png8:$file"
   rm -r "$scratch/tiles"
 }
 
