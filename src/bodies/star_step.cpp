@@ -94,10 +94,6 @@ void StepStarTheLongWay(const FrameScene& scene, std::size_t i) {
   star.StarFrame = FrameOf(star);
 }
 
-/// How many stars ahead the pixel is requested that a star erases, and near which it is then drawn.
-/// A saver begins each frame with most of the canvas outside of the caches.
-constexpr std::size_t kLookAhead = 8;
-
 /// The loop of the common case. A settled star costs two pixels, and what it shares with the rest
 /// of its body is made ready once a frame.
 ///
@@ -114,9 +110,6 @@ void StepStarsWithoutTrails(const FrameScene& scene) {
   const Lens lens(scene.Process.Screen);
   const std::size_t count = scene.Arrays.Stars.Star.size();
   for (std::size_t i = 0; i < count; ++i) {
-    if (i + kLookAhead < count) {
-      pen.Prefetch(trails[i + kLookAhead].TrailX, trails[i + kLookAhead].TrailY);
-    }
     StarState& star = stars[i];
     if (star.StarFrame == 0) [[unlikely]] {
       StepStarTheLongWay(scene, i);

@@ -31,12 +31,12 @@ struct PixelChange {
 /// screen copies only what changed. The engine draws only with `SetPixelV`; a pixel keeps its
 /// colour until it is written again.
 ///
-/// A third of the writes change nothing that is shown: a star that stands still is erased and drawn
-/// again. So an entry of the journal keeps what the pixel was before the write; a flag in the spare
-/// byte of a pixel tells the first write of a frame from later ones.
+/// A write is only appended to the journal. It reaches the canvas when the frame is shown or a
+/// colour is read: the canvas is mostly out of the processor's caches, and only a list of writes
+/// tells early enough which of its lines are needed next.
 class Surface {
  public:
-  /// `journalCapacity` is the number of writes between two `Present`s that are recorded; after more
+  /// `journalCapacity` is the number of pixels that are recorded between two `Present`s; after more
   /// (always with 0) the whole canvas counts as changed. `memory` holds the canvas and
   /// outlives the surface.
   explicit Surface(Integer width, Integer height, std::size_t journalCapacity = 0,
@@ -57,51 +57,25 @@ class Surface {
    public:
     explicit Pen(Surface& surface)
         : surface_(surface),
-          pixels_(surface.pixels_.data()),
           width_(surface.width_),
           height_(surface.height_),
           journal_(surface.journal_.data()),
           journalCapacity_(surface.journal_.size()) {}
 
     void SetPixelV(Long x, Long y, Colour colour) {
-      if (Holds(static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y))) {
-        SetPixelWithin(x, y, colour);
-      }
-    }
-
-    /// Whether a place is on the surface. Negative coordinates arrive as large numbers.
-    bool Holds(std::uint64_t x, std::uint64_t y) const { return x < width_ && y < height_; }
-
-    /// Requests the pixel's cache line for a write that follows some hundred instructions later.
-    /// Any coordinates are allowed.
-    void Prefetch(Long x, Long y) const {
       const auto column = static_cast<std::uint32_t>(x);
       const auto row = static_cast<std::uint32_t>(y);
-      if (Holds(column, row)) {
-        __builtin_prefetch(pixels_ + static_cast<std::size_t>(row) * width_ + column, 1);
-      }
-    }
-
-    /// `SetPixelV` for a place on the surface; undefined elsewhere.
-    void SetPixelWithin(Long x, Long y, Colour colour) {
-      const auto column = static_cast<std::uint32_t>(x);
-      const auto row = static_cast<std::uint32_t>(y);
-      Colour& pixel = pixels_[static_cast<std::size_t>(row) * width_ + column];
-      if (surface_.journalSize_ < journalCapacity_) {
-        // Nothing here waits for the pixel's former colour, which is often not in the caches.
-        journal_[surface_.journalSize_++] = {PlaceOfPixel(column, row), pixel};
-        pixel = colour | kJournalled;
-      } else {
-        surface_.everythingChanged_ = true;
-        pixel = colour | (pixel & kJournalled);
-      }
+      if (column >= width_ || row >= height_)
+        return;  // negative coordinates are large numbers here
+      if (surface_.journalSize_ == journalCapacity_) [[unlikely]]
+        surface_.MakeRoom();
+      journal_[surface_.journalSize_++] = {PlaceOfPixel(column, row), colour};
     }
 
    private:
     Surface& surface_;
-    Colour* pixels_;
-    std::size_t width_;
-    std::size_t height_;
+    std::uint32_t width_;
+    std::uint32_t height_;
     PixelChange* journal_;
     std::size_t journalCapacity_;
   };
@@ -126,7 +100,7 @@ class Surface {
 
  protected:
   /// The journal is incomplete, and the whole canvas must be shown.
-  bool EverythingChanged() const { return everythingChanged_; }
+  bool EverythingChanged() const { return everythingChanged_ || !recordsChanges_; }
 
   /// The pixels that differ from the last frame, in the order in which they were first written,
   /// each once. Starts the journal of the next frame. Valid until the next write.
@@ -136,21 +110,32 @@ class Surface {
   void ForgetJournal();
 
  private:
-  std::uint32_t width_ = 0;
-  std::uint32_t height_ = 0;
-  /// Set in the pixels that were written since the last `Present`. Colours leave the highest byte
+  /// Set in the pixels of `journal_[0]` to `journal_[applied_ - 1]`. Colours leave the highest byte
   /// free.
   static constexpr Colour kJournalled = 0x80000000U;
 
-  Colour& PixelAt(PixelPlace place) {
+  Colour& PixelAt(PixelPlace place) const {
     return pixels_[static_cast<std::size_t>(RowOf(place)) * width_ +
                    static_cast<std::size_t>(ColumnOf(place))];
   }
+  void Request(std::size_t entry) const;
+  void ApplyWrites() const;
+  void RecordWrites() const;
+  void MakeRoom();
 
-  std::pmr::vector<Colour> pixels_;
-  std::vector<PixelChange> journal_;  // with the pixels as they were before the write
-  std::size_t journalSize_ = 0;
+  std::uint32_t width_ = 0;
+  std::uint32_t height_ = 0;
+  bool recordsChanges_;
   bool everythingChanged_ = true;
+
+  // Writes are pending until a colour is read, so reading changes these, too.
+
+  mutable std::pmr::vector<Colour> pixels_;
+  /// First the pixels that were written since the last `Present`, each once, with the colours that
+  /// are shown of them; from `applied_` on the writes that have not reached the canvas.
+  mutable std::vector<PixelChange> journal_;
+  mutable std::size_t applied_ = 0;
+  mutable std::size_t journalSize_ = 0;
 };
 
 /// A surface that is not shown while it is drawn. It never waits.
