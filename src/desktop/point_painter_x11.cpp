@@ -1,14 +1,13 @@
 #include <xcb/xcb.h>
 
 #include <QWindow>
-#include <algorithm>
 #include <optional>
-#include <vector>
 
 #include "desktop/places_by_colour.h"
 #include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
 #include "desktop/x11_connection.h"
+#include "desktop/x11_requests.h"
 
 namespace starfolds {
 namespace {
@@ -20,13 +19,12 @@ constexpr std::int64_t kPointCost = 12;
 constexpr std::int64_t kColourCost = 150;
 constexpr double kPictureCost = 0.4;
 
-/// Every server accepts requests of up to 65535 words.
-constexpr std::size_t kMostShapes = 0x4000;
-
 class X11PointPainter : public PointPainter {
  public:
   X11PointPainter(xcb_connection_t* connection, xcb_window_t window)
-      : connection_(connection), window_(window), context_(xcb_generate_id(connection)) {
+      : connection_(connection),
+        context_(xcb_generate_id(connection)),
+        requests_(connection, window, context_) {
     const std::uint32_t noExposures = 0;
     xcb_create_gc(connection, context_, window, XCB_GC_GRAPHICS_EXPOSURES, &noExposures);
   }
@@ -40,55 +38,25 @@ class X11PointPainter : public PointPainter {
     const auto colours = static_cast<std::int64_t>(sorted_.Groups().size()) * kColourCost;
     if (static_cast<double>(points + colours) > picture) return false;
     for (const PlacesByColour::Group& group : sorted_.Groups()) DrawGroup(group, scale);
-    xcb_flush(connection_);
+    requests_.Send();
     return true;
   }
 
  private:
   void DrawGroup(const PlacesByColour::Group& group, const PixelScale& scale) {
-    const std::uint32_t word = ScreenWord(group.Ink);
-    xcb_change_gc(connection_, context_, XCB_GC_FOREGROUND, &word);
+    requests_.SetForeground(ScreenWord(group.Ink));
     const auto places = sorted_.Places().subspan(group.Begin, group.Count);
-    for (std::size_t begin = 0; begin < places.size(); begin += kMostShapes) {
-      const auto part = places.subspan(begin, std::min(kMostShapes, places.size() - begin));
-      if (scale.IsOneToOne()) {
-        DrawPoints(part);
-      } else {
-        DrawBlocks(part, scale);
-      }
+    if (scale.IsOneToOne()) {
+      requests_.DrawPoints(places);
+    } else {
+      requests_.DrawBlocks(places, scale);
     }
-  }
-
-  void DrawPoints(std::span<const PixelPlace> places) {
-    points_.clear();
-    for (const PixelPlace place : places) {
-      points_.push_back(
-          {static_cast<std::int16_t>(ColumnOf(place)), static_cast<std::int16_t>(RowOf(place))});
-    }
-    xcb_poly_point(connection_, XCB_COORD_MODE_ORIGIN, window_, context_,
-                   static_cast<std::uint32_t>(points_.size()), points_.data());
-  }
-
-  void DrawBlocks(std::span<const PixelPlace> places, const PixelScale& scale) {
-    blocks_.clear();
-    for (const PixelPlace place : places) {
-      const int left = scale.Columns.Begin(ColumnOf(place));
-      const int top = scale.Rows.Begin(RowOf(place));
-      const int width = scale.Columns.End(ColumnOf(place)) - left;
-      const int height = scale.Rows.End(RowOf(place)) - top;
-      blocks_.push_back({static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
-                         static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height)});
-    }
-    xcb_poly_fill_rectangle(connection_, window_, context_,
-                            static_cast<std::uint32_t>(blocks_.size()), blocks_.data());
   }
 
   xcb_connection_t* connection_;
-  xcb_window_t window_;
   xcb_gcontext_t context_;
+  X11Requests requests_;
   PlacesByColour sorted_;
-  std::vector<xcb_point_t> points_;
-  std::vector<xcb_rectangle_t> blocks_;
 };
 
 /// nullopt if the window is gone.
