@@ -33,9 +33,11 @@ class JournalSurface : public Surface {
   JournalSurface(Integer width, Integer height) : Surface(width, height, kJournal, HugePages()) {}
 
   std::function<void()> OnFrame;
+  std::size_t Writes = 0;
   std::size_t Changes = 0;
 
   void Present() override {
+    Writes += PendingWrites();
     Changes += TakeChanges().size();
     OnFrame();
   }
@@ -61,7 +63,7 @@ void TourFrame(benchmark::State& state) {
       state.SetIterationTime(ProcessorSeconds() - begin);
       ++iteration;
     } else {
-      canvas.Changes = 0;
+      canvas.Writes = canvas.Changes = 0;
     }
     if (!(iteration != end)) return stage.Process->Requests.AskStop();
     if (state.range(2) != 0) {
@@ -70,8 +72,11 @@ void TourFrame(benchmark::State& state) {
     begin = ProcessorSeconds();
   };
   UniverseRun(*stage.Process);
-  state.counters["changes"] =
-      benchmark::Counter(static_cast<double>(canvas.Changes), benchmark::Counter::kAvgIterations);
+  const auto perFrame = [](std::size_t count) {
+    return benchmark::Counter(static_cast<double>(count), benchmark::Counter::kAvgIterations);
+  };
+  state.counters["writes"] = perFrame(canvas.Writes);
+  state.counters["changes"] = perFrame(canvas.Changes);
 }
 
 BENCHMARK(TourFrame)

@@ -102,6 +102,9 @@ class Surface {
   /// The journal is incomplete, and the whole canvas must be shown.
   bool EverythingChanged() const { return everythingChanged_ || !recordsChanges_; }
 
+  /// Writes that have not reached the canvas: all of a frame, unless colours were read meanwhile.
+  std::size_t PendingWrites() const { return journalSize_ - applied_; }
+
   /// The pixels that differ from the last frame, in the order in which they were first written,
   /// each once. Starts the journal of the next frame. Valid until the next write.
   std::span<const PixelChange> TakeChanges();
