@@ -4,7 +4,6 @@
 
 #include "bodies/comets.h"
 #include "bodies/seed_star.h"
-#include "bodies/star_step.h"
 #include "numbers/conversions.h"
 #include "process/prepare_run.h"
 #include "universe/pacing.h"
@@ -14,11 +13,16 @@ namespace {
 
 constexpr Integer kNoTour = 32000;  // a tour step beyond all steps: comets always live
 
-void EnterSettings(UniverseSettings& universe, const SingleBodyPlan& plan) {
+/// Enters the settings of the run and prepares it, which the size of the arrays depends on.
+RunArrays PrepareArrays(ProcessState& process, const SingleBodyPlan& plan) {
+  UniverseSettings& universe = process.Universe;
   AssignRounded(universe.Universe_Stars, plan.Stars * static_cast<double>(plan.StarScale));
   universe.Universe_Stars = ClampTo<Integer>(universe.Universe_Stars, 1, kMostTrailPlaces);
   universe.Universe_Starfold = 1;
   universe.Universe_STrail = plan.Trail;
+  PrepareRun(process);
+  process.RunUniverse.RunNewShare = 0;  // re-seeded stars stay in the one body anyway
+  return RunArrays(universe, process.RunUniverse.RunTrail, 1, 0);
 }
 
 void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
@@ -39,29 +43,33 @@ void SeedBody(const FrameScene& scene, const SingleBodyPlan& plan) {
 
 }  // namespace
 
-void SingleBodyRun(ProcessState& process, const SingleBodyPlan& plan) {
-  EnterSettings(process.Universe, plan);
-  PrepareRun(process);
-  process.RunUniverse.RunNewShare = 0;  // re-seeded stars stay in the one body anyway
-  RunArrays arrays(process.Universe, process.RunUniverse.RunTrail, 1, 0);
+SingleBody::SingleBody(ProcessState& process, const SingleBodyPlan& plan)
+    : process_(process),
+      arrays_(PrepareArrays(process, plan)),
+      scene_{process, arrays_,
+             plan.IsComposite ? RunKind::SingleComposite : RunKind::SingleProfile} {
   const Integer entry =
       plan.IsComposite ? static_cast<Integer>(plan.Body + kFirstComposite) : plan.Body;
   const Integer visited = ResolveProfile(process, entry);
-  arrays.Folds.StarfoldProf[0] = entry;
-  arrays.Folds.StarfoldRel[0] = {0, 0, process.Prepared[visited].RunDistance};
-  arrays.Comets.CometCount = CometRoom(process.Profiles[visited].Starfold_CometStars);
-  InitBodies(process, arrays.Slots, arrays.Folds.StarfoldProf);
+  arrays_.Folds.StarfoldProf[0] = entry;
+  arrays_.Folds.StarfoldRel[0] = {0, 0, process.Prepared[visited].RunDistance};
+  arrays_.Comets.CometCount = CometRoom(process.Profiles[visited].Starfold_CometStars);
+  InitBodies(process, arrays_.Slots, arrays_.Folds.StarfoldProf);
+  SeedBody(scene_, plan);
+  place_ = {.CometProf = visited, .SegIdx = kNoTour};
+}
 
-  const FrameScene scene{process, arrays,
-                         plan.IsComposite ? RunKind::SingleComposite : RunKind::SingleProfile};
-  SeedBody(scene, plan);
+void SingleBody::Step() {
+  AdvanceAngles(process_.Prepared);
+  StarStep(scene_, place_);
+  StepNebulaRibbons(process_, arrays_.Slots, arrays_.Folds.StarfoldProf);
+}
 
-  const TourPlace place{.CometProf = visited, .SegIdx = kNoTour};
+void SingleBodyRun(ProcessState& process, const SingleBodyPlan& plan) {
+  SingleBody body(process, plan);
   Integer frames = 0;
   while (true) {
-    AdvanceAngles(process.Prepared);
-    StarStep(scene, place);
-    StepNebulaRibbons(process, arrays.Slots, arrays.Folds.StarfoldProf);
+    body.Step();
     if (plan.FrameLimit && ++frames >= *plan.FrameLimit) return;
     if (FramePace(process)) return;
     if (process.Requests.TakeNewRun()) return;

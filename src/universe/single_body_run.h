@@ -3,6 +3,8 @@
 
 #include <optional>
 
+#include "bodies/run_arrays.h"
+#include "bodies/star_step.h"
 #include "process/process_state.h"
 
 namespace starfolds {
@@ -14,6 +16,26 @@ struct SingleBodyPlan {
   Single StarScale = 1;
   Integer Trail = 1;  // pixels per star; shortened if there is no room for all of them
   std::optional<Integer> FrameLimit = {};  // without one the run goes on until a flag says stop
+};
+
+/// The frames of one body, for callers that pace them. `process` must stay unchanged while they are
+/// drawn, except its surface's pixels; its star count, starfold count and trail of `Universe` are
+/// set.
+class SingleBody {
+ public:
+  /// Prepares the run and places the stars, without plotting. Ignores `plan.FrameLimit`.
+  SingleBody(ProcessState& process, const SingleBodyPlan& plan);
+  SingleBody(const SingleBody&) = delete;
+  SingleBody& operator=(const SingleBody&) = delete;
+
+  /// Plots the next frame on `Screen.hDCDraw`, without presenting it.
+  void Step();
+
+ private:
+  ProcessState& process_;
+  RunArrays arrays_;
+  FrameScene scene_;
+  TourPlace place_;
 };
 
 /// Runs one body on `Screen.hDCDraw` until a flag says stop or the frames are over. Changes the
