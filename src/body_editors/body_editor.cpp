@@ -194,7 +194,7 @@ void BodyEditor::ShowStill() {
   StoreBodyBoxes(body);
   const bool isBody = Gather(body).empty();
   const SampleSize size{picPreview_->size(), devicePixelRatioF()};
-  picPreview_->ShowPicture(isBody ? BodySample(body, size) : QImage());
+  picPreview_->ShowPicture(isBody ? SampleOfBody(body, size, SampleView::OfRun) : QImage());
 }
 
 }  // namespace starfolds

@@ -4,9 +4,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QResizeEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "body_editors/frm_levels.h"
 #include "body_editors/frm_molecule.h"
@@ -19,14 +22,15 @@
 #include "widgets/lines.h"
 #include "widgets/list_wheel_guard.h"
 #include "widgets/placed_qt_window.h"
-#include "widgets/samples.h"
 #include "widgets/web_page.h"
 
 namespace starfolds {
 namespace {
 
-constexpr QSize kLeastPreview{300, 225};
-constexpr int kStillPauseMs = 150;
+constexpr int kWideWindow = 1250;  // least width for the preview beside the form
+constexpr int kFormWidth = 500;    // initial width of the form beside the preview
+constexpr QSize kLeastForm{320, 160};
+constexpr QSize kUsualSize{1360, 780};
 constexpr double kMostOfScreen =
     0.94;  // for the first placement; the rest is for window frames and panels
 
@@ -37,6 +41,18 @@ constexpr int kReset4x = 2;
 const char kAcceptSettings[] = "&Accept Settings";
 const char kReturnToUniverse[] = "&Return to Universe Settings";
 const char kStarfoldProperties[] = "Starfold Properties";
+
+/// A view that scrolls if the window is smaller than it needs.
+QScrollArea* Scrolled(QWidget* view, const char* name) {
+  auto* area = new QScrollArea;
+  area->setObjectName(name);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setMinimumSize(kLeastForm);
+  area->setWidget(view);
+  return area;
+}
 
 }  // namespace
 
@@ -84,7 +100,7 @@ void FrmProps::ShowModal() {
 
 void FrmProps::Open() {
   open_ = true;
-  resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
+  resize(kUsualSize.boundedTo(screen()->availableSize() * kMostOfScreen));
   winId();  // creates the window, so that its owner can be set before it is shown
   windowHandle()->setTransientParent(around_.Owner);
   // Before any question: a safety copy contains the values of the dialog.
@@ -95,7 +111,7 @@ void FrmProps::Open() {
 
 /// Ends a running preview first, because its call frame is above the dialog's.
 void FrmProps::closeEvent(QCloseEvent* event) {
-  if (preview_.DelaysClose()) return event->ignore();
+  if (preview_->DelaysClose()) return event->ignore();
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
   around_.Process.Requests.AskNewRun();
   open_ = false;
@@ -106,7 +122,7 @@ void FrmProps::closeEvent(QCloseEvent* event) {
 /// Escape goes back one step. It does not cancel, so that an accidental press loses no settings.
 void FrmProps::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
-  if (preview_.IsOn()) return preview_.Stop();
+  if (preview_->IsRunning()) return preview_->Stop();
   if (inStarfoldView_) OpenStarfoldView(false);
 }
 
@@ -146,7 +162,7 @@ void FrmProps::MarkResetMenu(int menuIndex, bool marked) {
   resetMenu_.at(menuIndex)->setChecked(marked);
 }
 
-ProgressPicture* FrmProps::Preview() { return picPreview_; }
+ProgressPicture* FrmProps::Preview() { return &preview_->Picture(); }
 
 bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
   return RunWelcome(
@@ -182,7 +198,7 @@ TemplateHost FrmProps::MakeTemplateHost() {
           around_.HelpBook,
           [this] { Settle(); },
           loaded,
-          [this] { ShowStill(); }};
+          [this] { preview_->Changed(); }};
 }
 
 void FrmProps::MakeMenus() {
@@ -203,7 +219,10 @@ void FrmProps::MakeMenus() {
   reset->addSeparator();
   addReset(kReset4x, "Starfolds 4.x");
   edit->addAction(tr("&Advanced Settings..."), this,
-                  [this] { FrmAdvanced(*editing_->Tree, around_.HelpBook, this).RunModal(); })
+                  [this] {
+                    FrmAdvanced(*editing_->Tree, around_.HelpBook, this).RunModal();
+                    preview_->CameraChanged();
+                  })
       ->setObjectName("mnuAdvanced");
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
@@ -240,42 +259,48 @@ void FrmProps::ShowHomePage() {
 void FrmProps::MakeCentre() {
   auto* centre = new QWidget;
   auto* rows = new QVBoxLayout(centre);
-  auto* columns = new QHBoxLayout;
   universe_ = new UniverseView(model_);
   starfold_ = new StarfoldView(model_);
   views_ = new QStackedWidget;
-  views_->addWidget(universe_);
-  views_->addWidget(starfold_);
-  columns->addWidget(views_, 3);
-  columns->addWidget(MakePreviewPane(), 2);
-  rows->addLayout(columns, 1);
+  views_->addWidget(Scrolled(universe_, "scrUniverse"));
+  views_->addWidget(Scrolled(starfold_, "scrStarfold"));
+  splitter_ = new QSplitter;
+  splitter_->setObjectName("splPreview");
+  splitter_->setChildrenCollapsible(false);
+  splitter_->addWidget(views_);
+  preview_ = MakePreviewPane();
+  splitter_->addWidget(preview_);
+  splitter_->setStretchFactor(1, 1);
+  rows->addWidget(splitter_, 1);
+  rows->addWidget(MakeButtons());
+  setCentralWidget(centre);
+  GuardListsFromWheel(*centre);
+  // A file dropped on any widget is a template, not text for a box.
+  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
+  ConnectParts();
+}
 
-  auto* buttons = new QHBoxLayout;
+QWidget* FrmProps::MakeButtons() {
+  auto* line = new QWidget;
+  auto* buttons = new QHBoxLayout(line);
+  buttons->setContentsMargins(0, 0, 0, 0);
   cmdAccept_ = MakeButton(tr(kAcceptSettings), "cmdAccept");
   cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
   buttons->addWidget(MakeOverridesNote(), 9);
   buttons->addStretch(1);
   buttons->addWidget(cmdAccept_);
   buttons->addWidget(cmdDismiss_);
-  rows->addLayout(buttons);
-  setCentralWidget(centre);
-  GuardListsFromWheel(*centre);
-  // A file dropped on any widget is a template, not text for a box.
-  for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
-
   connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
   connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
+  return line;
+}
+
+void FrmProps::ConnectParts() {
   connect(universe_, &UniverseView::ThemeChosen, this, &FrmProps::ApplyTheme);
   connect(universe_, &UniverseView::PropsAskedFor, this, [this](int index) {
     currentProfile_ = index;
     OpenStarfoldView(true);
   });
-  // Drawing a picture of this size delays typing, so it waits for a pause.
-  stillTimer_.setSingleShot(true);
-  stillTimer_.setInterval(kStillPauseMs);
-  connect(&stillTimer_, &QTimer::timeout, this, &FrmProps::ShowStill);
-  connect(starfold_, &StarfoldView::Changed, &stillTimer_, qOverload<>(&QTimer::start));
-  connect(&universe_->Bodies(), &QListWidget::itemSelectionChanged, this, &FrmProps::ShowStill);
   connect(universe_, &UniverseView::CompositePreviewAskedFor, this,
           &FrmProps::PreviewSelectedComposite);
   connect(starfold_, &StarfoldView::LevelsAskedFor, this, [this] { RunEditor<FrmLevels>(); });
@@ -283,6 +308,42 @@ void FrmProps::MakeCentre() {
     const bool isIfs = starfold_->Page().Style() == FoldStyle::UserIfs;
     isIfs ? RunEditor<FrmUserDefIfs>() : RunEditor<FrmMolecule>();
   });
+
+  // What changes the body that the preview shows, or its values.
+  const auto changed = [this] { preview_->Changed(); };
+  connect(starfold_, &StarfoldView::Changed, this, changed);
+  connect(universe_, &UniverseView::ProfilesChanged, this, changed);
+  connect(views_, &QStackedWidget::currentChanged, this, changed);
+  for (const char* list : {"lstUniStarfold", "lstCompStarfold"}) {
+    connect(universe_->findChild<QListWidget*>(list), &QListWidget::itemSelectionChanged, this,
+            changed);
+  }
+  connect(universe_->findChild<QPushButton*>("cmdCompCommit"), &QPushButton::clicked, this,
+          changed);
+  connect(universe_->findChild<QComboBox*>("cboUniExtras"), &QComboBox::currentIndexChanged, this,
+          changed);
+  for (NumberBox* box : universe_->findChildren<NumberBox*>()) {
+    connect(box, &NumberBox::Changed, this, changed);
+  }
+}
+
+/// Beside the form, or below it in a narrow window.
+void FrmProps::PlacePreview() {
+  const bool beside = width() >= kWideWindow;
+  const Qt::Orientation wanted = beside ? Qt::Horizontal : Qt::Vertical;
+  if (isPlaced_ && splitter_->orientation() == wanted) return;
+  isPlaced_ = true;
+  splitter_->setOrientation(wanted);
+  preview_->PutButtonsBeside(!beside);
+  const int room = beside ? width() : height();
+  const int form =
+      beside ? std::max(kFormWidth, universe_->minimumSizeHint().width()) : room * 3 / 5;
+  splitter_->setSizes({form, room - form});
+}
+
+void FrmProps::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  PlacePreview();
 }
 
 /// A run with overridden settings has other values than the dialog.
@@ -306,24 +367,36 @@ QWidget* FrmProps::MakeOverridesNote() {
   return note;
 }
 
-QWidget* FrmProps::MakePreviewPane() {
-  fraAni_ = new QGroupBox(tr(kStarfoldProperties));
-  fraAni_->setObjectName("fraAni");
-  auto* column = new QVBoxLayout(fraAni_);
-  picPreview_ = new PictureBox;
-  picPreview_->setObjectName("picPreview");
-  picPreview_->setAccessibleName(tr("Preview"));
-  picPreview_->setMinimumSize(kLeastPreview);
-  column->addWidget(picPreview_, 1);
-  auto* buttons = new QHBoxLayout;
-  cmdPreviewFold_ = MakeButton(tr("Preview Starfold"), "cmdPreviewFold");
-  cmdPreviewUni_ = MakeButton(tr("Preview Universe"), "cmdPreviewUni");
-  buttons->addWidget(cmdPreviewFold_);
-  buttons->addWidget(cmdPreviewUni_);
-  column->addLayout(buttons);
-  connect(cmdPreviewFold_, &QPushButton::clicked, this, &FrmProps::PreviewSelectedBody);
-  connect(cmdPreviewUni_, &QPushButton::clicked, this, &FrmProps::PreviewUniverseOnDialog);
-  return fraAni_;
+PreviewPane* FrmProps::MakePreviewPane() {
+  auto* pane = new PreviewPane(
+      model_,
+      {.Universe = [this] { return universe_->Settings(); },
+       .SelectedProfile =
+           [this] { return inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected(); },
+       .Idle = [this] { return IdleBody(); },
+       .Profile =
+           [this](int body) {
+             return inStarfoldView_ ? starfold_->Page() : model_.Profiles()[body];
+           },
+       .StorePage =
+           [this] {
+             if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+           },
+       .Seed = around_.Seed});
+  pane->setTitle(tr(kStarfoldProperties));
+  connect(pane, &PreviewPane::RunningChanged, this,
+          [this](bool running) { templates_.SetEnabled(!running); });
+  connect(pane, &PreviewPane::CloseRequested, this, &FrmProps::close);
+  return pane;
+}
+
+/// The selected composite while its page is shown, or else the selected or open type.
+PreviewSource::Body FrmProps::IdleBody() const {
+  if (inStarfoldView_) return {currentProfile_, false};
+  const bool onComposites = universe_->ShownPage() == static_cast<int>(UniversePage::Composites);
+  const int composite = onComposites ? universe_->Composites().Selected() : -1;
+  if (composite >= 0) return {composite, true};
+  return {universe_->Bodies().Selected(), false};
 }
 
 void FrmProps::OpenStarfoldView(bool open) {
@@ -332,14 +405,14 @@ void FrmProps::OpenStarfoldView(bool open) {
   cmdDismiss_->setVisible(!open);
   if (open) {
     starfold_->LoadProfileToPage(currentProfile_);
-    fraAni_->setTitle("Starfold:  " + Escaped(universe_->Bodies().EntryName(currentProfile_)));
+    preview_->setTitle("Starfold:  " + Escaped(universe_->Bodies().EntryName(currentProfile_)));
   } else {
     starfold_->StorePageToProfile(currentProfile_);
-    fraAni_->setTitle(tr(kStarfoldProperties));
+    preview_->setTitle(tr(kStarfoldProperties));
     universe_->BodiesChanged();
   }
   cmdAccept_->setText(open ? tr(kReturnToUniverse) : tr(kAcceptSettings));
-  views_->setCurrentWidget(open ? static_cast<QWidget*>(starfold_) : universe_);
+  views_->setCurrentIndex(open ? 1 : 0);
 }
 
 void FrmProps::Accept() {
@@ -375,66 +448,9 @@ void FrmProps::RunEditor() {
   starfold_->TakeProfile(currentProfile_);
 }
 
-/// The preview runs inside the click handler that started it; the click that stops it arrives
-/// through the run's pump. All other controls are disabled meanwhile.
-void FrmProps::TogglePreview(QPushButton* button, const PreviewRun& run) {
-  if (preview_.IsOn()) return preview_.Stop();
-  std::vector<QWidget*> disabled;
-  for (QWidget* widget : findChildren<QWidget*>()) {
-    const bool isParent = widget->isAncestorOf(button) || widget->isWindow();
-    if (widget == button || isParent || !widget->isEnabled()) continue;
-    if (widget->focusPolicy() == Qt::NoFocus && !qobject_cast<QMenuBar*>(widget)) continue;
-    disabled.push_back(widget);
-  }
-  for (QWidget* widget : disabled) widget->setEnabled(false);
-  templates_.SetEnabled(false);
-  const QString caption = button->text();
-  button->setText(tr("Stop"));
-  button->setFocus();
-  const PreviewEnd end = preview_.Start([&] { run(picPreview_->BeginRun()); });
-  button->setText(caption);
-  for (QWidget* widget : disabled) widget->setEnabled(true);
-  templates_.SetEnabled(true);
-  if (end == PreviewEnd::Close) close();
-}
-
-/// Shows a still of the selected or open body with the values of the dialog, unless a preview runs.
-void FrmProps::ShowStill() {
-  if (preview_.IsOn()) return;
-  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
-  if (body < 0) return;
-  const StarfoldProfile shown = inStarfoldView_ ? starfold_->Page() : model_.Profiles()[body];
-  picPreview_->ShowPicture(BodySample(shown, {picPreview_->size(), devicePixelRatioF()}));
-}
-
-void FrmProps::PreviewUniverseOnDialog() {
-  TogglePreview(cmdPreviewUni_, [this](Surface& surface) {
-    if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
-    PreviewUniverse(*editing_, surface, universe_->Settings(), around_.Seed());
-  });
-}
-
-void FrmProps::PreviewSelectedBody() {
-  if (preview_.IsOn()) return preview_.Stop();
-  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
-  const int body = inStarfoldView_ ? currentProfile_ : universe_->Bodies().Selected();
-  if (body < 0) return model_.Inform("Please select a Starfold Type.");
-  PreviewOne(cmdPreviewFold_, body, false);
-}
-
 void FrmProps::PreviewSelectedComposite() {
-  if (preview_.IsOn()) return preview_.Stop();
-  const int body = universe_->Composites().Selected();
-  if (body < 0) return model_.Inform("Please select a Composite Starfold Type.");
-  PreviewOne(universe_->findChild<QPushButton*>("cmdPreviewComp"), body, true);
-}
-
-void FrmProps::PreviewOne(QPushButton* button, int body, bool isComposite) {
-  TogglePreview(button, [&](Surface& surface) {
-    const UniverseSettings universe = universe_->Settings();
-    editing_->Universe = universe;  // a single body uses some of its settings
-    PreviewBody(*editing_, surface, PreviewIn(universe, body, isComposite), around_.Seed());
-  });
+  preview_->ToggleComposite(universe_->findChild<QPushButton*>("cmdPreviewComp"),
+                            universe_->Composites().Selected());
 }
 
 }  // namespace starfolds

@@ -1,25 +1,23 @@
 // `frmProps`: the properties dialog, the main window of the configuration.
 #pragma once
 
-#include <QGroupBox>
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QSplitter>
 #include <QStackedWidget>
-#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include "body_editors/body_editor.h"
 #include "platform/files.h"
+#include "properties/preview_pane.h"
 #include "properties/starfold_view.h"
 #include "properties/universe_view.h"
 #include "settings/property_flows.h"
 #include "template_dialogs/template_menu.h"
 #include "widgets/dialog_model.h"
-#include "widgets/picture_box.h"
-#include "widgets/preview_runs.h"
 #include "widgets/watchful_pump.h"
 
 namespace starfolds {
@@ -63,6 +61,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // `PropertiesDialog`.
@@ -92,7 +91,10 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   Integer TopicHere() const;
   void ShowHomePage();
   void MakeCentre();
-  QWidget* MakePreviewPane();
+  PreviewPane* MakePreviewPane();
+  QWidget* MakeButtons();
+  void ConnectParts();
+  void PlacePreview();
   QWidget* MakeOverridesNote();
 
   void OpenStarfoldView(bool open);
@@ -102,13 +104,8 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   template <class Editor>
   void RunEditor();
 
-  using PreviewRun = std::function<void(Surface& surface)>;
-  void TogglePreview(QPushButton* button, const PreviewRun& run);
-  void PreviewUniverseOnDialog();
-  void PreviewSelectedBody();
   void PreviewSelectedComposite();
-  void ShowStill();
-  void PreviewOne(QPushButton* button, int body, bool isComposite);
+  PreviewSource::Body IdleBody() const;
 
   PropsSurroundings around_;
   std::unique_ptr<ProcessState> editing_;  // the edited records and their previews
@@ -118,9 +115,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   PropertySettings settings_;
   TemplateMenu templates_;
 
-  QTimer stillTimer_;
   bool open_ = false;
-  PreviewSwitch preview_{*editing_};
 
   bool inStarfoldView_ = false;  // InStarfoldView
   int currentProfile_ = -1;      // CurrentProfile
@@ -128,10 +123,9 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   UniverseView* universe_ = nullptr;
   StarfoldView* starfold_ = nullptr;
   QStackedWidget* views_ = nullptr;
-  QGroupBox* fraAni_ = nullptr;
-  PictureBox* picPreview_ = nullptr;
-  QPushButton* cmdPreviewFold_ = nullptr;
-  QPushButton* cmdPreviewUni_ = nullptr;
+  QSplitter* splitter_ = nullptr;
+  bool isPlaced_ = false;  // the preview has its place
+  PreviewPane* preview_ = nullptr;
   QPushButton* cmdAccept_ = nullptr;
   QPushButton* cmdDismiss_ = nullptr;
   std::map<int, QAction*> resetMenu_;  // mnuResetProps

@@ -18,9 +18,9 @@ class PictureBox : public QWidget, public ProgressPicture {
   explicit PictureBox(QWidget* parent = nullptr);
   ~PictureBox() override;
 
-  /// Starts a run: returns a black canvas of the current size of the box. It is valid until the
-  /// next call; if the box is resized meanwhile, the canvas is shown clipped or with a black
-  /// border.
+  /// Starts a run: returns a black canvas of the current size of the box, shown from its first
+  /// `Present` on. It is valid until the next call; if the box is resized meanwhile, the canvas is
+  /// shown clipped or with a black border.
   Surface& BeginRun();
 
   /// Shows a picture centred on black.
@@ -36,8 +36,12 @@ class PictureBox : public QWidget, public ProgressPicture {
  private:
   class Canvas;
 
+  /// Where the picture's upper left corner is shown.
+  QPoint PictureCorner() const;
+
   std::unique_ptr<Canvas> canvas_;
   QImage picture_;
+  bool showsCanvas_ = false;  // the picture is that of the canvas, as of its last `Present`
 };
 
 }  // namespace starfolds

@@ -11,17 +11,15 @@
 #include <vector>
 
 #include "bodies/radial.h"
+#include "colour/tables.h"
+#include "desktop/qimage_of_surface.h"
 #include "numbers/conversions.h"
-#include "platform/desktop_services.h"
-#include "process/process_state.h"
-#include "universe/host_surface.h"
-#include "universe/single_body_run.h"
-#include "widgets/picture_box.h"
+#include "widgets/body_stage.h"
 
 namespace starfolds {
 namespace {
 
-constexpr std::uint64_t kSeed = 41;
+constexpr std::uint64_t kShapeSeed = 41;
 
 QSize DevicePixels(SampleSize size) {
   return (QSizeF(size.Size) * size.Ratio).toSize().expandedTo({1, 1});
@@ -36,146 +34,34 @@ QImage EmptyPicture(SampleSize size) {
 
 // --- Bodies ---
 
-constexpr Integer kFrames = 40;
 constexpr double kStarsPerPixel = 0.12;
 constexpr Long kMostStars = 6000;
-constexpr Integer kCanvasWidth = 1280;
-constexpr Integer kCanvasHeight = 960;
-constexpr Single kZoom = 0.5F;      // leaves room for bodies that extend far beyond the usual
-constexpr double kCloseUp = 1.5;    // canvas pixels per picture pixel, in a second run
-constexpr double kFilled = 0.9;     // share of the picture that the body fills
-constexpr double kOutliers = 0.02;  // share of the pixels that is ignored at each of the four edges
-constexpr double kGlow = 0.4;       // share of a star's light on each adjacent pixel
 
-struct LitPixel {
-  int X, Y;
-  Colour Light;
-};
-
-std::vector<LitPixel> LitPixels(const Surface& surface) {
-  std::vector<LitPixel> lit;
-  std::vector<Colour> row(static_cast<std::size_t>(surface.Width()));
-  for (int y = 0; y < surface.Height(); ++y) {
-    surface.CopyRow(0, y, row);
-    for (int x = 0; x < surface.Width(); ++x) {
-      const Colour light = row[static_cast<std::size_t>(x)];
-      if (light != 0) lit.push_back({x, y, light});
-    }
-  }
-  return lit;
-}
-
-/// The mapping from canvas pixels to picture pixels.
-struct Framing {
-  double MiddleX = 0, MiddleY = 0;  // canvas position of the picture's centre
-  double Scale = 1;
-};
-
-/// The middle and length of the interval that contains all but the outliers.
-std::pair<double, double> Stretch(std::vector<int> places) {
-  const auto outliers = static_cast<std::size_t>(static_cast<double>(places.size()) * kOutliers);
-  std::sort(places.begin(), places.end());
-  const int low = places[outliers];
-  const int high = places[places.size() - 1 - outliers];
-  return {(low + high + 1) / 2.0, high - low + 1};
-}
-
-/// The mapping for which the body fills the picture.
-Framing FramingOf(const std::vector<LitPixel>& lit, QSize picture) {
-  if (lit.empty()) return {};
-  std::vector<int> columns;
-  std::vector<int> rows;
-  for (const LitPixel& pixel : lit) {
-    columns.push_back(pixel.X);
-    rows.push_back(pixel.Y);
-  }
-  const auto [middleX, width] = Stretch(std::move(columns));
-  const auto [middleY, height] = Stretch(std::move(rows));
-  return {middleX, middleY, kFilled * std::min(picture.width() / width, picture.height() / height)};
-}
-
-/// Each star lights the adjacent pixels as well, so that a still is as bright as the moving body.
-QImage StillOf(const std::vector<LitPixel>& lit, const Framing& framing, QSize size) {
-  QImage picture(size, QImage::Format_RGB32);
-  picture.fill(Qt::black);
-  const auto add = [&](int x, int y, Colour light, double share) {
-    if (!picture.valid(x, y)) return;
-    QRgb& pixel = reinterpret_cast<QRgb*>(picture.scanLine(y))[x];
-    const QRgb more = ScreenWord(light);
-    const auto sum = [share](int a, int b) {
-      return std::min(a + static_cast<int>(b * share), 255);
-    };
-    pixel = qRgb(sum(qRed(pixel), qRed(more)), sum(qGreen(pixel), qGreen(more)),
-                 sum(qBlue(pixel), qBlue(more)));
-  };
-  for (const LitPixel& pixel : lit) {
-    const auto place = [&](double at, double middle, int length) {
-      return static_cast<int>(std::floor((at + 0.5 - middle) * framing.Scale + length * 0.5));
-    };
-    const int x = place(pixel.X, framing.MiddleX, size.width());
-    const int y = place(pixel.Y, framing.MiddleY, size.height());
-    add(x, y, pixel.Light, 1);
-    add(x - 1, y, pixel.Light, kGlow);
-    add(x + 1, y, pixel.Light, kGlow);
-    add(x, y - 1, pixel.Light, kGlow);
-    add(x, y + 1, pixel.Light, kGlow);
-  }
+/// One star is one physical pixel, in the colour that it has in the run.
+QImage PictureOf(BodyStage& stage, const ShownBody& body, SampleSize size, SampleView view) {
+  const QSize pixels = DevicePixels(size);
+  const auto width = RoundedToLimits<Integer>(pixels.width());
+  const auto height = RoundedToLimits<Integer>(pixels.height());
+  stage.Take(body);
+  std::optional<BodyCamera> camera;
+  if (view == SampleView::Fitted) camera = stage.FittedCamera(width, height);
+  const double stars = kStarsPerPixel * width * height;
+  MemorySurface canvas(width, height);
+  const auto run =
+      stage.Begin(canvas, camera, ClampTo<Long>(RoundedToLimits<Long>(stars), 10, kMostStars));
+  for (int frame = 0; frame < BodyStage::kWarmUpFrames; ++frame) run->Step();
+  QImage picture = ImageOf(canvas);
+  picture.setDevicePixelRatio(size.Ratio);
   return picture;
 }
-
-/// Has its own process state, so that a picture changes nothing of the dialog's. Runs one profile,
-/// as number 0, on a large canvas and cuts the part with the body out: the extent of the body is
-/// known only after it is drawn.
-class BodyStudio {
- public:
-  BodyStudio() {
-    process_->Events = &clock_;
-    process_->Desktop = &desktop_;
-    process_->Tree = &tree_;
-  }
-
-  QImage Picture(const StarfoldProfile& profile, SampleSize size) {
-    StarfoldProfile& shown = process_->Profiles[0];
-    shown = profile;
-    ClampProfile(shown);
-    ProfileColours& colours = process_->Colours.Profile[0];
-    BuildHueWheel(colours.HueTable, shown);
-    BuildFlareTable(colours.NovaRamp, shown.Starfold_HWC_Start, shown.Starfold_HWC_End);
-    const QSize pixels = DevicePixels(size);
-    const double stars = kStarsPerPixel * pixels.width() * pixels.height();
-
-    std::vector<LitPixel> lit = Shoot(kZoom, stars);
-    Framing framing = FramingOf(lit, pixels);
-    if (framing.Scale > 1) {  // too coarse: runs again with a larger zoom
-      lit = Shoot(static_cast<Single>(kZoom * framing.Scale * kCloseUp), stars);
-      framing = FramingOf(lit, pixels);
-    }
-    QImage picture = StillOf(lit, framing, pixels);
-    picture.setDevicePixelRatio(size.Ratio);
-    return picture;
-  }
-
- private:
-  std::vector<LitPixel> Shoot(Single zoom, double stars) {
-    SetupPreviewSurface(*process_, canvas_, true, zoom, kSeed);
-    SingleBodyRun(*process_, {.Stars = ClampTo<Long>(RoundedToLimits<Long>(stars), 10, kMostStars),
-                              .FrameLimit = kFrames});
-    return LitPixels(canvas_);
-  }
-
-  std::unique_ptr<ProcessState> process_ = std::make_unique<ProcessState>();
-  MemorySurface canvas_{kCanvasWidth, kCanvasHeight};
-  CountedPump clock_;
-  MemoryDesktop desktop_;
-  MemoryTree tree_;
-};
 
 constexpr int kTileColumns = 3;
 constexpr int kTileRows = 2;
 constexpr int kRandomStride = 17;  // coprime to the number of profiles
 
 /// The first profiles in order, or some from the whole list.
-QImage Collage(BodyStudio& studio, const ProfileArray& profiles, bool atRandom, SampleSize size) {
+QImage Collage(const ProfileArray& profiles, bool atRandom, SampleSize size) {
+  BodyStage stage;
   QImage picture = EmptyPicture(size);
   picture.fill(Qt::black);
   QPainter painter(&picture);
@@ -183,8 +69,8 @@ QImage Collage(BodyStudio& studio, const ProfileArray& profiles, bool atRandom, 
   for (int i = 0; i < kTileColumns * kTileRows; ++i) {
     const int chosen = atRandom ? (i + 1) * kRandomStride % kProfileCount : i;
     const QPoint corner(i % kTileColumns * tile.width(), i / kTileColumns * tile.height());
-    painter.drawImage(
-        corner, studio.Picture(profiles[static_cast<std::size_t>(chosen)], {tile, size.Ratio}));
+    const ShownBody body = ShownBody::Of({&profiles[static_cast<std::size_t>(chosen)], 1});
+    painter.drawImage(corner, PictureOf(stage, body, {tile, size.Ratio}, SampleView::Fitted));
   }
   return picture;
 }
@@ -234,7 +120,7 @@ QPainterPath OutlineOf(const std::vector<double>& heights) {
 /// Stars distributed as the generator does it, in the plane of the section.
 QList<QPointF> StarsOf(const ShapeSetting& setting) {
   Rnd random;
-  random.Seed(kSeed);
+  random.Seed(kShapeSeed);
   QList<QPointF> stars;
   for (int i = 0; i < kShapeStars; ++i) {
     const double r = std::pow(random(), setting.RadiusExp);
@@ -318,15 +204,16 @@ void DrawRing(QImage& picture, ColourAt colourAt) {
 }  // namespace
 
 QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size) {
-  BodyStudio studio;
   if (position < kCycleRandomly) {
-    return studio.Picture(profiles[static_cast<std::size_t>(std::max(position, 0))], size);
+    return SampleOfBody(profiles[static_cast<std::size_t>(std::max(position, 0))], size,
+                        SampleView::Fitted);
   }
-  return Collage(studio, profiles, position == kCycleRandomly, size);
+  return Collage(profiles, position == kCycleRandomly, size);
 }
 
-QImage BodySample(const StarfoldProfile& body, SampleSize size) {
-  return BodyStudio().Picture(body, size);
+QImage SampleOfBody(std::span<const StarfoldProfile> members, SampleSize size, SampleView view) {
+  BodyStage stage;
+  return PictureOf(stage, ShownBody::Of(members), size, view);
 }
 
 QImage ShapeSample(const ShapeSetting& setting, SampleSize size, const QPalette& palette) {

@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QPalette>
 
+#include <span>
+
 #include "settings/records.h"
 
 namespace starfolds {
@@ -15,13 +17,22 @@ struct SampleSize {
   qreal Ratio = 1;
 };
 
-/// `picUniProfile`: a body after some frames, on black; always the same picture. `position` is a
-/// value of `Universe_Profile`: for the two that cycle through all profiles it shows several of
-/// them.
-QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size);
+/// The camera of a picture of a body.
+enum class SampleView {
+  OfRun,   // stands at the body's distance: bodies of different sizes look different
+  Fitted,  // the body fills the picture, whatever its size and distance
+};
 
-/// The same for one body.
-QImage BodySample(const StarfoldProfile& body, SampleSize size);
+/// A body after some frames, on black, as bright as in its run; always the same picture. `members`
+/// is one profile, or those of a composite in their order, up to `kMaxMembers`.
+QImage SampleOfBody(std::span<const StarfoldProfile> members, SampleSize size, SampleView view);
+inline QImage SampleOfBody(const StarfoldProfile& body, SampleSize size, SampleView view) {
+  return SampleOfBody(std::span(&body, 1), size, view);
+}
+
+/// `picUniProfile`: a fitted body. `position` is a value of `Universe_Profile`: for the two that
+/// cycle through all profiles it shows several of them.
+QImage ProfileSample(const ProfileArray& profiles, int position, SampleSize size);
 
 /// The settings that shape the section of a body.
 struct ShapeSetting {
