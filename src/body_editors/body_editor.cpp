@@ -6,14 +6,19 @@
 
 #include "widgets/lines.h"
 #include "widgets/plain_text.h"
-#include "widgets/samples.h"
 
 namespace starfolds {
 namespace {
 
 constexpr QSize kLeastPreview{320, 240};
 constexpr QSize kMorePreview{100, 60};
-constexpr int kStillPauseMs = 150;
+
+/// Makes a button the default, also if it is the default at present only because it has the focus:
+/// without the first call it would no longer be when the focus leaves it.
+void MakeDefault(QPushButton& button) {
+  button.setDefault(false);
+  button.setDefault(true);
+}
 
 }  // namespace
 
@@ -38,9 +43,8 @@ BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* 
   controls_ = new QVBoxLayout;
   columns_->addLayout(controls_);
   rows_->addLayout(columns_, 1);
-  stillTimer_.setSingleShot(true);
-  stillTimer_.setInterval(kStillPauseMs);
-  connect(&stillTimer_, &QTimer::timeout, this, &BodyEditor::ShowStill);
+  picPreview_ = new PictureBox;
+  living_ = std::make_unique<LivingBody>(*picPreview_, [this] { return BodyToShow(); });
 }
 
 StarfoldProfile& BodyEditor::Record() const { return model_.Profiles()[editBody_]; }
@@ -69,7 +73,6 @@ QMenuBar* BodyEditor::MakeMenuBar() {
 QWidget* BodyEditor::MakePreviewPane(std::string_view caption) {
   auto* fraPreview = new QGroupBox(Escaped(caption));
   fraPreview->setObjectName("fraPreview");
-  picPreview_ = new PictureBox;
   picPreview_->setObjectName("picPreview");
   picPreview_->setAccessibleName(tr("Preview"));
   picPreview_->setMinimumSize(kLeastPreview);
@@ -77,7 +80,11 @@ QWidget* BodyEditor::MakePreviewPane(std::string_view caption) {
   cmdPreview_ = MakeButton(tr(texts_.Preview), "cmdPreview");
   auto* column = new QVBoxLayout(fraPreview);
   column->addWidget(picPreview_, 1);
-  column->addWidget(cmdPreview_, 0, Qt::AlignHCenter);
+  auto* line = new QHBoxLayout;
+  line->addWidget(cmdPreview_);
+  line->addStretch();
+  for (QCheckBox* box : living_->MakeSwitches()) line->addWidget(box);
+  column->addLayout(line);
   connect(cmdPreview_, &QPushButton::clicked, this, &BodyEditor::TogglePreview);
   return fraPreview;
 }
@@ -132,11 +139,7 @@ void BodyEditor::keyPressEvent(QKeyEvent* event) {
 bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::Resize) {
     resized_ = true;
-    if (preview_.IsOn()) {
-      model_.Process.Requests.AskNewRun();
-    } else {
-      Touched();
-    }
+    if (preview_.IsOn()) model_.Process.Requests.AskNewRun();
   }
   return PlacedDialog::eventFilter(object, event);
 }
@@ -166,11 +169,13 @@ void BodyEditor::TogglePreview() {
   StoreBodyBoxes(Record());
   if (!GatherIntoRecord()) return;
   cmdPreview_->setText(tr("Stop"));
-  cmdPreview_->setDefault(true);
+  MakeDefault(*cmdPreview_);
   cmdDismiss_->setEnabled(false);
+  living_->Suspend();
   const PreviewEnd end = preview_.Start([this] { RunPreview(); });
+  living_->Resume();
   cmdPreview_->setText(tr(texts_.Preview));
-  cmdOK_->setDefault(true);
+  MakeDefault(*cmdOK_);
   cmdDismiss_->setEnabled(true);
   if (end == PreviewEnd::Close) return reject();
   if (acceptsAfterRun_) Accept();
@@ -187,14 +192,15 @@ void BodyEditor::RunPreview() {
   } while (resized_ && !process.Requests.StopRun());
 }
 
-/// Shows the body with the editor's values, until a preview runs.
-void BodyEditor::ShowStill() {
-  if (preview_.IsOn()) return Touched();
-  StarfoldProfile body = Record();
+/// The body with the editor's values, unless they define none.
+std::unique_ptr<ShownBody> BodyEditor::BodyToShow() const {
+  auto shown = std::make_unique<ShownBody>();
+  StarfoldProfile& body = shown->Profiles[0];
+  body = Record();
   StoreBodyBoxes(body);
-  const bool isBody = Gather(body).empty();
-  const SampleSize size{picPreview_->size(), devicePixelRatioF()};
-  picPreview_->ShowPicture(isBody ? SampleOfBody(body, size, SampleView::OfRun) : QImage());
+  if (!Gather(body).empty()) return nullptr;
+  shown->TakeUniverse(props_.UniverseOnDialog());
+  return shown;
 }
 
 }  // namespace starfolds

@@ -5,15 +5,16 @@
 #include <QGridLayout>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTimer>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "numbers/text.h"
 #include "widgets/dialog_model.h"
 #include "widgets/editor_ranges.h"
+#include "widgets/living_body.h"
 #include "widgets/number_box.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
@@ -106,8 +107,8 @@ class BodyEditor : public PlacedDialog {
   /// wrong with them; empty if nothing is.
   virtual std::string Gather(StarfoldProfile& body) const = 0;
 
-  /// Updates the still picture of the body a short time after the last change.
-  void Touched() { stillTimer_.start(); }
+  /// Updates the picture of the body a short time after a change.
+  void Touched() { living_->Changed(); }
 
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -121,7 +122,7 @@ class BodyEditor : public PlacedDialog {
   void Accept();
   void TogglePreview();
   void RunPreview();
-  void ShowStill();
+  std::unique_ptr<ShownBody> BodyToShow() const;
 
   PropsModel model_;
   PropsBoxes& props_;
@@ -131,8 +132,6 @@ class BodyEditor : public PlacedDialog {
   PreviewSwitch preview_;
   bool resized_ = false;          // the picture was resized while a preview runs
   bool acceptsAfterRun_ = false;  // "OK" was pressed while a preview runs
-  QTimer stillTimer_;
-
   std::vector<BoundBox<StarfoldProfile>> bodyBoxes_;
   std::vector<int> propsBoxes_;  // `PropsBox` of each of `bodyBoxes_`
   QVBoxLayout* rows_ = nullptr;
@@ -140,6 +139,7 @@ class BodyEditor : public PlacedDialog {
   QHBoxLayout* columns_ = nullptr;
   QVBoxLayout* controls_ = nullptr;
   PictureBox* picPreview_ = nullptr;
+  std::unique_ptr<LivingBody> living_;  // in the picture while no preview runs
   QPushButton* cmdPreview_ = nullptr;
   QPushButton* cmdOK_ = nullptr;
   QPushButton* cmdDismiss_ = nullptr;

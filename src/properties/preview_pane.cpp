@@ -34,21 +34,10 @@ PreviewPane::PreviewPane(const PropsModel& model, PreviewSource source, QWidget*
   buttons_ = new QBoxLayout(QBoxLayout::LeftToRight);
   cmdPreviewFold_ = MakeButton(tr("Preview Starfold"), "cmdPreviewFold");
   cmdPreviewUni_ = MakeButton(tr("Preview Universe"), "cmdPreviewUni");
-  chkFit_ = new QCheckBox(tr("Fit"));
-  chkFit_->setObjectName("chkFit");
-  chkFit_->setToolTip(
-      tr("The body fills the picture. Otherwise it stands at its distance from the camera, as in a "
-         "run."));
-  chkMove_ = new QCheckBox(tr("Move"));
-  chkMove_->setObjectName("chkMove");
-  chkMove_->setToolTip(tr("The body moves while no preview runs."));
-  chkMove_->setChecked(!WantsNoMotion(*this));
-  living_->SetMoving(chkMove_->isChecked());
   buttons_->addWidget(cmdPreviewFold_);
   buttons_->addWidget(cmdPreviewUni_);
   buttons_->addStretch();
-  buttons_->addWidget(chkFit_);
-  buttons_->addWidget(chkMove_);
+  for (QCheckBox* box : living_->MakeSwitches()) buttons_->addWidget(box);
   column_->addLayout(buttons_);
   column_->addStretch(0);
 
@@ -60,8 +49,6 @@ PreviewPane::PreviewPane(const PropsModel& model, PreviewSource source, QWidget*
   });
   connect(cmdPreviewFold_, &QPushButton::clicked, this, &PreviewPane::ToggleBody);
   connect(cmdPreviewUni_, &QPushButton::clicked, this, &PreviewPane::ToggleUniverse);
-  connect(chkFit_, &QCheckBox::toggled, living_.get(), &LivingBody::SetFitted);
-  connect(chkMove_, &QCheckBox::toggled, living_.get(), &LivingBody::SetMoving);
 }
 
 void PreviewPane::CameraChanged() {
@@ -171,11 +158,7 @@ std::unique_ptr<ShownBody> PreviewPane::BodyToShow() {
   } else {
     shown->Profiles[0] = source_.Profile(selected.Index);
   }
-  const UniverseSettings universe = source_.Universe();
-  shown->Stars = universe.Universe_Stars;
-  shown->Trail = universe.Universe_STrail;
-  shown->HueStart = universe.Universe_HW_Start;
-  shown->HueEnd = universe.Universe_HW_End;
+  shown->TakeUniverse(source_.Universe());
   if (!focalLength_) focalLength_ = LoadAdvancedFromRegistry(*model_.Process.Tree).FocalLength;
   shown->FocalLength = *focalLength_;
   return shown;

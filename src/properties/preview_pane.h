@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -101,8 +100,6 @@ class PreviewPane : public QGroupBox {
   PictureBox* picPreview_ = nullptr;
   QPushButton* cmdPreviewFold_ = nullptr;
   QPushButton* cmdPreviewUni_ = nullptr;
-  QCheckBox* chkFit_ = nullptr;
-  QCheckBox* chkMove_ = nullptr;
 };
 
 }  // namespace starfolds

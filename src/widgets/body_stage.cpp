@@ -63,6 +63,13 @@ ShownBody ShownBody::Of(std::span<const StarfoldProfile> members) {
   return shown;
 }
 
+void ShownBody::TakeUniverse(const UniverseSettings& universe) {
+  Stars = universe.Universe_Stars;
+  Trail = universe.Universe_STrail;
+  HueStart = universe.Universe_HW_Start;
+  HueEnd = universe.Universe_HW_End;
+}
+
 BodyStage::BodyStage() {
   process_->Events = &clock_;
   process_->Desktop = &desktop_;

@@ -23,6 +23,9 @@ struct ShownBody {
 
   /// One profile, or the members of a composite.
   static ShownBody Of(std::span<const StarfoldProfile> members);
+
+  /// Takes the values that come from a universe over.
+  void TakeUniverse(const UniverseSettings& universe);
 };
 
 /// A camera that shows a whole body: the values of `Display`.

@@ -1,5 +1,6 @@
 #include "widgets/living_body.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QStyle>
 #include <algorithm>
@@ -14,6 +15,11 @@ constexpr int kChangeMs = 100;  // from a change to the restart, during which mo
 constexpr int kFrameMs = 40;    // least time from frame to frame
 constexpr int kWarmUpMs = 5;    // processor time at a stretch before the first frame is shown
 constexpr int kRestFactor = 8;  // a frame that took n ms is followed by the next one after 8 n
+
+/// Whether the widgets of the user's desktop are not animated.
+bool WantsNoMotion(const QWidget& widget) {
+  return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) == 0;
+}
 
 }  // namespace
 
@@ -39,6 +45,22 @@ void LivingBody::SetFitted(bool fitted) {
 void LivingBody::SetMoving(bool moving) {
   moving_ = moving;
   if (MayMove()) next_.start(0);
+}
+
+std::array<QCheckBox*, 2> LivingBody::MakeSwitches() {
+  auto* fit = new QCheckBox(tr("Fit"));
+  fit->setObjectName("chkFit");
+  fit->setToolTip(
+      tr("The body fills the picture. Otherwise it is at its distance from the camera, "
+         "as in a run."));
+  auto* move = new QCheckBox(tr("Move"));
+  move->setObjectName("chkMove");
+  move->setToolTip(tr("The body moves while no preview runs."));
+  move->setChecked(!WantsNoMotion(box_));
+  SetMoving(move->isChecked());
+  connect(fit, &QCheckBox::toggled, this, &LivingBody::SetFitted);
+  connect(move, &QCheckBox::toggled, this, &LivingBody::SetMoving);
+  return {fit, move};
 }
 
 void LivingBody::Suspend() {
@@ -115,10 +137,6 @@ void LivingBody::DrawNext() {
   ++frames_;
   const auto rest = static_cast<int>(clock.elapsed()) * kRestFactor;
   if (MayMove()) next_.start(std::max(kFrameMs, rest));
-}
-
-bool WantsNoMotion(const QWidget& widget) {
-  return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) == 0;
 }
 
 }  // namespace starfolds

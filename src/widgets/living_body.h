@@ -1,9 +1,10 @@
 // A body that turns in a picture box while nothing else runs there.
 #pragma once
 
-#include <QElapsedTimer>
+#include <QCheckBox>
 #include <QObject>
 #include <QTimer>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -34,6 +35,10 @@ class LivingBody : public QObject {
   /// Whether it moves.
   void SetMoving(bool moving);
 
+  /// The switches below a picture: `chkFit` ("Fit") and `chkMove` ("Move"), which is off if the
+  /// user's desktop asks for no motion.
+  std::array<QCheckBox*, 2> MakeSwitches();
+
   /// A run draws on the box until `Resume`.
   void Suspend();
   void Resume();
@@ -63,8 +68,5 @@ class LivingBody : public QObject {
   bool moving_ = true;
   bool suspended_ = false;
 };
-
-/// Whether the user's desktop asks for no motion: its widgets are not animated.
-bool WantsNoMotion(const QWidget& widget);
 
 }  // namespace starfolds
