@@ -260,7 +260,7 @@ void FrmProps::MakeCentre() {
   auto* centre = new QWidget;
   auto* rows = new QVBoxLayout(centre);
   universe_ = new UniverseView(model_);
-  starfold_ = new StarfoldView(model_);
+  starfold_ = new StarfoldView(model_, around_.Seed);
   views_ = new QStackedWidget;
   views_->addWidget(Scrolled(universe_, "scrUniverse"));
   views_->addWidget(Scrolled(starfold_, "scrStarfold"));

@@ -4,11 +4,15 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
+#include "settings/surprise.h"
 #include "widgets/lines.h"
+#include "widgets/range_label.h"
 #include "widgets/samples.h"
 
 namespace starfolds {
@@ -20,8 +24,14 @@ constexpr Integer kDefaultColorRule = 3;  // after a style that has its own rule
 
 // The lines with another control beside their boxes.
 constexpr int kDistanceLabel = 1;
-constexpr int kLevelsLabel = 90;
 constexpr int kColorLabel = 7;
+
+/// A heading above the line of a box.
+struct Heading {
+  int Box;
+  const char* Text;
+};
+constexpr Heading kHeadings[] = {{10, "New Stars"}, {20, "Novas"}, {30, "Pulsars"}, {40, "Comets"}};
 
 QComboBox* MakeList(const char* name, std::span<const std::string_view> entries) {
   auto* list = new QComboBox;
@@ -33,10 +43,25 @@ QComboBox* MakeList(const char* name, std::span<const std::string_view> entries)
 
 }  // namespace
 
-StarfoldView::StarfoldView(const PropsModel& model, QWidget* parent)
-    : QWidget(parent), model_(model) {
+StarfoldView::StarfoldView(const PropsModel& model, std::function<std::uint64_t()> seed,
+                           QWidget* parent)
+    : QWidget(parent), model_(model), seed_(std::move(seed)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
+  layout->addLayout(MakeHead());
+  layout->addWidget(MakePages(), 1);
+  layout->addLayout(MakeActions());
+  connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
+  connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
+  for (QComboBox* list : {cboFoldPlane_, cboFoldColor_, cboPulsarShape_}) {
+    connect(list, &QComboBox::currentIndexChanged, this, &StarfoldView::ShowSamples);
+  }
+  for (QCheckBox* check : {chkCP_Closed_, chkCP_AdvHW_}) {
+    connect(check, &QCheckBox::toggled, this, &StarfoldView::ShowSamples);
+  }
+}
+
+QLayout* StarfoldView::MakeHead() {
   auto* head = new QHBoxLayout;
   const auto addList = [&](const QString& label, QComboBox* list) {
     auto* text = new QLabel(label);
@@ -52,18 +77,31 @@ StarfoldView::StarfoldView(const PropsModel& model, QWidget* parent)
   addList(tr("&Theme:"), cboFoldTheme_);
   cboFoldExtras_ = MakeList("cboFoldExtras", {});
   addList(tr("&Page:"), cboFoldExtras_);
-  head->addStretch();
-  layout->addLayout(head);
-  layout->addWidget(MakePages(), 1);
-  connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
-  connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
-  for (QComboBox* list : {cboFoldPlane_, cboFoldColor_}) {
-    connect(list, &QComboBox::currentIndexChanged, this, &StarfoldView::ShowSamples);
-  }
+  return head;
+}
+
+/// Ways to other values of the whole body.
+QLayout* StarfoldView::MakeActions() {
+  auto* line = new QHBoxLayout;
+  const auto add = [&](const QString& text, const char* name, const QString& tip, auto act) {
+    QPushButton* button = MakeButton(text, name);
+    button->setToolTip(tip);
+    connect(button, &QPushButton::clicked, this, act);
+    line->addWidget(button);
+  };
+  add(tr("S&urprise Me"), "cmdSurprise", tr("A random body of this style."),
+      &StarfoldView::SurpriseMe);
+  add(tr("Start from a Sa&mple"), "cmdSample",
+      tr("The values of an original type of this style, which are a good start for your own."),
+      &StarfoldView::StartFromSample);
+  add(tr("Revert This &Body"), "cmdRevert", tr("The values that this type had when you opened it."),
+      &StarfoldView::Revert);
+  line->addStretch();
+  return line;
 }
 
 void StarfoldView::LoadProfileToPage(int index) {
-  page_ = model_.Profiles()[index];
+  opened_ = page_ = model_.Profiles()[index];
   const QSignalBlocker quiet(cboFoldTheme_);
   cboFoldTheme_->setCurrentIndex(0);
   LoadBoxes();
@@ -147,6 +185,7 @@ QWidget* StarfoldView::MakePages() {
     frame->setAccessibleName(name);
     frame->setObjectName("fraFoldProp_" + QString::number(i));
     auto* page = MakePage(frame);
+    SetLabelWidth(*page, LabelWidth());
     switch (static_cast<StarfoldPage>(i)) {
       case StarfoldPage::Shape: FillShapePage(*page); break;
       case StarfoldPage::Flares: FillFlaresPage(*page); break;
@@ -160,16 +199,28 @@ QWidget* StarfoldView::MakePages() {
   return pages_;
 }
 
+/// The width of the longest label of any style, so that the boxes stay where they are.
+int StarfoldView::LabelWidth() const {
+  int width = 0;
+  for (int style = 0; style < kStyleCount; ++style) {
+    const StyleFacts& facts = FactsOf(static_cast<Integer>(style));
+    width = std::max(width, RangeLabel::WidthOf(Shown(facts.OwnColorCaption), fontMetrics()));
+    for (const StarfoldRow& row : StarfoldRows()) {
+      const QString label = Shown(LabelOf(row.Label, style));
+      width = std::max(width, RangeLabel::WidthOf(label, fontMetrics()));
+    }
+  }
+  return width;
+}
+
 void StarfoldView::FillShapePage(QGridLayout& page) {
   cboFoldStyle_ = MakeList("cboFoldStyle", StyleNames());
   AddLine(page, tr("&Style:"), cboFoldStyle_, {cboFoldStyle_});
   cboFoldPlane_ = MakeList("cboFoldPlane", PlaneNames());
   cboFoldPlane_->setAccessibleName(tr("Axial plane"));
   cboFoldPlane_->setMaximumWidth(cboFoldPlane_->fontMetrics().averageCharWidth() * 14);
-  cmdFoldLevels_ = new QPushButton(tr("&Levels..."));
-  cmdFoldLevels_->setObjectName("cmdFoldLevels");
-  cmdIFS_Chem_ = new QPushButton;
-  cmdIFS_Chem_->setObjectName("cmdIFS_Chem");
+  cmdFoldLevels_ = MakeButton(tr("&Levels..."), "cmdFoldLevels");
+  cmdIFS_Chem_ = MakeButton({}, "cmdIFS_Chem");
   AddRows(page, StarfoldPage::Shape);
 
   cboFoldProfile_ = MakeList("cboFoldProfile", ShapeNames());
@@ -182,8 +233,9 @@ void StarfoldView::FillShapePage(QGridLayout& page) {
   chkCP_Closed_->setObjectName("chkCP_Closed");
   chkCP_AdvHW_ = new QCheckBox(tr("Advance the Hue Wheel along the Ribbon"));
   chkCP_AdvHW_->setObjectName("chkCP_AdvHW");
-  for (QWidget* widget : {static_cast<QWidget*>(chkCP_Closed_), static_cast<QWidget*>(chkCP_AdvHW_),
-                          static_cast<QWidget*>(cmdIFS_Chem_)}) {
+  for (QWidget* widget :
+       {static_cast<QWidget*>(chkCP_Closed_), static_cast<QWidget*>(chkCP_AdvHW_),
+        static_cast<QWidget*>(cmdFoldLevels_), static_cast<QWidget*>(cmdIFS_Chem_)}) {
     AddWideLine(page, widget);
   }
   connect(cboFoldProfile_, &QComboBox::currentIndexChanged, this, &StarfoldView::ShowSamples);
@@ -201,6 +253,7 @@ void StarfoldView::FillCometsPage(QGridLayout& page) {
   AddRows(page, StarfoldPage::Comets);
   picCometHue_ = MakeSamplePlace("picCometHue", tr("Hues of comets, novas and pulsars"), kHueSize);
   AddLine(page, tr("Hues from start to end:"), nullptr, {picCometHue_});
+  AddHeading(page, tr("Star Color"));
   AddPixHue(page);
 }
 
@@ -211,13 +264,15 @@ void StarfoldView::AddRows(QGridLayout& page, StarfoldPage which) {
     if (line.empty()) return;
     std::vector<QWidget*> also;
     if (line.front()->Label == kDistanceLabel) also = {cboFoldPlane_};
-    if (line.front()->Label == kLevelsLabel) also = {cmdFoldLevels_};
     AddRowLine(page, line, also);
     line.clear();
   };
   for (const StarfoldRow& row : StarfoldRows()) {
     if (row.Page != which) continue;
     if (!line.empty() && line.front()->Label != row.Label) end();
+    for (const Heading& heading : kHeadings) {
+      if (heading.Box == row.Index) AddHeading(page, tr(heading.Text));
+    }
     line.push_back(&row);
   }
   end();
@@ -310,9 +365,41 @@ void StarfoldView::ChangeStyle(int style) {
 }
 
 void StarfoldView::ChooseTheme(int position) {
-  if (position > 0) {
-    ApplyFactoryRowToPage(FactoryProfileRow(FactorySet::Starfolds4x, position));
+  if (position <= 0) return;
+  emit AboutToChange(tr("Theme"));
+  ApplyFactoryRowToPage(FactoryProfileRow(FactorySet::Starfolds4x, position));
+  emit Said(tr("Theme: %1").arg(cboFoldTheme_->currentText()));
+}
+
+/// Of the style that is shown. Name and weight are not on the page.
+void StarfoldView::SurpriseMe() {
+  emit AboutToChange(tr("Surprise Me"));
+  Rnd random(seed_());
+  StoreBoxes(page_, Numbers::Clamped);
+  page_ = SurprisingBody(page_, random);
+  LoadBoxes();
+  emit Said(tr("A random body. Press again for another one."));
+}
+
+/// The first original type of the style, with its points or atoms.
+void StarfoldView::StartFromSample() {
+  for (int row = 0; row < kProfileCount; ++row) {
+    StarfoldProfile sample = page_;
+    LoadFactoryProfile(sample, FactorySet::Starfolds4x, row);
+    if (sample.Starfold_FoldStyle != Style()) continue;
+    emit AboutToChange(tr("Start from a Sample"));
+    page_ = sample;
+    LoadBoxes();
+    emit Said(tr("Sample: %1").arg(Shown(FactoryProfileName(row, FactorySet::Starfolds4x))));
+    return;
   }
+}
+
+void StarfoldView::Revert() {
+  emit AboutToChange(tr("Revert This Body"));
+  page_ = opened_;
+  LoadBoxes();
+  emit Said(tr("The values are those of the type when you opened it."));
 }
 
 void StarfoldView::ShowSamples() {

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QWidget>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -23,7 +25,9 @@ class StarfoldView : public QWidget {
   Q_OBJECT
 
  public:
-  explicit StarfoldView(const PropsModel& model, QWidget* parent = nullptr);
+  /// `seed` is called for each random body.
+  StarfoldView(const PropsModel& model, std::function<std::uint64_t()> seed,
+               QWidget* parent = nullptr);
 
   /// Shows profile `index`.
   void LoadProfileToPage(int index);
@@ -50,6 +54,10 @@ class StarfoldView : public QWidget {
  signals:
   /// A value of the page has changed.
   void Changed();
+  /// Many values are about to change, by what `what` names.
+  void AboutToChange(QString what);
+  /// What has just happened, as a sentence.
+  void Said(QString text);
   /// `cmdFoldLevels` and `cmdIFS_Chem`.
   void LevelsAskedFor();
   void BodyEditorAskedFor();
@@ -62,7 +70,10 @@ class StarfoldView : public QWidget {
     std::vector<const StarfoldRow*> Rows;
   };
 
+  QLayout* MakeHead();
+  QLayout* MakeActions();
   QWidget* MakePages();
+  int LabelWidth() const;
   void FillShapePage(QGridLayout& page);
   void FillFlaresPage(QGridLayout& page);
   void FillCometsPage(QGridLayout& page);
@@ -77,12 +88,17 @@ class StarfoldView : public QWidget {
   void StoreBoxes(StarfoldProfile& profile, Numbers numbers) const;
   void ChangeStyle(int style);
   void ChooseTheme(int position);
+  void SurpriseMe();
+  void StartFromSample();
+  void Revert();
   void ShowSamples();
   int Style() const { return page_.Starfold_FoldStyle; }
 
   PropsModel model_;
+  std::function<std::uint64_t()> seed_;
   StarfoldProfile page_;
-  bool loading_ = false;  // the controls are being set from the copy
+  StarfoldProfile opened_;  // the profile when its page was opened
+  bool loading_ = false;    // the controls are being set from the copy
 
   std::map<const StarfoldRow*, NumberBox*> boxes_;  // txtStarfold and txtPixHue
   std::vector<Line> lines_;

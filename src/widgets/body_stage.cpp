@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "numbers/conversions.h"
+#include "settings/styles.h"
 #include "universe/host_surface.h"
 
 namespace starfolds {
@@ -22,6 +23,9 @@ constexpr Long kMeasuredStars = 1500;
 constexpr double kFilled = 0.9;     // share of the picture that the body fills
 constexpr double kOutliers = 0.02;  // share of the pixels that is ignored at each of the four edges
 constexpr Single kNearest = 300'000;  // maximum of `FocalPixels`, for a body of a single pixel
+
+constexpr int kWarmUpFrames = 40;
+constexpr int kLongWarmUpFrames = 160;
 
 /// The middle and length of the interval that contains all but the outliers.
 std::pair<double, double> Stretch(std::vector<int> places) {
@@ -92,12 +96,18 @@ void BodyStage::Take(const ShownBody& body) {
            .Trail = static_cast<Integer>(ClampTo<Long>(body.Trail, 1, 999))};
 }
 
+int BodyStage::WarmUpFrames() const {
+  const FoldStyle style = process_->Profiles[0].Style();
+  const bool isLong = !plan_.IsComposite && FactsOf(style).RunMotion != Motion::Rotate;
+  return isLong ? kLongWarmUpFrames : kWarmUpFrames;
+}
+
 BodyCamera BodyStage::FittedCamera(Integer width, Integer height) {
   BodyCamera camera{(kCanvasWidth + kCanvasHeight) / 4 * kZoom, kCanvasWidth / 2,
                     kCanvasHeight / 2};
   MemorySurface canvas(kCanvasWidth, kCanvasHeight);
   const auto body = Begin(canvas, camera, kMeasuredStars);
-  for (int frame = 0; frame < kWarmUpFrames; ++frame) body->Step();
+  for (int frame = 0; frame < WarmUpFrames(); ++frame) body->Step();
   const LitPlaces lit = LitPlacesOf(canvas);
   if (!lit.Columns.empty()) {
     const auto [middleX, bodyWidth] = Stretch(lit.Columns);

@@ -44,8 +44,9 @@ class BodyStage {
   /// Takes over the records, clamped.
   void Take(const ShownBody& body);
 
-  /// The number of frames after which a body looks as it does for the rest of its run.
-  static constexpr int kWarmUpFrames = 40;
+  /// The number of frames after which the body taken over looks as it does for the rest of its run:
+  /// styles whose stars begin in the core need more.
+  int WarmUpFrames() const;
 
   /// The camera for which the body fills a picture of this size, except a few outlying stars. Runs
   /// the body for some frames.

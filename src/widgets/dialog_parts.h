@@ -12,8 +12,19 @@ inline QString Shown(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// A button whose text does not touch its border, which some styles allow.
+class RoomyButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  QSize sizeHint() const override { return QPushButton::sizeHint() + kRoom; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  static constexpr QSize kRoom{14, 2};
+};
+
 inline QPushButton* MakeButton(const QString& text, const char* name) {
-  auto* button = new QPushButton(text);
+  auto* button = new RoomyButton(text);
   button->setObjectName(name);
   return button;
 }

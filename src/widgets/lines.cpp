@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 
 #include "widgets/dialog_model.h"
+#include "widgets/range_label.h"
 
 namespace starfolds {
 namespace {
@@ -23,7 +24,7 @@ bool CanGrow(const QWidget* widget) {
 QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
                 const std::vector<QWidget*>& widgets) {
   const int row = page.rowCount();
-  auto* text = new QLabel(label, page.parentWidget());
+  auto* text = new RangeLabel(label, page.parentWidget());
   text->setBuddy(buddy);
   page.addWidget(text, row, kLabelColumn);
   auto* boxes = new QHBoxLayout;
@@ -36,6 +37,20 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
 
 void AddWideLine(QGridLayout& page, QWidget* widget) {
   page.addWidget(widget, page.rowCount(), kLabelColumn, 1, kColumns);
+}
+
+void AddHeading(QGridLayout& page, const QString& text) {
+  auto* heading = new QLabel(text);
+  heading->setTextFormat(Qt::PlainText);
+  QFont bold = heading->font();
+  bold.setBold(true);
+  heading->setFont(bold);
+  if (page.rowCount() > 1) heading->setContentsMargins(0, kSpacing, 0, 0);
+  AddWideLine(page, heading);
+}
+
+void SetLabelWidth(QGridLayout& page, int width) {
+  page.setColumnMinimumWidth(kLabelColumn, width);
 }
 
 QGridLayout* MakePage(QWidget* page) {

@@ -19,6 +19,12 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
 /// Appends a widget that spans both columns.
 void AddWideLine(QGridLayout& page, QWidget* widget);
 
+/// Appends a heading for the lines after it.
+void AddHeading(QGridLayout& page, const QString& text);
+
+/// The least width of the column of labels, so that it does not change with their texts.
+void SetLabelWidth(QGridLayout& page, int width);
+
 /// A form whose lines stay together at the top.
 QGridLayout* MakePage(QWidget* page);
 void EndPage(QGridLayout& page);

@@ -14,6 +14,7 @@ namespace {
 constexpr int kChangeMs = 100;  // from a change to the restart, during which more may follow
 constexpr int kFrameMs = 40;    // least time from frame to frame
 constexpr int kWarmUpMs = 5;    // processor time at a stretch before the first frame is shown
+constexpr int kMostWarmUpMs = 120;
 constexpr int kRestFactor = 8;  // a frame that took n ms is followed by the next one after 8 n
 
 /// Whether the widgets of the user's desktop are not animated.
@@ -96,7 +97,7 @@ void LivingBody::Restart() {
   if (!box_.isVisible()) return;
   next_.stop();
   body_.reset();
-  frames_ = warmedUp_ = 0;
+  frames_ = 0;
   const std::unique_ptr<ShownBody> shown = source_();
   if (!shown) return box_.ShowPicture({});
   stage_.Take(*shown);
@@ -107,6 +108,8 @@ void LivingBody::Restart() {
   }
   canvas_ = &box_.BeginRun();
   body_ = stage_.Begin(*canvas_, camera);
+  warmUpLeft_ = stage_.WarmUpFrames();
+  warmUpMs_ = 0;
   DrawNext();
 }
 
@@ -119,11 +122,12 @@ bool LivingBody::MayMove() const {
 bool LivingBody::WarmUp() {
   QElapsedTimer clock;
   clock.start();
-  while (warmedUp_ < BodyStage::kWarmUpFrames && clock.elapsed() < kWarmUpMs) {
+  while (warmUpLeft_ > 0 && clock.elapsed() < kWarmUpMs) {
     body_->Step();
-    ++warmedUp_;
+    --warmUpLeft_;
   }
-  return warmedUp_ == BodyStage::kWarmUpFrames;
+  warmUpMs_ += clock.elapsed();
+  return warmUpLeft_ <= 0 || warmUpMs_ > kMostWarmUpMs;
 }
 
 void LivingBody::DrawNext() {

@@ -62,7 +62,8 @@ class LivingBody : public QObject {
   Surface* canvas_ = nullptr;
   QTimer restart_;
   QTimer next_;
-  int warmedUp_ = 0;  // frames drawn before the first one that is shown
+  int warmUpLeft_ = 0;   // frames to draw before the first one that is shown
+  qint64 warmUpMs_ = 0;  // processor time spent on them
   int frames_ = 0;
   bool fitted_ = false;
   bool moving_ = true;

@@ -49,7 +49,7 @@ QImage PictureOf(BodyStage& stage, const ShownBody& body, SampleSize size, Sampl
   MemorySurface canvas(width, height);
   const auto run =
       stage.Begin(canvas, camera, ClampTo<Long>(RoundedToLimits<Long>(stars), 10, kMostStars));
-  for (int frame = 0; frame < BodyStage::kWarmUpFrames; ++frame) run->Step();
+  for (int frame = 0; frame < stage.WarmUpFrames(); ++frame) run->Step();
   QImage picture = ImageOf(canvas);
   picture.setDevicePixelRatio(size.Ratio);
   return picture;
