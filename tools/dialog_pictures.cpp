@@ -18,6 +18,7 @@
 #include "settings/first_run.h"
 #include "settings/stored_records.h"
 #include "template_dialogs/frm_file_io.h"
+#include "widgets/visible_boxes.h"
 
 namespace {
 
@@ -206,6 +207,7 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   const QString look = argv[2];
   if (look == "dark") QApplication::setPalette(DarkPalette());
+  ShowUncheckedBoxes(application);
   MemoryTree tree;
   StoreFactory(tree);
   MemoryFiles disk;

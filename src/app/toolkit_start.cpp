@@ -6,6 +6,8 @@
 
 #include "platform/console.h"
 #include "widgets/plain_text.h"
+#include "widgets/program_icon.h"
+#include "widgets/visible_boxes.h"
 
 #ifdef __unix__
 #include <unistd.h>
@@ -83,6 +85,8 @@ Toolkit::Toolkit(char* program) : arguments_{program, nullptr} {
   qInstallMessageHandler(CollectMessage);
   application_.emplace(argumentCount_, arguments_.data());
   ShowTextsAsPlain(*application_);
+  ShowUncheckedBoxes(*application_);
+  QApplication::setWindowIcon(ProgramIcon());
   ReplayMessages();
 }
 

@@ -108,7 +108,8 @@ void BodyEditor::AddBodyBox(QGridLayout& page, const char* array, int index, con
   auto* box = new NumberBox;
   box->SetNames(array, index);
   box->SetRange(RangeIn(texts_.Ranges, row.What));
-  box->setAccessibleName(tr(row.Label));
+  box->setAccessibleName(SpokenLabel(tr(row.Label)));
+  Guide(*box, FieldOf(row.What));
   AddLine(page, tr(row.Label), box, {box});
   connect(box, &NumberBox::Changed, this, &BodyEditor::Touched);
   bodyBoxes_.push_back({box, &FieldOf(row.What)});

@@ -19,6 +19,7 @@
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
 #include "widgets/preview_runs.h"
+#include "widgets/setting_guide.h"
 
 namespace starfolds {
 
@@ -96,6 +97,12 @@ class BodyEditor : public PlacedDialog {
   QVBoxLayout& Head() { return *head_; }
   /// Must be called last, so that the preview and the buttons follow the controls in the tab order.
   void AddPreviewAndButtons(QPushButton* cmdClear = nullptr);
+
+  /// Explains the setting of a control in its place.
+  template <class Record>
+  void Guide(QWidget& control, const Field<Record>& field) const {
+    new SettingGuide(control, model_.HelpBook, [&field] { return Guided(field); });
+  }
 
   /// Adds a line for element `index` of a control array.
   void AddBodyBox(QGridLayout& page, const char* array, int index, const BodyBox& row);

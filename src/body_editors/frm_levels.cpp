@@ -48,6 +48,7 @@ FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
     box->setObjectName("chkToggle_" + QString::number(chkToggle_.size()));
     box->setChecked(Record().*member != 0);
     connect(box, &QCheckBox::toggled, this, &FrmLevels::Touched);
+    Guide(*box, FieldOf(Setting<StarfoldProfile>(member)));
     AddWideLine(*page, box);
     chkToggle_.push_back({box, member});
   }

@@ -60,6 +60,10 @@ QLineEdit* MakeField(const char* name, const QString& about) {
   field->setObjectName(name);
   field->setAccessibleName(about);
   field->setReadOnly(true);
+  field->setFrame(false);  // a fact, not a box to type in
+  QPalette asLabel = field->palette();
+  asLabel.setColor(QPalette::Base, Qt::transparent);
+  field->setPalette(asLabel);
   field->setMaximumWidth(field->fontMetrics().averageCharWidth() * 9);
   return field;
 }
@@ -158,7 +162,7 @@ void FrmMolecule::AddElementLines(QGridLayout& page) {
     cboElement_->addItem(Shown(ElementInfo(element).Name));
   }
   cboElement_->setCurrentIndex(-1);
-  AddLine(page, tr("&Element:"), cboElement_, {cboElement_});
+  AddLine(page, tr("Periodic Table &Element:"), cboElement_, {cboElement_});
   connect(cboElement_, &QComboBox::currentIndexChanged, this, &FrmMolecule::ShowElement);
 
   txtPropNumber_ = MakeField("txtPropNumber", tr("Atomic number"));
@@ -179,7 +183,7 @@ void FrmMolecule::AddElementLines(QGridLayout& page) {
     cboType_->addItem(Shown(AtomStructureName(structure)));
   }
   cboType_->setCurrentIndex(-1);
-  AddLine(page, tr("&Structure:"), cboType_, {cboType_});
+  AddLine(page, tr("Atomic &Structure:"), cboType_, {cboType_});
   connect(cboType_, &QComboBox::currentIndexChanged, this, &FrmMolecule::ShowStructure);
 }
 
@@ -191,6 +195,8 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     box->SetNames("Props", index);
     box->SetRange(RangeOf(*field));
     box->SetBlankAllowed();
+    box->setAccessibleName(tr("Atom, %1").arg(SpokenLabel(tr(row.Label))));
+    Guide(*box, *field);
     lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
     lblProps_[index]->setMinimumWidth(lblProps_[index]->sizeHint().width());  // boxes stay put
@@ -202,7 +208,7 @@ QLayout* FrmMolecule::MakeActions() {
   auto* line = new QHBoxLayout;
   const char* const captions[] = {"&Add", "&Update", "&Remove"};
   for (const Action action : {kAdd, kUpdate, kRemove}) {
-    auto* button = new QPushButton(tr(captions[action]));
+    auto* button = MakeButton(tr(captions[action]), {});
     button->setObjectName("cmdAction_" + QString::number(action));
     connect(button, &QPushButton::clicked, this, [this, action] { Act(action); });
     line->addWidget(button);
@@ -240,7 +246,7 @@ void FrmMolecule::ShowStructure(int structure) {
   txtProps_[kPropZ].Box->setEnabled(!lattice);
   txtProps_[kPropSymmetry].Box->setEnabled(structure != 0);
   for (std::size_t i = 0; i < txtProps_.size(); ++i) {
-    txtProps_[i].Box->setAccessibleName(lblProps_[i]->text().replace('\n', ' '));
+    txtProps_[i].Box->setAccessibleName(tr("Atom, %1").arg(SpokenLabel(lblProps_[i]->text())));
   }
 }
 

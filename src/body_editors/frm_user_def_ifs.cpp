@@ -87,6 +87,7 @@ void FrmUserDefIfs::AddPoint(QGridLayout& grid) {
       control = box;
     }
     control->setAccessibleName(name + ", " + Shown(field->Label));
+    Guide(*control, *field);
     grid.addWidget(control, line, column + 1);
     if (column == 0) lblPoint->setBuddy(control);
   }

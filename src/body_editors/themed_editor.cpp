@@ -18,6 +18,7 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
   lblTheme_ = new QLabel;
   lblTheme_->setObjectName("lblTheme");
   lblTheme_->setTextFormat(Qt::PlainText);
+  cboTheme_->setAccessibleName(tr("Theme"));
   auto* label = new QLabel(tr("&Theme:"));
   label->setBuddy(cboTheme_);
   auto* line = new QHBoxLayout;
@@ -48,7 +49,7 @@ QLayout* ThemedEditor::MakeBodyAndCenter() {
     auto* box = new NumberBox;
     box->SetNames("Center", static_cast<int>(i));
     box->SetBlankAllowed();
-    box->setAccessibleName(label);
+    box->setAccessibleName(SpokenLabel(label));
     AddLine(*page, label, box, {box});
     connect(box, &NumberBox::Changed, this, &ThemedEditor::Touched);
     txtCenter_[i] = box;
@@ -61,8 +62,7 @@ QLayout* ThemedEditor::MakeBodyAndCenter() {
 }
 
 QPushButton* ThemedEditor::MakeClearButton() {
-  auto* cmdClear = new QPushButton(tr("C&lear"));
-  cmdClear->setObjectName("cmdClear");
+  QPushButton* cmdClear = MakeButton(tr("C&lear"), "cmdClear");
   connect(cmdClear, &QPushButton::clicked, this, [this] { Clear(); });
   return cmdClear;
 }

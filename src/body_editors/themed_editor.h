@@ -26,6 +26,7 @@ class ThemedEditor : public BodyEditor {
     std::vector<BoundBox<Record>> bound;
     for (std::size_t i = 0; i < txtCenter_.size(); ++i) {
       txtCenter_[i]->SetRange(RangeOf(fields[i]));
+      Guide(*txtCenter_[i], fields[i]);
       bound.push_back({txtCenter_[i], &fields[i]});
     }
     return bound;

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "settings/records.h"
+
 namespace starfolds {
 namespace {
 
@@ -53,6 +55,8 @@ constexpr int kInTitle = 100;
 constexpr int kInHeading = 20;
 constexpr int kMostInText = 10;  // one per match, up to this
 
+const char kFirstStyleFile[] = "style-standard.md";  // those of the other styles follow
+
 constexpr int kLongestSearch = 200;  // characters
 constexpr int kMostWords = 12;
 constexpr int kLineBefore = 40;  // characters shown before the first match
@@ -67,6 +71,29 @@ QString WithoutMarkup(QString markdown) {
   static const QRegularExpression marks(R"([*`\\])");
   markdown.remove(picture).replace(link, R"(\1)").remove(rule).replace(columns, " ").remove(marks);
   return markdown.simplified();
+}
+
+/// Headings, paragraphs and entries of lists, each in one line.
+QStringList PartsOf(const QString& markdown) {
+  QStringList parts;
+  bool begins = true;
+  for (const QString& line : markdown.split('\n')) {
+    const bool isHeading = line.startsWith('#');
+    if (line.isEmpty() || isHeading || line.startsWith("- ")) begins = true;
+    if (line.isEmpty()) continue;
+    if (begins) {
+      parts.append(line);
+    } else {
+      parts.last() += ' ' + line.trimmed();
+    }
+    begins = isHeading;
+  }
+  return parts;
+}
+
+QString FirstSentence(const QString& markdown) {
+  static const QRegularExpression sentence(R"(^.+?[.!?](?=\s+["A-Z]|$))");
+  return sentence.match(WithoutMarkup(markdown)).captured();
 }
 
 bool HoldsAll(const QString& text, const QStringList& words) {
@@ -88,7 +115,63 @@ QString LineAround(const QString& text, const QString& word) {
 std::span<const HelpTopic> HelpTopics() { return kTopics; }
 
 HelpBook::HelpBook() {
-  for (const HelpTopic& topic : kTopics) pages_.push_back(ReadPage(topic));
+  for (const HelpTopic& topic : kTopics) {
+    pages_.push_back(ReadPage(topic));
+    IndexSettings(Count() - 1);
+  }
+}
+
+/// A setting is described where its name stands before its range: "`Name`: 1 to 20, default 5." The
+/// sentence follows it, or begins the next paragraph of the section.
+void HelpBook::IndexSettings(int topic) {
+  static const QRegularExpression described(
+      R"(`(\w+)`\)?: [\d.]+ to \d+(?:\.\d+)?(?: \([^()]*\))?)"
+      R"((?:, default \d+(?:\.\d+)?(?: \((?:[^()]|\([^()]*\))*\))?)?\.)");
+  static const QRegularExpression named(R"(`((?:Starfold|Universe|IFS|Atom)_\w+)`)");
+  QString heading;
+  std::vector<decltype(settings_)::iterator> open;  // the sentence is still missing
+  for (const QString& part : PartsOf(pages_[topic].Markdown)) {
+    if (part.startsWith('#')) {
+      heading = WithoutMarkup(part);
+      open.clear();
+      continue;
+    }
+    auto found = described.globalMatch(part);
+    if (!found.hasNext()) {
+      const QString sentence = part.startsWith('!') ? QString() : FirstSentence(part);
+      if (!sentence.isEmpty()) {
+        for (const auto& entry : open) entry->second.Sentence = sentence;
+        open.clear();
+      }
+      // A name without a range is explained by the sentence around it.
+      for (auto names = named.globalMatch(part); names.hasNext();) {
+        const std::string name = names.next().captured(1).toStdString();
+        if (!settings_.contains(name)) settings_.insert({name, {topic, heading, sentence}});
+      }
+    }
+    while (found.hasNext()) {
+      const QRegularExpressionMatch match = found.next();
+      const QString after = part.mid(match.capturedEnd()).trimmed();
+      const QString sentence = after.startsWith('`') ? QString() : FirstSentence(after);
+      const auto entry =
+          settings_.insert({match.captured(1).toStdString(), {topic, heading, sentence}});
+      if (sentence.isEmpty()) open.push_back(entry);
+    }
+  }
+}
+
+std::optional<HelpBook::SettingText> HelpBook::OfSetting(std::string_view name, int style) const {
+  const int first = *TopicOfFile(kFirstStyleFile);
+  const auto rank = [&](const SettingText& text) {
+    const int shown = text.Topic - first;
+    if (shown == style && style >= 0) return 0;
+    return shown >= 0 && shown < kStyleCount ? 2 : 1;
+  };
+  const auto [begin, end] = settings_.equal_range(name);
+  const auto best = std::min_element(
+      begin, end, [&](const auto& a, const auto& b) { return rank(a.second) < rank(b.second); });
+  if (best == end) return std::nullopt;
+  return best->second;
 }
 
 HelpBook::Page HelpBook::ReadPage(const HelpTopic& topic) {

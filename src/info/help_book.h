@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <map>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -40,6 +43,16 @@ class HelpBook {
   int TopicOf(Integer context) const;
   std::optional<int> TopicOfFile(const QString& file) const;
 
+  /// What the help says of a setting.
+  struct SettingText {
+    int Topic;
+    QString Heading;   // of the section
+    QString Sentence;  // the first one about the setting
+  };
+  /// By its stored name. The page of a style (0 to 9) precedes all others, which come before those
+  /// of other styles. nullopt if no topic names the setting.
+  std::optional<SettingText> OfSetting(std::string_view name, int style) const;
+
   struct Hit {
     int Topic;
     QString Line;  // the text around the first match
@@ -56,8 +69,10 @@ class HelpBook {
     QString Plain;     // the text without markup
   };
   static Page ReadPage(const HelpTopic& topic);
+  void IndexSettings(int topic);
 
   std::vector<Page> pages_;
+  std::multimap<std::string, SettingText, std::less<>> settings_;
 };
 
 /// The words that a search for `text` looks for. Quotation marks separate words as blanks do. Very

@@ -86,6 +86,15 @@ void HelpPage::ShowMarkdown(const QString& markdown, const QStringList& words) {
   ScrollTo(first, viewport()->height() / 4);  // with some of the text before it
 }
 
+void HelpPage::ScrollToHeading(const QString& heading) {
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() == 0 || block.text() != heading) continue;
+    const QTextCursor place(block);
+    setTextCursor(place);
+    return ScrollTo(place, kMargin);
+  }
+}
+
 /// The page is built separately from the view, which would lay it out after each change.
 void HelpPage::LayOut() {
   FitLines();  // before pictures are scaled to the width

@@ -17,6 +17,9 @@ class HelpPage : public QTextBrowser {
   /// Shows a page, highlights every match of some words, and scrolls to the first one.
   void ShowMarkdown(const QString& markdown, const QStringList& words = {});
 
+  /// Scrolls to the heading with that text, if there is one.
+  void ScrollToHeading(const QString& heading);
+
   void ZoomBy(int steps);
   void ResetZoom();
 

@@ -107,6 +107,13 @@ void HelpViewer::ShowContext(Integer context) {
   page_->setFocus();
 }
 
+void HelpViewer::ShowSetting(const HelpBook::SettingText& text) {
+  OpenTopic(text.Topic);
+  BringUp();
+  page_->ScrollToHeading(text.Heading);
+  page_->setFocus();
+}
+
 void HelpViewer::ShowContents() {
   if (reading_ < 0) OpenTopic(kHomePage);
   tabs_->setCurrentWidget(treContents_);

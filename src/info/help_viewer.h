@@ -29,6 +29,7 @@ class HelpViewer : public QMainWindow {
   HelpViewer(KeyValueTree& tree, WebPageOpener openWebPage);
 
   void ShowContext(Integer context);
+  void ShowSetting(const HelpBook::SettingText& text);
   void ShowContents();
   void ShowSearch();
 

@@ -20,6 +20,22 @@ HelpViewer& HelpWindow::Viewer() {
 
 void HelpWindow::ShowTopic(Integer context) { Viewer().ShowContext(context); }
 
+void HelpWindow::ShowSetting(std::string_view setting, int style) {
+  const auto text = Book().OfSetting(setting, style);
+  if (text) return Viewer().ShowSetting(*text);
+  ShowContents();
+}
+
+std::string HelpWindow::SentenceOf(std::string_view setting, int style) {
+  const auto text = Book().OfSetting(setting, style);
+  return text ? text->Sentence.toStdString() : std::string();
+}
+
+const HelpBook& HelpWindow::Book() {
+  if (!book_) book_ = std::make_unique<HelpBook>();
+  return *book_;
+}
+
 void HelpWindow::ShowContents() { Viewer().ShowContents(); }
 
 void HelpWindow::ShowSearch() { Viewer().ShowSearch(); }

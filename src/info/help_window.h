@@ -10,6 +10,7 @@
 
 namespace starfolds {
 
+class HelpBook;
 class HelpViewer;
 
 /// Creates its window when it is first shown.
@@ -20,16 +21,20 @@ class HelpWindow : public Help {
   ~HelpWindow() override;
 
   void ShowTopic(Integer context) override;
+  void ShowSetting(std::string_view setting, int style) override;
+  std::string SentenceOf(std::string_view setting, int style) override;
   void ShowContents() override;
   void ShowSearch() override;
   void Quit() override;
 
  private:
   HelpViewer& Viewer();
+  const HelpBook& Book();
 
   KeyValueTree& tree_;
   DesktopServices& desktop_;
   MessageBoxes& boxes_;
+  std::unique_ptr<HelpBook> book_;  // of the sentences; read when the first one is asked for
   std::unique_ptr<HelpViewer> viewer_;
 };
 

@@ -1,6 +1,8 @@
 // The help that comes with the program, by the context numbers of its topics.
 #pragma once
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "numbers/words.h"
@@ -29,12 +31,19 @@ inline constexpr Integer kAdvanced = 8000;
 inline constexpr Integer kAbout = 9000;
 }  // namespace help
 
+inline constexpr int kAnyStyle = -1;
+
 class Help {
  public:
   virtual ~Help() = default;
 
   /// Opens the help at a topic, or switches to it. It can be read while a dialog is open.
   virtual void ShowTopic(Integer context) = 0;
+  /// Opens the help at the section about a setting, by its stored name. If the page of a style of
+  /// body describes it, that one. `style` is 0 to 9, or `kAnyStyle`.
+  virtual void ShowSetting(std::string_view setting, int style) = 0;
+  /// What this section says first of the setting: one sentence, or empty.
+  virtual std::string SentenceOf(std::string_view setting, int style) = 0;
   virtual void ShowContents() = 0;
   virtual void ShowSearch() = 0;
   /// Closes the help if it is open.
@@ -45,11 +54,16 @@ class Help {
 class MemoryHelp : public Help {
  public:
   std::vector<Integer> Topics;
+  std::vector<std::string> Settings;
   int Contents = 0;
   int Searches = 0;
   int Quits = 0;
 
   void ShowTopic(Integer context) override { Topics.push_back(context); }
+  void ShowSetting(std::string_view setting, int) override { Settings.emplace_back(setting); }
+  std::string SentenceOf(std::string_view setting, int) override {
+    return "About " + std::string(setting) + ".";
+  }
   void ShowContents() override { ++Contents; }
   void ShowSearch() override { ++Searches; }
   void Quit() override { ++Quits; }

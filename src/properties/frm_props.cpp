@@ -16,12 +16,14 @@
 #include "body_editors/frm_user_def_ifs.h"
 #include "properties/frm_advanced.h"
 #include "properties/frm_welcome.h"
+#include "properties/universe_guides.h"
 #include "settings/registry.h"
 #include "settings/safety_copy.h"
 #include "widgets/captions.h"
 #include "widgets/lines.h"
 #include "widgets/list_wheel_guard.h"
 #include "widgets/placed_qt_window.h"
+#include "widgets/setting_guide.h"
 #include "widgets/web_page.h"
 
 namespace starfolds {
@@ -83,8 +85,9 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
   MakeMenus();
   auto* helpHere = new QShortcut(QKeySequence::HelpContents, this);
   helpHere->setObjectName("helpHere");
-  connect(helpHere, &QShortcut::activated, this,
-          [this] { around_.HelpBook.ShowTopic(TopicHere()); });
+  connect(helpHere, &QShortcut::activated, this, [this] {
+    if (!SettingGuide::ShowHelpOf(focusWidget())) around_.HelpBook.ShowTopic(TopicHere());
+  });
 }
 
 FrmProps::~FrmProps() = default;
@@ -242,8 +245,9 @@ void FrmProps::MakeMenus() {
 Integer FrmProps::TopicHere() const {
   const auto isIn = [this](const char* name) {
     const auto* const part = findChild<QWidget*>(name);
-    return part->isAncestorOf(focusWidget());
+    return part == focusWidget() || part->isAncestorOf(focusWidget());
   };
+  if (inStarfoldView_ && isIn("cboFoldTheme")) return help::kStarfoldView;
   if (inStarfoldView_) return static_cast<Integer>(help::kStarfoldPage + starfold_->ShownPage());
   if (isIn("fraPropCopy")) return help::kPropertyCopy;
   if (isIn("fraStarfoldTypes")) return help::kUniverseView;
@@ -260,6 +264,7 @@ void FrmProps::MakeCentre() {
   auto* centre = new QWidget;
   auto* rows = new QVBoxLayout(centre);
   universe_ = new UniverseView(model_);
+  GuideUniverse(*universe_, around_.HelpBook);
   starfold_ = new StarfoldView(model_, around_.Seed);
   views_ = new QStackedWidget;
   views_->addWidget(Scrolled(universe_, "scrUniverse"));

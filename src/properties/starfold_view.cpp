@@ -14,6 +14,7 @@
 #include "widgets/lines.h"
 #include "widgets/range_label.h"
 #include "widgets/samples.h"
+#include "widgets/setting_guide.h"
 
 namespace starfolds {
 namespace {
@@ -51,6 +52,7 @@ StarfoldView::StarfoldView(const PropsModel& model, std::function<std::uint64_t(
   layout->addLayout(MakeHead());
   layout->addWidget(MakePages(), 1);
   layout->addLayout(MakeActions());
+  GuideLists();
   connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
   connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
   for (QComboBox* list : {cboFoldPlane_, cboFoldColor_, cboPulsarShape_}) {
@@ -66,6 +68,7 @@ QLayout* StarfoldView::MakeHead() {
   const auto addList = [&](const QString& label, QComboBox* list) {
     auto* text = new QLabel(label);
     text->setBuddy(list);
+    list->setAccessibleName(SpokenLabel(label));
     head->addWidget(text);
     head->addWidget(list, 1);
   };
@@ -78,6 +81,20 @@ QLayout* StarfoldView::MakeHead() {
   cboFoldExtras_ = MakeList("cboFoldExtras", {});
   addList(tr("&Page:"), cboFoldExtras_);
   return head;
+}
+
+void StarfoldView::GuideLists() {
+  const auto guide = [this](QWidget* control, Setting<StarfoldProfile> setting) {
+    new SettingGuide(*control, model_.HelpBook,
+                     [this, setting] { return Guided(FieldOf(setting), Style()); });
+  };
+  guide(cboFoldStyle_, &StarfoldProfile::Starfold_FoldStyle);
+  guide(cboFoldPlane_, &StarfoldProfile::Starfold_AxisPlane);
+  guide(cboFoldProfile_, &StarfoldProfile::Starfold_Profile);
+  guide(cboFoldColor_, &StarfoldProfile::Starfold_ColorComp);
+  guide(cboPulsarShape_, &StarfoldProfile::Starfold_PulsarShape);
+  guide(chkCP_Closed_, &StarfoldProfile::Starfold_CP_Close);
+  guide(chkCP_AdvHW_, &StarfoldProfile::Starfold_CP_AdvHW);
 }
 
 /// Ways to other values of the whole body.
@@ -143,6 +160,7 @@ void StarfoldView::ApplyStyle(int style) {
       box->setVisible(IsShown(*row, style));
       any = any || IsShown(*row, style);
     }
+    NameBoxes(line, style);
     line.Text->setText(Escaped(LabelOf(line.Label, style)));
     line.Text->setVisible(any);
     if (line.Label == kColorLabel) {
@@ -159,6 +177,26 @@ void StarfoldView::ApplyStyle(int style) {
   show(StyleBox::ColorRule, {cboFoldColor_, lblFoldColor_});
   show(StyleBox::Levels, {cmdFoldLevels_});
   cmdIFS_Chem_->setText(Escaped(facts.BodyEditorCaption));
+}
+
+/// For screen readers: by the style's caption if it has one of its own, or else by the setting.
+void StarfoldView::NameBoxes(const Line& line, int style) {
+  const StyleFacts& facts = FactsOf(static_cast<Integer>(style));
+  QStringList captions;
+  for (const StyleCaption& caption : facts.Captions) {
+    if (caption.Label == line.Label) captions = SpokenLabel(Escaped(caption.Text)).split(", ");
+  }
+  if (line.Label == kColorLabel && facts.OwnColorRule) {
+    captions = {SpokenLabel(Escaped(facts.OwnColorCaption))};
+  }
+  qsizetype shown = 0;
+  for (const StarfoldRow* row : line.Rows) {
+    if (!IsShown(*row, style)) continue;
+    const QString name = shown < captions.size() ? captions[shown].simplified()
+                                                 : Shown(FieldOf(*row, style).Label).simplified();
+    boxes_[row]->setAccessibleName(name);
+    ++shown;
+  }
 }
 
 /// If the row has no points or atoms, those of the profile are kept.
@@ -295,8 +333,10 @@ NumberBox* StarfoldView::MakeBox(const QString& array, const StarfoldRow& row) {
   auto* box = new NumberBox;
   box->SetNames(array, row.Index);
   box->SetRange(RangeOf(row, 0));
-  box->setAccessibleName(Shown(FieldOf(row, 0).Label));
+  box->setAccessibleName(Shown(FieldOf(row, 0).Label).simplified());
   boxes_[&row] = box;
+  new SettingGuide(*box, model_.HelpBook,
+                   [this, &row] { return Guided(FieldOf(row, Style()), Style()); });
   connect(box, &NumberBox::Changed, this, &StarfoldView::ShowSamples);
   return box;
 }

@@ -82,6 +82,8 @@ class StarfoldView : public QWidget {
                   const std::vector<QWidget*>& alsoInLine);
   NumberBox* MakeBox(const QString& array, const StarfoldRow& row);
   void AddPixHue(QGridLayout& page);
+  void GuideLists();
+  void NameBoxes(const Line& line, int style);
 
   void LoadBoxes();
   enum class Numbers { Clamped, AsTyped };

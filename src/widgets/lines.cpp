@@ -1,6 +1,7 @@
 #include "widgets/lines.h"
 
 #include <QHBoxLayout>
+#include <QRegularExpression>
 
 #include "widgets/dialog_model.h"
 #include "widgets/range_label.h"
@@ -26,6 +27,7 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
   const int row = page.rowCount();
   auto* text = new RangeLabel(label, page.parentWidget());
   text->setBuddy(buddy);
+  if (buddy && buddy->accessibleName().isEmpty()) buddy->setAccessibleName(SpokenLabel(label));
   page.addWidget(text, row, kLabelColumn);
   auto* boxes = new QHBoxLayout;
   boxes->setSpacing(kSpacing);
@@ -33,6 +35,13 @@ QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
   boxes->addStretch(0);  // boxes of fixed width stay next to their label
   page.addLayout(boxes, row, kBoxColumn);
   return text;
+}
+
+QString SpokenLabel(const QString& label) {
+  static const QRegularExpression range(R"(\([^()]*\))");
+  QString spoken = label.simplified();
+  spoken.remove(range).replace("&&", "\n").remove('&').replace('\n', '&').remove(':');
+  return spoken.simplified();
 }
 
 void AddWideLine(QGridLayout& page, QWidget* widget) {

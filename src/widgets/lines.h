@@ -12,9 +12,13 @@
 namespace starfolds {
 
 /// Appends a line to a form's grid: the label is in the left column, and its text may have a
-/// mnemonic for `buddy`; the widgets are side by side in the right column.
+/// mnemonic for `buddy`, whose accessible name it becomes unless that has one; the widgets are side
+/// by side in the right column.
 QLabel* AddLine(QGridLayout& page, const QString& label, QWidget* buddy,
                 const std::vector<QWidget*>& widgets);
+
+/// The text of a label as the name of its box: without range, mnemonic and colon.
+QString SpokenLabel(const QString& label);
 
 /// Appends a widget that spans both columns.
 void AddWideLine(QGridLayout& page, QWidget* widget);

@@ -1,5 +1,6 @@
 #include "widgets/number_box.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "widgets/number_box_access.h"
 
 namespace starfolds {
 namespace {
@@ -21,7 +23,13 @@ NumberBox::NumberBox(QWidget* parent) : QAbstractSpinBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setKeyboardTracking(true);
+  InstallNumberBoxAccess();
   connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::Changed);
+  connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
+    if (!QAccessible::isActive()) return;
+    QAccessibleValueChangeEvent changed(this, Number());
+    QAccessible::updateAccessibility(&changed);
+  });
 }
 
 void NumberBox::SetNames(const QString& array, int index) {
@@ -56,6 +64,8 @@ QSize NumberBox::sizeHint() const {
 }
 
 std::string NumberBox::Text() const { return lineEdit()->text().toStdString(); }
+
+double NumberBox::Number() const { return LenientNumber("0" + Text()); }
 
 void NumberBox::SetText(const std::string& text) {
   const QString shown = QString::fromStdString(text);

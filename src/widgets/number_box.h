@@ -35,6 +35,10 @@ class NumberBox : public QAbstractSpinBox {
 
   /// The text in the box, which may be out of range while the user types.
   std::string Text() const;
+  /// The number in the box, 0 without one.
+  double Number() const;
+  /// The change by one press of a button.
+  double Step() const;
   /// Shows a text unchanged.
   void SetText(const std::string& text);
 
@@ -62,7 +66,6 @@ class NumberBox : public QAbstractSpinBox {
  private:
   int LongestText() const;
   bool Takes(QChar c) const;
-  double Step() const;
 
   NumberRange range_;
   bool blankAllowed_ = false;

@@ -6,14 +6,16 @@
 #include "widgets/dialog_parts.h"
 #include "widgets/list_wheel_guard.h"
 #include "widgets/placed_qt_window.h"
+#include "widgets/setting_guide.h"
 
 namespace starfolds {
 
 PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
     : QDialog(parent), place_(place) {
   setWindowModality(Qt::WindowModal);
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-          &PlacedDialog::ShowHelp);
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
+    if (!SettingGuide::ShowHelpOf(focusWidget())) ShowHelp();
+  });
 }
 
 void PlacedDialog::ShowInPlace() {

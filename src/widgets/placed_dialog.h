@@ -19,7 +19,8 @@ struct DialogPlace {
 };
 
 /// A dialog that is modal to its parent, but not to the help. It opens at its stored position, and
-/// F1 opens its topic.
+/// F1 opens its
+/// topic, or the section about the setting of the control with the focus.
 class PlacedDialog : public QDialog {
   Q_OBJECT
 

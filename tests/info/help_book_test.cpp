@@ -166,6 +166,32 @@ TEST_F(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
   }
 }
 
+/// The sentences of tool tips, and where F1 leads.
+TEST_F(HelpOfSettingsTest, EverySettingOfThePagesHasASentence) {
+  for (const UniverseRow& row : UniverseRows()) {
+    const auto text = Book.OfSetting(FieldOf(row.What).Name, kAnyStyle);
+    ASSERT_TRUE(text) << FieldOf(row.What).Name;
+    EXPECT_TRUE(text->Sentence.endsWith('.')) << FieldOf(row.What).Name;
+  }
+  for (int style = 0; style < kStyleCount; ++style) {
+    for (const bool hue : {false, true}) {
+      for (const StarfoldRow& row : hue ? PixHueRows() : StarfoldRows()) {
+        const std::string name(FieldOf(row, style).Name);
+        const auto text = Book.OfSetting(name, style);
+        ASSERT_TRUE(text) << name;
+        EXPECT_TRUE(text->Sentence.size() > 12 && text->Sentence.endsWith('.'))
+            << name << " of " << style << ": " << text->Sentence.toStdString();
+        EXPECT_TRUE(Book.Markdown(text->Topic).contains("# " + text->Heading)) << name;
+      }
+    }
+  }
+  EXPECT_EQ(FileOf(Book.OfSetting("Starfold_QG_Force", 5)->Topic), "style-quasar.md");
+  EXPECT_EQ(FileOf(Book.OfSetting("Starfold_Radius", 5)->Topic), "starfold-shape.md");
+  EXPECT_EQ(Book.OfSetting("Starfold_Rotation", 0)->Heading, "Radius, Rotation");
+  EXPECT_EQ(Book.OfSetting("Starfold_Radius", 0)->Sentence, "The radius is the size of the body.");
+  EXPECT_FALSE(Book.OfSetting("Starfold_Nothing", 0));
+}
+
 TEST(HelpSearchTest, FindsAllWordsWhateverTheirCapitalsTitlesFirst) {
   const HelpBook book;
   const auto hits = book.Search("  mOleCule \"editor ");

@@ -353,7 +353,10 @@ TEST_F(FrmPropsTest, F1OpensTheTopicOfThePageOrTheFrameInUse) {
   The<QComboBox>("cboPropCopyList").setFocus();
   EXPECT_EQ(topic(), help::kPropertyCopy);
   OpenType(0);
+  The<QComboBox>("cboFoldTheme").setFocus();
+  EXPECT_EQ(topic(), help::kStarfoldView);
   The<QComboBox>("cboFoldExtras").setCurrentIndex(2);
+  The<QComboBox>("cboFoldExtras").setFocus();
   EXPECT_EQ(topic(), help::kStarfoldPage + 2);
 }
 

@@ -4,9 +4,11 @@
 
 #include <limits>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "settings/factory.h"
+#include "settings/surprise.h"
 #include "widgets/dialog_test.h"
 #include "widgets/picture_box.h"
 
@@ -34,6 +36,16 @@ QRect LitPart(const QImage& picture) {
   return part;
 }
 
+int LitPixels(const QImage& picture) {
+  int lit = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if ((picture.pixel(x, y) & RGB_MASK) != 0) ++lit;
+    }
+  }
+  return lit;
+}
+
 TEST_F(SamplesTest, EveryBodyFillsItsPictureAndLooksLikeNoOther) {
   std::vector<QImage> pictures;
   for (int i = 0; i < kCycleSequentially + 1; ++i) {
@@ -43,6 +55,27 @@ TEST_F(SamplesTest, EveryBodyFillsItsPictureAndLooksLikeNoOther) {
     for (const QImage& other : pictures) EXPECT_NE(picture, other) << i;
     EXPECT_EQ(picture, ProfileSample(Profiles(), i, kSize)) << i << " is another one each time";
     pictures.push_back(picture);
+  }
+}
+
+/// A random body that shows nothing would be no surprise.
+TEST_F(SamplesTest, SurprisingBodiesOfEveryStyleCanBeSeen) {
+  constexpr int seeds = 200;
+  for (Integer style = 0; style < kStyleCount; ++style) {
+    StarfoldProfile like;
+    like.UniFoldName = "Mine";
+    like.Starfold_FoldStyle = style;
+    std::set<int> widths;
+    for (int seed = 0; seed < seeds; ++seed) {
+      Rnd random(static_cast<std::uint64_t>(seed));
+      StarfoldProfile body = SurprisingBody(like, random);
+      EXPECT_EQ(body.UniFoldName, "Mine");
+      EXPECT_EQ(body.Starfold_FoldStyle, style);
+      const QImage picture = SampleOfBody(body, {{64, 48}, 1}, SampleView::OfRun);
+      EXPECT_GT(LitPixels(picture), 60) << "seed " << seed << " of style " << style;
+      widths.insert(LitPart(picture).width());
+    }
+    EXPECT_GT(widths.size(), 4U) << "of style " << style << " all look alike";
   }
 }
 
