@@ -87,7 +87,7 @@ void AddComets(P& body, Dice& dice) {
 void Cut(P& body, double armed, double banded, Dice& dice) {
   const bool hasArms = dice.Chance(armed);
   body.Starfold_RadSegs = hasArms ? dice.Whole(2, 12) : Integer{1};
-  body.Starfold_RadFill = hasArms ? dice.Whole(5, 50, 5) : 100;
+  body.Starfold_RadFill = hasArms ? dice.Whole(10, 50, 5) : 100;
   const bool hasBands = dice.Chance(banded);
   body.Starfold_RadBands = hasBands ? dice.Whole(2, 7) : Integer{1};
   body.Starfold_RadBFill = hasBands ? dice.Whole(15, 60, 5) : 100;
@@ -114,14 +114,15 @@ void MakeStandard(P& body, Dice& dice) {
 }
 
 void MakeIfsPoint(P& body, Dice& dice) {
-  body.Starfold_RadSegs = dice.Whole(10, 99);
-  body.Starfold_RadFill = dice.Whole(90, 99);
+  body.Starfold_Profile = dice.Whole(0, 3);  // the open shapes leave little of it
+  body.Starfold_RadSegs = dice.Whole(10, 70);
+  body.Starfold_RadFill = dice.Whole(97, 99);
   body.Starfold_RadBands = dice.OneOf({0, 3, 5, 61, 72, 91, 119, 120, 121, 181, 355, 357});
-  body.Starfold_GHW_Ratio = dice.Real(0.1, 1);
+  body.Starfold_GHW_Ratio = dice.Real(0.3, 1);
   body.Starfold_RadiusExp = dice.Real(0, 0.6);
   body.Starfold_HeightExp = dice.Real(0.1, 1.5);
   body.Starfold_ColorComp = dice.OneOf({2, 3});  // all stars turn alike
-  Place(body, static_cast<double>(body.Starfold_Radius), 1.2, 1.6, dice);
+  Place(body, static_cast<double>(body.Starfold_Radius), 1.1, 1.4, dice);
 }
 
 void MakeWireframe(P& body, Dice& dice) {
@@ -148,11 +149,11 @@ void MakeNebula(P& body, Dice& dice) {
   body.Starfold_CP_Close = dice.Whole(0, 1);
   body.Starfold_CP_AdvHW = dice.Whole(0, 1);
   body.Starfold_GHW_Ratio = dice.Real(0.5, 1.2);
-  body.Starfold_RadiusExp = dice.Real(0.3, 3);
-  body.Starfold_HeightExp = dice.Real(0, 1);
+  body.Starfold_RadiusExp = dice.Real(0.3, 2.5);
+  body.Starfold_HeightExp = dice.Real(0, 0.5);
   body.Starfold_NewFreq = dice.Whole(3000, 6000, 500);
   body.Starfold_ColorMult = dice.Whole(200, 1200, 100);
-  Place(body, static_cast<double>(body.Starfold_Radius), 0.8, 1.4, dice);
+  Place(body, static_cast<double>(body.Starfold_Radius), 1, 1.5, dice);
 }
 
 void MakeQuasar(P& body, Dice& dice) {
@@ -167,6 +168,7 @@ void MakeQuasar(P& body, Dice& dice) {
 }
 
 void MakeGraviton(P& body, Dice& dice) {
+  body.Starfold_Profile = dice.Whole(0, 3);  // the open shapes leave little of it
   Cut(body, 0.7, 0.2, dice);
   body.Starfold_QG_Force = dice.Real(1, 6);
   body.Starfold_GHW_Ratio = dice.Real(0.05, 1);
@@ -245,7 +247,7 @@ StarfoldProfile SurprisingBody(const StarfoldProfile& like, Rnd& random) {
   body.Starfold_Radius = dice.Whole(150, 500, 10);
   body.Starfold_Rotation = dice.Whole(3, 30) * 100;
   body.Starfold_AxisPlane = dice.Chance(0.25) ? 1 : 0;
-  body.Starfold_AngleTilt = dice.Whole(110, 170, 5);
+  body.Starfold_AngleTilt = dice.Whole(110, 160, 5);
   body.Starfold_AngleTInc = dice.Chance(0.5) ? 0 : dice.Real(0.05, 0.3);
   body.Starfold_Profile = dice.Whole(0, 6);
   ColourStars(body, dice);

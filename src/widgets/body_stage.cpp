@@ -85,6 +85,7 @@ void BodyStage::Take(const ShownBody& body) {
   process_->Composites[0] = body.Composite.value_or(CompositeProfile());
   for (StarfoldProfile& profile : process_->Profiles) ClampProfile(profile);
   ClampComposite(process_->Composites[0]);
+  std::ranges::transform(process_->Profiles, renewed_.begin(), &StarfoldProfile::Starfold_NewFreq);
   BuildFlareTables(process_->Colours, process_->Profiles,
                    ClampTo<Integer>(body.HueStart, 0, kHighestHue),
                    ClampTo<Integer>(body.HueEnd, 0, kHighestHue));
@@ -132,6 +133,11 @@ std::unique_ptr<SingleBody> BodyStage::Begin(Surface& surface, std::optional<Bod
   }
   SingleBodyPlan plan = plan_;
   if (stars) plan.Stars = *stars;
+  // As many stars in a hundred are renewed as in the run, whatever their number.
+  const double share = static_cast<double>(plan.Stars) / static_cast<double>(plan_.Stars);
+  for (std::size_t i = 0; i < renewed_.size(); ++i) {
+    AssignRounded(process_->Profiles[i].Starfold_NewFreq, renewed_[i] * share);
+  }
   return std::make_unique<SingleBody>(*process_, plan);
 }
 

@@ -1,6 +1,7 @@
 // A process state of its own for pictures of single bodies.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <span>
@@ -63,6 +64,7 @@ class BodyStage {
   MemoryDesktop desktop_;
   MemoryTree tree_;
   SingleBodyPlan plan_;
+  std::array<Integer, kProfileCount> renewed_{};  // `Starfold_NewFreq` of each profile
 };
 
 }  // namespace starfolds

@@ -86,7 +86,7 @@ struct Description {
 
 std::multimap<std::string, Description> Descriptions(const HelpBook& book) {
   static const QRegularExpression pattern(
-      R"(`(\w+)`\)?[ :|]+([\d.]+) to ([\d.]+)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
+      R"(`(\w+)`\)?[ :|]+([\d.]+) to ([\d.]*\d)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
   std::multimap<std::string, Description> found;
   for (int topic = 0; topic < book.Count(); ++topic) {
     auto places = pattern.globalMatch(book.Markdown(topic));
