@@ -341,8 +341,7 @@ void FrmProps::PlacePreview() {
   splitter_->setOrientation(wanted);
   preview_->PutButtonsBeside(!beside);
   const int room = beside ? width() : height();
-  const int form =
-      beside ? std::max(kFormWidth, universe_->minimumSizeHint().width()) : room * 3 / 5;
+  const int form = beside ? std::max(kFormWidth, universe_->minimumSizeHint().width()) : room / 2;
   splitter_->setSizes({form, room - form});
 }
 

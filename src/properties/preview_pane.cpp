@@ -14,8 +14,9 @@ namespace {
 constexpr QSize kLeastPreview{280, 180};
 constexpr int kResizePauseMs = 150;
 
-// The greatest height of the picture is this share of its width.
-constexpr int kHeightOf4 = 3;
+// Width to height of the picture.
+constexpr double kLeastRatio = 4.0 / 3;
+constexpr double kMostRatio = 2.4;
 
 }  // namespace
 
@@ -59,20 +60,21 @@ void PreviewPane::CameraChanged() {
 void PreviewPane::PutButtonsBeside(bool beside) {
   column_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   buttons_->setDirection(beside ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-  LimitHeight();
+  LimitPicture();
 }
 
 void PreviewPane::resizeEvent(QResizeEvent* event) {
   QGroupBox::resizeEvent(event);
-  LimitHeight();
+  LimitPicture();
 }
 
-/// A picture that is as high as a tall window would be mostly black above and below a body.
-void PreviewPane::LimitHeight() {
-  const int width = column_->direction() == QBoxLayout::TopToBottom
-                        ? contentsRect().width()
-                        : std::max(kLeastPreview.width(), picPreview_->width());
-  picPreview_->setMaximumHeight(std::max(kLeastPreview.height(), width * kHeightOf4 / 4));
+/// A picture that is much higher or wider than a body would be mostly black, or cut it off.
+void PreviewPane::LimitPicture() {
+  const bool isBelow = column_->direction() == QBoxLayout::TopToBottom;
+  const QSize room = contentsRect().size();
+  const int highest = isBelow ? static_cast<int>(room.width() / kLeastRatio) : QWIDGETSIZE_MAX;
+  const int widest = isBelow ? QWIDGETSIZE_MAX : static_cast<int>(room.height() * kMostRatio);
+  picPreview_->setMaximumSize(QSize(widest, highest).expandedTo(kLeastPreview));
 }
 
 bool PreviewPane::eventFilter(QObject* object, QEvent* event) {

@@ -85,7 +85,7 @@ class PreviewPane : public QGroupBox {
   std::vector<QWidget*> DisableOthers(const QPushButton* button);
   void PreviewOne(QPushButton* button, int body, bool isComposite);
   std::unique_ptr<ShownBody> BodyToShow();
-  void LimitHeight();
+  void LimitPicture();
 
   PropsModel model_;
   PreviewSource source_;

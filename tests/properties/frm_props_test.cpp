@@ -237,6 +237,52 @@ TEST_F(FrmPropsTest, APreviewIsToggledByItsButtonAndLeavesTheRestDisabled) {
   EXPECT_FALSE(Dialog->IsOpen()) << "it closes when the run has ended";
 }
 
+/// The middle of what is lit in a picture.
+QPoint MiddleOf(const QImage& picture) {
+  QRect lit;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if ((picture.pixel(x, y) & RGB_MASK) != 0) lit |= QRect(x, y, 1, 1);
+    }
+  }
+  return lit.center();
+}
+
+TEST_F(FrmPropsTest, ThePreviewFollowsTheSizeOfItsPicture) {
+  SettingsRecords records;
+  LoadFactorySettings(records, FactorySet::Starfolds4x, 1);
+  StarfoldProfile& body = records.Profiles[0];  // small and in the middle
+  body.Starfold_Radius = 30;
+  body.Starfold_CometFreq = body.Starfold_NovaFreq = body.Starfold_PulsarFreq = 0;
+  Store(records);
+  Open();
+  Dialog->resize(1280, 700);
+  The<BodyList>("lstUniStarfold").setCurrentRow(0);
+  auto& picture = The<PictureBox>("picPreview");
+  const auto isCentred = [&] {
+    const QPoint off = MiddleOf(picture.grab().toImage()) - picture.rect().center();
+    return off.manhattanLength() < 40;
+  };
+  EXPECT_TRUE(QTest::qWaitFor(isCentred, 30'000));
+  Dialog->resize(1500, 800);
+  EXPECT_TRUE(QTest::qWaitFor(isCentred, 30'000)) << "while nothing runs";
+  bool centred = false;
+  Events.Plan[5] = [&] {
+    Dialog->resize(1300, 900);
+    QTest::qWait(400);  // the run restarts when the size has settled
+  };
+  Events.Plan[12] = [&] {
+    centred = isCentred();
+    Click("cmdPreviewFold");
+  };
+  Click("cmdPreviewFold");
+  EXPECT_TRUE(centred) << "while it runs";
+  EXPECT_EQ(Events.Pumps, 12);
+  Dialog->resize(1000, 700);
+  const auto* const splitter = Dialog->findChild<QSplitter*>();
+  EXPECT_EQ(splitter->orientation(), Qt::Vertical) << "below the form";
+}
+
 TEST_F(FrmPropsTest, APageThatIsOpenDuringAResetShowsAndStoresTheFactorysValues) {
   StoreFactory();
   Open();
@@ -299,6 +345,34 @@ TEST_F(FrmPropsTest, AnUnreadableTreeShowsTheFactorySettingsAndIsKept) {
   Click("cmdAccept");
   EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
   EXPECT_EQ(SavedName("/home/u/former-settings-1.sfd"), mine.Profiles[1].UniFoldName);
+}
+
+TEST_F(FrmPropsTest, ABodyIsMadeAtRandomStartedFromASampleAndPutBack) {
+  StoreFactory();
+  Open();
+  for (int style = 0; style < kStyleCount; ++style) {
+    OpenType(7);
+    List("cboFoldStyle").setCurrentIndex(0);
+    const std::string before = Edit("txtStarfold_2").text().toStdString();
+    List("cboFoldStyle").setCurrentIndex(style);
+    Click("cmdSurprise");
+    EXPECT_EQ(List("cboFoldStyle").currentIndex(), style);
+    EXPECT_NE(Edit("txtStarfold_2").text().toStdString(), before) << style;
+    Click("cmdSample");
+    EXPECT_EQ(List("cboFoldStyle").currentIndex(), style);
+    Click("cmdRevert");
+    EXPECT_EQ(Edit("txtStarfold_2").text().toStdString(), before) << style;
+    EXPECT_EQ(List("cboFoldStyle").currentIndex(), 0);
+    Click("cmdAccept");
+  }
+  OpenType(7);
+  List("cboFoldStyle").setCurrentIndex(static_cast<int>(FoldStyle::Molecule));
+  Click("cmdSample");
+  Click("cmdAccept");
+  Click("cmdAccept");
+  const StarfoldProfile stored = LoadSettings(Tree).Profiles[7];
+  EXPECT_GT(stored.Starfold_Atoms, 0) << "the settings without a box come with the others";
+  EXPECT_EQ(stored.UniFoldName, "Nested Bulbs");
 }
 
 TEST_F(FrmPropsTest, ANewUserIsWelcomedOnceAndGetsTheFactorySettings) {
