@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QScrollArea>
 
 #include "widgets/lines.h"
 #include "widgets/plain_text.h"
@@ -10,8 +11,23 @@
 namespace starfolds {
 namespace {
 
-constexpr QSize kLeastPreview{320, 240};
-constexpr QSize kMorePreview{100, 60};
+constexpr QSize kLeastPreview{280, 210};
+constexpr QSize kLeastControls{360, 260};
+constexpr QSize kMorePreview{140, 90};
+
+/// Scrolls if the window is narrower than the controls; otherwise as large as they are.
+class ControlsArea : public QScrollArea {
+ public:
+  explicit ControlsArea(QWidget* controls) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
+    setWidgetResizable(true);
+    setWidget(controls);
+  }
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override { return sizeHint().boundedTo(kLeastControls); }
+};
 
 /// Makes a button the default, also if it is the default at present only because it has the focus:
 /// without the first call it would no longer be when the focus leaves it.
@@ -40,8 +56,10 @@ BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* 
   head_ = new QVBoxLayout;
   rows_->addLayout(head_);
   columns_ = new QHBoxLayout;
-  controls_ = new QVBoxLayout;
-  columns_->addLayout(controls_);
+  auto* controls = new QWidget;
+  controls_ = new QVBoxLayout(controls);
+  controls_->setContentsMargins(0, 0, 0, 0);
+  columns_->addWidget(new ControlsArea(controls));
   rows_->addLayout(columns_, 1);
   picPreview_ = new PictureBox;
   living_ = std::make_unique<LivingBody>(*picPreview_, [this] { return BodyToShow(); });

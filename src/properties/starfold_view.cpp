@@ -216,6 +216,7 @@ void StarfoldView::ApplyFactoryRowToPage(std::string_view row) {
 
 QWidget* StarfoldView::MakePages() {
   pages_ = new QStackedWidget;
+  const int labels = LabelWidth();
   for (int i = 0; i < kStarfoldPageCount; ++i) {
     const QString name = Shown(StarfoldPageName(i));
     cboFoldExtras_->addItem(name);
@@ -223,7 +224,7 @@ QWidget* StarfoldView::MakePages() {
     frame->setAccessibleName(name);
     frame->setObjectName("fraFoldProp_" + QString::number(i));
     auto* page = MakePage(frame);
-    SetLabelWidth(*page, LabelWidth());
+    SetLabelWidth(*page, labels);
     switch (static_cast<StarfoldPage>(i)) {
       case StarfoldPage::Shape: FillShapePage(*page); break;
       case StarfoldPage::Flares: FillFlaresPage(*page); break;

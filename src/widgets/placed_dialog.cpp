@@ -1,5 +1,6 @@
 #include "widgets/placed_dialog.h"
 
+#include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 
@@ -9,6 +10,11 @@
 #include "widgets/setting_guide.h"
 
 namespace starfolds {
+namespace {
+
+constexpr double kMostOfScreen = 0.94;  // the rest is for window frames and panels
+
+}  // namespace
 
 PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
     : QDialog(parent), place_(place) {
@@ -20,7 +26,7 @@ PlacedDialog::PlacedDialog(const DialogPlace& place, QWidget* parent)
 
 void PlacedDialog::ShowInPlace() {
   GuardListsFromWheel(*this);
-  adjustSize();
+  resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
   ShowWherePlaced(*this, place_.Tree, place_.Section);
 }
 

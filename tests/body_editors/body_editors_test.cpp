@@ -177,6 +177,14 @@ TEST_F(BodyEditorsTest, TheKeyboardReachesAllPartsInTheirOrder) {
   }
 }
 
+TEST_F(BodyEditorsTest, EveryEditorFitsASmallScreen) {
+  for (const Kind kind : kKinds) {
+    const QSize least = Open(kind).minimumSizeHint();
+    EXPECT_TRUE(least.width() <= 960 && least.height() <= 680)
+        << least.width() << " x " << least.height();
+  }
+}
+
 TEST_F(BodyEditorsTest, APreviewIsAToggleThatKeepsTheDialogLive) {
   Open(Kind::Ifs);
   List("cboTheme").setCurrentIndex(1);

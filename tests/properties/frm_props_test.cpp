@@ -383,6 +383,7 @@ TEST_F(FrmPropsTest, ANewUserIsWelcomedOnceAndGetsTheFactorySettings) {
   Click("cmdDismiss");
   Open();
   EXPECT_TRUE(HasMark(Tree, kAnimationType)) << "opened again, the settings are stored at once";
+  EXPECT_EQ(LoadUniverseFromRegistry(Tree).Universe_C_Ramp, 750) << "which no theme has";
   EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, "Star Rings");
   Choose("mnuExit");
   EXPECT_TRUE(Process->Requests.QuitApp());
