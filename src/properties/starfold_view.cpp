@@ -50,8 +50,8 @@ StarfoldView::StarfoldView(const PropsModel& model, std::function<std::uint64_t(
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(MakeHead());
-  layout->addWidget(MakePages(), 1);
   layout->addLayout(MakeActions());
+  layout->addWidget(MakePages(), 1);
   GuideLists();
   connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
   connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
