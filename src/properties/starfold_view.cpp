@@ -191,7 +191,7 @@ void StarfoldView::NameBoxes(const Line& line, int style) {
   }
   qsizetype shown = 0;
   for (const StarfoldRow* row : line.Rows) {
-    if (!IsShown(*row, style)) continue;
+    if (boxes_[row]->isHidden()) continue;
     const QString name = shown < captions.size() ? captions[shown].simplified()
                                                  : Shown(FieldOf(*row, style).Label).simplified();
     boxes_[row]->setAccessibleName(name);
