@@ -78,6 +78,7 @@ void TakeEditors(FrmProps& dialog, const QString& prefix) {
     Part<QPushButton>(dialog, "cmdFoldProps").click();
     QTimer::singleShot(0, &dialog, [&] {
       auto& editor = *dialog.findChild<QDialog*>(picture.Editor);
+      editor.resize(editor.sizeHint());  // the platform's screen is smaller
       for (const auto& [list, entry] : picture.Chosen) {
         editor.findChild<QComboBox*>(list)->setCurrentIndex(entry);
       }

@@ -72,6 +72,7 @@ TEST_F(LivingBodyTest, MovesWhileItCanBeSeenAndIsWanted) {
   EXPECT_LT(LitPart(smaller).width(), LitPart(still).width());
 
   Living.Suspend();
+  Body.Starfold_Radius *= 2;
   Living.Changed();
   QTest::qWait(200);
   EXPECT_EQ(Shown(), smaller) << "a run draws on the box";
