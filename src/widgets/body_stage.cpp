@@ -104,7 +104,7 @@ int BodyStage::WarmUpFrames() const {
 }
 
 BodyCamera BodyStage::FittedCamera(Integer width, Integer height) {
-  BodyCamera camera{(kCanvasWidth + kCanvasHeight) / 4 * kZoom, kCanvasWidth / 2,
+  BodyCamera camera{(kCanvasWidth + kCanvasHeight) * 0.25F * kZoom, kCanvasWidth / 2,
                     kCanvasHeight / 2};
   MemorySurface canvas(kCanvasWidth, kCanvasHeight);
   const auto body = Begin(canvas, camera, kMeasuredStars);
