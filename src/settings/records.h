@@ -72,6 +72,8 @@ struct UniverseSettings {
   Single Universe_AmMaxExt = 1000;
   Single Universe_GravForce = 0;
   Integer Universe_GravFrame = 1;
+
+  bool operator==(const UniverseSettings&) const = default;
 };
 
 /// One attractor point of a user-defined iterated function system.
@@ -83,6 +85,8 @@ struct IfsPoint {
   Integer IFS_Axis = 0;
   Integer IFS_Angle = 0;
   Integer IFS_RelPct = 0;
+
+  bool operator==(const IfsPoint&) const = default;
 };
 
 struct IfsRecord {
@@ -90,6 +94,8 @@ struct IfsRecord {
   Integer IFS_CenterY = 0;
   Integer IFS_CenterZ = 0;
   std::array<IfsPoint, kMaxIfsPoints> Points;
+
+  bool operator==(const IfsRecord&) const = default;
 };
 
 /// One atom of a molecular structure.
@@ -102,6 +108,8 @@ struct AtomPoint {
   Integer Atom_Size = 0;
   Integer Atom_Radius = 0;
   Integer Atom_Count = 1;  // derived from Atom_Structure on load, never stored
+
+  bool operator==(const AtomPoint&) const = default;
 };
 
 struct AtomRecord {
@@ -109,6 +117,8 @@ struct AtomRecord {
   Integer Atom_CenterY = 0;
   Integer Atom_CenterZ = 0;
   std::array<AtomPoint, kMaxAtoms> Atoms;
+
+  bool operator==(const AtomRecord&) const = default;
 };
 
 /// One type of body of stars.
@@ -182,6 +192,8 @@ struct StarfoldProfile {
   AtomRecord Atom;
 
   FoldStyle Style() const { return static_cast<FoldStyle>(Starfold_FoldStyle); }
+
+  bool operator==(const StarfoldProfile&) const = default;
 };
 
 /// Several profiles shown together as one body. What only one profile can determine, such as the
@@ -196,6 +208,8 @@ struct CompositeProfile {
   int MemberCount() const {
     return CompFold_Count < 0 ? 0 : (CompFold_Count > kMaxMembers ? kMaxMembers : CompFold_Count);
   }
+
+  bool operator==(const CompositeProfile&) const = default;
 };
 
 struct AdvancedSettings {
