@@ -10,11 +10,29 @@ namespace {
 /// Qt's logical pixels are 1/96 inch.
 constexpr Long kTwipsPerPixel = 15;
 
-/// Minimum size of a window, and the minimum part of a larger one that must be on a screen, in
-/// logical pixels.
+/// Minimum size of a window in logical pixels.
 constexpr int kSmallestSide = 64;
 
+/// Of the caption and the border that a window manager adds, if they are not known yet.
+constexpr QSize kUsualFrame{12, 40};
+
 int Pixels(Long twips) { return twips / kTwipsPerPixel; }
+
+/// The usable part of the screen at `place`, or of the window's screen if there is none.
+QRect RoomAt(const QWindow& window, QPoint place) {
+  const QScreen* screen = window.screen()->virtualSiblingAt(place);
+  return (screen ? screen : window.screen())->availableGeometry();
+}
+
+QSize FrameOf(const QWindow& window) {
+  const QMargins margins = window.frameMargins();
+  const QSize frame(margins.left() + margins.right(), margins.top() + margins.bottom());
+  return frame.isNull() ? kUsualFrame : frame;
+}
+
+int Within(int place, int size, int from, int to) {
+  return std::max(from, std::min(place, to - size + 1));
+}
 
 }  // namespace
 
@@ -36,21 +54,24 @@ void PlacedQtWindow::ApplyState(WindowState state) {
 }
 
 void PlacedQtWindow::Move(Long left, Long top) {
-  const QRect desktop = window_.screen()->virtualGeometry();
-  window_.setFramePosition({std::min(Pixels(left), desktop.right() - kSmallestSide),
-                            std::min(Pixels(top), desktop.bottom() - kSmallestSide)});
+  const QPoint place(Pixels(left), Pixels(top));
+  const QRect room = RoomAt(window_, place);
+  const QSize size = window_.size() + FrameOf(window_);
+  window_.setFramePosition({Within(place.x(), size.width(), room.left(), room.right()),
+                            Within(place.y(), size.height(), room.top(), room.bottom())});
 }
 
 void PlacedQtWindow::Move(const WindowBounds& bounds) {
-  const QSize desktop = window_.screen()->virtualSize();
-  window_.resize(std::clamp(Pixels(bounds.Width), kSmallestSide, desktop.width()),
-                 std::clamp(Pixels(bounds.Height), kSmallestSide, desktop.height()));
+  const QRect room = RoomAt(window_, {Pixels(bounds.Left), Pixels(bounds.Top)});
+  const QSize most = (room.size() - FrameOf(window_)).expandedTo({kSmallestSide, kSmallestSide});
+  window_.resize(std::clamp(Pixels(bounds.Width), kSmallestSide, most.width()),
+                 std::clamp(Pixels(bounds.Height), kSmallestSide, most.height()));
   Move(bounds.Left, bounds.Top);
 }
 
 void PlacedQtWindow::CentreOnScreen() {
-  QRect place(QPoint(), window_.size());
   const QRect room = window_.screen()->availableGeometry();
+  QRect place(QPoint(), window_.size() + FrameOf(window_));
   place.moveCenter(room.center());
   // If the window is larger than the screen, its caption stays reachable.
   window_.setFramePosition(

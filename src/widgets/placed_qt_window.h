@@ -19,8 +19,8 @@ class PlacedQtWindow : public PlacedWindow {
   WindowBounds Bounds() const override;
   bool Sizable() const override { return true; }
   void ApplyState(WindowState state) override;
-  /// The stored position may come from another desktop: the window gets a usable size and a
-  /// position on a screen.
+  /// The stored position may come from another desktop: the window gets a size that fits a screen,
+  /// and a position on which it is completely on it.
   void Move(Long left, Long top) override;
   void Move(const WindowBounds& bounds) override;
   void CentreOnScreen() override;
