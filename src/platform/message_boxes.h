@@ -13,9 +13,10 @@ namespace starfolds {
 enum class BoxStyle : Integer {
   Plain = 0,  // "OK"
   YesNoCancelQuestion = 35,
-  Information = 64,  // "OK"
-  Exclamation = 48,  // "OK"
-  SaveFailed = 50,   // "Try Again", "Save as Template...", "Close without Saving", "Cancel"
+  Information = 64,        // "OK"
+  Exclamation = 48,        // "OK"
+  UnacceptedChanges = 51,  // "Accept", "Discard", "Cancel"
+  SaveFailed = 50,         // "Try Again", "Save as Template...", "Close without Saving", "Cancel"
 };
 
 enum class BoxAnswer : Integer {
@@ -26,6 +27,8 @@ enum class BoxAnswer : Integer {
   No = 7,
   SaveAsTemplate = 100,
   CloseWithoutSaving = 101,
+  AcceptChanges = 102,
+  DiscardChanges = 103,
 };
 
 class MessageBoxes {

@@ -9,7 +9,9 @@
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/dialog_rows.h"
+#include "settings/registry.h"
 #include "widgets/picture_box.h"
+#include "widgets/still_delegate.h"
 
 namespace starfolds {
 namespace {
@@ -30,7 +32,11 @@ QColor Halfway(const QColor& a, const QColor& b) {
 /// selected entries.
 class TickDelegate : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  TickDelegate(QListWidget* list, const PropsModel& model)
+      : QStyledItemDelegate(list), model_(model) {
+    if (!model.Stills) return;
+    connect(model.Stills, &StillService::Ready, list->viewport(), qOverload<>(&QWidget::update));
+  }
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowAir);
@@ -46,10 +52,22 @@ class TickDelegate : public QStyledItemDelegate {
     // Qt draws the frame of an empty box in a shade of the window, which is invisible if dark.
     option->palette.setColor(QPalette::Window, Halfway(option->palette.color(QPalette::Text),
                                                        option->palette.color(QPalette::Base)));
+    if (model_.Stills) AddStill(*option, index.row());
   }
 
  private:
   static constexpr int kRowAir = 2;
+  static constexpr QSize kStill{32, 24};
+
+  void AddStill(QStyleOptionViewItem& option, int row) const {
+    const qreal ratio = option.widget ? option.widget->devicePixelRatioF() : 1;
+    const QImage still = model_.Stills->Still(StillOf(model_.Profiles()[row], kStill, ratio));
+    option.features |= QStyleOptionViewItem::HasDecoration;
+    option.decorationSize = kStill;
+    option.icon = still.isNull() ? QIcon() : QIcon(QPixmap::fromImage(still));
+  }
+
+  PropsModel model_;
 };
 
 QBoxLayout* Line(std::initializer_list<QWidget*> widgets) {
@@ -93,10 +111,11 @@ CompositeEditor::CompositeEditor(const PropsModel& model, QWidget* parent)
   major_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   major_->setMinimumContentsLength(kNameCharacters);
   minors_->setSelectionMode(QAbstractItemView::MultiSelection);
-  minors_->setItemDelegate(new TickDelegate(minors_));
+  minors_->setItemDelegate(new TickDelegate(minors_, model_));
   minors_->setUniformItemSizes(true);
   minors_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   LayOut();
+  ShowStills();
   ConnectControls();
   Rebuild();
 }
@@ -145,15 +164,36 @@ QBoxLayout* CompositeEditor::EditColumn() {
 
 void CompositeEditor::ConnectControls() {
   for (QPushButton* button : {reset_, preview_, commit_}) button->setAutoDefault(false);
+  for (QWidget* box : std::initializer_list<QWidget*>{name_, percent_, major_, minors_}) {
+    SetReturnButton(*box, *commit_);
+  }
+  SetReturnButton(*resetPercent_, *reset_);
   connect(list_, &QListWidget::itemSelectionChanged, this, &CompositeEditor::ShowSelected);
   connect(major_, &QComboBox::currentIndexChanged, this, &CompositeEditor::PaintWarning);
   connect(minors_, &QListWidget::itemSelectionChanged, this, &CompositeEditor::PaintWarning);
+  connect(major_, &QComboBox::currentIndexChanged, this, &CompositeEditor::SetEdited);
+  connect(minors_, &QListWidget::itemSelectionChanged, this, &CompositeEditor::SetEdited);
+  connect(name_, &QLineEdit::textChanged, this, &CompositeEditor::SetEdited);
+  connect(percent_, &NumberBox::Changed, this, &CompositeEditor::SetEdited);
+  connect(name_, &QLineEdit::editingFinished, this, &CompositeEditor::StoreEdited);
+  connect(percent_, &NumberBox::Left, this, &CompositeEditor::StoreEdited);
+  connect(list_, &BodyList::Opened, name_, qOverload<>(&QWidget::setFocus));
   connect(commit_, &QPushButton::clicked, this, &CompositeEditor::Commit);
   connect(reset_, &QPushButton::clicked, this, &CompositeEditor::ResetPercents);
   connect(preview_, &QPushButton::clicked, this, &CompositeEditor::PreviewRequested);
 }
 
+void CompositeEditor::ShowStills() {
+  list_->ShowStills(model_.Stills, [this](int row, QSize size, qreal ratio) {
+    return StillOf(model_.Composites()[row], model_.Profiles(), size, ratio);
+  });
+  ShowStillsIn(*major_, model_.Stills, [this](int row, QSize size, qreal ratio) {
+    return StillOf(model_.Profiles()[row], size, ratio);
+  });
+}
+
 void CompositeEditor::Rebuild() {
+  shown_ = -1;  // its record has changed
   list_->clear();
   for (const CompositeProfile& composite : model_.Composites()) {
     list_->AddEntry(composite.CompFoldName, composite.CompFoldPct);
@@ -163,6 +203,7 @@ void CompositeEditor::Rebuild() {
 
 void CompositeEditor::SetBodies(const std::vector<std::string>& names) {
   const int count = std::min(static_cast<int>(names.size()), kProfileCount);
+  loading_ = true;
   const int major = major_->currentIndex();
   for (int i = 0; i < count; ++i) {
     const QString name = Shown(names[i]);
@@ -181,27 +222,40 @@ void CompositeEditor::SetBodies(const std::vector<std::string>& names) {
     delete minors_->takeItem(minors_->count() - 1);
   }
   major_->setCurrentIndex(major < count ? major : -1);  // Qt selects the first entry that is added
-  PaintWarning();                                       // the style of a type may have changed
+  loading_ = false;
+  PaintWarning();  // the style of a type may have changed
 }
 
 void CompositeEditor::ClearEditor() {
+  shown_ = -1;
+  loading_ = true;
   list_->clearSelection();
   minors_->clearSelection();
   major_->setCurrentIndex(-1);
   name_->clear();
   percent_->SetText({});
+  loading_ = false;
+  edited_ = false;
 }
 
 int CompositeEditor::Selected() const { return list_->Selected(); }
 
 void CompositeEditor::ShowSelected() {
-  const int selected = Selected();
-  if (selected < 0) return;
-  const CompositeProfile& composite = model_.Composites()[selected];
+  StoreEdited();
+  shown_ = Selected();
+  if (shown_ < 0) return;
+  loading_ = true;
+  const CompositeProfile& composite = model_.Composites()[shown_];
   name_->ShowName(Shown(composite.CompFoldName));
   name_->setCursorPosition(0);  // shows the beginning of a long one
   percent_->SetText(NumberText(Long{composite.CompFoldPct}));
   ChooseMembers(composite);
+  loading_ = false;
+  edited_ = false;
+}
+
+void CompositeEditor::SetEdited() {
+  if (!loading_ && shown_ >= 0) edited_ = true;
 }
 
 void CompositeEditor::ChooseMembers(const CompositeProfile& composite) {
@@ -227,14 +281,28 @@ void CompositeEditor::Commit() {
     model_.Inform("Note:\n\n" + std::string(kIfsNote) +
                   "\nThis may result in strange looking Starfolds.");
   }
-  CompositeProfile& composite = model_.Composites()[selected];
-  composite.CompFoldName = name_->text().toStdString();
+  shown_ = selected;
+  Store();
+}
+
+void CompositeEditor::StoreEdited() {
+  if (edited_ && shown_ >= 0) Store();
+}
+
+void CompositeEditor::Store() {
+  CompositeProfile& composite = model_.Composites()[shown_];
+  emit AboutToChange("Composite " + Shown(composite.CompFoldName));
+  edited_ = false;
+  percent_->ClampTextField();
+  composite.CompFoldName = StorableText(name_->text().toStdString());
   composite.CompFoldPct = RoundedToLimits<Integer>(LenientNumber(percent_->Text()));
-  const std::vector<Integer> members = Members();
-  composite.CompFold_Count = static_cast<Integer>(members.size());
-  composite.CompFold_Type.fill(0);
-  std::copy(members.begin(), members.end(), composite.CompFold_Type.begin());
-  ShowEntry(selected);
+  if (const std::vector<Integer> members = Members(); major_->currentIndex() >= 0) {
+    composite.CompFold_Count = static_cast<Integer>(members.size());
+    composite.CompFold_Type.fill(0);
+    std::copy(members.begin(), members.end(), composite.CompFold_Type.begin());
+  }
+  ShowEntry(shown_);
+  emit RecordsChanged();
 }
 
 void CompositeEditor::ResetPercents() {
@@ -244,12 +312,17 @@ void CompositeEditor::ResetPercents() {
     return;
   }
   resetPercent_->ClampTextField();
+  StoreEdited();
   const std::string text = resetPercent_->Text();
+  emit AboutToChange("Percent of All Composites");
   for (int i = 0; i < kCompositeCount; ++i) {
     model_.Composites()[i].CompFoldPct = RoundedToLimits<Integer>(LenientNumber(text));
     ShowEntry(i);
   }
+  loading_ = true;
   if (Selected() >= 0) percent_->SetText(text);
+  loading_ = false;
+  emit RecordsChanged();
 }
 
 void CompositeEditor::ShowEntry(int position) {

@@ -27,14 +27,23 @@ class CompositeEditor : public QWidget {
   void Rebuild();
   /// Sets the names of the profiles, in their order. The selection is kept.
   void SetBodies(const std::vector<std::string>& names);
-  /// Clears the selected composite, the selected types and the text boxes.
+  /// Clears the selected composite, the selected types and the text boxes. What was edited and is
+  /// not stored is lost.
   void ClearEditor();
+  /// Stores what was edited of the shown composite, as leaving it does: name and percent, and the
+  /// members if there is a major type. Shows no message.
+  void StoreEdited();
+  BodyList& List() { return *list_; }
   /// The selected composite, or -1.
   int Selected() const;
 
  signals:
   /// `cmdPreviewComp` was pressed.
   void PreviewRequested();
+  /// The records are about to be changed by this view; `what` names the change.
+  void AboutToChange(const QString& what);
+  /// Names, weights or members have changed.
+  void RecordsChanged();
 
  private:
   void NameControls();
@@ -46,6 +55,9 @@ class CompositeEditor : public QWidget {
   void ShowSelected();
   void ChooseMembers(const CompositeProfile& composite);
   void Commit();
+  void Store();
+  void SetEdited();
+  void ShowStills();
   void ResetPercents();
   void ShowEntry(int position);
 
@@ -56,6 +68,9 @@ class CompositeEditor : public QWidget {
   void PaintWarning();
 
   PropsModel model_;
+  int shown_ = -1;           // the composite that the boxes show
+  bool edited_ = false;      // by the user, since it is shown
+  bool loading_ = false;     // the boxes are being set from the record
   BodyList* list_;           // lstCompStarfold
   NumberBox* resetPercent_;  // txtResetCompPct
   QPushButton* reset_;       // cmdResetCompPct

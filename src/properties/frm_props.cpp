@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -19,9 +21,11 @@
 #include "properties/universe_guides.h"
 #include "settings/registry.h"
 #include "settings/safety_copy.h"
+#include "settings/surprise_universe.h"
 #include "widgets/captions.h"
 #include "widgets/lines.h"
 #include "widgets/list_wheel_guard.h"
+#include "widgets/page_tabs.h"
 #include "widgets/placed_qt_window.h"
 #include "widgets/setting_guide.h"
 #include "widgets/web_page.h"
@@ -30,7 +34,8 @@ namespace starfolds {
 namespace {
 
 constexpr int kWideWindow = 1250;  // least width for the preview beside the form
-constexpr int kFormWidth = 500;    // initial width of the form beside the preview
+constexpr int kScrollBarRoom = 24;
+constexpr int kFormWidth = 500;  // initial width of the form beside the preview
 constexpr QSize kLeastForm{320, 160};
 constexpr QSize kUsualSize{1360, 780};
 constexpr double kMostOfScreen =
@@ -62,13 +67,14 @@ FrmProps::FrmProps(const PropsSurroundings& surroundings)
     : around_(surroundings),
       editing_(std::make_unique<ProcessState>()),
       events_(std::make_unique<WatchfulPump>(surroundings.Process, *editing_)),
-      model_{*editing_, surroundings.Boxes, surroundings.HelpBook},
+      model_{*editing_, surroundings.Boxes, surroundings.HelpBook, &stills_},
       template_(surroundings.Disk),
       settings_{surroundings.Tree,          editing_->Profiles,
                 editing_->Composites,       template_,
                 surroundings.Disk,          surroundings.Boxes,
                 surroundings.ProgramFolder, surroundings.UserFolder},
-      templates_(MakeTemplateHost()) {
+      templates_(MakeTemplateHost()),
+      undo_(MakeUndoHost()) {
   const ProcessState& process = around_.Process;
   editing_->Tree = &around_.Tree;
   editing_->Events = events_.get();
@@ -108,13 +114,17 @@ void FrmProps::Open() {
   windowHandle()->setTransientParent(around_.Owner);
   // Before any question: a safety copy contains the values of the dialog.
   const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
+  if (universe_->Bodies().Selected() < 0) universe_->Bodies().setCurrentRow(0);
   ShowWherePlaced(*this, *editing_->Tree, sections::kMain);
-  OpenProperties(settings_, *this, stored);
+  undo_.Begin();
+  undo_.Do(tr("Reset of the Properties"), [&] { OpenProperties(settings_, *this, stored); });
+  if (!stored.Complete) undo_.Begin();  // there is nothing to return to
+  universe_->Bodies().setFocus();
 }
 
 /// Ends a running preview first, because its call frame is above the dialog's.
 void FrmProps::closeEvent(QCloseEvent* event) {
-  if (preview_->DelaysClose()) return event->ignore();
+  if (preview_->DelaysClose() || !MayClose()) return event->ignore();
   SaveWindowPlacement(PlacedQtWindow(*windowHandle()), *editing_->Tree, sections::kMain);
   around_.Process.Requests.AskNewRun();
   open_ = false;
@@ -124,6 +134,7 @@ void FrmProps::closeEvent(QCloseEvent* event) {
 
 /// Escape goes back one step. It does not cancel, so that an accidental press loses no settings.
 void FrmProps::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return PressDefault();
   if (event->key() != Qt::Key_Escape) return QMainWindow::keyPressEvent(event);
   if (preview_->IsRunning()) return preview_->Stop();
   if (inStarfoldView_) OpenStarfoldView(false);
@@ -137,7 +148,7 @@ void FrmProps::SetUniverseText(const Field<UniverseSettings>& field, const std::
   universe_->SetText(field, text);
 }
 
-void FrmProps::ClearProfileList() { universe_->Bodies().clear(); }
+void FrmProps::ClearProfileList() { universe_->ClearProfileList(); }
 
 void FrmProps::AddProfileEntry(std::string_view name, Integer percent) {
   universe_->AddProfileEntry(name, percent);
@@ -176,14 +187,16 @@ bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
 /// Stores what is still being edited in the records and clamps the boxes.
 void FrmProps::Settle() {
   if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
-  universe_->ClampTextFields();
+  universe_->Settle();
 }
 
 /// Reloads an open page, which would otherwise overwrite the profile when it is stored.
 void FrmProps::Reset(int menuIndex) {
   Settle();
-  ResetFromMenu(settings_, *this, menuIndex);
-  if (inStarfoldView_) OpenStarfoldView(true);
+  undo_.Do(tr("Reset of the Properties"), [&] {
+    ResetFromMenu(settings_, *this, menuIndex);
+    if (inStarfoldView_) OpenStarfoldView(true);
+  });
 }
 
 /// Reloads an open page before it is closed, because closing stores it.
@@ -211,6 +224,8 @@ void FrmProps::MakeMenus() {
   file->addAction(tr("E&xit"), this, &FrmProps::Exit)->setObjectName("mnuExit");
 
   QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  undo_.AddTo(*edit);
+  edit->addSeparator();
   QMenu* reset = edit->addMenu(tr("&Reset Properties"));
   const auto addReset = [&](int index, const QString& text) {
     QAction* entry = reset->addAction(text, this, [this, index] { Reset(index); });
@@ -250,7 +265,7 @@ Integer FrmProps::TopicHere() const {
   if (inStarfoldView_ && isIn("cboFoldTheme")) return help::kStarfoldView;
   if (inStarfoldView_) return static_cast<Integer>(help::kStarfoldPage + starfold_->ShownPage());
   if (isIn("fraPropCopy")) return help::kPropertyCopy;
-  if (isIn("fraStarfoldTypes")) return help::kUniverseView;
+  if (isIn("fraStarfoldTypes") || isIn("fraUniverseProps")) return help::kUniverseView;
   return static_cast<Integer>(help::kUniversePage + universe_->ShownPage());
 }
 
@@ -276,13 +291,17 @@ void FrmProps::MakeCentre() {
   preview_ = MakePreviewPane();
   splitter_->addWidget(preview_);
   splitter_->setStretchFactor(1, 1);
+  rows->addWidget(MakeBodySteps());
   rows->addWidget(splitter_, 1);
   rows->addWidget(MakeButtons());
   setCentralWidget(centre);
+  MakeStatusLine();
   GuardListsFromWheel(*centre);
   // A file dropped on any widget is a template, not text for a box.
   for (QLineEdit* box : findChildren<QLineEdit*>()) box->setAcceptDrops(false);
+  undo_.WatchBoxesOf(*this);
   ConnectParts();
+  ConnectChanges();
 }
 
 QWidget* FrmProps::MakeButtons() {
@@ -296,7 +315,8 @@ QWidget* FrmProps::MakeButtons() {
   buttons->addWidget(cmdAccept_);
   buttons->addWidget(cmdDismiss_);
   connect(cmdAccept_, &QPushButton::clicked, this, &FrmProps::Accept);
-  connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::close);
+  connect(cmdDismiss_, &QPushButton::clicked, this, &FrmProps::CloseUnasked);
+  cmdAccept_->setDefault(true);  // its look; `PressDefault` does it
   return line;
 }
 
@@ -332,6 +352,83 @@ void FrmProps::ConnectParts() {
   }
 }
 
+/// What becomes a step of the undo, or a text of the status line.
+void FrmProps::ConnectChanges() {
+  connect(universe_, &UniverseView::SurpriseAskedFor, this, &FrmProps::SurpriseMe);
+  connect(universe_, &UniverseView::AboutToChange, &undo_, &UndoMenu::AboutToChange);
+  connect(universe_, &UniverseView::Said, this, &FrmProps::Say);
+  connect(universe_, &UniverseView::Edited, this,
+          [this] { undo_.NoteEdit(universe_->PageOfEdit()); });
+  connect(starfold_, &StarfoldView::Changed, this, [this] {
+    if (!inStarfoldView_) return;
+    undo_.NoteEdit(Shown(universe_->Bodies().EntryName(currentProfile_)));
+  });
+  connect(&undo_, &UndoMenu::Changed, this, &FrmProps::ShowWhatIsChanged);
+  connect(&undo_, &UndoMenu::Said, this, &FrmProps::Say);
+  for (const auto& [key, by] : {std::pair{Qt::Key_PageUp, -1}, std::pair{Qt::Key_PageDown, 1}}) {
+    connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this,
+            [this, by = by] { TurnPages(by); });
+  }
+}
+
+UndoHost FrmProps::MakeUndoHost() {
+  return {[this] { return CaptureSettings(); },
+          [this](const EditedSettings& settings) { ShowSettings(settings); },
+          [this] { universe_->Settle(); }, [this] { return preview_->IsRunning(); }};
+}
+
+/// The open page counts as it would be stored.
+EditedSettings FrmProps::CaptureSettings() const {
+  EditedSettings settings{.Profiles = editing_->Profiles, .Composites = editing_->Composites};
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    settings.Universe.push_back(universe_->Text(field));
+  }
+  if (inStarfoldView_) {
+    StarfoldProfile& open = settings.Profiles[currentProfile_];
+    const std::string name = open.UniFoldName;
+    const Integer weight = open.UniFoldPct;
+    open = starfold_->Page();
+    open.UniFoldName = name;
+    open.UniFoldPct = weight;
+  }
+  return settings;
+}
+
+/// Selects the body that changes, if it is only one.
+void FrmProps::ShowSettings(const EditedSettings& settings) {
+  std::vector<int> changed;
+  for (int i = 0; i < kProfileCount; ++i) {
+    if (!(settings.Profiles[i] == model_.Profiles()[i])) changed.push_back(i);
+  }
+  const int composite = universe_->Composites().Selected();
+  model_.Profiles() = settings.Profiles;
+  model_.Composites() = settings.Composites;
+  universe_->SelectTheme(0);
+  universe_->RebuildProfileList();
+  universe_->Composites().Rebuild();
+  universe_->BodiesChanged();
+  universe_->SetTexts(settings.Universe);
+  if (!inStarfoldView_ && changed.size() == 1) universe_->Bodies().setCurrentRow(changed.front());
+  if (composite >= 0) universe_->Composites().List().setCurrentRow(composite);
+  if (inStarfoldView_) {
+    starfold_->LoadProfileToPage(currentProfile_);
+    ShowBodyPlace();
+  }
+  preview_->Changed();
+}
+
+void FrmProps::ShowWhatIsChanged() {
+  const EditedSettings& present = undo_.History().Present();
+  const EditedSettings& stored = undo_.History().Stored();
+  lblChanged_->setVisible(undo_.History().IsChanged());
+  for (int i = 0; i < kProfileCount; ++i) {
+    universe_->Bodies().MarkChanged(i, !(present.Profiles[i] == stored.Profiles[i]));
+  }
+  for (int i = 0; i < kCompositeCount; ++i) {
+    universe_->Composites().List().MarkChanged(i, !(present.Composites[i] == stored.Composites[i]));
+  }
+}
+
 /// Beside the form, or below it in a narrow window.
 void FrmProps::PlacePreview() {
   const bool beside = width() >= kWideWindow;
@@ -341,13 +438,53 @@ void FrmProps::PlacePreview() {
   splitter_->setOrientation(wanted);
   preview_->PutButtonsBeside(!beside);
   const int room = beside ? width() : height();
-  const int form = beside ? std::max(kFormWidth, universe_->minimumSizeHint().width()) : room / 2;
+  const int form =
+      beside ? std::max({kFormWidth, universe_->minimumSizeHint().width() + kScrollBarRoom,
+                         std::min(universe_->sizeHint().width() + kScrollBarRoom, room * 9 / 20)})
+             : room / 2;
   splitter_->setSizes({form, room - form});
 }
 
 void FrmProps::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   PlacePreview();
+}
+
+/// "◀ 2 of 50 ▶", above the starfold view.
+QWidget* FrmProps::MakeBodySteps() {
+  bodySteps_ = new QWidget;
+  auto* line = new QHBoxLayout(bodySteps_);
+  line->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const char* name, const QString& text, const QString& tip, QKeySequence key,
+                       int by) {
+    auto* step = new QToolButton;
+    step->setObjectName(name);
+    step->setText(text);
+    step->setAccessibleName(tip);
+    step->setToolTip(tip + "  (" + key.toString(QKeySequence::NativeText) + ")");
+    step->setFocusPolicy(Qt::TabFocus);
+    line->addWidget(step);
+    connect(step, &QToolButton::clicked, this, [this, by] { StepBody(by); });
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, by] { StepBody(by); });
+  };
+  add("cmdPrevFold", "◀", tr("Previous type"), Qt::ALT | Qt::Key_PageUp, -1);
+  add("cmdNextFold", "▶", tr("Next type"), Qt::ALT | Qt::Key_PageDown, 1);
+  lblFoldPlace_ = new ElidedLabel;
+  lblFoldPlace_->setObjectName("lblFoldPlace");
+  line->addWidget(lblFoldPlace_, 1);
+  bodySteps_->hide();
+  return bodySteps_;
+}
+
+void FrmProps::MakeStatusLine() {
+  lblStatus_ = new ElidedLabel;
+  lblStatus_->setObjectName("lblStatus");
+  lblChanged_ = new QLabel(tr("Changed, not accepted yet"));
+  lblChanged_->setObjectName("lblChanged");
+  lblChanged_->hide();
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(lblStatus_, 1);
+  statusBar()->addPermanentWidget(lblChanged_);
 }
 
 /// A run with overridden settings has other values than the dialog.
@@ -405,11 +542,14 @@ PreviewSource::Body FrmProps::IdleBody() const {
 
 void FrmProps::OpenStarfoldView(bool open) {
   if (open && currentProfile_ < 0) return model_.Inform("Please select a Starfold Profile.");
+  universe_->Settle();
+  undo_.EndEdit();
   inStarfoldView_ = open;
   cmdDismiss_->setVisible(!open);
+  bodySteps_->setVisible(open);
   if (open) {
-    starfold_->LoadProfileToPage(currentProfile_);
-    preview_->setTitle("Starfold:  " + Escaped(universe_->Bodies().EntryName(currentProfile_)));
+    undo_.Silently([this] { starfold_->LoadProfileToPage(currentProfile_); });
+    ShowBodyPlace();
   } else {
     starfold_->StorePageToProfile(currentProfile_);
     preview_->setTitle(tr(kStarfoldProperties));
@@ -419,35 +559,113 @@ void FrmProps::OpenStarfoldView(bool open) {
   views_->setCurrentIndex(open ? 1 : 0);
 }
 
+/// The name of the open body, and its place in the list.
+void FrmProps::ShowBodyPlace() {
+  const QString name = Shown(universe_->Bodies().EntryName(currentProfile_));
+  preview_->setTitle("Starfold:  " + Escaped(name.toStdString()));
+  lblFoldPlace_->setText(tr("%1 of %2:  %3").arg(currentProfile_ + 1).arg(kProfileCount).arg(name));
+}
+
+/// Opens the body `by` places after the open one; the first follows the last.
+void FrmProps::StepBody(int by) {
+  if (!inStarfoldView_ || preview_->IsRunning()) return;
+  starfold_->StorePageToProfile(currentProfile_);
+  currentProfile_ = (currentProfile_ + by + kProfileCount) % kProfileCount;
+  universe_->Bodies().setCurrentRow(currentProfile_);
+  OpenStarfoldView(true);
+}
+
+void FrmProps::TurnPages(int by) {
+  if (!preview_->IsRunning())
+    TurnPage(inStarfoldView_ ? starfold_->Pages() : universe_->Pages(), by);
+}
+
+/// Return in a box, unless it presses a button of its own.
+void FrmProps::PressDefault() {
+  QAbstractButton* button = ReturnButton(focusWidget());
+  if (!button) button = qobject_cast<QPushButton*>(focusWidget());
+  if (!button) button = cmdAccept_;
+  button->click();
+}
+
 void FrmProps::Accept() {
   if (inStarfoldView_) return OpenStarfoldView(false);
-  universe_->ClampTextFields();  // Return does not take the focus from the box
+  Settle();  // Return does not take the focus from the box
+  if (Store()) CloseUnasked();
+}
+
+/// Stores the settings. False if the dialog is to stay open.
+bool FrmProps::Store() {
   while (!SaveDialogToRegistry(settings_, *this)) {
     switch (AskAfterFailedSave(settings_)) {
       case BoxAnswer::TryAgain: continue;
-      case BoxAnswer::SaveAsTemplate: return templates_.SaveAs();
-      case BoxAnswer::CloseWithoutSaving: close(); return;
-      default: return;
+      case BoxAnswer::SaveAsTemplate: templates_.SaveAs(); return false;
+      case BoxAnswer::CloseWithoutSaving: return true;
+      default: return false;
     }
   }
+  return true;
+}
+
+/// Asks what to do with changes that are not accepted. "Cancel" is an answer to that already.
+bool FrmProps::MayClose() {
+  if (unasked_) return true;
+  Settle();
+  if (!undo_.IsChanged()) return true;
+  switch (around_.Boxes.Show("The settings were changed.\n\nDo you want to accept the changes?",
+                             BoxStyle::UnacceptedChanges, std::string(kProductName))) {
+    case BoxAnswer::AcceptChanges: return Store();
+    case BoxAnswer::Cancel: return false;
+    default: return true;
+  }
+}
+
+void FrmProps::CloseUnasked() {
+  unasked_ = true;
   close();
+  unasked_ = false;
 }
 
 void FrmProps::Exit() {
+  if (!MayClose()) return;
   around_.Process.Requests.AskQuit();
-  close();
+  CloseUnasked();
 }
 
 void FrmProps::ApplyTheme(int position) {
   if (position < 1) return;
   const bool is20 = resetMenu_.at(kReset20)->isChecked();
+  undo_.AboutToChange(tr("Theme %1").arg(universe_->ThemeName(position)));
   universe_->ApplyThemeRowToPage(FactoryThemeRow(position, is20));
+  Say(tr("Theme: %1").arg(universe_->ThemeName(position)));
+}
+
+void FrmProps::SurpriseMe() {
+  Settle();
+  undo_.AboutToChange(tr("Surprise Me"));
+  Rnd random(around_.Seed());
+  const SurprisedUniverse drawn =
+      SurpriseUniverse(random, universe_->Settings(), model_.Composites());
+  for (int i = 0; i < kProfileCount; ++i) {
+    model_.Profiles()[i].UniFoldPct = drawn.ProfileWeights[i];
+  }
+  for (int i = 0; i < kCompositeCount; ++i) {
+    model_.Composites()[i].CompFoldPct = drawn.CompositeWeights[i];
+  }
+  universe_->SelectTheme(0);
+  RebuildProfileList();
+  RebuildCompositeLists();
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    universe_->SetText(field, FieldText(drawn.Universe, field));
+  }
+  Say(tr("A universe drawn at random"));
 }
 
 /// The editor changes the record; the page then reloads what it has no box for.
 template <class Editor>
 void FrmProps::RunEditor() {
   starfold_->StorePageToProfile(currentProfile_);
+  undo_.EndEdit();
   Editor({model_, *this, around_.Seed, currentProfile_}, this).RunModal();
   starfold_->TakeProfile(currentProfile_);
 }

@@ -14,10 +14,13 @@
 #include "platform/files.h"
 #include "properties/preview_pane.h"
 #include "properties/starfold_view.h"
+#include "properties/undo_menu.h"
 #include "properties/universe_view.h"
 #include "settings/property_flows.h"
 #include "template_dialogs/template_menu.h"
 #include "widgets/dialog_model.h"
+#include "widgets/elided_label.h"
+#include "widgets/still_service.h"
 #include "widgets/watchful_pump.h"
 
 namespace starfolds {
@@ -85,6 +88,11 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   }
 
   void Settle();
+  EditedSettings CaptureSettings() const;
+  void ShowSettings(const EditedSettings& settings);
+  void ShowWhatIsChanged();
+  UndoHost MakeUndoHost();
+  void ConnectChanges();
   void Reset(int menuIndex);
   TemplateHost MakeTemplateHost();
   void MakeMenus();
@@ -96,11 +104,22 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void ConnectParts();
   void PlacePreview();
   QWidget* MakeOverridesNote();
+  QWidget* MakeBodySteps();
+  void MakeStatusLine();
+  void Say(const QString& text) { lblStatus_->setText(text); }
 
   void OpenStarfoldView(bool open);
+  void ShowBodyPlace();
+  void StepBody(int by);
+  void TurnPages(int by);
+  void PressDefault();
   void Accept();
+  bool Store();
+  bool MayClose();
+  void CloseUnasked();
   void Exit();
   void ApplyTheme(int position);
+  void SurpriseMe();
   template <class Editor>
   void RunEditor();
 
@@ -110,12 +129,15 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   PropsSurroundings around_;
   std::unique_ptr<ProcessState> editing_;  // the edited records and their previews
   std::unique_ptr<WatchfulPump> events_;
+  StillService stills_;
   PropsModel model_;
   TemplateFile template_;
   PropertySettings settings_;
   TemplateMenu templates_;
 
+  UndoMenu undo_;
   bool open_ = false;
+  bool unasked_ = false;  // the window closes without a question about changes
 
   bool inStarfoldView_ = false;  // InStarfoldView
   int currentProfile_ = -1;      // CurrentProfile
@@ -128,6 +150,10 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   PreviewPane* preview_ = nullptr;
   QPushButton* cmdAccept_ = nullptr;
   QPushButton* cmdDismiss_ = nullptr;
+  QWidget* bodySteps_ = nullptr;  // cmdPrevFold, lblFoldPlace, cmdNextFold
+  ElidedLabel* lblFoldPlace_ = nullptr;
+  ElidedLabel* lblStatus_ = nullptr;   // what happened last
+  QLabel* lblChanged_ = nullptr;       // whether something is not accepted yet
   std::map<int, QAction*> resetMenu_;  // mnuResetProps
 };
 

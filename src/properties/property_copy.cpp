@@ -73,6 +73,9 @@ void PropertyCopy::LayOut() {
 }
 
 void PropertyCopy::ConnectControls() {
+  for (QWidget* box : std::initializer_list<QWidget*>{property_, text_, choice_, check_}) {
+    SetReturnButton(*box, *copy_);
+  }
   connect(property_, &QComboBox::currentIndexChanged, this, &PropertyCopy::SetupPropCopyValue);
   connect(text_, &NumberBox::Left, this, &PropertyCopy::ClampPropCopyValue);
   // The mnemonic presses the button without taking the focus from the box.
@@ -144,12 +147,15 @@ void PropertyCopy::CopyPropertyToAllProfiles() {
     AskForValue();
     return;
   }
-  if (!CopyProperty(*row, Value(), model_.Profiles())) return;
+  if (!row->Target) return;
+  emit AboutToChange(tr("Copy of %1").arg(Shown(EntryText(*row))));
+  const int types = TypesSetBy(*row, model_.Profiles());
+  CopyProperty(*row, Value(), model_.Profiles());
   ProcessState& process = model_.Process;
   BuildFlareTables(process.Colours, process.Profiles, process.Universe.Universe_HW_Start,
                    process.Universe.Universe_HW_End);
   BuildHueWheels(process.Colours, process.Profiles);
-  emit Copied();
+  emit Copied(types);
 }
 
 const CopyRow* PropertyCopy::Row() const {

@@ -29,8 +29,10 @@ class PropertyCopy : public QWidget {
   void CopyPropertyToAllProfiles();
 
  signals:
-  /// The records have changed.
-  void Copied();
+  /// The value is about to be copied; `what` names the copy.
+  void AboutToChange(const QString& what);
+  /// The records have changed: those of `types` types were set.
+  void Copied(int types);
 
  private:
   void LayOut();

@@ -1,5 +1,6 @@
 #include "properties/property_copy_table.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "numbers/text.h"
@@ -123,6 +124,14 @@ std::string RangeText(const NumberRange& range) {
   std::string high = NumberText(static_cast<Single>(range.High));
   if (range.Kind == NumberKind::AsSingle && high.find('.') == std::string::npos) high += ".0";
   return "Range (" + NumberText(static_cast<Single>(range.Low)) + " - " + high + "):";
+}
+
+int TypesSetBy(const CopyRow& row, const ProfileArray& profiles) {
+  if (!row.Target) return 0;
+  const auto isSet = [&row](const P& profile) {
+    return !row.Skipped.Has(profile.Starfold_FoldStyle);
+  };
+  return static_cast<int>(std::count_if(profiles.begin(), profiles.end(), isSet));
 }
 
 bool CopyProperty(const CopyRow& row, Single value, ProfileArray& profiles) {

@@ -38,6 +38,9 @@ NumberRange RangeOf(const CopyRow& row);
 /// "Range (0 - 99.9):"
 std::string RangeText(const NumberRange& range);
 
+/// The number of profiles that a copy of the row sets.
+int TypesSetBy(const CopyRow& row, const ProfileArray& profiles);
+
 /// Writes the value into the row's target in all profiles but those of skipped styles, rounded
 /// if the target is a whole number. False if the row has no target.
 bool CopyProperty(const CopyRow& row, Single value, ProfileArray& profiles);

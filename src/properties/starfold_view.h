@@ -44,6 +44,7 @@ class StarfoldView : public QWidget {
   StarfoldProfile Page() const;
 
   /// Position of `cboFoldExtras`.
+  QComboBox& Pages() { return *cboFoldExtras_; }
   int ShownPage() const { return cboFoldExtras_->currentIndex(); }
 
   /// Shows, hides and labels the rows for the style.

@@ -5,12 +5,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
 #include "settings/registry.h"
 #include "widgets/lines.h"
+#include "widgets/page_tabs.h"
 #include "widgets/samples.h"
 
 namespace starfolds {
@@ -20,6 +22,10 @@ using U = UniverseSettings;
 
 constexpr NumberRange kWeightRange{NumberKind::AsInteger, 0, 9999};
 constexpr int kProfileNameLength = 30;  // characters of an entry of `cboUniProfile`
+constexpr int kLeastListHeight = 150;
+constexpr int kAllRoom = 1000;  // stretch factor
+constexpr int kLeastLabel = 200;
+constexpr int kLeastShortLabel = 100;
 constexpr QSize kSampleSize{160, 90};
 constexpr QSize kHueSize{188, 14};
 
@@ -43,6 +49,12 @@ constexpr const char* kGravityNote =
     "bypassed entirely.  See the Online help for more information.\n"
     "Comets will NOT appear in any of the Starfolds if a non-zero Gravity is entered.";
 
+/// In a narrow window the text takes two lines.
+void LetWrap(QLabel& label, int leastWidth) {
+  label.setWordWrap(true);
+  label.setMinimumWidth(leastWidth);
+}
+
 QGroupBox* MakeFrame(const QString& title, const char* name) {
   auto* frame = new QGroupBox(title);
   frame->setObjectName(name);
@@ -63,6 +75,7 @@ UniverseView::UniverseView(const PropsModel& model, QWidget* parent)
   right->addWidget(MakeUniverseProperties());
   right->addWidget(MakePages(), 1);
   columns->addLayout(right, 3);
+  ShowStills();
   EnableTour();
 }
 
@@ -76,6 +89,7 @@ std::string UniverseView::Text(const Field<UniverseSettings>& field) const {
 }
 
 void UniverseView::SetText(const Field<UniverseSettings>& field, const std::string& text) {
+  const bool wasSetting = std::exchange(setting_, true);
   if (const auto check = checks_.find(&field); check != checks_.end()) {
     check->second->setChecked(LenientNumber(text) != 0);
   } else if (field.Where == kProfileSetting) {
@@ -87,9 +101,21 @@ void UniverseView::SetText(const Field<UniverseSettings>& field, const std::stri
   } else {
     Box(field.Where)->SetText(text);
   }
+  setting_ = wasSetting;
 }
 
-void UniverseView::ClampTextFields() {
+void UniverseView::SetTexts(const std::vector<std::string>& texts) {
+  std::size_t i = 0;
+  for (const Field<UniverseSettings>& field : UniverseFields()) {
+    if (Text(field) != texts[i]) SetText(field, texts[i]);
+    ++i;
+  }
+}
+
+void UniverseView::Settle() {
+  themeChoice_->Settle();
+  StoreTyped();
+  composites_->StoreEdited();
   for (const auto& [name, box] : boxes_) box->ClampTextField();
 }
 
@@ -106,13 +132,18 @@ UniverseSettings UniverseView::Settings() const {
   return universe;
 }
 
+void UniverseView::ClearProfileList() {
+  typedFor_ = -1;  // its record has changed
+  lstUniStarfold_->clear();
+}
+
 void UniverseView::AddProfileEntry(std::string_view name, int weight) {
   lstUniStarfold_->AddEntry(std::string(name), weight);
 }
 
 void UniverseView::RebuildProfileList() {
   const int selected = lstUniStarfold_->Selected();
-  lstUniStarfold_->clear();
+  ClearProfileList();
   for (const StarfoldProfile& profile : model_.Profiles()) {
     AddProfileEntry(profile.UniFoldName, profile.UniFoldPct);
   }
@@ -123,7 +154,8 @@ void UniverseView::RebuildProfileList() {
 void UniverseView::BodiesChanged() {
   std::vector<std::string> names;
   const int shown = cboUniProfile_->currentIndex();
-  const QSignalBlocker quiet(cboUniProfile_);
+  const bool wasSetting = std::exchange(setting_, true);
+  cboUniProfile_->blockSignals(true);
   cboUniProfile_->clear();
   for (int i = 0; i < lstUniStarfold_->count(); ++i) {
     names.push_back(lstUniStarfold_->EntryName(i));
@@ -132,6 +164,7 @@ void UniverseView::BodiesChanged() {
   }
   cboUniProfile_->addItems({tr("Cycle All Randomly"), tr("Cycle All Sequentially")});
   cboUniProfile_->setCurrentIndex(shown);
+  cboUniProfile_->blockSignals(false);
   composites_->SetBodies(names);
 
   const QString tour = cboTourStarfolds_->currentText();
@@ -144,7 +177,28 @@ void UniverseView::BodiesChanged() {
   }
   cboTourStarfolds_->setCurrentIndex(-1);
   cboTourStarfolds_->setEditText(tour);
+  setting_ = wasSetting;
   ShowProfileSample();
+  ShowShares();
+}
+
+/// Profiles and composites share the universe.
+void UniverseView::ShowShares() {
+  lstUniStarfold_->SetOtherWeights(composites_->List().Weights());
+  composites_->List().SetOtherWeights(lstUniStarfold_->Weights());
+}
+
+void UniverseView::ShowStills() {
+  const auto body = [this](int row, QSize size, qreal ratio) {
+    if (row >= kBodyCount) return StillKey{};
+    if (row < kProfileCount) return StillOf(model_.Profiles()[row], size, ratio);
+    return StillOf(model_.Composites()[row - kFirstComposite], model_.Profiles(), size, ratio);
+  };
+  lstUniStarfold_->ShowStills(model_.Stills, body);
+  ShowStillsIn(*cboTourStarfolds_, model_.Stills, body);
+  ShowStillsIn(*cboUniProfile_, model_.Stills, [body](int row, QSize size, qreal ratio) {
+    return row < kProfileCount ? body(row, size, ratio) : StillKey{};  // or a cycle
+  });
 }
 
 void UniverseView::ApplyThemeRowToPage(std::string_view row) {
@@ -159,9 +213,10 @@ void UniverseView::ApplyThemeRowToPage(std::string_view row) {
 QWidget* UniverseView::MakeStarfoldTypes() {
   auto* frame = MakeFrame(tr("Starfold Types"), "fraStarfoldTypes");
   auto* page = MakePage(frame);
-  lstUniStarfold_ = new BodyList;
+  MakeListHead(*page);
   lstUniStarfold_->setObjectName("lstUniStarfold");
   lstUniStarfold_->setAccessibleName(tr("Starfold types and their relative percent"));
+  lstUniStarfold_->setMinimumHeight(kLeastListHeight);
   AddWideLine(*page, lstUniStarfold_);
   page->setRowStretch(page->rowCount() - 1, 1);
 
@@ -172,7 +227,9 @@ QWidget* UniverseView::MakeStarfoldTypes() {
   txtUniFoldPct_->SetNames("UniFoldPct");
   txtUniFoldPct_->SetRange(kWeightRange);
   auto* commit = MakeButton(tr("Commit"), "cmdFoldCommit");
-  AddLine(*page, tr("&Relative Percent in Universe:"), txtUniFoldPct_, {txtUniFoldPct_, commit});
+  LetWrap(*AddLine(*page, tr("&Relative Percent in Universe:"), txtUniFoldPct_,
+                   {txtUniFoldPct_, commit}),
+          kLeastShortLabel);
   txtResetFoldPct_ = new NumberBox;
   txtResetFoldPct_->SetNames("ResetFoldPct");
   txtResetFoldPct_->SetRange(kWeightRange);
@@ -183,15 +240,41 @@ QWidget* UniverseView::MakeStarfoldTypes() {
   auto* props = MakeButton(tr("Sho&w Props"), "cmdFoldProps");
   props->setToolTip(tr("Opens the properties of the selected type"));
   AddWideLine(*page, props);
+  SetReturnButton(*txtUniFoldName_, *commit);
+  SetReturnButton(*txtUniFoldPct_, *commit);
+  SetReturnButton(*txtResetFoldPct_, *reset);
 
   connect(lstUniStarfold_, &QListWidget::itemSelectionChanged, this, &UniverseView::SelectBody);
-  connect(lstUniStarfold_, &QListWidget::itemDoubleClicked, props, &QPushButton::click);
+  connect(lstUniStarfold_, &BodyList::Opened, this, &UniverseView::PropsAskedFor);
   connect(commit, &QPushButton::clicked, this, &UniverseView::CommitBody);
-  connect(txtUniFoldName_, &QLineEdit::returnPressed, this, &UniverseView::CommitBody);
+  connect(txtUniFoldName_, &QLineEdit::editingFinished, this, &UniverseView::StoreTyped);
+  connect(txtUniFoldPct_, &NumberBox::Left, this, &UniverseView::StoreTyped);
   connect(reset, &QPushButton::clicked, this, &UniverseView::ResetWeights);
   connect(props, &QPushButton::clicked, this,
           [this] { emit PropsAskedFor(lstUniStarfold_->Selected()); });
   return frame;
+}
+
+/// The filter line, and the switch between list and grid.
+void UniverseView::MakeListHead(QGridLayout& page) {
+  lstUniStarfold_ = new BodyList;
+  auto* filter = new QLineEdit;
+  filter->setObjectName("txtListFilter");
+  filter->setAccessibleName(tr("Filter of the starfold types"));
+  filter->setPlaceholderText(tr("Filter"));
+  filter->setClearButtonEnabled(true);
+  auto* grid = new QToolButton;
+  grid->setObjectName("cmdListGrid");
+  grid->setText(tr("Pictures"));
+  grid->setToolTip(tr("Shows the types as large pictures"));
+  grid->setCheckable(true);
+  grid->setFocusPolicy(Qt::TabFocus);
+  auto* line = new QHBoxLayout;
+  line->addWidget(filter, 1);
+  line->addWidget(grid);
+  page.addLayout(line, page.rowCount(), 0, 1, 2);
+  connect(filter, &QLineEdit::textChanged, lstUniStarfold_, &BodyList::SetFilter);
+  connect(grid, &QToolButton::toggled, lstUniStarfold_, &BodyList::ShowAsGrid);
 }
 
 QWidget* UniverseView::MakePropertyCopy() {
@@ -199,7 +282,11 @@ QWidget* UniverseView::MakePropertyCopy() {
   auto* layout = new QVBoxLayout(frame);
   propertyCopy_ = new PropertyCopy(model_);
   layout->addWidget(propertyCopy_);
-  connect(propertyCopy_, &PropertyCopy::Copied, this, &UniverseView::ProfilesChanged);
+  connect(propertyCopy_, &PropertyCopy::AboutToChange, this, &UniverseView::AboutToChange);
+  connect(propertyCopy_, &PropertyCopy::Copied, this, [this](int types) {
+    emit ProfilesChanged();
+    emit Said(tr("Set on %1 of %2 types").arg(types).arg(kProfileCount));
+  });
   return frame;
 }
 
@@ -212,9 +299,13 @@ QWidget* UniverseView::MakeUniverseProperties() {
     cboUniTheme_->addItem(Shown(FactoryThemeName(entry)));
   }
   LetShrink(cboUniTheme_);
-  AddLine(*page, tr("&Theme:"), cboUniTheme_, {cboUniTheme_});
+  auto* surprise = MakeButton(tr("Surprise Me"), "cmdSurprise");
+  surprise->setToolTip(tr("Draws a universe at random: its settings, and the types in it"));
+  AddLine(*page, tr("&Theme:"), cboUniTheme_, {cboUniTheme_, surprise});
   AddRows(*page, UniversePage::Always);
-  connect(cboUniTheme_, &QComboBox::currentIndexChanged, this, &UniverseView::ThemeChosen);
+  themeChoice_ = new ListChoice(*cboUniTheme_);
+  connect(themeChoice_, &ListChoice::Chosen, this, &UniverseView::ThemeChosen);
+  connect(surprise, &QPushButton::clicked, this, &UniverseView::SurpriseAskedFor);
   return frame;
 }
 
@@ -237,7 +328,10 @@ QWidget* UniverseView::MakePages() {
       case UniversePage::Creation: FillCreationPage(*page); break;
       case UniversePage::NewAndAmbient: AddRows(*page, UniversePage::NewAndAmbient); break;
       case UniversePage::Tour: FillTourPage(*page); break;
-      case UniversePage::Composites: AddWideLine(*page, composites_); break;
+      case UniversePage::Composites:
+        AddWideLine(*page, composites_);
+        page->setRowStretch(page->rowCount() - 1, kAllRoom);
+        break;
       case UniversePage::Gravity: FillGravityPage(*page); break;
       case UniversePage::Always: break;
     }
@@ -247,7 +341,11 @@ QWidget* UniverseView::MakePages() {
   connect(cboUniExtras_, &QComboBox::currentIndexChanged, pages_, &QStackedWidget::setCurrentIndex);
   connect(composites_, &CompositeEditor::PreviewRequested, this,
           &UniverseView::CompositePreviewAskedFor);
+  connect(composites_, &CompositeEditor::AboutToChange, this, &UniverseView::AboutToChange);
+  connect(composites_, &CompositeEditor::RecordsChanged, this, &UniverseView::BodiesChanged);
   layout->addWidget(cboUniExtras_);
+  layout->addWidget(MakePageTabs(*cboUniExtras_, {tr("Creation"), tr("New / Ambient"), tr("Tour"),
+                                                  tr("Composites"), tr("Gravity")}));
   layout->addWidget(pages_, 1);
   return all;
 }
@@ -261,11 +359,13 @@ void UniverseView::FillCreationPage(QGridLayout& page) {
   cboUniProfile_ = new QComboBox;
   cboUniProfile_->setObjectName("cboUniProfile");
   LetShrink(cboUniProfile_);
-  AddLine(page, Escaped(FieldOf(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_});
+  LetWrap(*AddLine(page, Escaped(FieldOf(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_}),
+          kLeastLabel);
   picUniProfile_ =
       MakeSamplePlace("picUniProfile", tr("Sample of the universe profile"), kSampleSize);
   page.addWidget(picUniProfile_, page.rowCount(), 1);
   connect(cboUniProfile_, &QComboBox::currentIndexChanged, this, &UniverseView::ShowProfileSample);
+  connect(cboUniProfile_, &QComboBox::currentIndexChanged, this, &UniverseView::NoteEdit);
 }
 
 void UniverseView::FillTourPage(QGridLayout& page) {
@@ -286,9 +386,12 @@ void UniverseView::FillTourPage(QGridLayout& page) {
   cboTourStarfolds_->setEditable(true);
   cboTourStarfolds_->setInsertPolicy(QComboBox::NoInsert);
   cboTourStarfolds_->setCompleter(nullptr);
+  LetShrink(cboTourStarfolds_);
+  ChooseOnlyInOpenedList(*cboTourStarfolds_);
   cboTourStarfolds_->lineEdit()->setMaxLength(static_cast<int>(kLongestValue));
   cboTourStarfolds_->setToolTip(tr("Choosing a body from the list adds its number"));
   auto* label = new QLabel(Escaped(FieldOf(kTourListSetting).Label));
+  LetWrap(*label, kLeastLabel);
   label->setBuddy(cboTourStarfolds_);
   AddWideLine(page, label);
   AddWideLine(page, cboTourStarfolds_);
@@ -300,6 +403,10 @@ void UniverseView::FillTourPage(QGridLayout& page) {
   connect(rotate, &QCheckBox::toggled, this, &UniverseView::EnableTour);
   connect(cboTourStarfolds_->lineEdit(), &QLineEdit::textEdited, this,
           [this](const QString& text) { tourText_ = text; });
+  connect(cboTourStarfolds_, &QComboBox::editTextChanged, this, &UniverseView::NoteEdit);
+  for (QCheckBox* check : {tour, visit, rotate}) {
+    connect(check, &QCheckBox::toggled, this, &UniverseView::NoteEdit);
+  }
   connect(cboTourStarfolds_, &QComboBox::activated, this, &UniverseView::AddTourBody);
 }
 
@@ -332,6 +439,7 @@ QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const Univ
     auto* box = new NumberBox;
     box->SetNames("Uni", row->Index);
     box->SetRange(RangeOf(*row));
+    connect(box, &NumberBox::Changed, this, &UniverseView::NoteEdit);
     boxes_[&FieldOf(row->What)] = box;
     widgets.push_back(box);
   }
@@ -340,6 +448,7 @@ QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const Univ
     for (QWidget* box : widgets) box->setAccessibleName(Shown(label));
   }
   QLabel* text = AddLine(page, Escaped(label), widgets.front(), widgets);
+  LetWrap(*text, kLeastLabel);
   if (rows.front()->What == kHueSetting) page.addWidget(picUniHue_, page.rowCount(), 1);
   if (rows.front()->Page == UniversePage::Tour) {
     tourWidgets_.push_back(text);
@@ -348,21 +457,50 @@ QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const Univ
   return text;
 }
 
+void UniverseView::NoteEdit() {
+  if (!setting_) emit Edited();
+}
+
 void UniverseView::SelectBody() {
+  StoreTyped();
   const int index = lstUniStarfold_->Selected();
+  typedFor_ = index;
   if (index < 0) return;
   const StarfoldProfile& profile = model_.Profiles()[index];
   txtUniFoldName_->ShowName(Shown(profile.UniFoldName));
   txtUniFoldPct_->SetText(std::to_string(profile.UniFoldPct));
+  shownName_ = txtUniFoldName_->text();
+  shownWeight_ = txtUniFoldPct_->Text();
 }
 
 void UniverseView::CommitBody() {
   const int index = lstUniStarfold_->Selected();
   if (index < 0) return model_.Inform("Please select a Starfold Profile.");
+  typedFor_ = index;
+  StoreNameAndWeight();
+}
+
+/// The name box may not be able to show a name from a file as it is: it is stored only if it was
+/// edited.
+void UniverseView::StoreTyped() {
+  if (typedFor_ < 0) return;
+  const bool edited =
+      txtUniFoldName_->text() != shownName_ || txtUniFoldPct_->Text() != shownWeight_;
+  if (edited) StoreNameAndWeight();
+}
+
+void UniverseView::StoreNameAndWeight() {
+  const int index = typedFor_;
   txtUniFoldPct_->ClampTextField();
+  shownName_ = txtUniFoldName_->text();
+  shownWeight_ = txtUniFoldPct_->Text();
+  const auto weight = RoundedToLimits<Integer>(LenientNumber(txtUniFoldPct_->Text()));
+  const std::string name(StorableText(txtUniFoldName_->text().toStdString()));
   StarfoldProfile& profile = model_.Profiles()[index];
-  profile.UniFoldPct = RoundedToLimits<Integer>(LenientNumber(txtUniFoldPct_->Text()));
-  profile.UniFoldName = StorableText(txtUniFoldName_->text().toStdString());
+  if (profile.UniFoldPct == weight && profile.UniFoldName == name) return;
+  emit AboutToChange(tr("Name and Percent of %1").arg(Shown(profile.UniFoldName)));
+  profile.UniFoldPct = weight;
+  profile.UniFoldName = name;
   lstUniStarfold_->ReplaceEntry(index, profile.UniFoldName, profile.UniFoldPct);
   BodiesChanged();
 }
@@ -372,10 +510,12 @@ void UniverseView::ResetWeights() {
     return model_.Inform("Please enter a value for the Reset percent.");
   }
   txtResetFoldPct_->ClampTextField();
+  StoreTyped();
   const auto weight = RoundedToLimits<Integer>(LenientNumber(txtResetFoldPct_->Text()));
+  emit AboutToChange(tr("Percent of All Types"));
   for (StarfoldProfile& profile : model_.Profiles()) profile.UniFoldPct = weight;
   RebuildProfileList();
-  SelectBody();
+  emit Said(tr("All types have the percent %1").arg(weight));
 }
 
 void UniverseView::ShowProfileSample() {
@@ -401,8 +541,8 @@ void UniverseView::AddTourBody(int position) {
   if (!text.isEmpty()) text += ' ';
   text += QString::number(position + 1);
   cboTourStarfolds_->setCurrentIndex(-1);
-  cboTourStarfolds_->setEditText(text);
   tourText_ = text;
+  cboTourStarfolds_->setEditText(text);
 }
 
 NumberBox* UniverseView::Box(Setting<UniverseSettings> setting) const {

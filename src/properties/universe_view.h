@@ -7,6 +7,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QTabBar>
+#include <QToolButton>
 #include <QWidget>
 #include <map>
 #include <string>
@@ -17,6 +19,7 @@
 #include "settings/dialog_rows.h"
 #include "widgets/body_list.h"
 #include "widgets/dialog_model.h"
+#include "widgets/list_wheel_guard.h"
 #include "widgets/name_box.h"
 #include "widgets/number_box.h"
 
@@ -32,14 +35,19 @@ class UniverseView : public QWidget {
   /// the position in a list.
   std::string Text(const Field<UniverseSettings>& field) const;
   void SetText(const Field<UniverseSettings>& field, const std::string& text);
-  /// Clamps the number of every box to its range.
-  void ClampTextFields();
+  /// Clamps the number of every box to its range, and stores what is typed or looked at but not
+  /// chosen yet, as leaving its box does.
+  void Settle();
   /// All settings of the universe, clamped as in a run.
   UniverseSettings Settings() const;
+
+  /// Shows the settings in the boxes. The texts are in the order of `UniverseFields`.
+  void SetTexts(const std::vector<std::string>& texts);
 
   BodyList& Bodies() { return *lstUniStarfold_; }
   CompositeEditor& Composites() { return *composites_; }
 
+  void ClearProfileList();
   /// Adds an entry to `lstUniStarfold`. After the last one `BodiesChanged` must be called.
   void AddProfileEntry(std::string_view name, int weight);
   /// Refills the list from the records and keeps the selection.
@@ -51,6 +59,10 @@ class UniverseView : public QWidget {
   void SelectTheme(int position) { cboUniTheme_->setCurrentIndex(position); }
   void SelectPage(int position) { cboUniExtras_->setCurrentIndex(position); }
   int ShownPage() const { return cboUniExtras_->currentIndex(); }
+  QComboBox& Pages() { return *cboUniExtras_; }
+  /// The name of the page that was edited last.
+  QString PageOfEdit() const { return cboUniExtras_->currentText(); }
+  QString ThemeName(int position) const { return cboUniTheme_->itemText(position); }
   /// `ApplyThemeRowToPage`.
   void ApplyThemeRowToPage(std::string_view row);
 
@@ -59,8 +71,16 @@ class UniverseView : public QWidget {
   /// `cmdFoldProps`: the selected body, or -1.
   void PropsAskedFor(int index);
   void CompositePreviewAskedFor();
+  /// `cmdSurprise`.
+  void SurpriseAskedFor();
+  /// Whole records are about to be changed by this view; `what` names the change.
+  void AboutToChange(const QString& what);
   /// Records of profiles were changed by this view.
   void ProfilesChanged();
+  /// A setting of the universe was edited.
+  void Edited();
+  /// Something has happened that the user may not see; the text is for the status line.
+  void Said(const QString& text);
 
  private:
   QWidget* MakeStarfoldTypes();
@@ -73,8 +93,14 @@ class UniverseView : public QWidget {
   void AddRows(QGridLayout& page, UniversePage which);
   QLabel* AddRowLine(QGridLayout& page, const std::vector<const UniverseRow*>& rows);
 
+  void MakeListHead(QGridLayout& page);
+  void ShowStills();
   void SelectBody();
   void CommitBody();
+  void StoreTyped();
+  void StoreNameAndWeight();
+  void ShowShares();
+  void NoteEdit();
   void ResetWeights();
   void ShowProfileSample();
   void ShowHueSample();
@@ -88,6 +114,12 @@ class UniverseView : public QWidget {
   std::map<const Field<UniverseSettings>*, QCheckBox*> checks_;
   std::vector<QWidget*> tourWidgets_;  // what `chkUniTour` enables
   QWidget* rampBox_ = nullptr;         // what `chkRotCamera` enables
+
+  QString shownName_;  // of that body, as its box showed it
+  std::string shownWeight_;
+  int typedFor_ = -1;     // the body whose name and weight the boxes show
+  bool setting_ = false;  // boxes are being set, not edited
+  ListChoice* themeChoice_ = nullptr;
 
   BodyList* lstUniStarfold_ = nullptr;
   NameBox* txtUniFoldName_ = nullptr;

@@ -22,7 +22,7 @@ constexpr int kGap = 6;
 constexpr int kBarHeight = 5;
 constexpr int kDot = 6;  // diameter of the mark of a changed entry
 constexpr QSize kRowStill{40, 30};
-constexpr QSize kGridStill{104, 78};
+constexpr QSize kGridStill{80, 60};
 
 constexpr qreal kDimmed = 0.4;  // opacity of what no universe shows
 
@@ -41,7 +41,9 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
 
   StillDelegate* Stills = nullptr;
   bool Grid = false;
-  int Total = 0;  // the sum of all weights, up to date while the list is painted
+  // Up to date while the list is painted.
+  int Total = 0;     // the sum of all weights
+  int Heaviest = 0;  // of this list
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
     const int line = option.fontMetrics.height();
@@ -59,6 +61,9 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
     row.text.clear();
     const QStyle* style = row.widget ? row.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+    // Styles highlight only the text and the icon of a cell.
+    const bool selected = row.state.testFlag(QStyle::State_Selected);
+    if (Grid && selected) painter->fillRect(row.rect, row.palette.color(QPalette::Highlight));
     const int weight = index.data(kWeightRole).toInt();
     painter->save();
     if (weight == 0 || !row.state.testFlag(QStyle::State_Enabled)) painter->setOpacity(kDimmed);
@@ -106,15 +111,17 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
                                                 place.width()));
   }
 
-  /// A frame of full width, filled up to the share. A share that is not 0 is at least visible.
-  static void PaintBar(QPainter& painter, const QStyleOptionViewItem& row, QRect place,
-                       double share) {
+  /// Full for the heaviest body. A weight that is not 0 is at least visible.
+  void PaintBar(QPainter& painter, const QStyleOptionViewItem& row, const QModelIndex& index,
+                QRect place) const {
+    const int weight = index.data(kWeightRole).toInt();
     QColor back = TextColour(row);
     back.setAlphaF(0.18F);
     painter.fillRect(place, back);
     const bool selected = row.state.testFlag(QStyle::State_Selected);
     const auto ink = selected ? QPalette::HighlightedText : QPalette::Highlight;
-    const int filled = share > 0 ? std::max(2, static_cast<int>(place.width() * share)) : 0;
+    const int filled =
+        weight > 0 ? std::max(2, place.width() * weight / std::max(weight, Heaviest)) : 0;
     painter.fillRect(QRect(place.topLeft(), QSize(filled, place.height())), row.palette.color(ink));
   }
 
@@ -140,7 +147,7 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
     painter.drawText(second, Qt::AlignRight | Qt::AlignVCenter, ShareText(Share(index)));
     QRect bar(second.left(), second.center().y() - kBarHeight / 2, 0, kBarHeight);
     bar.setRight(second.right() - metrics.horizontalAdvance("100.0 %") - kGap);
-    PaintBar(painter, row, bar, Share(index));
+    PaintBar(painter, row, index, bar);
   }
 
   void PaintCell(QPainter& painter, const QStyleOptionViewItem& row,
@@ -151,8 +158,7 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
     if (Stills) Stills->PaintStill(painter, still, index.row());
     const QRect name(cell.left(), still.bottom() + 1, cell.width(), row.fontMetrics.height());
     PaintName(painter, row, index, name, Qt::AlignHCenter);
-    PaintBar(painter, row, {cell.left(), name.bottom() + 2, cell.width(), kBarHeight},
-             Share(index));
+    PaintBar(painter, row, index, {cell.left(), name.bottom() + 2, cell.width(), kBarHeight});
   }
 };
 
@@ -228,13 +234,17 @@ void BodyList::ShowAsGrid(bool grid) {
 
 void BodyList::keyPressEvent(QKeyEvent* event) {
   const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!isReturn || Selected() < 0) return QListWidget::keyPressEvent(event);
+  if (!isReturn) return QListWidget::keyPressEvent(event);
   event->accept();
-  emit Opened(Selected());
+  if (Selected() >= 0) emit Opened(Selected());
 }
 
 void BodyList::paintEvent(QPaintEvent* event) {
   delegate_->Total = Weights() + otherWeights_;
+  delegate_->Heaviest = 0;
+  for (int i = 0; i < count(); ++i) {
+    delegate_->Heaviest = std::max(delegate_->Heaviest, item(i)->data(kWeightRole).toInt());
+  }
   QListWidget::paintEvent(event);
 }
 

@@ -9,8 +9,8 @@
 namespace starfolds {
 
 /// The text of an entry is a name, blanks up to a column, and the weight in four characters. It is
-/// painted as a still, the name, the weight, and the body's share of all weights as a bar. Bodies
-/// of weight 0, which no universe shows, are dimmed.
+/// painted as a still, the name, the weight as a number and as a bar, and its share of all weights.
+/// Bodies of weight 0, which no universe shows, are dimmed.
 class BodyList : public QListWidget {
   Q_OBJECT
 

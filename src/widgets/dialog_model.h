@@ -12,12 +12,15 @@
 
 namespace starfolds {
 
+class StillService;
+
 /// The edited records are the profiles and composites of a process state that belongs to the
 /// dialog; a run of the same process has another one.
 struct PropsModel {
   ProcessState& Process;
   MessageBoxes& Boxes;
   Help& HelpBook;
+  StillService* Stills = nullptr;  // nullptr: lists show no stills
 
   ProfileArray& Profiles() const { return Process.Profiles; }
   CompositeArray& Composites() const { return Process.Composites; }

@@ -3,6 +3,7 @@
 
 #include <QPushButton>
 #include <QString>
+#include <QVariant>
 #include <string_view>
 
 namespace starfolds {
@@ -27,6 +28,17 @@ inline QPushButton* MakeButton(const QString& text, const char* name) {
   auto* button = new RoomyButton(text);
   button->setObjectName(name);
   return button;
+}
+
+/// Return in `box` presses `button`, and not the default button of the window.
+inline void SetReturnButton(QWidget& box, QAbstractButton& button) {
+  box.setProperty("returnButton", QVariant::fromValue<QObject*>(&button));
+}
+
+/// The button that Return in `box` presses; nullptr if that is the default button of the window.
+inline QAbstractButton* ReturnButton(const QWidget* box) {
+  if (!box) return nullptr;
+  return qobject_cast<QAbstractButton*>(box->property("returnButton").value<QObject*>());
 }
 
 }  // namespace starfolds

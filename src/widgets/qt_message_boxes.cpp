@@ -15,7 +15,8 @@ namespace {
 QMessageBox::Icon IconOf(BoxStyle style) {
   switch (style) {
     case BoxStyle::Plain: break;
-    case BoxStyle::YesNoCancelQuestion: return QMessageBox::Question;
+    case BoxStyle::YesNoCancelQuestion:
+    case BoxStyle::UnacceptedChanges: return QMessageBox::Question;
     case BoxStyle::Information: return QMessageBox::Information;
     case BoxStyle::Exclamation:
     case BoxStyle::SaveFailed: return QMessageBox::Warning;
@@ -35,6 +36,10 @@ std::vector<BoxButton> ButtonsOf(BoxStyle style) {
     case BoxStyle::YesNoCancelQuestion:
       return {{QMessageBox::Yes, BoxAnswer::Yes},
               {QMessageBox::No, BoxAnswer::No},
+              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+    case BoxStyle::UnacceptedChanges:
+      return {{QMessageBox::Save, BoxAnswer::AcceptChanges, "&Accept Settings"},
+              {QMessageBox::Discard, BoxAnswer::DiscardChanges, "&Discard"},
               {QMessageBox::Cancel, BoxAnswer::Cancel}};
     case BoxStyle::SaveFailed:
       return {{QMessageBox::Retry, BoxAnswer::TryAgain, "&Try Again"},

@@ -66,8 +66,9 @@ void StillDelegate::PaintStill(QPainter& painter, QRect place, int row) const {
   if (!still.isNull()) painter.drawImage(place.topLeft(), still);
 }
 
-void ShowStillsIn(QComboBox& box, StillService& stills, StillOfRow stillOfRow) {
-  box.view()->setItemDelegate(new StillDelegate(box.view(), stills, std::move(stillOfRow)));
+void ShowStillsIn(QComboBox& box, StillService* stills, StillOfRow stillOfRow) {
+  if (!stills) return;
+  box.view()->setItemDelegate(new StillDelegate(box.view(), *stills, std::move(stillOfRow)));
 }
 
 }  // namespace starfolds

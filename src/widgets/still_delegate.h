@@ -33,7 +33,7 @@ class StillDelegate : public QStyledItemDelegate {
   StillOfRow stillOfRow_;
 };
 
-/// Shows stills in the opened list of a box.
-void ShowStillsIn(QComboBox& box, StillService& stills, StillOfRow stillOfRow);
+/// Shows stills in the opened list of a box. `stills` must outlive it; nullptr: none.
+void ShowStillsIn(QComboBox& box, StillService* stills, StillOfRow stillOfRow);
 
 }  // namespace starfolds

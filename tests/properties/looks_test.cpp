@@ -73,7 +73,8 @@ TEST_F(LooksTest, ManyValuesAreReadInOneTransaction) {
     WhenShown<FrmFileIo>([](FrmFileIo& dialog) { dialog.reject(); });
     Choose("mnuOpen");
   };
-  EXPECT_LE(Looks(chooseFile), 3) << "the folder, and the place of the window, which is stored";
+  EXPECT_LE(Looks(chooseFile), 4)
+      << "the folder, the place of the window, which is stored, and once the preview's camera";
   EXPECT_LE(Looks([&] { Click("cmdAccept"); }), 4) << "a test, all, and the place of the window";
   EXPECT_FALSE(Dialog->IsOpen());
 }
