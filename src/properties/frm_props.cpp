@@ -214,7 +214,13 @@ TemplateHost FrmProps::MakeTemplateHost() {
           around_.HelpBook,
           [this] { Settle(); },
           loaded,
-          [this] { preview_->Changed(); }};
+          [this] { preview_->Changed(); },
+          [this](const QString& what) {
+            Settle();
+            undo_.AboutToChange(what);
+          },
+          [this](const QString& text) { Say(text); },
+          &stills_};
 }
 
 void FrmProps::MakeMenus() {

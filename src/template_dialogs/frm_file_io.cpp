@@ -144,6 +144,9 @@ void FrmFileIo::MakeControls() {
     list->setUniformItemSizes(true);  // measures one of 100,000 entries
     list->setMinimumSize(kLeastList);
   }
+  if (around_.Disk && around_.Stills) {
+    preview_ = new TemplatePreview(*around_.Disk, *around_.Stills, this);
+  }
   cboFilter_->hide();
   for (const FolderRoot& root : roots_) drvTemp_->addItem(root.Name);
   for (QComboBox* list : {drvTemp_, cboTypes_}) {
@@ -165,6 +168,7 @@ void FrmFileIo::LayOut() {
   auto* grid = new QGridLayout;
   AddNameColumn(*grid);
   AddFolderColumn(*grid);
+  if (preview_) grid->addWidget(preview_, 0, 2, 5, 1);
   for (const int stretched : {0, 1}) grid->setColumnStretch(stretched, 1);
   grid->setRowStretch(2, 1);
   column->addLayout(grid, 1);
@@ -212,6 +216,11 @@ void FrmFileIo::ConnectControls() {
     cboFilter_->setCurrentIndex(type);
     ReadAgain();
   });
+  if (preview_) {
+    connect(txtFile_, &QLineEdit::textChanged, this, [this](const QString& text) {
+      preview_->ShowFile(text.isEmpty() ? QString() : TypedPath(folder_, text));
+    });
+  }
   connect(cmdOK_, &QPushButton::clicked, this, &FrmFileIo::Ok);
   connect(cmdDismiss_, &QPushButton::clicked, this, &FrmFileIo::reject);
 }

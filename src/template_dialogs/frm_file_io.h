@@ -12,6 +12,7 @@
 
 #include "platform/message_boxes.h"
 #include "template_dialogs/folder_contents.h"
+#include "template_dialogs/template_preview.h"
 #include "widgets/picture_box.h"
 #include "widgets/placed_dialog.h"
 
@@ -31,6 +32,9 @@ struct FileIoSurroundings {
   std::string ProgramFolder;
   TemplateAction Load;
   TemplateAction Save;
+  // Both or none: without them the contents of the chosen file are not shown.
+  Files* Disk = nullptr;
+  StillService* Stills = nullptr;
 };
 
 /// The message for a template that could not be loaded or saved.
@@ -103,6 +107,7 @@ class FrmFileIo : public PlacedDialog {
   QLabel* lblReplaces_;
   QLabel* lblStatus_;
   PictureBox* picStatus_;
+  TemplatePreview* preview_ = nullptr;
   QPushButton* cmdOK_;
   QPushButton* cmdDismiss_;
 };

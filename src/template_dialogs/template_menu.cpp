@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
 #include <utility>
 
 #include "settings/product.h"
 #include "template_dialogs/frm_file_io.h"
+#include "template_dialogs/recent_templates.h"
 #include "widgets/dialog_parts.h"
 
 namespace starfolds {
@@ -49,9 +51,27 @@ void TemplateMenu::AddTo(QMenu& file) {
     entries_.push_back(entry);
   };
   add(tr("&Open Template..."), "mnuOpen", QKeySequence::Open, &TemplateMenu::Open);
+  recent_ = file.addMenu(tr("Open &Recent"));
+  recent_->setObjectName("mnuRecent");
+  recent_->setToolTipsVisible(true);
+  entries_.push_back(recent_->menuAction());
+  connect(recent_, &QMenu::aboutToShow, this, &TemplateMenu::ListRecent);
   add(tr("&Save Template"), "mnuSave", QKeySequence::Save, &TemplateMenu::Save);
   add(tr("Save Template &As..."), "mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S,
       &TemplateMenu::SaveAs);
+}
+
+void TemplateMenu::ListRecent() {
+  recent_->clear();
+  for (const std::string& path : RecentTemplates(host_.Settings.Tree)) {
+    constexpr int longest = 40;
+    QString name = QFileInfo(Shown(path)).fileName();
+    if (name.size() > longest) name = name.left(longest) + "…";
+    QAction* entry = recent_->addAction(name.replace("&", "&&"), this,
+                                        [this, path] { RunInPreview(true, path); });
+    entry->setToolTip(Shown(path));
+  }
+  if (recent_->isEmpty()) recent_->addAction(tr("None yet"))->setEnabled(false);
 }
 
 void TemplateMenu::SetEnabled(bool enabled) {
@@ -87,9 +107,10 @@ void TemplateMenu::Choose(bool open) {
   const auto save = [this](const std::string& path, ProgressPicture* picture) {
     return SaveTo(path, picture);
   };
-  FrmFileIo frmFileIo({host_.Settings.Tree, host_.HelpBook, host_.Settings.Boxes,
-                       host_.Settings.ProgramFolder, load, save},
-                      &host_.Window);
+  FrmFileIo frmFileIo(
+      {host_.Settings.Tree, host_.HelpBook, host_.Settings.Boxes, host_.Settings.ProgramFolder,
+       load, save, &host_.Settings.Disk, host_.Stills},
+      &host_.Window);
   frmFileIo.ChooseTemplate(
       open, true, open ? tr("Select Template to Open") : tr("Enter or Select Template to Save"),
       kFileTypes, kExtension);
@@ -114,9 +135,13 @@ void TemplateMenu::RunInPreview(bool open, const std::string& path) {
 std::optional<std::string> TemplateMenu::LoadFrom(const std::string& path,
                                                   ProgressPicture* picture) {
   File().TemplateFileName = path;
+  const QString name = QFileInfo(Shown(path)).fileName();
+  host_.AboutToChange(tr("Opening of %1").arg(name));
   if (auto fault = LoadTemplate(host_.Settings, host_.Dialog, picture)) return fault;
   File().CurrentTemplate = path;
   host_.Loaded();
+  AddRecentTemplate(host_.Settings.Tree, path);
+  host_.Say(tr("Loaded %1").arg(name));
   return std::nullopt;
 }
 
@@ -125,6 +150,8 @@ std::optional<std::string> TemplateMenu::SaveTo(const std::string& path, Progres
   File().TemplateFileName = path;
   if (auto fault = SaveTemplate(host_.Settings, host_.Dialog, picture)) return fault;
   File().CurrentTemplate = path;
+  AddRecentTemplate(host_.Settings.Tree, path);
+  host_.Say(tr("Saved %1").arg(QFileInfo(Shown(path)).fileName()));
   return std::nullopt;
 }
 

@@ -10,6 +10,7 @@
 
 #include "platform/help.h"
 #include "settings/property_flows.h"
+#include "widgets/still_service.h"
 
 namespace starfolds {
 
@@ -25,6 +26,11 @@ struct TemplateHost {
   std::function<void()> Loaded;
   /// Shows the still picture in the preview again, after the progress.
   std::function<void()> ShowStill;
+  /// Called before a template is loaded; `what` names the change.
+  std::function<void(const QString& what)> AboutToChange;
+  /// Shows what just happened.
+  std::function<void(const QString& text)> Say;
+  StillService* Stills = nullptr;
 };
 
 class TemplateMenu : public QObject {
@@ -33,7 +39,7 @@ class TemplateMenu : public QObject {
  public:
   explicit TemplateMenu(TemplateHost host);
 
-  /// Adds "Open", "Save" and "Save As".
+  /// Adds "Open", "Open Recent", "Save" and "Save As".
   void AddTo(QMenu& file);
 
   /// Asks for a name, and saves the template under it.
@@ -52,6 +58,7 @@ class TemplateMenu : public QObject {
 
  private:
   void Open() { Choose(true); }
+  void ListRecent();
   void Save();
   void Choose(bool open);
   void OpenDropped(const QString& path);
@@ -63,6 +70,7 @@ class TemplateMenu : public QObject {
 
   TemplateHost host_;
   std::vector<QAction*> entries_;
+  QMenu* recent_ = nullptr;
   bool enabled_ = true;
 };
 
