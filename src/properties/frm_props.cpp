@@ -35,6 +35,7 @@ namespace {
 
 constexpr int kWideWindow = 1250;  // least width for the preview beside the form
 constexpr int kScrollBarRoom = 24;
+constexpr int kStatusEdge = 8;
 constexpr int kFormWidth = 500;  // initial width of the form beside the preview
 constexpr QSize kLeastForm{320, 160};
 constexpr QSize kUsualSize{1360, 780};
@@ -184,9 +185,20 @@ bool FrmProps::ShowWelcomeDialog(const WelcomePage& page) {
       around_.HelpBook);
 }
 
+/// If no universe shows the selected body, selects the most frequent one.
+void FrmProps::SelectShownBody() {
+  const int selected = universe_->Bodies().Selected();
+  const int heaviest = universe_->Bodies().Heaviest();
+  const bool isShown = selected >= 0 && model_.Profiles()[selected].UniFoldPct > 0;
+  if (!isShown && heaviest >= 0) universe_->Bodies().setCurrentRow(heaviest);
+}
+
 /// Stores what is still being edited in the records and clamps the boxes.
 void FrmProps::Settle() {
-  if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
+  if (inStarfoldView_) {
+    starfold_->SettleTheme();
+    starfold_->StorePageToProfile(currentProfile_);
+  }
   universe_->Settle();
 }
 
@@ -207,6 +219,7 @@ TemplateHost FrmProps::MakeTemplateHost() {
       OpenStarfoldView(false);
     }
     universe_->SelectTheme(0);  // the settings are no longer those of the selected theme
+    SelectShownBody();
   };
   return {*this,
           settings_,
@@ -365,6 +378,11 @@ void FrmProps::ConnectChanges() {
   connect(universe_, &UniverseView::Said, this, &FrmProps::Say);
   connect(universe_, &UniverseView::Edited, this,
           [this] { undo_.NoteEdit(universe_->PageOfEdit()); });
+  connect(starfold_, &StarfoldView::AboutToChange, this, [this](const QString& what) {
+    const QString name = Shown(universe_->Bodies().EntryName(currentProfile_));
+    undo_.AboutToChange(tr("%1 of %2").arg(what, name));
+  });
+  connect(starfold_, &StarfoldView::Said, this, &FrmProps::Say);
   connect(starfold_, &StarfoldView::Changed, this, [this] {
     if (!inStarfoldView_) return;
     undo_.NoteEdit(Shown(universe_->Bodies().EntryName(currentProfile_)));
@@ -417,7 +435,7 @@ void FrmProps::ShowSettings(const EditedSettings& settings) {
   if (!inStarfoldView_ && changed.size() == 1) universe_->Bodies().setCurrentRow(changed.front());
   if (composite >= 0) universe_->Composites().List().setCurrentRow(composite);
   if (inStarfoldView_) {
-    starfold_->LoadProfileToPage(currentProfile_);
+    starfold_->ReloadPage(currentProfile_);
     ShowBodyPlace();
   }
   preview_->Changed();
@@ -489,6 +507,7 @@ void FrmProps::MakeStatusLine() {
   lblChanged_->setObjectName("lblChanged");
   lblChanged_->hide();
   statusBar()->setSizeGripEnabled(false);
+  statusBar()->setContentsMargins(kStatusEdge, 0, kStatusEdge, 0);
   statusBar()->addWidget(lblStatus_, 1);
   statusBar()->addPermanentWidget(lblChanged_);
 }
@@ -531,8 +550,10 @@ PreviewPane* FrmProps::MakePreviewPane() {
            },
        .Seed = around_.Seed});
   pane->setTitle(tr(kStarfoldProperties));
-  connect(pane, &PreviewPane::RunningChanged, this,
-          [this](bool running) { templates_.SetEnabled(!running); });
+  connect(pane, &PreviewPane::RunningChanged, this, [this](bool running) {
+    templates_.SetEnabled(!running);
+    stills_.SetPaused(running);
+  });
   connect(pane, &PreviewPane::CloseRequested, this, &FrmProps::close);
   return pane;
 }
@@ -613,9 +634,10 @@ bool FrmProps::Store() {
   return true;
 }
 
-/// Asks what to do with changes that are not accepted. "Cancel" is an answer to that already.
+/// Asks what to do with changes that are not accepted. "Cancel" is an answer to that already, and a
+/// process that was told to end does not wait for one.
 bool FrmProps::MayClose() {
-  if (unasked_) return true;
+  if (unasked_ || around_.Process.Requests.QuitApp()) return true;
   Settle();
   if (!undo_.IsChanged()) return true;
   switch (around_.Boxes.Show("The settings were changed.\n\nDo you want to accept the changes?",
@@ -661,6 +683,7 @@ void FrmProps::SurpriseMe() {
   universe_->SelectTheme(0);
   RebuildProfileList();
   RebuildCompositeLists();
+  SelectShownBody();
   for (const Field<UniverseSettings>& field : UniverseFields()) {
     universe_->SetText(field, FieldText(drawn.Universe, field));
   }

@@ -88,6 +88,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   }
 
   void Settle();
+  void SelectShownBody();
   EditedSettings CaptureSettings() const;
   void ShowSettings(const EditedSettings& settings);
   void ShowWhatIsChanged();

@@ -12,9 +12,11 @@
 #include "settings/factory.h"
 #include "settings/surprise.h"
 #include "widgets/lines.h"
+#include "widgets/page_tabs.h"
 #include "widgets/range_label.h"
 #include "widgets/samples.h"
 #include "widgets/setting_guide.h"
+#include "widgets/still_delegate.h"
 
 namespace starfolds {
 namespace {
@@ -51,9 +53,13 @@ StarfoldView::StarfoldView(const PropsModel& model, std::function<std::uint64_t(
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(MakeHead());
   layout->addLayout(MakeActions());
-  layout->addWidget(MakePages(), 1);
+  QWidget* pages = MakePages();
+  layout->addWidget(
+      MakePageTabs(*cboFoldExtras_, {tr("Shape and Color"), tr("Flares"), tr("Comets")}));
+  layout->addWidget(pages, 1);
   GuideLists();
-  connect(cboFoldTheme_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChooseTheme);
+  themeChoice_ = new ListChoice(*cboFoldTheme_);
+  connect(themeChoice_, &ListChoice::Chosen, this, &StarfoldView::ChooseTheme);
   connect(cboFoldStyle_, &QComboBox::currentIndexChanged, this, &StarfoldView::ChangeStyle);
   for (QComboBox* list : {cboFoldPlane_, cboFoldColor_, cboPulsarShape_}) {
     connect(list, &QComboBox::currentIndexChanged, this, &StarfoldView::ShowSamples);
@@ -77,6 +83,12 @@ QLayout* StarfoldView::MakeHead() {
   for (int row = 0; row < kProfileCount; ++row) {
     cboFoldTheme_->addItem(Shown(FactoryProfileName(row, FactorySet::Starfolds4x)));
   }
+  ShowStillsIn(*cboFoldTheme_, model_.Stills, [](int row, QSize size, qreal ratio) {
+    if (row < 1) return StillKey{};
+    StarfoldProfile profile;
+    LoadFactoryProfile(profile, FactorySet::Starfolds4x, row - 1);
+    return StillOf(profile, size, ratio);
+  });
   addList(tr("&Theme:"), cboFoldTheme_);
   cboFoldExtras_ = MakeList("cboFoldExtras", {});
   addList(tr("&Page:"), cboFoldExtras_);
@@ -118,9 +130,15 @@ QLayout* StarfoldView::MakeActions() {
 }
 
 void StarfoldView::LoadProfileToPage(int index) {
-  opened_ = page_ = model_.Profiles()[index];
+  opened_ = model_.Profiles()[index];
+  ReloadPage(index);
+}
+
+void StarfoldView::ReloadPage(int index) {
+  page_ = model_.Profiles()[index];
   const QSignalBlocker quiet(cboFoldTheme_);
   cboFoldTheme_->setCurrentIndex(0);
+  themeChoice_->Reset();
   LoadBoxes();
 }
 

@@ -15,6 +15,7 @@
 
 #include "settings/dialog_rows.h"
 #include "widgets/dialog_model.h"
+#include "widgets/list_wheel_guard.h"
 #include "widgets/number_box.h"
 
 namespace starfolds {
@@ -31,20 +32,25 @@ class StarfoldView : public QWidget {
 
   /// Shows profile `index`.
   void LoadProfileToPage(int index);
+  /// Shows profile `index` again after its record was changed from outside. "Revert" still goes
+  /// back to what it was when it was opened.
+  void ReloadPage(int index);
   /// Stores the page in profile `index`, with every number clamped.
   void StorePageToProfile(int index);
 
   /// Reloads the settings without a box from profile `index`. The values of the boxes are kept and
   /// stored with the page.
   void TakeProfile(int index);
+  /// Applies the theme that is being looked at, if there is one.
+  void SettleTheme() { themeChoice_->Settle(); }
   /// Shows a number in `txtStarfold(index)`.
   void SetBox(int index, const std::string& text);
 
   /// The profile as it would be stored.
   StarfoldProfile Page() const;
 
+  QComboBox& Pages() { return *cboFoldExtras_; }  // cboFoldExtras
   /// Position of `cboFoldExtras`.
-  QComboBox& Pages() { return *cboFoldExtras_; }
   int ShownPage() const { return cboFoldExtras_->currentIndex(); }
 
   /// Shows, hides and labels the rows for the style.
@@ -106,6 +112,7 @@ class StarfoldView : public QWidget {
   std::map<const StarfoldRow*, NumberBox*> boxes_;  // txtStarfold and txtPixHue
   std::vector<Line> lines_;
   QComboBox* cboFoldTheme_ = nullptr;
+  ListChoice* themeChoice_ = nullptr;
   QComboBox* cboFoldExtras_ = nullptr;
   QComboBox* cboFoldStyle_ = nullptr;
   QComboBox* cboFoldPlane_ = nullptr;

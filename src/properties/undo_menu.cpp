@@ -93,6 +93,7 @@ void UndoMenu::Silently(const std::function<void()>& show) {
   ++silent_;
   show();
   --silent_;
+  if (silent_ > 0) return;  // a part of a change, which becomes a step
   history_.Adopt(host_.Capture());
   UpdateEntries();
 }

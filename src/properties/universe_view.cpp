@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <utility>
@@ -53,6 +54,23 @@ constexpr const char* kGravityNote =
 void LetWrap(QLabel& label, int leastWidth) {
   label.setWordWrap(true);
   label.setMinimumWidth(leastWidth);
+}
+
+/// The profiles that `picUniProfile` shows for a position of its list, and where: one, or for the
+/// two that cycle through all profiles some of them.
+std::vector<std::pair<int, QRect>> TilesOfSample(int position) {
+  if (position < kProfileCount) return {{std::max(position, 0), QRect({}, kSampleSize)}};
+  constexpr int columns = 3;
+  constexpr int rows = 2;
+  constexpr int stride = 17;  // coprime to the number of profiles
+  const QSize tile(kSampleSize.width() / columns, kSampleSize.height() / rows);
+  std::vector<std::pair<int, QRect>> tiles;
+  for (int i = 0; i < columns * rows; ++i) {
+    const QPoint corner(i % columns * tile.width(), i / columns * tile.height());
+    const int profile = position == kCycleRandomly ? (i + 1) * stride % kProfileCount : i;
+    tiles.emplace_back(profile, QRect(corner, tile));
+  }
+  return tiles;
 }
 
 QGroupBox* MakeFrame(const QString& title, const char* name) {
@@ -194,6 +212,11 @@ void UniverseView::ShowStills() {
     if (row < kProfileCount) return StillOf(model_.Profiles()[row], size, ratio);
     return StillOf(model_.Composites()[row - kFirstComposite], model_.Profiles(), size, ratio);
   };
+  if (model_.Stills) {
+    connect(model_.Stills, &StillService::Ready, this, [this] {
+      if (!sampleIsComplete_) ShowProfileSample();
+    });
+  }
   lstUniStarfold_->ShowStills(model_.Stills, body);
   ShowStillsIn(*cboTourStarfolds_, model_.Stills, body);
   ShowStillsIn(*cboUniProfile_, model_.Stills, [body](int row, QSize size, qreal ratio) {
@@ -299,7 +322,7 @@ QWidget* UniverseView::MakeUniverseProperties() {
     cboUniTheme_->addItem(Shown(FactoryThemeName(entry)));
   }
   LetShrink(cboUniTheme_);
-  auto* surprise = MakeButton(tr("Surprise Me"), "cmdSurprise");
+  auto* surprise = MakeButton(tr("Surprise Me"), "cmdUniSurprise");
   surprise->setToolTip(tr("Draws a universe at random: its settings, and the types in it"));
   AddLine(*page, tr("&Theme:"), cboUniTheme_, {cboUniTheme_, surprise});
   AddRows(*page, UniversePage::Always);
@@ -519,8 +542,26 @@ void UniverseView::ResetWeights() {
 }
 
 void UniverseView::ShowProfileSample() {
-  ShowSample(picUniProfile_, ProfileSample(model_.Profiles(), cboUniProfile_->currentIndex(),
-                                           {kSampleSize, devicePixelRatioF()}));
+  const int position = cboUniProfile_->currentIndex();
+  const qreal ratio = devicePixelRatioF();
+  if (!model_.Stills) {
+    return ShowSample(picUniProfile_,
+                      ProfileSample(model_.Profiles(), position, {kSampleSize, ratio}));
+  }
+  QImage picture(kSampleSize * ratio, QImage::Format_RGB32);
+  picture.setDevicePixelRatio(ratio);
+  picture.fill(Qt::black);
+  QPainter painter(&picture);
+  sampleIsComplete_ = true;
+  for (const auto& [profile, place] : TilesOfSample(position)) {
+    StillKey key = StillOf(model_.Profiles()[profile], place.size(), ratio);
+    key.Fit = true;
+    const QImage still = model_.Stills->Still(key);
+    if (still.isNull()) sampleIsComplete_ = false;
+    painter.drawImage(place.topLeft(), still);
+  }
+  painter.end();
+  ShowSample(picUniProfile_, picture);
 }
 
 void UniverseView::ShowHueSample() {

@@ -71,7 +71,7 @@ class UniverseView : public QWidget {
   /// `cmdFoldProps`: the selected body, or -1.
   void PropsAskedFor(int index);
   void CompositePreviewAskedFor();
-  /// `cmdSurprise`.
+  /// `cmdUniSurprise`.
   void SurpriseAskedFor();
   /// Whole records are about to be changed by this view; `what` names the change.
   void AboutToChange(const QString& what);
@@ -117,8 +117,9 @@ class UniverseView : public QWidget {
 
   QString shownName_;  // of that body, as its box showed it
   std::string shownWeight_;
-  int typedFor_ = -1;     // the body whose name and weight the boxes show
-  bool setting_ = false;  // boxes are being set, not edited
+  int typedFor_ = -1;             // the body whose name and weight the boxes show
+  bool setting_ = false;          // boxes are being set, not edited
+  bool sampleIsComplete_ = true;  // of `picUniProfile`
   ListChoice* themeChoice_ = nullptr;
 
   BodyList* lstUniStarfold_ = nullptr;

@@ -24,7 +24,7 @@ constexpr int kDot = 6;  // diameter of the mark of a changed entry
 constexpr QSize kRowStill{40, 30};
 constexpr QSize kGridStill{80, 60};
 
-constexpr qreal kDimmed = 0.4;  // opacity of what no universe shows
+constexpr qreal kDimmed = 0.5;  // opacity of what no universe shows
 
 enum Role { kNameRole = Qt::UserRole, kWeightRole, kChangedRole };
 
@@ -66,7 +66,9 @@ class BodyList::EntryDelegate : public QStyledItemDelegate {
     if (Grid && selected) painter->fillRect(row.rect, row.palette.color(QPalette::Highlight));
     const int weight = index.data(kWeightRole).toInt();
     painter->save();
-    if (weight == 0 || !row.state.testFlag(QStyle::State_Enabled)) painter->setOpacity(kDimmed);
+    if ((weight == 0 && !selected) || !row.state.testFlag(QStyle::State_Enabled)) {
+      painter->setOpacity(kDimmed);
+    }
     painter->setPen(TextColour(row));
     if (Grid) {
       PaintCell(*painter, row, index);
@@ -195,6 +197,17 @@ std::string BodyList::EntryName(int position) const {
 
 int BodyList::Selected() const { return selectedItems().isEmpty() ? -1 : currentRow(); }
 
+int BodyList::Heaviest() const {
+  int heaviest = -1;
+  int most = 0;
+  for (int i = 0; i < count(); ++i) {
+    const int weight = item(i)->data(kWeightRole).toInt();
+    if (weight > most) heaviest = i;
+    most = std::max(most, weight);
+  }
+  return heaviest;
+}
+
 int BodyList::Weights() const {
   int sum = 0;
   for (int i = 0; i < count(); ++i) sum += item(i)->data(kWeightRole).toInt();
@@ -241,10 +254,8 @@ void BodyList::keyPressEvent(QKeyEvent* event) {
 
 void BodyList::paintEvent(QPaintEvent* event) {
   delegate_->Total = Weights() + otherWeights_;
-  delegate_->Heaviest = 0;
-  for (int i = 0; i < count(); ++i) {
-    delegate_->Heaviest = std::max(delegate_->Heaviest, item(i)->data(kWeightRole).toInt());
-  }
+  const int heaviest = Heaviest();
+  delegate_->Heaviest = heaviest < 0 ? 0 : item(heaviest)->data(kWeightRole).toInt();
   QListWidget::paintEvent(event);
 }
 

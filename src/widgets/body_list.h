@@ -31,6 +31,8 @@ class BodyList : public QListWidget {
   /// Index of the selected entry, or -1.
   int Selected() const;
 
+  /// Index of the first entry of the highest weight, or -1 if all weights are 0.
+  int Heaviest() const;
   /// The sum of the weights of all entries.
   int Weights() const;
   /// The sum of the weights of the bodies that are not in this list but share a universe with them.

@@ -22,6 +22,10 @@ class ListChoice : public QObject {
 
   /// Chooses the entry that is being looked at, if there is one.
   void Settle();
+  /// Whether the event that is being handled only looks.
+  bool IsLooking() const { return looking_; }
+  /// The present entry counts as chosen, without the signal.
+  void Reset() { chosen_ = list_.currentIndex(); }
 
  signals:
   /// An entry was chosen that is not the one chosen before.

@@ -55,9 +55,29 @@ int RangeLabel::WidthOf(const QString& text, const QFontMetrics& metrics) {
   return width;
 }
 
-void RangeLabel::paintEvent(QPaintEvent*) {
+QSize RangeLabel::sizeHint() const {
+  if (!wordWrap()) return QLabel::sizeHint();
+  const int width = WidthOf(text(), fontMetrics()) + 1;
+  return {width, heightForWidth(width)};
+}
+
+/// In a label that may wrap and is too narrow, a range begins a line.
+QStringList RangeLabel::Lines() const {
+  QString shown = text();
+  if (wordWrap() && WidthOf(shown, fontMetrics()) > contentsRect().width()) {
+    shown.replace(" (", "\n(");
+  }
+  return shown.split('\n');
+}
+
+void RangeLabel::paintEvent(QPaintEvent* event) {
+  const QStringList lines = Lines();
+  for (const QString& line : lines) {
+    if (wordWrap() && WidthOf(line, fontMetrics()) > contentsRect().width()) {
+      return QLabel::paintEvent(event);
+    }
+  }
   QPainter painter(this);
-  const QStringList lines = text().split('\n');
   const int height = fontMetrics().lineSpacing();
   QRect room = contentsRect();
   room.setTop(room.center().y() + 1 - height * static_cast<int>(lines.size()) / 2);

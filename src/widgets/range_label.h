@@ -14,8 +14,14 @@ class RangeLabel : public QLabel {
   /// The width that a text of one line needs.
   static int WidthOf(const QString& text, const QFontMetrics& metrics);
 
+  /// One line, also of a label that may wrap.
+  QSize sizeHint() const override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QStringList Lines() const;
 };
 
 }  // namespace starfolds

@@ -398,6 +398,10 @@ TEST_F(FrmPropsTest, AnUpgradeAndAResetMakeASafetyCopy) {
       [](FrmWelcome& welcome) { Part<QPushButton>(welcome, "cmdReset").click(); });
   Open();
   EXPECT_EQ(SavedName("/prog/propsave.sfd"), mine.Profiles[1].UniFoldName);
+  SettingsRecords saved;
+  TemplateFile copy(Disk);
+  ReadTemplate(copy, "/prog/propsave.sfd", saved);
+  EXPECT_EQ(saved.Universe, mine.Universe) << "that of the dialog, which is loaded already";
   EXPECT_EQ(The<BodyList>("lstUniStarfold").EntryName(1), "Star Rings");
   EXPECT_EQ(LoadSettings(Tree).Profiles[1].UniFoldName, mine.Profiles[1].UniFoldName)
       << "until the dialog is accepted";
@@ -442,12 +446,13 @@ TEST_F(FrmPropsTest, RandomEventsLeaveAValidTree) {
   RandomHands hands(7);
   for (int i = 1; i < 400; ++i) Events.Plan[i * 6] = [&] { Press(*Dialog, Qt::Key_Escape); };
   QTimer closer;  // of the editors, which are modal
-  closer.callOnTimeout([] {
-    if (QWidget* editor = QApplication::activeModalWidget()) editor->close();
+  closer.callOnTimeout([this] {
+    QWidget* editor = QApplication::activeModalWidget();
+    if (editor && editor != Dialog.get()) editor->close();
   });
   closer.start(0);
   const auto accepts = [&] { return The<QPushButton>("cmdAccept").text() == "&Accept Settings"; };
-  for (int i = 0; i < 2000; ++i) {
+  for (int i = 0; i < 10000; ++i) {
     Events.Pumps = 0;
     hands.Act(*Dialog, [&](const QString& name) {
       return name == "cmdDismiss" || (name == "cmdAccept" && accepts()) ||
@@ -455,6 +460,7 @@ TEST_F(FrmPropsTest, RandomEventsLeaveAValidTree) {
     });
     if (hands.Draw(200) == 0) Choose(i % 2 == 0 ? "mnuResetProps_0" : "mnuResetProps_2");
   }
+  EXPECT_TRUE(Dialog->IsOpen() && Dialog->isVisible()) << "used to the end";
   if (!accepts()) Click("cmdAccept");
   Click("cmdAccept");
   for (const UniverseRow& row : UniverseRows()) {

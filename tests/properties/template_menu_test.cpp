@@ -154,5 +154,28 @@ TEST_F(TemplateMenuTest, NothingIsOpenedWhileAPreviewRuns) {
   EXPECT_TRUE(Drop({Folder.Path("other.sfd")}));
 }
 
+TEST_F(TemplateMenuTest, AChosenFileIsShownAndTheLatestAreListed) {
+  WhenShown<FrmFileIo>([](FrmFileIo& dialog) {
+    auto& facts = Part<QLabel>(dialog, "lblTemplateFacts");
+    Part<QLineEdit>(dialog, "txtFile").setText("other.sfd");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !facts.text().isEmpty(); }, 30000));
+    EXPECT_TRUE(facts.text().startsWith("1234 stars in 100 starfolds of "));
+    Part<QLineEdit>(dialog, "txtFile").setText("missing.sfd");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return facts.text().isEmpty(); }, 30000));
+    Part<QLineEdit>(dialog, "txtFile").setText("other.sfd");
+    Part<QPushButton>(dialog, "cmdOK").click();
+  });
+  Entry("mnuOpen").trigger();
+  EXPECT_EQ(The<QLabel>("lblStatus").text(), "Loaded other.sfd");
+  QApplication::processEvents();
+  Entry("mnuUndo").trigger();
+  EXPECT_EQ(Box("txtUni_0"), "5000") << "opening is undone";
+  auto& recent = Part<QMenu>(*Dialog, "mnuRecent");
+  emit recent.aboutToShow();
+  ASSERT_EQ(recent.actions().size(), 1);
+  recent.actions().front()->trigger();
+  EXPECT_EQ(Box("txtUni_0"), "1234");
+}
+
 }  // namespace
 }  // namespace starfolds

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "settings/fields.h"
+#include "settings/surprise_universe.h"
 #include "settings/templates.h"
 
 namespace starfolds {
@@ -74,6 +76,22 @@ TEST(Factory, IndexesOutOfRangeGiveNothing) {
     EXPECT_EQ(FactoryCompositeRow(Starfolds4x, index), "");
   }
   EXPECT_EQ(profile.UniFoldName, "former");
+}
+
+TEST(SurpriseUniverse, DrawsWhatARunTakesAsItIs) {
+  SettingsRecords factory;
+  LoadFactorySet(factory, Starfolds4x);
+  for (std::uint64_t seed = 0; seed < 200; ++seed) {
+    Rnd random(seed);
+    const SurprisedUniverse drawn = SurpriseUniverse(random, {}, factory.Composites);
+    UniverseSettings clamped = drawn.Universe;
+    ClampUniverse(clamped);
+    EXPECT_EQ(clamped, drawn.Universe) << seed;
+    const auto shown = std::ranges::count_if(drawn.ProfileWeights, [](int w) { return w > 0; });
+    EXPECT_GE(shown, 5) << seed;
+    EXPECT_LE(shown, 12) << seed;
+    EXPECT_LE(std::ranges::count_if(drawn.CompositeWeights, [](int w) { return w > 0; }), 2);
+  }
 }
 
 }  // namespace
