@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "numbers/words.h"
+#include "settings/records.h"
 
 namespace starfolds {
 
@@ -42,5 +43,9 @@ inline constexpr int kMoleculeThemeRows = 8;
 /// zeros; that of a molecule has its number of rows.
 std::string IfsThemeText(const BodyTheme& theme);
 std::string MoleculeThemeText(const BodyTheme& theme);
+
+/// The body that a theme makes, for its picture.
+StarfoldProfile BodyOfIfsTheme(const BodyTheme& theme);
+StarfoldProfile BodyOfMoleculeTheme(const BodyTheme& theme);
 
 }  // namespace starfolds

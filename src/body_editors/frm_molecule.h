@@ -43,6 +43,9 @@ class FrmMolecule : public ThemedEditor {
   QList<int> SelectedRows() const;
 
   std::string TextOf(const BodyTheme& theme) const override { return MoleculeThemeText(theme); }
+  StarfoldProfile BodyOf(const BodyTheme& theme) const override {
+    return BodyOfMoleculeTheme(theme);
+  }
   void LoadThemeText(const std::string& text) override;
   void Clear() override;
   /// `GatherMolecule`.

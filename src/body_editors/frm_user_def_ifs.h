@@ -28,6 +28,7 @@ class FrmUserDefIfs : public ThemedEditor {
   void ShowRecord();
 
   std::string TextOf(const BodyTheme& theme) const override { return IfsThemeText(theme); }
+  StarfoldProfile BodyOf(const BodyTheme& theme) const override { return BodyOfIfsTheme(theme); }
   void LoadThemeText(const std::string& text) override;
   void Clear() override;
   /// `GatherIfs`. Skips rows without a weight, so the points stored are contiguous.

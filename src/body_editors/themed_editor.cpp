@@ -5,6 +5,8 @@
 
 #include "settings/factory.h"
 #include "widgets/lines.h"
+#include "widgets/list_wheel_guard.h"
+#include "widgets/still_delegate.h"
 
 namespace starfolds {
 
@@ -28,8 +30,15 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
   Head().addLayout(line);
 
   // Choosing the current theme again loads it again.
-  connect(cboTheme_, &QComboBox::currentIndexChanged, this, &ThemedEditor::ChooseTheme);
-  connect(cboTheme_, &QComboBox::activated, this, &ThemedEditor::ChooseTheme);
+  ShowStillsIn(*cboTheme_, editing.Model.Stills, [this](int row, QSize size, qreal ratio) {
+    if (row < 1 || row > static_cast<int>(themes_.size())) return StillKey{};
+    return StillOf(BodyOf(themes_[static_cast<std::size_t>(row - 1)]), size, ratio);
+  });
+  auto* choice = new ListChoice(*cboTheme_);
+  connect(choice, &ListChoice::Chosen, this, &ThemedEditor::ChooseTheme);
+  connect(cboTheme_, &QComboBox::activated, this, [this, choice](int index) {
+    if (!choice->IsLooking()) ChooseTheme(index);
+  });
 }
 
 QLayout* ThemedEditor::MakeBodyAndCenter() {

@@ -35,6 +35,8 @@ class ThemedEditor : public BodyEditor {
   /// The text of the theme at a position of `cboTheme`; empty for position 0.
   std::string ThemeText(int index) const;
   virtual std::string TextOf(const BodyTheme& theme) const = 0;
+  /// The body of a theme, for its picture.
+  virtual StarfoldProfile BodyOf(const BodyTheme& theme) const = 0;
   /// Shows the values of a theme in the controls.
   virtual void LoadThemeText(const std::string& text) = 0;
   /// Shows the values that all themes have.
