@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -29,9 +30,12 @@ constexpr Integer kFrames = 400;
 constexpr Long kStars = 4000;
 constexpr Single kScale = 0.8F;
 
+/// Each paragraph as one line, which the page wraps.
 QString Licence() {
   QFile file(":/info/LICENSE");
-  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  static const QRegularExpression lineEnd("(?<!\\n)\\n(?!\\n)");
+  return QString::fromUtf8(file.readAll()).trimmed().replace(lineEnd, " ");
 }
 
 QWidget* MakeLicencePage() {
