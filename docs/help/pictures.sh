@@ -116,10 +116,10 @@ tiles=4x row structures "${structures[@]}"
 dialog() {
   local name=$1 picture=$2
   shift 2
-  convert "shown/$picture.png" -filter box "$@" +repage +dither -colors 12 -strip \
+  convert "shown/$picture.png" -filter box "$@" +repage +dither -colors 40 -strip \
     -define png:compression-filter=0 "png8:$folder/$name@2x.png"
 }
 QT_SCALE_FACTOR=2 "$dialogs" shown light 2>/dev/null
 dialog dialog-universe light-universe-0 -resize 1100x
-dialog dialog-types light-universe-0 -crop 784x720+0+480 -resize 640x
-dialog dialog-starfold light-style-0 -crop 1560x1060+0+40 -resize 1100x
+dialog dialog-types light-universe-0 -crop 730x985+0+30 -resize 520x
+dialog dialog-starfold light-style-0 -resize 1100x
