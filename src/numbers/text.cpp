@@ -4,6 +4,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
+
+#include "numbers/plain_decimal.h"
 
 namespace starfolds {
 namespace {
@@ -55,14 +58,53 @@ std::int64_t PowerOfTen(std::string_view text) {
   return power + std::clamp(shift, -limit, limit);
 }
 
+#ifdef __cpp_lib_to_chars
+
+/// The number of a text of the grammar above without a plus; nullopt outside of the range of
+/// double.
+std::optional<double> ParsedNumber(std::string_view text) {
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error == std::errc::result_out_of_range) return std::nullopt;
+  return value;
+}
+
+/// The shortest text of a finite number without an exponent; empty if it is longer than 63
+/// characters.
+std::string FixedText(Single value) {
+  char text[64];
+  const auto [end, error] =
+      std::to_chars(text, text + sizeof text, value, std::chars_format::fixed);
+  return error == std::errc() ? std::string(text, end) : std::string();
+}
+
+/// The shortest text of a finite number.
+std::string ShortestText(Single value) {
+  char text[64];
+  return {text, std::to_chars(text, text + sizeof text, value).ptr};
+}
+
+#else
+
+std::optional<double> ParsedNumber(std::string_view text) {
+  const double value = plain_decimal::Parse(text);
+  const bool isZero = text.find_first_of("123456789") >= text.find_first_of("eE");
+  if (std::isinf(value) || (value == 0 && !isZero)) return std::nullopt;
+  return value;
+}
+
+std::string FixedText(Single value) { return plain_decimal::FixedText(value); }
+
+/// Of numbers with more than 15 digits, the text with an exponent is the shorter one.
+std::string ShortestText(Single value) { return plain_decimal::ExponentText(value); }
+
+#endif
+
 /// The value of a text that matches the grammar above as a whole. Magnitudes above the range of
 /// double give the largest double, those below it 0.
 double NumberValue(std::string_view text) {
   if (text.front() == '+') text.remove_prefix(1);
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc::result_out_of_range) return value;
-  // For numbers out of range, from_chars does not say in which direction.
+  if (const auto value = ParsedNumber(text)) return *value;
   const bool negative = text.front() == '-';
   if (PowerOfTen(text.substr(negative ? 1 : 0)) < 0) return 0;
   const double largest = std::numeric_limits<double>::max();
@@ -94,14 +136,9 @@ bool IsNumeric(std::string_view text) {
 std::string NumberText(Single value) {
   if (std::isnan(value)) return "0";
   if (std::isinf(value)) value = std::copysign(std::numeric_limits<Single>::max(), value);
-  char plain[64];
-  const auto fixed = std::to_chars(plain, plain + sizeof plain, value, std::chars_format::fixed);
-  const std::string text(plain, fixed.ptr);
+  const std::string text = FixedText(value);
   const auto digits = std::count_if(text.begin(), text.end(), IsDigit);
-  if (fixed.ec == std::errc() && digits <= 15) return text;
-  char shortest[64];
-  const auto general = std::to_chars(shortest, shortest + sizeof shortest, value);
-  return {shortest, general.ptr};
+  return digits > 0 && digits <= 15 ? text : ShortestText(value);
 }
 
 std::string NumberText(Long value) { return std::to_string(value); }

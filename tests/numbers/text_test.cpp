@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
 #include <vector>
+
+#include "numbers/plain_decimal.h"
+#include "numbers/rnd.h"
 
 namespace starfolds {
 namespace {
@@ -54,6 +59,39 @@ TEST(Text, NumbersAreShortAndPlain) {
   EXPECT_EQ(NumberText(Long{-30000}), "-30000");
   EXPECT_EQ(NumberText(std::nanf("")), "0");
 }
+
+#ifdef __cpp_lib_to_chars
+
+std::string Standard(Single value, std::chars_format format) {
+  char text[64];
+  return {text, std::to_chars(text, text + sizeof text, value, format).ptr};
+}
+
+TEST(Text, LibrariesWithoutFloatingCharconvGiveTheSameTexts) {
+  std::vector<Single> numbers{0.0F, -0.0F, 0.1F, 123456789.0F, std::numeric_limits<Single>::max()};
+  // Next to a power of two the nearest text is not always the shortest.
+  for (int power = -149; power < 128; ++power) {
+    const Single number = std::ldexp(1.0F, power);
+    numbers.insert(numbers.end(), {number, -number, std::nextafter(number, 0.0F)});
+  }
+  Rnd random(1);
+  for (int i = 0; i < 20000; ++i) {
+    const auto high = static_cast<std::uint32_t>(random() * 65536) << 16U;
+    const auto number = std::bit_cast<Single>(high | static_cast<std::uint32_t>(random() * 65536));
+    if (std::isfinite(number)) numbers.push_back(number);
+  }
+  for (const Single number : numbers) {
+    const std::string fixed = Standard(number, std::chars_format::fixed);
+    const std::string exponent = Standard(number, std::chars_format::scientific);
+    ASSERT_EQ(plain_decimal::FixedText(number), fixed);
+    ASSERT_EQ(plain_decimal::ExponentText(number), exponent);
+    double value = 0;
+    std::from_chars(exponent.data(), exponent.data() + exponent.size(), value);
+    ASSERT_EQ(plain_decimal::Parse(exponent), value) << exponent;
+  }
+}
+
+#endif
 
 }  // namespace
 }  // namespace starfolds
