@@ -1,0 +1,226 @@
+// What the page shows and whose settings these are. All parts of the page act through this.
+import type { EngineClient, LinkContents, Scene } from "../engine/protocol";
+import { debounced } from "./dom";
+import { History } from "./history";
+import { tell, tellFailure } from "./message";
+import { remember, remembered } from "./preferences";
+
+/** Frames after which a paused universe or body makes a good picture. */
+const kStillOfUniverse = 620;
+const kStillOfBody = 240;
+/** A still is made anew after a change; more frames than this would take too long. */
+const kLongestStill = 3000;
+
+type Listener = () => void;
+
+export class App {
+  readonly history = new History();
+  scene: Scene = { kind: "universe" };
+  paused: boolean;
+  /** A link's surface, which the window then scales. */
+  private size: { width: number; height: number } | undefined;
+  /** The settings of the visitor while the gallery shows something else. */
+  private kept: { settings: Uint8Array; scene: Scene } | undefined;
+  private listeners: Listener[] = [];
+
+  constructor(
+    readonly engine: EngineClient,
+    readonly sky: HTMLCanvasElement,
+  ) {
+    this.paused = matchMedia("(prefers-reduced-motion: reduce)").matches;
+  }
+
+  /** Calls `listener` after each change of scene, pause or settings as a whole. */
+  onchange(listener: Listener): void {
+    this.listeners.push(listener);
+  }
+  private changed(): void {
+    for (const listener of this.listeners) listener();
+  }
+
+  // --- The run ---
+
+  /** The first scene: of the address, of the last visit, or a universe of the factory settings. */
+  async begin(): Promise<void> {
+    const fragment = location.hash.slice(1);
+    await this.fit();
+    if (fragment !== "" && (await this.openLink(fragment))) return;
+    const mine = remembered("mine");
+    if (mine !== null && (await this.engine.openLink(mine)).fault !== "") remember("mine", null);
+    await this.show({ kind: "universe" });
+  }
+
+  /** Begins a run of the scene, in the size of the window. */
+  async show(scene: Scene, seed?: number): Promise<void> {
+    if (this.size) {
+      this.size = undefined;
+      await this.fit();
+    }
+    await this.run(scene, seed);
+  }
+
+  private async run(scene: Scene, seed?: number): Promise<void> {
+    this.scene = scene;
+    await this.engine.start(scene, seed);
+    await this.settle();
+    this.changed();
+  }
+
+  /** A paused run that begins anew is taken to a frame with something to see. */
+  async settle(frame = this.scene.kind === "universe" ? kStillOfUniverse : kStillOfBody) {
+    if (!this.paused) {
+      this.engine.pause(false);
+      return;
+    }
+    await this.engine.runUntil(Math.min(frame, kLongestStill));
+    this.engine.pause(true);
+  }
+
+  pause(on: boolean): void {
+    this.paused = on;
+    this.engine.pause(on);
+    this.changed();
+  }
+
+  async next(): Promise<void> {
+    if (this.size) return this.show(this.scene);
+    this.engine.nextUniverse();
+    await this.settle();
+  }
+
+  /** Gives the surface the size of the window, or scales the surface of a link to it. */
+  async fit(): Promise<void> {
+    const width = Math.max(1, innerWidth);
+    const height = Math.max(1, innerHeight);
+    const surface = this.size ?? { width, height };
+    const scale = Math.min(width / surface.width, height / surface.height);
+    this.sky.style.width = `${surface.width * scale}px`;
+    this.sky.style.height = `${surface.height * scale}px`;
+    // Less than one pixel for a star: pixels that are left out would be stars that vanish.
+    this.sky.classList.toggle("shrunk", scale * devicePixelRatio < 1);
+    await this.engine.resize(surface.width, surface.height);
+  }
+
+  /** The window has changed its size. */
+  async resized(): Promise<void> {
+    await this.fit();
+    if (!this.size) await this.settle();
+  }
+
+  // --- Settings ---
+
+  /** Sets one setting of the visitor. Returns the engine's message, "" if there is none. */
+  async set(name: string, value: string): Promise<string> {
+    const frame = this.paused ? (await this.engine.hash()).frame : 0;
+    const fault = await this.engine.set(name, value);
+    if (this.paused) await this.settle(Math.max(1, frame));
+    this.touched();
+    return fault;
+  }
+
+  /** The settings are the visitor's own from now on: kept, and no longer those of the address. */
+  touched(): void {
+    if (location.hash !== "") history.replaceState(null, "", location.pathname + location.search);
+    this.keep();
+  }
+  private readonly keep = debounced(500, () => {
+    if (this.kept) return;
+    this.engine.link({}).then(
+      (fragment) => remember("mine", fragment),
+      () => remember("mine", null), // too long for a link: kept for this visit only
+    );
+  });
+
+  /**
+   * Changes the settings as a whole, with a step to undo it, and shows `scene`. `change` returns ""
+   * or why it changed nothing; so does this.
+   */
+  async replace(text: string, change: () => Promise<string>, scene: Scene): Promise<string> {
+    const before = await this.engine.saveTemplate();
+    const beforeScene = this.scene;
+    const fault = await change();
+    if (fault !== "") return fault;
+    const after = await this.engine.saveTemplate();
+    const go = async (settings: Uint8Array, to: Scene): Promise<void> => {
+      await this.engine.openTemplate(settings);
+      this.touched();
+      await this.show(to);
+    };
+    this.history.seal();
+    this.history.add({
+      text,
+      undo: () => go(before, beforeScene),
+      redo: () => go(after, scene),
+    });
+    this.touched();
+    await this.show(scene);
+    return "";
+  }
+
+  /** Opens a template as the visitor's settings. */
+  async openTemplate(bytes: Uint8Array, name: string): Promise<void> {
+    await this.leaveVisit(false);
+    const fault = await this.replace(`opening ${name}`, () => this.engine.openTemplate(bytes), {
+      kind: "universe",
+    });
+    tell(fault === "" ? `This is ${name}.` : `${name}: ${fault}`);
+  }
+
+  /** Shows what a link says; false, with a message, if it is refused. */
+  async openLink(fragment: string): Promise<boolean> {
+    await this.leaveVisit(false);
+    let contents: LinkContents;
+    try {
+      contents = await this.engine.openLink(fragment);
+    } catch (reason) {
+      tellFailure("This link cannot be opened", reason);
+      return false;
+    }
+    if (contents.fault !== "") {
+      tell(`This link cannot be opened: ${contents.fault}`);
+      return false;
+    }
+    this.size = contents.size;
+    await this.fit();
+    await this.run(contents.scene, contents.seed);
+    return true;
+  }
+
+  // --- The gallery's visits ---
+
+  get visiting(): boolean {
+    return this.kept !== undefined;
+  }
+
+  /** Shows other settings for a while. `prepare` sets them, given the visitor's own. */
+  async visit(prepare: (mine: Uint8Array) => Promise<void>, scene: Scene): Promise<void> {
+    this.kept ??= { settings: await this.engine.saveTemplate(), scene: this.scene };
+    await prepare(this.kept.settings);
+    await this.show(scene);
+  }
+
+  /** The visitor's own settings again; shown too, if `show`. */
+  async leaveVisit(show: boolean): Promise<void> {
+    const kept = this.kept;
+    if (!kept) return;
+    await this.engine.openTemplate(kept.settings);
+    this.kept = undefined;
+    this.changed();
+    if (show) await this.show(kept.scene);
+  }
+
+  /** What is visited becomes a part of the visitor's settings, or all of them. */
+  async keepVisit(
+    text: string,
+    merge: (mine: Uint8Array, visited: Uint8Array) => Uint8Array,
+    scene: Scene,
+  ): Promise<void> {
+    const kept = this.kept;
+    if (!kept) return;
+    const merged = merge(kept.settings, await this.engine.saveTemplate());
+    await this.leaveVisit(false);
+    this.scene = kept.scene;
+    const fault = await this.replace(text, () => this.engine.openTemplate(merged), scene);
+    if (fault !== "") tell(fault);
+  }
+}
