@@ -35,9 +35,10 @@ constexpr std::array<FactoryTheme, kThemeCount> kThemes{{
 }};
 /// Whether a theme has a name and all of its values; see `kThemeLayout` in factory.cpp.
 constexpr bool IsComplete(const FactoryTheme& theme) {
-  return !theme.Name.empty() && std::ranges::count(theme.Row, ',') == 28;
+  return !theme.Name.empty() && std::count(theme.Row.begin(), theme.Row.end(), ',') == 28;
 }
-static_assert(std::ranges::all_of(kThemes, IsComplete), "there are kThemeCount complete themes");
+static_assert(std::all_of(std::begin(kThemes), std::end(kThemes), IsComplete),
+              "there are kThemeCount complete themes");
 
 constexpr std::string_view kClassicalTheme20 =
     "2500, 100, 2, 3000, 300, 0.985, 0.015, 180, 225, 30, 0, 400, 70, 250, "

@@ -24,7 +24,8 @@ struct Moved {
 template <class Record>
 void MoveFields(FieldOrder<Record>& order, std::span<const Moved<Record>> moves) {
   const auto place = [&](const Setting<Record>& setting) {
-    return std::ranges::find(order, setting, &Field<Record>::Where);
+    return std::find_if(order.begin(), order.end(),
+                        [&](const Field<Record>* field) { return field->Where == setting; });
   };
   for (const Moved<Record>& move : moves) {
     const auto from = place(move.What);

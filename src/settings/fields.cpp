@@ -251,7 +251,8 @@ void ClampFields(Record& record, std::span<const Field<Record>> fields) {
 
 template <class Record>
 const Field<Record>& RowOf(std::span<const Field<Record>> fields, const Setting<Record>& setting) {
-  const auto row = std::ranges::find(fields, setting, &Field<Record>::Where);
+  const auto row = std::find_if(fields.begin(), fields.end(),
+                                [&](const Field<Record>& field) { return field.Where == setting; });
   assert(row != fields.end() && "a setting without a row in the field table");
   return *row;
 }

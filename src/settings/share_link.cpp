@@ -63,9 +63,16 @@ Sections SectionsOf(std::string_view text) {
   return sections;
 }
 
-template <class Items, class Name>
-auto Find(Items& items, Name name, std::string_view wanted) {
-  return std::ranges::find(items, wanted, name);
+const Section* FindSection(const Sections& sections, std::string_view name) {
+  const auto found = std::find_if(sections.begin(), sections.end(),
+                                  [&](const Section& section) { return section.Name == name; });
+  return found == sections.end() ? nullptr : &*found;
+}
+
+bool HasLine(const Section& section, const Line& line) {
+  return std::any_of(section.Lines.begin(), section.Lines.end(), [&](const Line& other) {
+    return other.Key == line.Key && other.Value == line.Value;
+  });
 }
 
 void AppendLine(std::string& text, const Line& line) {
@@ -85,14 +92,10 @@ std::string TextOf(const Sections& sections) {
 Sections Differences(const Sections& sections, const Sections& base) {
   Sections different;
   for (const Section& section : sections) {
-    const auto other = Find(base, &Section::Name, section.Name);
+    const Section* other = FindSection(base, section.Name);
     Section lines{section.Name, {}};
     for (const Line& line : section.Lines) {
-      if (other != base.end()) {
-        const auto same = Find(other->Lines, &Line::Key, line.Key);
-        if (same != other->Lines.end() && same->Value == line.Value) continue;
-      }
-      lines.Lines.push_back(line);
+      if (!other || !HasLine(*other, line)) lines.Lines.push_back(line);
     }
     if (!lines.Lines.empty()) different.push_back(std::move(lines));
   }
@@ -224,7 +227,7 @@ bool ReadSize(std::string_view text, LinkedScene& scene) {
 }
 
 bool ReadSeed(std::string_view text, LinkedScene& scene) {
-  scene.Seed = NumberFrom<std::uint64_t>(text, 0, std::numeric_limits<std::uint64_t>::max());
+  scene.Seed = NumberFrom<std::uint64_t>(text, 0, kLargestSeed);
   return scene.Seed.has_value();
 }
 

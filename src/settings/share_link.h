@@ -11,6 +11,9 @@
 
 namespace starfolds {
 
+/// The largest seed of a link: a script holds larger numbers in steps.
+inline constexpr std::uint64_t kLargestSeed = (std::uint64_t{1} << 53) - 1;
+
 /// What a link shows.
 struct LinkedScene {
   enum class Kind { Universe, Profile, Composite };
@@ -18,7 +21,7 @@ struct LinkedScene {
   Integer Body = 0;  // the profile or composite
 
   // Without these every visitor sees another universe with the same settings.
-  std::optional<std::uint64_t> Seed;
+  std::optional<std::uint64_t> Seed;  // at most `kLargestSeed`
   struct Size {
     Integer Width = 0;
     Integer Height = 0;

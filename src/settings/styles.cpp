@@ -128,7 +128,8 @@ constexpr std::array<StyleFacts, kStyleCount> kStyles{{
      .BodyEditorCaption = "User Defined Molecular Structure..."},
 }};
 static_assert(IsInStyleOrder(kStyles));
-static_assert(std::ranges::all_of(kStyles, &StyleFacts::IsComplete));
+static_assert(std::all_of(kStyles.begin(), kStyles.end(),
+                          [](const StyleFacts& facts) { return facts.IsComplete(); }));
 
 }  // namespace
 

@@ -42,9 +42,10 @@ constexpr Exception kExceptions[] = {
 }  // namespace
 
 NumberRange RangeIn(RangedEditor editor, Setting<StarfoldProfile> setting) {
-  const auto found = std::ranges::find_if(kExceptions, [&](const Exception& exception) {
+  const auto is = [&](const Exception& exception) {
     return exception.Editor == editor && exception.What == setting;
-  });
+  };
+  const auto* const found = std::find_if(std::begin(kExceptions), std::end(kExceptions), is);
   return found != std::end(kExceptions) ? found->Range : RangeOf(FieldOf(setting));
 }
 

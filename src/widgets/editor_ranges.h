@@ -2,7 +2,7 @@
 #pragma once
 
 #include "settings/fields.h"
-#include "widgets/number_box.h"
+#include "settings/number_range.h"
 
 namespace starfolds {
 

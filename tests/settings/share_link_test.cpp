@@ -25,7 +25,7 @@ std::string TemplateText(SettingsRecords& records) {
 
 TEST(ShareLink, RandomSettingsComeBackWithoutTheMessage) {
   const LinkedScene scenes[] = {
-      {}, {Kind::Profile, 49, 18446744073709551615ULL, {}}, {Kind::Composite, 15, 0, {{1, 32767}}}};
+      {}, {Kind::Profile, 49, kLargestSeed, {}}, {Kind::Composite, 15, 0, {{1, 32767}}}};
   for (unsigned seed = 0; seed < 30; ++seed) {
     const auto records = std::make_unique<SettingsRecords>(RandomRecords(seed).Make());
     records->Profiles[3].UniFoldName = "[a]=\\(";
@@ -68,7 +68,7 @@ TEST(ShareLink, RefusesWhatIsNoLinkAndChangesNothing) {
         std::string("[Universe]\r\nUniverse_Stars=10\r\n"),
         std::string("[Link]\r\nSet=0\r\nScene=Starfold50\r\n"),
         std::string("[Link]\r\nSet=0\r\nScene=CompFold-1\r\n"),
-        std::string("[Link]\r\nSet=0\r\nSeed=18446744073709551616\r\n"),
+        std::string("[Link]\r\nSet=0\r\nSeed=9007199254740992\r\n"),
         std::string("[Link]\r\nSet=0\r\nSize=0x600\r\n"),
         std::string("[Link]\r\nSet=0\r\nSize=800\r\n"),
         "[Link]\r\nSet=0\r\n" + std::string(kLongestLinkText, 'a')}) {

@@ -1,0 +1,18 @@
+// Bundles the tests of this folder: node web/tests/engine/build.mjs FOLDER
+import { build } from "esbuild";
+import { readdir } from "node:fs/promises";
+import { dirname, join } from "node:path";
+import { fileURLToPath } from "node:url";
+
+const here = dirname(fileURLToPath(import.meta.url));
+const tests = (await readdir(here)).filter((name) => name.endsWith(".test.ts"));
+await build({
+  entryPoints: tests.map((name) => join(here, name)),
+  outdir: process.argv[2],
+  outExtension: { ".js": ".mjs" },
+  bundle: true,
+  platform: "node",
+  format: "esm",
+  target: "node18",
+  logLevel: "warning",
+});
