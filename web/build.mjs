@@ -5,7 +5,6 @@ import { build } from "esbuild";
 import { createHash } from "node:crypto";
 import { copyFile, cp, mkdir, readFile, readdir, rm } from "node:fs/promises";
 import { dirname, join, relative } from "node:path";
-import process from "node:process";
 import { fileURLToPath } from "node:url";
 
 const here = dirname(fileURLToPath(import.meta.url));

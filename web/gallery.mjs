@@ -4,7 +4,6 @@
 // folder of the shipped templates, whose README describes them; THEMES is the help page about themes.
 import { readFileSync, readdirSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
-import process from "node:process";
 
 const [scratch, templates, themes, folder] = process.argv.slice(2);
 const pictures = readdirSync(folder).filter((name) => name.endsWith(".webp"));
