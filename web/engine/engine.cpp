@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "process/process_state.h"
 #include "settings/factory.h"
+#include "settings/registry.h"
 #include "settings/share_link.h"
 #include "settings/stored_records.h"
 #include "settings/templates.h"
@@ -44,7 +45,8 @@ struct Engine {
   WebSurface Canvas;
   WebPump Clock;
   MemoryDesktop Desktop;
-  MemoryTree Tree;  // of the process; the settings are in `Records`
+  /// The advanced values as texts: a template that is saved has those of the one that was opened.
+  MemoryTree Tree;
   LinkedScene Scene;
   std::string Input;
   std::string Output;
@@ -69,6 +71,15 @@ void Answer(std::string text) { TheEngine().Output = std::move(text); }
 
 /// An empty answer means success.
 void AnswerFault(const std::optional<std::string>& fault) { Answer(fault.value_or(std::string())); }
+
+/// Stores the advanced values that are not the defaults.
+void StoreAdvanced(KeyValueTree& tree, const AdvancedSettings& advanced) {
+  for (const Field<AdvancedSettings>& field : AdvancedFields()) {
+    const std::string text = FieldText(advanced, field);
+    if (text == FieldText(AdvancedSettings(), field)) continue;
+    RegistryWrite(tree, sections::kAdvanced, field.Name, text);
+  }
+}
 
 bool Has(std::string_view name, std::string_view word) { return name.starts_with(word); }
 
@@ -158,6 +169,10 @@ STARFOLDS_EXPORT(set) std::int32_t EngineSet(std::int32_t nameSize) {
   const auto fault = ChangeSetting(*engine.Records, name, InputRest(nameSize));
   AnswerFault(fault);
   if (fault) return 0;
+  if (const auto* field = FindField(AdvancedFields(), name)) {
+    RegistryWrite(engine.Tree, sections::kAdvanced, name,
+                  FieldText(engine.Records->Advanced, *field));
+  }
   engine.Process->Screen.FrameDelayMs = engine.Records->Advanced.Adv_TimeDelay;
   return RestartsRun(name) ? 1 : 0;
 }
@@ -178,23 +193,25 @@ STARFOLDS_EXPORT(openTemplate) void EngineOpenTemplate() {
   MemoryFiles files;
   files.Contents[kTemplatePath] = std::move(engine.Input);
   TemplateFile file(files);
-  AnswerFault(ReadTemplate(file, kTemplatePath, *engine.Records));
+  file.TemplateFileName = kTemplatePath;
+  const auto fault = ReadTemplate(file, kTemplatePath, *engine.Records);
+  if (!fault) CopyAdvancedFromTemplate(file, engine.Tree);
+  AnswerFault(fault);
 }
 
 /// Output: the bytes of a template.
 STARFOLDS_EXPORT(saveTemplate) void EngineSaveTemplate() {
   SettingsRecords& records = *TheEngine().Records;
-  MemoryTree tree;
-  SaveAdvancedToRegistry(tree, records.Advanced);
   MemoryFiles files;
   TemplateFile file(files);
   file.TemplateFileName = kTemplatePath;
-  WriteTemplate(file, tree, records.Universe, records.Profiles, records.Composites, {});
+  WriteTemplate(file, TheEngine().Tree, records.Universe, records.Profiles, records.Composites, {});
   Answer(std::move(files.Contents[kTemplatePath]));
 }
 
 STARFOLDS_EXPORT(useFactory) void EngineUseFactory(std::int32_t set) {
   SettingsRecords& records = *TheEngine().Records;
+  TheEngine().Tree = MemoryTree();
   records = SettingsRecords();
   LoadFactorySettings(records, set == 1 ? FactorySet::Starfolds20 : FactorySet::Starfolds4x, 1);
 }
@@ -225,8 +242,13 @@ STARFOLDS_EXPORT(linkText) void EngineLinkText(std::int32_t withSeed, std::int32
 
 /// Input: the text of a link. Output: `LinkContents` of protocol.ts as JSON, the seed as text.
 STARFOLDS_EXPORT(openLinkText) void EngineOpenLinkText() {
+  Engine& engine = TheEngine();
   LinkedScene scene;
-  const auto fault = ReadLinkText(InputStart(INT32_MAX), *TheEngine().Records, scene);
+  const auto fault = ReadLinkText(InputStart(INT32_MAX), *engine.Records, scene);
+  if (!fault) {
+    engine.Tree = MemoryTree();
+    StoreAdvanced(engine.Tree, engine.Records->Advanced);
+  }
   Answer(fault ? "{\"fault\":" + JsonText(*fault) + ",\"scene\":{\"kind\":\"universe\"}}"
                : SceneJson(scene));
 }

@@ -6,6 +6,8 @@
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/fields.h"
+#include "settings/registry.h"
+#include "widgets/editor_ranges.h"
 
 namespace starfolds::web {
 namespace {
@@ -110,13 +112,37 @@ Integer* MemberOf(SettingsRecords& records, std::string_view name) {
   return &records.Composites[*composite].CompFold_Type[*member];
 }
 
+template <class Record>
+std::optional<Limits> LimitsOf(const Field<Record>& field) {
+  if (field.Rule != RangeRule::Fixed) return std::nullopt;
+  return Limits{field.Low, std::max(field.High, field.Odd.DialogHigh)};
+}
+
+std::optional<Limits> LimitsOf(const Field<StarfoldProfile>& field) {
+  using P = StarfoldProfile;
+  for (const Setting<P>& level :
+       {Setting<P>(&P::Starfold_StdLevDRad), Setting<P>(&P::Starfold_StdLevHSca)}) {
+    if (field.Where != level) continue;
+    const NumberRange range = RangeIn(RangedEditor::Levels, level);
+    return Limits{range.Low, range.High};
+  }
+  return LimitsOf<P>(field);
+}
+
+/// The count has room for one member more than there are.
+std::optional<Limits> LimitsOf(const Field<CompositeProfile>& field) {
+  using C = CompositeProfile;
+  if (field.Where == Setting<C>(&C::CompFold_Count)) return Limits{0, kMaxMembers};
+  return LimitsOf<C>(field);
+}
+
 /// Clamps a number that `SetFieldText` has set.
 template <class Record>
 void ClampToDialog(Record& record, const Field<Record>& field) {
-  if (field.Rule != RangeRule::Fixed) return;
+  const std::optional<Limits> limits = LimitsOf(field);
+  if (!limits) return;
   const double number = LenientNumber(FieldText(record, field));
-  const double high = std::max(field.High, field.Odd.DialogHigh);
-  SetFieldNumber(record, field, ClampTo(number, field.Low, high));
+  SetFieldNumber(record, field, ClampTo(number, limits->Low, limits->High));
 }
 
 /// The records that another setting limits.
@@ -146,7 +172,7 @@ std::optional<std::string> ChangeSetting(SettingsRecords& records, std::string_v
     *member = ClampTo<Integer>(*member, 0, kProfileCount - 1);
   } else {
     const auto set = WithSetting(records, name, [&](auto& record, const auto& field) {
-      const bool isValid = SetFieldText(record, field, value);
+      const bool isValid = SetFieldText(record, field, StorableText(value));
       if (isValid) ClampToDialog(record, field);
       return std::optional(isValid);
     });
