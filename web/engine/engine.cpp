@@ -72,6 +72,15 @@ void Answer(std::string text) { TheEngine().Output = std::move(text); }
 /// An empty answer means success.
 void AnswerFault(const std::optional<std::string>& fault) { Answer(fault.value_or(std::string())); }
 
+void AnswerValues(SettingsRecords& records) {
+  std::string json;
+  ForEachSetting(records, InputStart(INT32_MAX),
+                 [&](const std::string& name, const std::string& text) {
+                   json += (json.empty() ? "" : ",") + JsonText(name) + ":" + JsonText(text);
+                 });
+  Answer("{" + json + "}");
+}
+
 /// Stores the advanced values that are not the defaults.
 void StoreAdvanced(KeyValueTree& tree, const AdvancedSettings& advanced) {
   for (const Field<AdvancedSettings>& field : AdvancedFields()) {
@@ -178,13 +187,13 @@ STARFOLDS_EXPORT(set) std::int32_t EngineSet(std::int32_t nameSize) {
 }
 
 /// Input: a record, see `ForEachSetting`. Output: an object of names and texts.
-STARFOLDS_EXPORT(values) void EngineValues() {
-  std::string json;
-  ForEachSetting(*TheEngine().Records, InputStart(INT32_MAX),
-                 [&](const std::string& name, const std::string& text) {
-                   json += (json.empty() ? "" : ",") + JsonText(name) + ":" + JsonText(text);
-                 });
-  Answer("{" + json + "}");
+STARFOLDS_EXPORT(values) void EngineValues() { AnswerValues(*TheEngine().Records); }
+
+/// The same for the settings of factory set 4.x.
+STARFOLDS_EXPORT(factoryValues) void EngineFactoryValues() {
+  const auto records = std::make_unique<SettingsRecords>();
+  LoadFactorySettings(*records, FactorySet::Starfolds4x, 1);
+  AnswerValues(*records);
 }
 
 /// Input: the bytes of a template. Output: a message or nothing.

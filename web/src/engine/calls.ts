@@ -14,6 +14,7 @@ export interface Calls {
   get(name: string): string;
   set(name: string, value: string): string;
   values(scope: Scope): Record<string, string>;
+  factory(scope: Scope): Record<string, string>;
   names(): { profiles: string[]; composites: string[] };
   openTemplate(bytes: Uint8Array): string;
   saveTemplate(): Uint8Array;

@@ -77,6 +77,7 @@ export async function createEngine(): Promise<EngineClient> {
     get: (name) => worker.call("get", [name]),
     set: (name, value) => worker.call("set", [name, value]),
     values: (scope) => worker.call("values", [scope]),
+    factory: (scope) => worker.call("factory", [scope]),
     names: () => worker.call("names", []),
     openTemplate: (bytes) => worker.call("openTemplate", [bytes]),
     saveTemplate: () => worker.call("saveTemplate", []),

@@ -8,7 +8,7 @@ export const longestText = 1 << 19;
 export class LinkFault extends Error {}
 
 function transformed(bytes: Uint8Array, stream: GenericTransformStream): ReadableStream<Uint8Array> {
-  const source = new Blob([bytes as Uint8Array<ArrayBuffer>]).stream();
+  const source = new Blob([bytes]).stream();
   return source.pipeThrough(stream as ReadableWritablePair<Uint8Array, Uint8Array>);
 }
 

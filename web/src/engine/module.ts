@@ -13,6 +13,7 @@ interface Exports {
   get(): void;
   set(nameSize: number): number;
   values(): void;
+  factoryValues(): void;
   openTemplate(): void;
   saveTemplate(): void;
   useFactory(set: number): void;
@@ -199,9 +200,11 @@ export class EngineModule {
     return { fault: this.answerText(), restart };
   }
 
-  values(record: string): Record<string, string> {
+  /** Of the settings, or of those of factory set 4.x. */
+  values(record: string, ofFactory: boolean): Record<string, string> {
     this.writeText(record);
-    this.calls.values();
+    if (ofFactory) this.calls.factoryValues();
+    else this.calls.values();
     return JSON.parse(this.answerText()) as Record<string, string>;
   }
 

@@ -114,6 +114,8 @@ export interface EngineClient {
    * "IFS0/IFS_LocX", "CompFold_Type0".
    */
   values(scope: Scope): Promise<Record<string, string>>;
+  /** The same of factory set 4.x with its first theme, whatever is set now. */
+  factory(scope: Scope): Promise<Record<string, string>>;
   /** The names of the bodies as they are now. */
   names(): Promise<{ profiles: string[]; composites: string[] }>;
 

@@ -194,7 +194,11 @@ class EngineWorker implements Calls {
   }
 
   values(scope: Scope): Record<string, string> {
-    return this.engine.values(recordOf(scope));
+    return this.engine.values(recordOf(scope), false);
+  }
+
+  factory(scope: Scope): Record<string, string> {
+    return this.engine.values(recordOf(scope), true);
   }
 
   names(): { profiles: string[]; composites: string[] } {

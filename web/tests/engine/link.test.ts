@@ -3,10 +3,16 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 import { deflateRawSync } from "node:zlib";
 import { LinkFault, longestFragment, longestText, packLink, unpackLink } from "../../src/engine/link";
+import type { EngineModule } from "../../src/engine/module";
+import type { LinkContents } from "../../src/engine/protocol";
 import { loadEngine, noPage } from "./native";
 
 const encode = (text: string) => new TextEncoder().encode(text);
 const packed = (bytes: Uint8Array) => deflateRawSync(bytes).toString("base64url");
+
+function faultOf(engine: EngineModule, text: string): string {
+  return (JSON.parse(engine.openLinkText(encode(text))) as LinkContents).fault;
+}
 
 test("a link shows the same universe in another engine", async () => {
   const sender = await loadEngine(noPage);
@@ -68,11 +74,11 @@ test("a refused text changes nothing, and values beyond their range are clamped"
   const engine = await loadEngine(noPage);
   const before = engine.saveTemplate();
   for (const text of ["", "[Link]\r\nSet=7\r\n", "[Universe]\r\nUniverse_Stars=1\r\n", "\0[Link]"]) {
-    assert.notEqual(JSON.parse(engine.openLinkText(encode(text))).fault, "", text);
+    assert.notEqual(faultOf(engine, text), "", text);
   }
   assert.deepEqual(engine.saveTemplate(), before);
   const hostile = "[Link]\r\nSet=0\r\n[UniFold0]\r\nStarfold_Radius=9e99\r\nStarfold_FoldStyle=-4\r\n";
-  assert.equal(JSON.parse(engine.openLinkText(encode(hostile))).fault, "");
+  assert.equal(faultOf(engine, hostile), "");
   assert.equal(engine.get("Starfold0/Starfold_Radius"), "30000");
   assert.equal(engine.get("Starfold0/Starfold_FoldStyle"), "0");
 });
