@@ -7,9 +7,16 @@ export const longestText = 1 << 19;
 
 export class LinkFault extends Error {}
 
-function transformed(bytes: Uint8Array, stream: GenericTransformStream): ReadableStream<Uint8Array> {
-  const source = new Blob([bytes]).stream();
-  return source.pipeThrough(stream as ReadableWritablePair<Uint8Array, Uint8Array>);
+type Bytes = Uint8Array<ArrayBuffer>;
+
+function transformed(bytes: Bytes, stream: CompressionStream | DecompressionStream): ReadableStream<Uint8Array> {
+  const source = new ReadableStream<BufferSource>({
+    start(controller) {
+      controller.enqueue(bytes);
+      controller.close();
+    },
+  });
+  return source.pipeThrough(stream);
 }
 
 /** Reads a stream; throws when it has more than `most` bytes, without reading the rest. */
@@ -42,14 +49,14 @@ function toBase64Url(bytes: Uint8Array): string {
   return btoa(binary).replaceAll("+", "-").replaceAll("/", "_").replaceAll("=", "");
 }
 
-function fromBase64Url(text: string): Uint8Array {
+function fromBase64Url(text: string): Bytes {
   if (!/^[A-Za-z0-9_-]+$/.test(text)) throw new LinkFault("This is not a link to a universe");
   const binary = atob(text.replaceAll("-", "+").replaceAll("_", "/"));
   return Uint8Array.from(binary, (char) => char.charCodeAt(0));
 }
 
 /** Throws a `LinkFault` if the fragment were too long. */
-export async function packLink(text: Uint8Array): Promise<string> {
+export async function packLink(text: Bytes): Promise<string> {
   const packed = await readAll(transformed(text, new CompressionStream("deflate-raw")), longestText);
   const fragment = toBase64Url(packed);
   if (fragment.length > longestFragment) {

@@ -172,7 +172,7 @@ export class EngineModule {
     return bytes.length;
   }
 
-  private answer(): Uint8Array {
+  private answer(): Uint8Array<ArrayBuffer> {
     const { memory } = this.calls;
     return new Uint8Array(memory.buffer, this.calls.output(), this.calls.outputSize()).slice();
   }
@@ -231,7 +231,7 @@ export class EngineModule {
     this.calls.applyFactoryProfile(profile, set, from);
   }
 
-  linkText(withSeed: boolean, withSize: boolean): Uint8Array {
+  linkText(withSeed: boolean, withSize: boolean): Uint8Array<ArrayBuffer> {
     this.calls.linkText(Number(withSeed), Number(withSize));
     return this.answer();
   }
