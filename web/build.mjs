@@ -1,9 +1,9 @@
 // Builds the page into a folder that any static host can serve: node build.mjs [FOLDER]
-// The folder may already hold engine.wasm; the service worker is given the list of all files, so this
-// runs last. The gallery is taken from build/gallery, which gallery.sh makes.
+// The folder already holds engine.wasm and what gallery.sh has put into gallery/: the service worker
+// is given the list of all files, so this runs last.
 import { build } from "esbuild";
 import { createHash } from "node:crypto";
-import { copyFile, cp, mkdir, readFile, readdir, rm } from "node:fs/promises";
+import { copyFile, mkdir, readFile, readdir, rm } from "node:fs/promises";
 import { dirname, join, relative } from "node:path";
 import { fileURLToPath } from "node:url";
 
@@ -29,7 +29,7 @@ async function bundle(entry, name, options = {}) {
 async function files() {
   const entries = await readdir(folder, { recursive: true, withFileTypes: true });
   return entries
-    .filter((entry) => entry.isFile())
+    .filter((entry) => entry.isFile() && entry.name !== "stamp")
     .map((entry) => relative(folder, join(entry.parentPath, entry.name)).replaceAll("\\", "/"))
     .sort();
 }
@@ -42,12 +42,6 @@ await bundle("style/page.css", "page.css");
 await copyFile(join(here, "index.html"), join(folder, "index.html"));
 await copyFile(join(here, "public/starfolds.webmanifest"), join(folder, "starfolds.webmanifest"));
 await copyFile(join(here, "../packaging/starfolds.svg"), join(folder, "icon.svg"));
-
-await rm(join(folder, "gallery"), { recursive: true, force: true });
-await cp(join(here, "../build/gallery"), join(folder, "gallery"), {
-  recursive: true,
-  filter: (source) => !source.endsWith("stamp"),
-});
 
 const all = await files();
 const version = createHash("sha256");

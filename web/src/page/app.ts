@@ -22,6 +22,7 @@ export class App {
   /** The settings of the visitor while the gallery shows something else. */
   private kept: { settings: Uint8Array; scene: Scene } | undefined;
   private listeners: Listener[] = [];
+  private last: Promise<unknown> = Promise.resolve();
 
   constructor(
     readonly engine: EngineClient,
@@ -38,6 +39,16 @@ export class App {
     for (const listener of this.listeners) listener();
   }
 
+  /**
+   * Runs `task` after the tasks before it: what takes several calls of the engine is not mixed with
+   * what a second click asks for. A task must not wait for another one.
+   */
+  private inTurn<T>(task: () => Promise<T>): Promise<T> {
+    const turn = this.last.then(task, task);
+    this.last = turn.catch(() => undefined);
+    return turn;
+  }
+
   // --- The run ---
 
   /** The first scene: of the address, of the last visit, or a universe of the factory settings. */
@@ -51,7 +62,10 @@ export class App {
   }
 
   /** Begins a run of the scene, in the size of the window. */
-  async show(scene: Scene, seed?: number): Promise<void> {
+  show(scene: Scene, seed?: number): Promise<void> {
+    return this.inTurn(() => this.showNow(scene, seed));
+  }
+  private async showNow(scene: Scene, seed?: number): Promise<void> {
     if (this.size) {
       this.size = undefined;
       await this.fit();
@@ -67,7 +81,9 @@ export class App {
   }
 
   /** A paused run that begins anew is taken to a frame with something to see. */
-  async settle(frame = this.scene.kind === "universe" ? kStillOfUniverse : kStillOfBody) {
+  private async settle(
+    frame = this.scene.kind === "universe" ? kStillOfUniverse : kStillOfBody,
+  ): Promise<void> {
     if (!this.paused) {
       this.engine.pause(false);
       return;
@@ -82,14 +98,16 @@ export class App {
     this.changed();
   }
 
-  async next(): Promise<void> {
-    if (this.size) return this.show(this.scene);
-    this.engine.nextUniverse();
-    await this.settle();
+  next(): Promise<void> {
+    return this.inTurn(async () => {
+      if (this.size) return this.showNow(this.scene);
+      this.engine.nextUniverse();
+      await this.settle();
+    });
   }
 
   /** Gives the surface the size of the window, or scales the surface of a link to it. */
-  async fit(): Promise<void> {
+  private async fit(): Promise<void> {
     const width = Math.max(1, innerWidth);
     const height = Math.max(1, innerHeight);
     const surface = this.size ?? { width, height };
@@ -102,20 +120,24 @@ export class App {
   }
 
   /** The window has changed its size. */
-  async resized(): Promise<void> {
-    await this.fit();
-    if (!this.size) await this.settle();
+  resized(): Promise<void> {
+    return this.inTurn(async () => {
+      await this.fit();
+      if (!this.size) await this.settle();
+    });
   }
 
   // --- Settings ---
 
   /** Sets one setting of the visitor. Returns the engine's message, "" if there is none. */
-  async set(name: string, value: string): Promise<string> {
-    const frame = this.paused ? (await this.engine.hash()).frame : 0;
-    const fault = await this.engine.set(name, value);
-    if (this.paused) await this.settle(Math.max(1, frame));
-    this.touched();
-    return fault;
+  set(name: string, value: string): Promise<string> {
+    return this.inTurn(async () => {
+      const frame = this.paused ? (await this.engine.hash()).frame : 0;
+      const fault = await this.engine.set(name, value);
+      if (this.paused) await this.settle(Math.max(1, frame));
+      this.touched();
+      return fault;
+    });
   }
 
   /** The settings are the visitor's own from now on: kept, and no longer those of the address. */
@@ -123,7 +145,7 @@ export class App {
     if (location.hash !== "") history.replaceState(null, "", location.pathname + location.search);
     this.keep();
   }
-  private readonly keep = debounced(500, () => {
+  private readonly keep = debounced(200, () => {
     if (this.kept) return;
     this.engine.link({}).then(
       (fragment) => remember("mine", fragment),
@@ -135,17 +157,25 @@ export class App {
    * Changes the settings as a whole, with a step to undo it, and shows `scene`. `change` returns ""
    * or why it changed nothing; so does this.
    */
-  async replace(text: string, change: () => Promise<string>, scene: Scene): Promise<string> {
+  replace(text: string, change: () => Promise<string>, scene: Scene): Promise<string> {
+    return this.inTurn(() => this.replaceNow(text, change, scene));
+  }
+  private async replaceNow(
+    text: string,
+    change: () => Promise<string>,
+    scene: Scene,
+  ): Promise<string> {
     const before = await this.engine.saveTemplate();
     const beforeScene = this.scene;
     const fault = await change();
     if (fault !== "") return fault;
     const after = await this.engine.saveTemplate();
-    const go = async (settings: Uint8Array, to: Scene): Promise<void> => {
-      await this.engine.openTemplate(settings);
-      this.touched();
-      await this.show(to);
-    };
+    const go = (settings: Uint8Array, to: Scene): Promise<void> =>
+      this.inTurn(async () => {
+        await this.engine.openTemplate(settings);
+        this.touched();
+        await this.showNow(to);
+      });
     this.history.seal();
     this.history.add({
       text,
@@ -153,22 +183,27 @@ export class App {
       redo: () => go(after, scene),
     });
     this.touched();
-    await this.show(scene);
+    await this.showNow(scene);
     return "";
   }
 
-  /** Opens a template as the visitor's settings. */
-  async openTemplate(bytes: Uint8Array, name: string): Promise<void> {
-    await this.leaveVisit(false);
-    const fault = await this.replace(`opening ${name}`, () => this.engine.openTemplate(bytes), {
-      kind: "universe",
+  /** Opens a template as the visitor's settings; false, with a message, if it is refused. */
+  openTemplate(bytes: Uint8Array, name: string): Promise<boolean> {
+    return this.inTurn(async () => {
+      await this.leaveNow(false);
+      const open = (): Promise<string> => this.engine.openTemplate(bytes);
+      const fault = await this.replaceNow(`opening ${name}`, open, { kind: "universe" });
+      tell(fault === "" ? `This is ${name}.` : `${name}: ${fault}`);
+      return fault === "";
     });
-    tell(fault === "" ? `This is ${name}.` : `${name}: ${fault}`);
   }
 
   /** Shows what a link says; false, with a message, if it is refused. */
-  async openLink(fragment: string): Promise<boolean> {
-    await this.leaveVisit(false);
+  openLink(fragment: string): Promise<boolean> {
+    return this.inTurn(() => this.openLinkNow(fragment));
+  }
+  private async openLinkNow(fragment: string): Promise<boolean> {
+    await this.leaveNow(false);
     let contents: LinkContents;
     try {
       contents = await this.engine.openLink(fragment);
@@ -193,34 +228,41 @@ export class App {
   }
 
   /** Shows other settings for a while. `prepare` sets them, given the visitor's own. */
-  async visit(prepare: (mine: Uint8Array) => Promise<void>, scene: Scene): Promise<void> {
-    this.kept ??= { settings: await this.engine.saveTemplate(), scene: this.scene };
-    await prepare(this.kept.settings);
-    await this.show(scene);
+  visit(prepare: (mine: Uint8Array) => Promise<void>, scene: Scene): Promise<void> {
+    return this.inTurn(async () => {
+      this.kept ??= { settings: await this.engine.saveTemplate(), scene: this.scene };
+      await prepare(this.kept.settings);
+      await this.showNow(scene);
+    });
   }
 
   /** The visitor's own settings again; shown too, if `show`. */
-  async leaveVisit(show: boolean): Promise<void> {
+  leaveVisit(show: boolean): Promise<void> {
+    return this.inTurn(() => this.leaveNow(show));
+  }
+  private async leaveNow(show: boolean): Promise<void> {
     const kept = this.kept;
     if (!kept) return;
     await this.engine.openTemplate(kept.settings);
     this.kept = undefined;
     this.changed();
-    if (show) await this.show(kept.scene);
+    if (show) await this.showNow(kept.scene);
   }
 
   /** What is visited becomes a part of the visitor's settings, or all of them. */
-  async keepVisit(
+  keepVisit(
     text: string,
     merge: (mine: Uint8Array, visited: Uint8Array) => Uint8Array,
     scene: Scene,
   ): Promise<void> {
-    const kept = this.kept;
-    if (!kept) return;
-    const merged = merge(kept.settings, await this.engine.saveTemplate());
-    await this.leaveVisit(false);
-    this.scene = kept.scene;
-    const fault = await this.replace(text, () => this.engine.openTemplate(merged), scene);
-    if (fault !== "") tell(fault);
+    return this.inTurn(async () => {
+      const kept = this.kept;
+      if (!kept) return;
+      const merged = merge(kept.settings, await this.engine.saveTemplate());
+      await this.leaveNow(false);
+      this.scene = kept.scene;
+      const fault = await this.replaceNow(text, () => this.engine.openTemplate(merged), scene);
+      if (fault !== "") tell(fault);
+    });
   }
 }

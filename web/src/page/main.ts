@@ -64,6 +64,7 @@ async function start(): Promise<void> {
     const app = buildPage(engine);
     engine.attach(app.sky);
     await app.begin();
+    Object.assign(globalThis, { starfolds: app }); // for the browser's console, and for tests
     document.body.classList.add("ready");
   } catch (reason) {
     const text = reason instanceof Error ? reason.message : String(reason);

@@ -56,8 +56,7 @@ export class SavePanel {
     }
     try {
       const bytes = new Uint8Array(await file.arrayBuffer());
-      await this.app.openTemplate(bytes, file.name);
-      this.panels.close();
+      if (await this.app.openTemplate(bytes, file.name)) this.panels.close();
     } catch (reason) {
       tellFailure(`${file.name} was not opened`, reason);
     }

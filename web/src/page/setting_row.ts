@@ -11,7 +11,7 @@ export interface RowOptions {
   label: string;
   /** Of numbers. */
   range: Range | undefined;
-  /** Of lists. */
+  /** Of lists; the first stands for the low end of the field's range. */
   choices: string[];
   value: string;
   /** The value that the reset button gives. */
@@ -80,7 +80,8 @@ export class SettingRow {
   /** The value as the visitor reads it. */
   private textOf(value: string): string {
     if (this.options.field.kind === "flag") return value === "1" ? "on" : "off";
-    if (this.options.field.kind === "choice") return this.options.choices[Number(value)] ?? value;
+    const { field, choices } = this.options;
+    if (field.kind === "choice") return choices[Number(value) - (field.low ?? 0)] ?? value;
     return value === "" ? "nothing" : value;
   }
 
@@ -103,7 +104,8 @@ export class SettingRow {
   private makeList(into: HTMLElement): (value: string) => void {
     const list = make("select", { id: this.id });
     for (const [index, text] of this.options.choices.entries()) {
-      list.append(make("option", { value: String(index) }, text));
+      const value = String(index + (this.options.field.low ?? 0));
+      list.append(make("option", { value }, text));
     }
     list.addEventListener("change", () => this.change(list.value, true));
     into.append(list);

@@ -2,7 +2,6 @@
 import type { FieldRow, Scene, Scope } from "../engine/protocol";
 import type { App } from "./app";
 import { byId, make, takesKeys } from "./dom";
-import { labelsOf } from "./labels";
 import { tell } from "./message";
 import type { Panels } from "./panels";
 import { SettingRow } from "./setting_row";
@@ -21,6 +20,17 @@ const kOwnControls = new Set([
   "Starfold_Atoms",
   "CompFold_Count",
   "Starfold_FoldStyle",
+]);
+/** What concerns the windows of the desktop program, and its message on the screen. */
+const kDesktopOnly = new Set([
+  "LockMessage",
+  "Adv_FontName",
+  "Adv_FontSize",
+  "Adv_FontHueV",
+  "Adv_FontDrift",
+  "Adv_WinResize",
+  "Adv_MouseMove",
+  "Adv_DispBackG",
 ]);
 /** The weight that a body gets where it would have none. */
 const kUsualWeight = "10";
@@ -183,8 +193,17 @@ export class SettingsPanel {
           ...this.members(),
         ];
       case "advanced":
-        return this.groups(table.advanced);
+        return this.display(table.advanced);
     }
+  }
+
+  private display(fields: readonly FieldRow[]): HTMLElement[] {
+    const desktop = fields.filter(({ name }) => kDesktopOnly.has(name));
+    const note = make("p", { class: "hint" }, "Kept in templates and links, without effect here.");
+    return [
+      ...this.groups(fields.filter((field) => !desktop.includes(field))),
+      this.fold("Only in the desktop program", [note, ...this.makeRows(desktop, "")], false),
+    ];
   }
 
   private style(): number {
@@ -222,8 +241,10 @@ export class SettingsPanel {
   private makeRows(fields: readonly FieldRow[], inner: string): HTMLElement[] {
     const { captions } = this.app.engine.table;
     const style = this.style();
-    const labels = labelsOf(fields.map(({ name, label }) => captions[style]?.[name] ?? label));
-    return fields.map((field, at) => this.makeRow(field, inner, labels[at]!).element);
+    return fields.map((field) => {
+      const label = tidy(captions[style]?.[field.name] ?? field.label);
+      return this.makeRow(field, inner, label.replace(/^Starfold /, "")).element;
+    });
   }
 
   private makeRow(field: FieldRow, inner: string, label: string): SettingRow {

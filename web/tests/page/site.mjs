@@ -21,7 +21,7 @@ const kTypes = {
   ".webp": "image/webp",
 };
 /** Generous: the machine may do other things too. */
-export const kPatience = 60_000;
+export const kPatience = 30_000;
 
 /** The server: its address, the files that were asked for, and how to end it. */
 export async function serve() {

@@ -15,24 +15,6 @@ async function load(name) {
   return import(`data:text/javascript,${encodeURIComponent(outputFiles[0].text)}`);
 }
 
-test("each of the boxes that share a label has one of its own", async () => {
-  const { labelsOf } = await load("labels");
-  const hues = "Hue Start, End (0 - 999):";
-  const cases = [
-    [[hues, hues], "Hue Start|Hue End"],
-    [
-      ["Points (1 - 99), Scale % (0 - 100):", "Points (1 - 99), Scale % (0 - 100):"],
-      "Points|Scale %",
-    ],
-    [["Levels (1-10), H/W Ratio (0.0 - 99.9):"], "Levels, H/W Ratio"],
-    [
-      ["Starfold Height / Width Ratio (0.0 - 99.9):", hues, hues, "Text:"],
-      "Starfold Height / Width Ratio|Hue Start|Hue End|Text",
-    ],
-  ];
-  for (const [labels, expected] of cases) assert.equal(labelsOf(labels).join("|"), expected);
-});
-
 test("each value has a position of the slider, and each position a value of the range", async () => {
   const { kPositions, positionOf, valueAt } = await load("scale");
   const ranges = [

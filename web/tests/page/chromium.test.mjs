@@ -1,0 +1,3 @@
+import { visits } from "./visits.mjs";
+
+visits("chromium");
