@@ -61,9 +61,19 @@ export class Screen {
     }
   }
 
-  /** Puts the changed tiles on the canvas; neighbours in a row of tiles at once. */
+  /**
+   * Puts the changed tiles on the canvas; neighbours in a row of tiles at once. Where more than half
+   * have changed, all at once costs less, most of all in Firefox.
+   */
   show(): void {
     const { changed, columns, image, context } = this;
+    let count = 0;
+    for (const tile of changed) count += tile;
+    if (2 * count > changed.length) {
+      changed.fill(0);
+      context.putImageData(image, 0, 0);
+      return;
+    }
     for (let tile = 0; tile < changed.length; ++tile) {
       if (changed[tile] === 0) continue;
       const row = Math.floor(tile / columns);
