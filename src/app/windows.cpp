@@ -91,7 +91,7 @@ void AppWindows::RunFrmProps(QWindow* owner) {
   };
   FrmProps frmProps({process_, edited_, boxes_, disk, help_,
                      QCoreApplication::applicationDirPath().toStdString(), UserFolder(), seed_,
-                     owner, STARFOLDS_HOME_PAGE, showDiagnostics, showAbout,
+                     owner, STARFOLDS_HOME_PAGE, STARFOLDS_SHARE_PAGE, showDiagnostics, showAbout,
                      ChangesInWords(options_.Changes)});
   frmProps.ShowModal();
   process_.Tree = &ofRun_;  // a run that could not read the tree may be able to do so now

@@ -271,6 +271,10 @@ void FrmProps::MakeMenus() {
   addHelp(tr("&Search..."), "mnuSearch", [this] { around_.HelpBook.ShowSearch(); });
   addHelp(tr("&Diagnostics..."), "mnuDiagnostics", [this] { around_.ShowDiagnostics(*this); });
   help->addSeparator();
+  if (!around_.SharePage.empty()) {
+    addHelp(tr("Share as a &Link"), "mnuShareLink",
+            [this] { templates_.ShareAsLink(around_.SharePage); });
+  }
   addHelp(tr("Starfolds &Home Page"), "mnuHomePage", [this] { ShowHomePage(); });
   addHelp(tr("A&bout Starfolds..."), "mnuAbout", [this] { around_.ShowAbout(*this); });
 }

@@ -37,6 +37,7 @@ struct PropsSurroundings {
   std::function<std::uint64_t()> Seed;  // of each preview
   QWindow* Owner = nullptr;             // blocked while the dialog is open
   std::string HomePage = {};            // address of the project's page; empty if it has none
+  std::string SharePage = {};           // of the page that links show a universe in; or empty
   /// Show dialogs of other layers; they return when these are closed.
   std::function<void(QWidget& over)> ShowDiagnostics = nullptr;
   std::function<void(QWidget& over)> ShowAbout = nullptr;

@@ -1,15 +1,20 @@
 #include "template_dialogs/template_menu.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
+#include <memory>
 #include <utility>
 
 #include "settings/product.h"
+#include "settings/share_link.h"
+#include "settings/templates.h"
 #include "template_dialogs/frm_file_io.h"
 #include "template_dialogs/recent_templates.h"
+#include "template_dialogs/shared_link.h"
 #include "widgets/dialog_parts.h"
 
 namespace starfolds {
@@ -72,6 +77,33 @@ void TemplateMenu::ListRecent() {
     entry->setToolTip(Shown(path));
   }
   if (recent_->isEmpty()) recent_->addAction(tr("None yet"))->setEnabled(false);
+}
+
+/// The settings are saved to a template in memory, which has those that were typed.
+void TemplateMenu::ShareAsLink(const std::string& page) {
+  host_.Settle();
+  MemoryFiles files;
+  TemplateFile file(files);
+  file.TemplateFileName = "link.sfd";
+  PropertySettings settings{
+      host_.Settings.Tree,  host_.Settings.Profiles,      host_.Settings.Composites, file, files,
+      host_.Settings.Boxes, host_.Settings.ProgramFolder, host_.Settings.UserFolder};
+  SaveTemplate(settings, host_.Dialog, nullptr);
+  const auto records = std::make_unique<SettingsRecords>();
+  ReadTemplate(file, file.TemplateFileName, *records);
+  const QString fragment = LinkFragment(LinkText(*records, {}));
+  if (fragment.size() > kLongestLinkFragment) {
+    host_.Settings.Boxes.Show(
+        "The settings are too long for a link. Save them as a template instead.",
+        BoxStyle::Exclamation, std::string(kProductName));
+    return;
+  }
+  QGuiApplication::clipboard()->setText(Shown(page) + "#" + fragment);
+  host_.Settings.Boxes.Show(
+      "A link to this universe is in the clipboard now. Whoever opens it sees the universe in a "
+      "browser.\n\nThe link contains the settings, without your on-screen message. Nothing was "
+      "sent.",
+      BoxStyle::Information, std::string(kProductName));
 }
 
 void TemplateMenu::SetEnabled(bool enabled) {

@@ -45,6 +45,9 @@ class TemplateMenu : public QObject {
   /// Asks for a name, and saves the template under it.
   void SaveAs() { Choose(false); }
 
+  /// Copies a link to the settings of the dialog, for the page at this address, and says so.
+  void ShareAsLink(const std::string& page);
+
   /// While disabled, drops are refused as well.
   void SetEnabled(bool enabled);
 

@@ -37,7 +37,7 @@ class FrmPropsTest : public DialogTest {
   FrmProps& Open() {
     Dialog = std::make_unique<FrmProps>(
         PropsSurroundings{*Process, *Process->Tree, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u",
-                          [] { return 1U; }, nullptr, HomePage, [this](QWidget&) { ++Diagnostics; },
+                          [] { return 1U; }, nullptr, HomePage, SharePage, [this](QWidget&) { ++Diagnostics; },
                           [this](QWidget&) { ++Abouts; }, Overrides});
     Dialog->Open();
     Activate(*Dialog);
@@ -71,6 +71,7 @@ class FrmPropsTest : public DialogTest {
   Files* UsedFiles = &Disk;
   MemoryDesktop Desktop;
   std::string HomePage;
+  std::string SharePage;
   std::vector<std::string> Overrides;
   int Diagnostics = 0;
   int Abouts = 0;

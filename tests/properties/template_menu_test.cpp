@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -31,6 +32,7 @@ class TemplateMenuTest : public FrmPropsTest {
     file.TemplateFileName = Folder.Path("other.sfd");
     WriteTemplate(file, advanced, records.Universe, records.Profiles, records.Composites, {});
     RegistryWrite(Tree, sections::kTemplate, "Path_Dir", Folder.Path(""));
+    SharePage = "https://example.org/stars/";
     Open();
   }
 
@@ -175,6 +177,33 @@ TEST_F(TemplateMenuTest, AChosenFileIsShownAndTheLatestAreListed) {
   ASSERT_EQ(recent.actions().size(), 1);
   recent.actions().front()->trigger();
   EXPECT_EQ(Box("txtUni_0"), "1234");
+}
+
+/// The text that was raw deflated, by Qt, which wants the header and the checksum of zlib.
+std::string Inflated(const QByteArray& packed, const std::string& expected) {
+  std::uint32_t low = 1, high = 0;
+  for (const char c : expected) {
+    low = (low + static_cast<unsigned char>(c)) % 65521;
+    high = (high + low) % 65521;
+  }
+  QByteArray stream = QByteArray::fromHex("00000000789c") + packed;
+  for (const std::uint32_t half : {high, low}) {
+    stream.append(static_cast<char>(half >> 8U)).append(static_cast<char>(half & 255U));
+  }
+  return qUncompress(stream).toStdString();
+}
+
+TEST_F(TemplateMenuTest, SharesTheTypedSettingsAsALink) {
+  The<QLineEdit>("txtUni_1").setText("77");
+  Entry("mnuShareLink").trigger();
+  const QStringList parts = QGuiApplication::clipboard()->text().split('#');
+  ASSERT_EQ(parts.size(), 2);
+  EXPECT_EQ(parts[0], "https://example.org/stars/");
+  const std::string text = "[Link]\r\nSet=0\r\n\r\n[Universe]\r\nUniverse_Starfold=77\r\n";
+  EXPECT_EQ(
+      Inflated(QByteArray::fromBase64(parts[1].toLatin1(), QByteArray::Base64UrlEncoding), text),
+      text);
+  EXPECT_EQ(Boxes.Log.size(), 1U);
 }
 
 }  // namespace
