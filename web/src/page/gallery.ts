@@ -30,7 +30,7 @@ const kFolder = "gallery/";
 
 export class Gallery {
   private groups: Group[] = [];
-  private tiles: { entry: Entry; tile: HTMLElement; words: string }[] = [];
+  private tiles: { entry: Entry; tile: HTMLElement; words: string[] }[] = [];
   private shown: Entry | undefined;
 
   constructor(
@@ -107,16 +107,16 @@ export class Gallery {
     );
     button.addEventListener("click", () => void this.visit(entry));
     const tile = make("li", {}, button);
-    this.tiles.push({ entry, tile, words: `${entry.name} ${line}`.toLowerCase() });
+    this.tiles.push({ entry, tile, words: wordsOf(`${entry.name} ${line}`) });
     return tile;
   }
 
-  /** Leaves only the tiles that have all words of the search. */
+  /** Leaves only the tiles that have all words of the search, or words that begin so. */
   private search(): void {
-    const words = byId<HTMLInputElement>("gallery-search").value.toLowerCase().split(/\s+/);
+    const wanted = wordsOf(byId<HTMLInputElement>("gallery-search").value);
     let found = 0;
-    for (const { tile, words: text } of this.tiles) {
-      tile.hidden = !words.every((word) => text.includes(word));
+    for (const { tile, words } of this.tiles) {
+      tile.hidden = !wanted.every((begin) => words.some((word) => word.startsWith(begin)));
       if (!tile.hidden) ++found;
     }
     for (const section of byId("gallery-items").children) {
@@ -216,4 +216,8 @@ function recordsOf(show: Show): string[] | undefined {
   if (show.kind === "profile") return [`UniFold${show.index}`];
   if (show.kind !== "composite") return undefined;
   return [`CompFold${show.index}`, ...show.members.map((member) => `UniFold${member}`)];
+}
+
+function wordsOf(text: string): string[] {
+  return text.toLowerCase().match(/[\p{L}\p{N}.]+/gu) ?? [];
 }

@@ -14,6 +14,8 @@ const kTabs: readonly Tab[] = ["universe", "profile", "composite", "advanced"];
 /** The styles whose bodies are points that the visitor sets. */
 const kUserIfs = 8;
 const kMolecule = 9;
+/** The colour rule of bodies whose stars are not plotted. */
+const kInvisible = "4";
 /** Settings of the table that have controls of their own, or none. */
 const kOwnControls = new Set([
   "Starfold_IFS_Points",
@@ -213,11 +215,11 @@ export class SettingsPanel {
   /** The rows of a table that the style shows, by their pages. */
   private groups(fields: readonly FieldRow[]): HTMLElement[] {
     const style = this.style();
-    const pages = new Map<string, FieldRow[]>();
+    // In the order of the table, whichever rows the style shows.
+    const pages = new Map(fields.map(({ page }): [string, FieldRow[]] => [page, []]));
     for (const field of fields) {
       const isShown = !field.styles || field.styles.includes(style);
-      if (kOwnControls.has(field.name) || !isShown) continue;
-      pages.set(field.page, [...(pages.get(field.page) ?? []), field]);
+      if (isShown && !kOwnControls.has(field.name)) pages.get(field.page)?.push(field);
     }
     return [...pages].map(([page, rows]) => {
       const elements = this.makeRows(rows, "");
@@ -524,7 +526,11 @@ export class SettingsPanel {
     const all = await Promise.all(
       this.names.profiles.map((_, at) => engine.values(`profile:${at}`)),
     );
-    const styled = all.filter((values) => Number(values["Starfold_FoldStyle"]) < kUserIfs);
+    const styled = all.filter(
+      (values) =>
+        Number(values["Starfold_FoldStyle"]) < kUserIfs &&
+        values["Starfold_ColorComp"] !== kInvisible,
+    );
     const style = styled[Math.floor(Math.random() * styled.length)]?.["Starfold_FoldStyle"];
     const donors = styled.filter((values) => values["Starfold_FoldStyle"] === style);
     return donors.length > 0 ? donors : [this.values];

@@ -7,8 +7,12 @@ type Random = () => number;
 
 /** Varied by at most this factor, up or down. */
 const kVariation = 1.6;
-/** Settings whose value says what a body is, not how it looks; and those that fit each other. */
-const kKept = /^_|Points$|Atoms$|StdLev|FoldStyle|ColorComp|Distance|Radius$|_CP_Points/;
+/**
+ * Settings whose value says what a body is, not how it looks; those that fit each other; and those
+ * whose useful values are close to one end of their range.
+ */
+const kKept =
+  /StdLev|FoldStyle|ColorComp|Distance|Radius$|CP_Points|Pers|Damping|AmCAge|Profile$|Tilt/;
 const kHue = /Hue(Start|Base)$|HW_(Start|End)$|HWC_(Start|End)$/;
 
 function pick<T>(from: readonly T[], random: Random): T {

@@ -1,7 +1,7 @@
 // Links are the same universe in every browser.
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
-import { browsers, look, serve, visit } from "./site.mjs";
+import { browsers, look, serve, until, visit } from "./site.mjs";
 
 const engine = (page, method, ...values) =>
   page.evaluate(([name, given]) => globalThis.starfolds.engine[name](...given), [method, values]);
@@ -24,7 +24,7 @@ describe("links from browser to browser", () => {
         await engine(sent.page, "set", "Universe_Stars", "3000");
         await sent.page.keyboard.press("l");
         await sent.page.getByLabel("In the size of this window").check();
-        await sent.page.waitForFunction(() => document.getElementById("share-link").value !== "");
+        await until(sent.page, () => document.getElementById("share-link").value !== "");
         const link = await sent.page.locator("#share-link").inputValue();
         assert.ok(link.startsWith(`${site.address}#`) && link.length < 400, link);
 

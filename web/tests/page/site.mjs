@@ -97,13 +97,27 @@ function keepDownloads() {
   };
 }
 
-/** The bytes of the last file that the page has offered as a download. */
-export async function lastDownload(page) {
-  const bytes = await page.waitForFunction(async () => {
-    const blob = globalThis.downloads.at(-1);
+/**
+ * Waits until the function is true on the page. It may be asynchronous: waitForFunction takes every
+ * promise for true.
+ */
+export async function until(page, isTrue, argument) {
+  const end = Date.now() + kPatience;
+  for (;;) {
+    const result = await page.evaluate(isTrue, argument);
+    if (result) return result;
+    if (Date.now() > end) return assert.fail(`never true: ${isTrue}`);
+    await page.waitForTimeout(50);
+  }
+}
+
+/** The bytes of the next file that the page offers as a download. */
+export async function nextDownload(page) {
+  const bytes = await until(page, async () => {
+    const blob = globalThis.downloads.shift();
     return blob && [...new Uint8Array(await blob.arrayBuffer())];
   });
-  return Buffer.from(await bytes.jsonValue());
+  return Buffer.from(bytes);
 }
 
 /** What is on the canvas: its size, the number of pixels that are not black, and all pixels' hash. */
@@ -144,10 +158,10 @@ export async function firstStars(page) {
 
 /** Waits until the engine has shown more frames than it had. */
 export async function moves(page) {
-  await page.evaluate(async () => {
-    globalThis.framesBefore = (await globalThis.starfolds.engine.stats()).frames;
-  });
-  await page.waitForFunction(
-    async () => (await globalThis.starfolds.engine.stats()).frames > globalThis.framesBefore,
+  const { frames } = await page.evaluate(() => globalThis.starfolds.engine.stats());
+  await until(
+    page,
+    async (before) => (await globalThis.starfolds.engine.stats()).frames > before,
+    frames,
   );
 }
