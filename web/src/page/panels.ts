@@ -54,8 +54,9 @@ export class Panels {
     this.hide();
     // Without a button that had it, the focus returns to the page, so that Space pauses.
     const before = this.focusBefore;
-    if (before && before !== document.body && before.isConnected) before.focus();
-    else (document.activeElement as HTMLElement | null)?.blur();
+    before?.focus();
+    // What is hidden takes no focus, and would leave it in the closed panel.
+    if (document.activeElement !== before) (document.activeElement as HTMLElement | null)?.blur();
     this.focusBefore = undefined;
   }
 

@@ -168,8 +168,10 @@ export class SettingsPanel {
     page.setAttribute("aria-labelledby", `tab-${this.tab}`);
     const scrolled = page.dataset["scope"] === scope ? page.scrollTop : 0;
     page.dataset["scope"] = scope;
+    const refocus = focusIn(page);
     page.replaceChildren(...this.content());
     page.scrollTop = scrolled;
+    refocus();
     byId("surprise").hidden = this.tab === "advanced";
   }
 
@@ -577,4 +579,16 @@ export class SettingsPanel {
 /** Names of the engine align what follows a colon with two blanks. */
 function tidy(name: string): string {
   return name.replace(/\s+/g, " ");
+}
+
+/** Returns a function that gives the focus to the control that takes the place of the present one. */
+function focusIn(page: HTMLElement): () => void {
+  const focused = document.activeElement;
+  if (!(focused instanceof HTMLElement) || !page.contains(focused)) return () => undefined;
+  const row = focused.closest<HTMLElement>("[data-name]")?.dataset["name"];
+  const type = focused.getAttribute("type");
+  const control = `${focused.localName}${type === null ? "" : `[type="${type}"]`}`;
+  const selector = row === undefined ? `#${focused.id}` : `[data-name="${row}"] ${control}`;
+  if (row === undefined && focused.id === "") return () => undefined;
+  return () => page.querySelector<HTMLElement>(selector)?.focus({ preventScroll: true });
 }

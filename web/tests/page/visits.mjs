@@ -293,10 +293,12 @@ export function visits(name) {
       );
       assert.ok(Number(await stars.inputValue()) > 5000);
       await page.keyboard.press("Control+z");
+      await page.locator("#undo:disabled").waitFor();
       await until(
         page,
         async () => (await globalThis.starfolds.engine.get("Universe_Stars")) === "5000",
       );
+      await focused('[data-name="Universe_Stars"] input[type=range]');
       await page.keyboard.press("Escape");
       await page.locator("#settings").waitFor({ state: "hidden" });
       for (const [key, panel] of [
