@@ -55,9 +55,10 @@ export class App {
   async begin(): Promise<void> {
     const fragment = location.hash.slice(1);
     await this.fit();
-    if (fragment !== "" && (await this.openLink(fragment))) return;
+    // The visitor's own settings come first, so that undo leads from a link's back to them.
     const mine = remembered("mine");
     if (mine !== null && (await this.engine.openLink(mine)).fault !== "") remember("mine", null);
+    if (fragment !== "" && (await this.openLink(fragment))) return;
     await this.show({ kind: "universe" });
   }
 
@@ -169,6 +170,19 @@ export class App {
     const beforeScene = this.scene;
     const fault = await change();
     if (fault !== "") return fault;
+    await this.addStep(text, before, beforeScene, scene);
+    this.touched();
+    await this.showNow(scene);
+    return "";
+  }
+
+  /** A step from settings and scene before to the present settings and `scene`. */
+  private async addStep(
+    text: string,
+    before: Uint8Array,
+    beforeScene: Scene,
+    scene: Scene,
+  ): Promise<void> {
     const after = await this.engine.saveTemplate();
     const go = (settings: Uint8Array, to: Scene): Promise<void> =>
       this.inTurn(async () => {
@@ -177,14 +191,7 @@ export class App {
         await this.showNow(to);
       });
     this.history.seal();
-    this.history.add({
-      text,
-      undo: () => go(before, beforeScene),
-      redo: () => go(after, scene),
-    });
-    this.touched();
-    await this.showNow(scene);
-    return "";
+    this.history.add({ text, undo: () => go(before, beforeScene), redo: () => go(after, scene) });
   }
 
   /** Opens a template as the visitor's settings; false, with a message, if it is refused. */
@@ -204,6 +211,8 @@ export class App {
   }
   private async openLinkNow(fragment: string): Promise<boolean> {
     await this.leaveNow(false);
+    const before = await this.engine.saveTemplate();
+    const beforeScene = this.scene;
     let contents: LinkContents;
     try {
       contents = await this.engine.openLink(fragment);
@@ -215,6 +224,7 @@ export class App {
       tell(`This link cannot be opened: ${contents.fault}`);
       return false;
     }
+    await this.addStep("opening a link", before, beforeScene, contents.scene);
     this.size = contents.size;
     await this.fit();
     await this.run(contents.scene, contents.seed);

@@ -1,5 +1,6 @@
-// Sliders: positions 0 to kPositions for the range of a number. Wide ranges, most of whose useful
-// values are near the low end (0 to 99999, usually 2500), get finer steps there.
+// Sliders: positions 0 to kPositions for the range of a number. Many ranges are far wider than their
+// useful part (0 to 30000, usually 300): so the usual value is put near a third of the slider, and
+// values below it have finer steps.
 
 export const kPositions = 1000;
 
@@ -8,12 +9,20 @@ export interface Range {
   high: number;
   /** Only whole numbers. */
   whole: boolean;
+  /** The value that most would start from. */
+  usual: number;
 }
 
+const kPlaceOfUsual = 0.3;
+const kSteepest = 4;
+
+/** The power of the position that gives a value; 1 where sliders are even. */
 function exponent(range: Range): number {
-  const width = range.high - range.low;
-  if (width > 20000) return 3;
-  return width > 1500 ? 2 : 1;
+  const share = (range.usual - range.low) / (range.high - range.low);
+  if (share > 0) {
+    return Math.min(kSteepest, Math.max(1, Math.log(share) / Math.log(kPlaceOfUsual)));
+  }
+  return range.high - range.low > 1000 ? 2 : 1;
 }
 
 /** The position of a value; a value out of range is at the nearer end. */

@@ -262,7 +262,7 @@ export class SettingsPanel {
       label,
       range:
         isNumber && low !== undefined && high !== undefined
-          ? { low, high, whole: field.kind !== "single" }
+          ? { low, high, whole: field.kind !== "single", usual: Number(field.default) }
           : undefined,
       choices: [...(field.profileChoices ? this.names.profiles : []), ...(field.choices ?? [])],
       value: this.values[key] ?? field.default,

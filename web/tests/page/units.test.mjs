@@ -18,14 +18,14 @@ async function load(name) {
 test("each value has a position of the slider, and each position a value of the range", async () => {
   const { kPositions, positionOf, valueAt } = await load("scale");
   const ranges = [
-    [1, 99],
-    [10, 30000],
-    [0, 999999],
-    [0.01, 10],
-    [0.1, 0.9999],
+    [1, 99, 1],
+    [10, 30000, 5000],
+    [0, 999999, 0],
+    [0, 360, 0.005],
+    [0.1, 0.9999, 0.95],
   ];
-  for (const [low, high] of ranges) {
-    const range = { low, high, whole: Number.isInteger(low) };
+  for (const [low, high, usual] of ranges) {
+    const range = { low, high, usual, whole: Number.isInteger(low + usual) };
     assert.equal(positionOf(low - 1, range), 0);
     assert.equal(positionOf(high + 1, range), kPositions);
     assert.equal(valueAt(0, range), low);

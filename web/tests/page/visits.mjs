@@ -161,6 +161,7 @@ export function visits(name) {
     visitor(
       "a changed setting is seen, undone, reset, and kept for the next visit",
       async (page) => {
+        const factory = await engine(page, "link", {});
         const before = await stillOfBody(page, 0);
         await page.keyboard.press("s");
         const radius = numberOf(page, "Starfold0/Starfold_Radius");
@@ -189,6 +190,19 @@ export function visits(name) {
         await firstStars(page);
         await until(page, () => "starfolds" in globalThis);
         assert.equal(await engine(page, "get", "Adv_TimeDelay"), "25");
+
+        // Somebody's link is shown instead; undo leads back.
+        const delayIs = (value) =>
+          until(
+            page,
+            async (wanted) => (await globalThis.starfolds.engine.get("Adv_TimeDelay")) === wanted,
+            value,
+          );
+        await page.evaluate((fragment) => (location.hash = fragment), factory);
+        await delayIs("40");
+        await page.keyboard.press("s");
+        await page.locator("#undo").click();
+        await delayIs("25");
       },
     );
 
