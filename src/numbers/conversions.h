@@ -17,7 +17,11 @@ namespace starfolds {
 /// and between constants and variables.
 inline std::int64_t RoundHalfEven(double value) {
   if (!(std::abs(value) < 0x1p63)) return std::numeric_limits<std::int64_t>::min();
+#ifdef __wasm__
+  return static_cast<std::int64_t>(std::rint(value));  // two instructions; llrint is a call
+#else
   return std::llrint(value);
+#endif
 }
 
 /// Largest whole number not above `value`; the lowest 64-bit number for NaN and values that do not

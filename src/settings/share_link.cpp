@@ -161,10 +161,16 @@ std::string TemplateOf(SettingsRecords& records) {
   return files.Contents[file.TemplateFileName];
 }
 
-std::string FactoryTemplate(FactorySet set) {
+std::string MakeFactoryTemplate(FactorySet set) {
   const auto records = std::make_unique<SettingsRecords>();
   LoadFactorySettings(*records, set, 1);
   return TemplateOf(*records);
+}
+
+const std::string& FactoryTemplate(FactorySet set) {
+  static const std::string templates[] = {MakeFactoryTemplate(kSets[0]),
+                                          MakeFactoryTemplate(kSets[1])};
+  return templates[static_cast<int>(set)];
 }
 
 std::optional<std::string> ReadTemplateText(std::string text, SettingsRecords& records) {
@@ -247,10 +253,9 @@ std::string LinkText(SettingsRecords& records, const LinkedScene& scene) {
   const Sections sections = SectionsOf(text);
   std::string shortest;
   for (const FactorySet set : kSets) {
-    const std::string factory = FactoryTemplate(set);
     std::string link;
     AppendScene(link, set, scene);
-    link += TextOf(Differences(sections, SectionsOf(factory)));
+    link += TextOf(Differences(sections, SectionsOf(FactoryTemplate(set))));
     if (shortest.empty() || link.size() < shortest.size()) shortest = std::move(link);
   }
   return shortest;
@@ -263,8 +268,9 @@ std::optional<std::string> ReadLinkText(std::string_view text, SettingsRecords& 
   const auto set = NumberFrom(link.Find(kLinkSection, kSetKey).value_or(std::string()), 0, 1);
   LinkedScene read;
   if (!set || !ReadScene(link, read)) return std::string(kNotALink);
-  const std::string factory = FactoryTemplate(kSets[*set]);
-  if (auto fault = ReadTemplateText(Overlaid(text, SectionsOf(factory)), records)) return fault;
+  if (auto fault =
+          ReadTemplateText(Overlaid(text, SectionsOf(FactoryTemplate(kSets[*set]))), records))
+    return fault;
   scene = read;
   return std::nullopt;
 }

@@ -32,11 +32,17 @@ async function web(): Promise<number> {
 const wasm = readFileSync("build/web/engine.wasm");
 console.log(`engine.wasm ${wasm.length} bytes, gzip ${gzipSync(wasm, { level: 9 }).length}, ` +
   `brotli ${brotliCompressSync(wasm).length}`);
-for (let round = 0; round < 5; ++round) {
-  const cost = ((native(frames) - native(1)) / frames) * 1000;
-  const own = ((await web()) / frames) * 1000;
-  console.log(
-    `ms a frame: native ${cost.toFixed(3)}, WebAssembly ${own.toFixed(3)}, ` +
-      `ratio ${(own / cost).toFixed(2)}`,
-  );
+// The lowest of several rounds: other programs only add to the time of one.
+const lowest = { start: Infinity, native: Infinity, web: Infinity };
+for (let round = 0; round < 7; ++round) {
+  lowest.start = Math.min(lowest.start, native(1));
+  lowest.native = Math.min(lowest.native, native(frames));
+  lowest.web = Math.min(lowest.web, await web());
 }
+const [nativeCost, webCost] = [lowest.native - lowest.start, lowest.web].map(
+  (seconds) => (seconds / frames) * 1000,
+) as [number, number];
+console.log(
+  `ms a frame: native ${nativeCost.toFixed(3)}, WebAssembly ${webCost.toFixed(3)}, ` +
+    `ratio ${(webCost / nativeCost).toFixed(2)}`,
+);
