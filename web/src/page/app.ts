@@ -5,11 +5,10 @@ import { History } from "./history";
 import { tell, tellFailure } from "./message";
 import { remember, remembered } from "./preferences";
 
-/** Frames after which a paused universe or body makes a good picture. */
-const kStillOfUniverse = 620;
+/** The frame after which a body makes a good picture. */
 const kStillOfBody = 240;
-/** A still is made anew after a change; more frames than this would take too long. */
-const kLongestStill = 3000;
+/** More frames than this are not run through at once: it would take too long. */
+const kLongestStill = 2000;
 
 type Listener = () => void;
 
@@ -66,31 +65,39 @@ export class App {
   show(scene: Scene, seed?: number): Promise<void> {
     return this.inTurn(() => this.showNow(scene, seed));
   }
-  private async showNow(scene: Scene, seed?: number): Promise<void> {
+  private async showNow(scene: Scene, seed?: number, isHurried = false): Promise<void> {
     if (this.size) {
       this.size = undefined;
       await this.fit();
     }
-    await this.run(scene, seed);
+    await this.run(scene, seed, isHurried);
   }
 
-  private async run(scene: Scene, seed?: number): Promise<void> {
+  private async run(scene: Scene, seed?: number, isHurried = false): Promise<void> {
     this.scene = scene;
     await this.engine.start(scene, seed);
-    await this.settle();
+    await this.settle(isHurried);
     this.changed();
   }
 
-  /** A paused run that begins anew is taken to a frame with something to see. */
-  private async settle(
-    frame = this.scene.kind === "universe" ? kStillOfUniverse : kStillOfBody,
-  ): Promise<void> {
-    if (!this.paused) {
-      this.engine.pause(false);
-      return;
+  /**
+   * Takes a run that begins anew to a frame with something to see, if it is paused or in a hurry; to
+   * `frame`, if that is given.
+   */
+  private async settle(isHurried = false, frame?: number): Promise<void> {
+    if (this.paused || isHurried) {
+      await this.engine.runUntil(Math.min(frame ?? (await this.stillFrame()), kLongestStill));
     }
-    await this.engine.runUntil(Math.min(frame, kLongestStill));
-    this.engine.pause(true);
+    this.engine.pause(this.paused);
+  }
+
+  /** When a universe's camera has arrived at the first starfold, or a body looks as it does. */
+  private async stillFrame(): Promise<number> {
+    if (this.scene.kind !== "universe") return kStillOfBody;
+    const names = ["Universe_ESteps", "Universe_GSteps", "Universe_GPCtrl"];
+    const values = await Promise.all(names.map((name) => this.engine.get(name)));
+    const [blast, steps, points] = values.map(Number) as [number, number, number];
+    return blast + steps * points;
   }
 
   pause(on: boolean): void {
@@ -135,7 +142,7 @@ export class App {
     return this.inTurn(async () => {
       const frame = this.paused ? (await this.engine.hash()).frame : 0;
       const fault = await this.engine.set(name, value);
-      if (this.paused) await this.settle(Math.max(1, frame));
+      if (this.paused) await this.settle(false, Math.max(1, frame));
       this.touched();
       return fault;
     });
@@ -237,12 +244,15 @@ export class App {
     return this.kept !== undefined;
   }
 
-  /** Shows other settings for a while. `prepare` sets them, given the visitor's own. */
+  /**
+   * Shows other settings for a while, of a universe from its first starfold on: what the gallery's
+   * picture promises. `prepare` sets them, given the visitor's own.
+   */
   visit(prepare: (mine: Uint8Array) => Promise<void>, scene: Scene): Promise<void> {
     return this.inTurn(async () => {
       this.kept ??= { settings: await this.engine.saveTemplate(), scene: this.scene };
       await prepare(this.kept.settings);
-      await this.showNow(scene);
+      await this.showNow(scene, undefined, scene.kind === "universe");
     });
   }
 
