@@ -113,11 +113,17 @@ export async function until(page, isTrue, argument) {
 
 /** The bytes of the next file that the page offers as a download. */
 export async function nextDownload(page) {
-  const bytes = await until(page, async () => {
+  const address = await until(page, async () => {
     const blob = globalThis.downloads.shift();
-    return blob && [...new Uint8Array(await blob.arrayBuffer())];
+    if (!blob) return undefined;
+    const reader = new FileReader();
+    await new Promise((done) => {
+      reader.onload = done;
+      reader.readAsDataURL(blob);
+    });
+    return reader.result;
   });
-  return Buffer.from(bytes);
+  return Buffer.from(address.slice(address.indexOf(",") + 1), "base64");
 }
 
 /** What is on the canvas: its size, the number of pixels that are not black, and all pixels' hash. */
