@@ -5,7 +5,9 @@ import { deflateRawSync } from "node:zlib";
 import { LinkFault, longestFragment, longestText, packLink, unpackLink } from "../../src/engine/link";
 import type { EngineModule } from "../../src/engine/module";
 import type { LinkContents } from "../../src/engine/protocol";
-import { loadEngine, noPage } from "./native";
+import { loadEngine, noPage, provideRawDeflate } from "./native";
+
+provideRawDeflate();
 
 const encode = (text: string) => new TextEncoder().encode(text);
 const packed = (bytes: Uint8Array) => deflateRawSync(bytes).toString("base64url");
