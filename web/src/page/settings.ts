@@ -253,6 +253,7 @@ export class SettingsPanel {
 
   private makeRow(field: FieldRow, inner: string, label: string): SettingRow {
     const key = inner + field.name;
+    const usual = this.usual[key] ?? field.default;
     const ends = field.ranges?.[this.style()] ?? [field.low, field.high];
     const isNumber = ["integer", "long", "single"].includes(field.kind);
     const [low, high] = ends;
@@ -262,11 +263,11 @@ export class SettingsPanel {
       label,
       range:
         isNumber && low !== undefined && high !== undefined
-          ? { low, high, whole: field.kind !== "single", usual: Number(field.default) }
+          ? { low, high, whole: field.kind !== "single", usual: Number(usual) }
           : undefined,
       choices: [...(field.profileChoices ? this.names.profiles : []), ...(field.choices ?? [])],
       value: this.values[key] ?? field.default,
-      usual: this.usual[key] ?? field.default,
+      usual,
       onchange: (changed, value, done) => this.changed(key, changed, value, done),
     });
     this.rows.set(key, row);
