@@ -75,6 +75,11 @@ export class Bar {
   }
 
   private key(event: KeyboardEvent): void {
+    if (event.key === "Escape" && !event.defaultPrevented && !this.panels.isOpen) {
+      if (document.activeElement instanceof HTMLElement) document.activeElement.blur();
+      document.body.classList.remove("awake");
+      return;
+    }
     this.wake();
     if (event.ctrlKey || event.altKey || event.metaKey || takesKeys(event.target)) return;
     if (remembered("single-keys") === "off") return;

@@ -73,11 +73,22 @@ async function start(): Promise<void> {
   await keepOffline();
 }
 
+/** Milliseconds of watching before the gallery is loaded for times without a network. */
+const kRestBeforeGallery = 5000;
+
+/** Whether the visitor has asked the browser for little traffic. */
+function savesData(): boolean {
+  const { connection } = navigator as { connection?: { saveData?: boolean } };
+  return connection?.saveData === true;
+}
+
 /** After the first stars, so that the files of the first visit are loaded once. */
 async function keepOffline(): Promise<void> {
   if (!("serviceWorker" in navigator)) return;
   try {
     await navigator.serviceWorker.register("offline.js");
+    const { active } = await navigator.serviceWorker.ready;
+    if (!savesData()) setTimeout(() => active?.postMessage("keep all"), kRestBeforeGallery);
   } catch (reason) {
     // Without it (private windows, a page that is not secure) everything but this works.
     if (location.protocol === "https:") tellFailure("The page does not work offline", reason);

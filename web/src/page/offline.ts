@@ -1,5 +1,6 @@
 // The service worker: keeps all files of one version of the page, so that it opens without a
-// network. Pictures and templates of the gallery are kept when they are first used.
+// network. The pictures and templates of the gallery are kept when they are used, or when the page
+// says that there is time for all of them.
 export {};
 
 declare const VERSION: string;
@@ -16,7 +17,10 @@ interface RequestEvent extends WaitingEvent {
 interface WorkerScope {
   readonly clients: { claim(): Promise<void> };
   readonly registration: { readonly scope: string };
-  addEventListener(type: "install" | "activate", listener: (event: WaitingEvent) => void): void;
+  addEventListener(
+    type: "install" | "activate" | "message",
+    listener: (event: WaitingEvent) => void,
+  ): void;
   addEventListener(type: "fetch", listener: (event: RequestEvent) => void): void;
 }
 const scope = self as unknown as WorkerScope;
@@ -56,6 +60,15 @@ async function answer(request: Request): Promise<Response> {
   return isLater(request) ? answerLater(request) : fetch(request);
 }
 
+/** One after the other, so that they do not slow down what the page itself loads. */
+async function keepAll(): Promise<void> {
+  const cache = await caches.open(later);
+  const kept = new Set((await cache.keys()).map(({ url }) => url));
+  for (const url of laterFiles) {
+    if (!kept.has(url)) await cache.add(url);
+  }
+}
+
 async function answerLater(request: Request): Promise<Response> {
   const cache = await caches.open(later);
   const kept = await cache.match(request);
@@ -67,6 +80,7 @@ async function answerLater(request: Request): Promise<Response> {
 
 scope.addEventListener("install", (event) => event.waitUntil(install()));
 scope.addEventListener("activate", (event) => event.waitUntil(activate()));
+scope.addEventListener("message", (event) => event.waitUntil(keepAll()));
 scope.addEventListener("fetch", (event) => {
   const url = new URL(event.request.url);
   if (event.request.method !== "GET" || !url.href.startsWith(scope.registration.scope)) return;

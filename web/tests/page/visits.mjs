@@ -400,17 +400,25 @@ export function visits(name) {
       const own = await serve();
       const { page, context } = await visit(browser, own.address);
       try {
-        await page.evaluate(async () => {
-          await navigator.serviceWorker.ready;
-          if (navigator.serviceWorker.controller) return;
-          await new Promise((done) =>
-            navigator.serviceWorker.addEventListener("controllerchange", done, { once: true }),
-          );
-        });
+        const { groups } = await (await fetch(`${own.address}gallery/index.json`)).json();
+        const templates = groups[0].items.length;
+        const files = groups.flatMap(({ items }) => items).length + templates;
+        await until(
+          page,
+          async (wanted) => {
+            const later = (await caches.keys()).find((key) => key.endsWith(" later"));
+            const kept = later ? await (await caches.open(later)).keys() : [];
+            return navigator.serviceWorker.controller !== null && kept.length === wanted;
+          },
+          files,
+        );
         await own.end();
         await page.reload();
         await firstStars(page);
         await moves(page);
+        await page.keyboard.press("g");
+        await page.getByRole("button", { name: "One lotus" }).click();
+        await page.locator("#visit-name").filter({ hasText: "One lotus" }).waitFor();
       } finally {
         await context.close();
       }
