@@ -203,7 +203,11 @@ export class SettingsPanel {
 
   private display(fields: readonly FieldRow[]): HTMLElement[] {
     const desktop = fields.filter(({ name }) => kDesktopOnly.has(name));
-    const note = make("p", { class: "hint" }, "Kept in templates, not in links; without effect here.");
+    const note = make(
+      "p",
+      { class: "hint" },
+      "Kept in templates, not in links; without effect here.",
+    );
     return [
       ...this.groups(fields.filter((field) => !desktop.includes(field))),
       this.fold("Only in the desktop program", [note, ...this.makeRows(desktop, "")], false),
