@@ -106,8 +106,12 @@ export class App {
     this.changed();
   }
 
+  /** The next universe; from a body of the visitor's own, their universe. */
   next(): Promise<void> {
     return this.inTurn(async () => {
+      if (this.scene.kind !== "universe" && !this.visiting) {
+        return this.showNow({ kind: "universe" });
+      }
       if (this.size) return this.showNow(this.scene);
       this.engine.nextUniverse();
       await this.settle();

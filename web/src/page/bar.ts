@@ -136,8 +136,9 @@ export class Bar {
     pause.querySelector("span")!.textContent = text;
     pause.title = `${text} (Space)`;
     const isUniverse = this.app.scene.kind === "universe";
-    byId("bar-next").querySelector("span")!.textContent = isUniverse ? "Next universe" : "Again";
-    byId("bar-next").title = isUniverse ? "Next universe (N)" : "Again, with other stars (N)";
+    const next = isUniverse ? "Next universe" : this.app.visiting ? "Again" : "My universe";
+    byId("bar-next").querySelector("span")!.textContent = next;
+    byId("bar-next").title = `${next} (N)`;
     const full = byId("bar-full");
     const isFull = document.fullscreenElement !== null;
     setIcon(full, isFull ? "window" : "full");

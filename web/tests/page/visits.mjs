@@ -156,6 +156,8 @@ export function visits(name) {
       const names = await engine(page, "names");
       const kept = names.profiles.filter((profile, at) => profile !== other.profiles[at]);
       assert.ok(kept.length > 30, "the other bodies stay as they were");
+      await page.locator("#bar-next", { hasText: "My universe" }).click();
+      await page.locator("#bar-next", { hasText: "Next universe" }).waitFor();
     });
 
     visitor(
