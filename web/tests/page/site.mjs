@@ -126,10 +126,16 @@ export async function nextDownload(page) {
   return Buffer.from(address.slice(address.indexOf(",") + 1), "base64");
 }
 
-/** What is on the canvas: its size, the number of pixels that are not black, and all pixels' hash. */
-export async function look(page) {
-  return page.evaluate(async () => {
-    const sky = document.getElementById("sky");
+/**
+ * What is on the canvas, or in the worker ("picture"), where it is never late: its size, the number
+ * of pixels that are not black, and the hash of all pixels.
+ */
+export async function look(page, source = "canvas") {
+  return page.evaluate(async (from) => {
+    const sky =
+      from === "canvas"
+        ? document.getElementById("sky")
+        : await createImageBitmap(await globalThis.starfolds.engine.picture());
     const { width, height } = await createImageBitmap(sky);
     const copy = new OffscreenCanvas(width, height);
     const context = copy.getContext("2d");
@@ -142,7 +148,7 @@ export async function look(page) {
       hash = (Math.imul(hash, 31) + word) | 0;
     }
     return { width, height, lit, hash };
-  });
+  }, source);
 }
 
 /** Waits until what `look` sees satisfies `isMeant`, and returns it. */

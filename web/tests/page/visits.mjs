@@ -40,7 +40,10 @@ async function stillOfBody(page, index) {
     },
     [index, kSeed],
   );
-  return seen(page, ({ lit }) => lit > 100, "a body");
+  // The canvas on the page may show a former frame for a moment.
+  const still = await look(page, "picture");
+  assert.ok(still.lit > 100, "a body");
+  return seen(page, ({ hash }) => hash === still.hash, "the still picture of a body");
 }
 
 async function chooseTab(page, tab) {
