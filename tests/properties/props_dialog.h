@@ -35,10 +35,10 @@ class FrmPropsTest : public DialogTest {
   }
 
   FrmProps& Open() {
-    Dialog = std::make_unique<FrmProps>(
-        PropsSurroundings{*Process, *Process->Tree, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u",
-                          [] { return 1U; }, nullptr, HomePage, SharePage, [this](QWidget&) { ++Diagnostics; },
-                          [this](QWidget&) { ++Abouts; }, Overrides});
+    Dialog = std::make_unique<FrmProps>(PropsSurroundings{
+        *Process, *Process->Tree, Boxes, *UsedFiles, HelpBook, "/prog", "/home/u",
+        [] { return 1U; }, nullptr, HomePage, SharePage, [this](QWidget&) { ++Diagnostics; },
+        [this](QWidget&) { ++Abouts; }, Overrides});
     Dialog->Open();
     Activate(*Dialog);
     return *Dialog;
