@@ -68,6 +68,10 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  // Entries of `mnuResetProps`; with a separator between them.
+  static constexpr int kReset20 = 0;
+  static constexpr int kReset4x = 2;
+
   // `PropertiesDialog`.
   std::string UniverseText(const Field<UniverseSettings>& field) const override;
   void SetUniverseText(const Field<UniverseSettings>& field, const std::string& text) override;
