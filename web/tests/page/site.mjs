@@ -1,44 +1,21 @@
 // What the tests of the page share: the built page on a server, browsers, and a visitor's view of it.
 import assert from "node:assert/strict";
-import { readFile } from "node:fs/promises";
-import { createServer } from "node:http";
-import { extname, join } from "node:path";
 import { fileURLToPath } from "node:url";
 import { chromium, firefox } from "playwright-core";
+
+import { folderServer } from "../../serve.mjs";
 
 const folder =
   process.env.STARFOLDS_SITE ?? fileURLToPath(new URL("../../../build/web", import.meta.url));
 /** The page works below any path. */
 const path = "/some where/below/";
-const kTypes = {
-  ".css": "text/css",
-  ".html": "text/html",
-  ".js": "text/javascript",
-  ".json": "application/json",
-  ".svg": "image/svg+xml",
-  ".wasm": "application/wasm",
-  ".webmanifest": "application/manifest+json",
-  ".webp": "image/webp",
-};
 /** Generous: the machine may do other things too. */
 export const kPatience = 30_000;
 
 /** The server: its address, the files that were asked for, and how to end it. */
 export async function serve() {
   const asked = [];
-  const server = createServer(async (request, response) => {
-    const { pathname } = new URL(request.url, "http://localhost");
-    const name = decodeURIComponent(pathname).slice(path.length) || "index.html";
-    asked.push(name);
-    try {
-      if (!decodeURIComponent(pathname).startsWith(path)) throw new Error("not below the path");
-      const contents = await readFile(join(folder, name));
-      const type = kTypes[extname(name)] ?? "application/octet-stream";
-      response.writeHead(200, { "content-type": type, "cache-control": "no-cache" }).end(contents);
-    } catch {
-      response.writeHead(404).end();
-    }
-  });
+  const server = folderServer(folder, path, (name) => asked.push(name));
   await new Promise((done) => server.listen(0, "127.0.0.1", done));
   const end = () =>
     new Promise((done) => {
