@@ -534,9 +534,22 @@ TEST_F(FrmPropsTest, NamesAreNotTakenForMarkup) {
   Overrides = {name};
   Open();
   OpenType(0);
-  for (QLabel* const label : Dialog->findChildren<QLabel*>()) {
-    label->ensurePolished();
-    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+  const auto expectPlain = [](const QWidget& window) {
+    for (QLabel* const label : window.findChildren<QLabel*>()) {
+      label->ensurePolished();
+      EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+    }
+  };
+  expectPlain(*Dialog);
+  for (const auto& [style, button] : {std::pair{FoldStyle::Standard, "cmdFoldLevels"},
+                                      {FoldStyle::UserIfs, "cmdIFS_Chem"},
+                                      {FoldStyle::Molecule, "cmdIFS_Chem"}}) {
+    List("cboFoldStyle").setCurrentIndex(static_cast<int>(style));
+    WhenShown<BodyEditor>([&](BodyEditor& editor) {
+      expectPlain(editor);
+      editor.reject();
+    });
+    Click(button);
   }
   for (const char* list : {"lstUniStarfold", "lstCompStarfold", "lstCompMinor"}) {
     const QString tip = The<QListWidget>(list).item(0)->toolTip();
