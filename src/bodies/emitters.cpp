@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "bodies/radial.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 
@@ -28,10 +29,10 @@ void SeedStarwave(SeedPoint& point, const Body& body) {
   const double theta = std::floor(set.Starfold_RadSegs * a) * run.RunSegAngle +
                        b * run.RunSegAngle * run.RunSegFill + run.SweepPhase;
   point.X = point.Y = point.Z = 0;
-  point.VX = static_cast<Single>(run.RunRadiusTenth * std::cos(theta));
+  point.VX = static_cast<Single>(run.RunRadiusTenth * Cosine(theta));
   const double wave = std::floor(body.Random() * waves);
   point.VY = static_cast<Single>(kTwoPi / waves * wave);
-  point.VZ = static_cast<Single>(run.RunRadiusTenth * std::sin(theta));
+  point.VZ = static_cast<Single>(run.RunRadiusTenth * Sine(theta));
 }
 
 }  // namespace starfolds

@@ -1,9 +1,9 @@
 #include "bodies/ifs.h"
 
-#include <cmath>
 
 #include "bodies/radial.h"
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -25,21 +25,20 @@ Point3 FreshPoint(const Body& body) {
   const StarfoldProfile& set = body.Profile;
   const PreparedProfile& run = body.Prepared;
   Rnd& random = body.Random;
-  const double fraction = std::pow(static_cast<double>(random()), set.Starfold_RadiusExp);
+  const double fraction = Power(static_cast<double>(random()), set.Starfold_RadiusExp);
   const double r = fraction * run.RunRadius + 1e-09;
   const double height =
       ShapeHeight(set.Starfold_Profile, r, run.RunRadius, run.RunRadiusSq, random);
-  const double lift = std::pow(static_cast<double>(random()), set.Starfold_HeightExp);
+  const double lift = Power(static_cast<double>(random()), set.Starfold_HeightExp);
   const double theta = random() * static_cast<double>(kTwoPi);
-  return MakePoint(std::cos(theta) * r, lift * set.Starfold_GHW_Ratio * height,
-                   std::sin(theta) * r);
+  return MakePoint(Cosine(theta) * r, lift * set.Starfold_GHW_Ratio * height, Sine(theta) * r);
 }
 
 void Pyramid(IfsSlot& slot, int vertices, double R, double G) {
   slot.IfsVertex[0] = MakePoint(0, -R * G, 0);
   for (int i = 1; i < vertices; ++i) {
     const double angle = (i - 1) * static_cast<double>(kTwoPi) / (vertices - 1);
-    slot.IfsVertex[i] = MakePoint(std::cos(angle) * R, R * G * 0.5, std::sin(angle) * R);
+    slot.IfsVertex[i] = MakePoint(Cosine(angle) * R, R * G * 0.5, Sine(angle) * R);
   }
 }
 

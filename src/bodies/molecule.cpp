@@ -1,8 +1,8 @@
 #include "bodies/molecule.h"
 
-#include <cmath>
 
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 #include "settings/elements.h"
 
 namespace starfolds {
@@ -20,8 +20,8 @@ struct HexCorners {
   Single Sin[7];
   HexCorners() {
     for (int i = 0; i < 7; ++i) {
-      Cos[i] = static_cast<Single>(std::cos(i * kTwoPiWide / 6));
-      Sin[i] = static_cast<Single>(std::sin(i * kTwoPiWide / 6));
+      Cos[i] = static_cast<Single>(Cosine(i * kTwoPiWide / 6));
+      Sin[i] = static_cast<Single>(Sine(i * kTwoPiWide / 6));
     }
   }
 };

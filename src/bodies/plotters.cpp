@@ -1,9 +1,9 @@
 #include "bodies/plotters.h"
 
-#include <cmath>
 #include <span>
 
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -177,7 +177,7 @@ void PlotNew(const Display& screen, Long x, Long y, Single depth, Integer left, 
 
 void PlotNova(const Display& screen, Single viewX, Single viewY, Single depth, Integer left,
               Integer frames, Single extent, Colour colour) {
-  const double growth = std::pow(frames - left + 1, 0.637499988079071);
+  const double growth = Power(frames - left + 1, 0.637499988079071);
   const Flare flare{screen, viewX, viewY, extent * growth, colour};
   flare.Draw(depth, kNova, extent * 0.2);
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -63,7 +64,7 @@ void SeedRadial(SeedPoint& point, const Body& body, Single rate, Single phase) {
   const double a = random();
   const double b = random();
   const double f =
-      std::pow(a / bands * run.RunBandFill + std::floor(b * bands) / bands, set.Starfold_RadiusExp);
+      Power(a / bands * run.RunBandFill + std::floor(b * bands) / bands, set.Starfold_RadiusExp);
 
   // Either the level is pushed outward at the disc's own height, or it is a whole disc of its own
   // radius.
@@ -73,7 +74,7 @@ void SeedRadial(SeedPoint& point, const Body& body, Single rate, Single phase) {
   const double Rsq = ownShape ? R * R : run.RunRadiusSq;
   double r = f * R + 1e-09;
   const double height = ShapeHeight(set.Starfold_Profile, r, R, Rsq, random);
-  const double lift = std::pow(static_cast<double>(random()), set.Starfold_HeightExp);
+  const double lift = Power(static_cast<double>(random()), set.Starfold_HeightExp);
   double y = lift * height * set.Starfold_GHW_Ratio;
   if (!ownShape) r += step;
   if (run.RunLevels > 1) {
@@ -89,11 +90,11 @@ void SeedRadial(SeedPoint& point, const Body& body, Single rate, Single phase) {
 
   point.Level = static_cast<Integer>(level);
   point.RotationStep = static_cast<Single>(spin);
-  point.SpinCos = static_cast<Single>(std::cos(spin));
-  point.SpinSin = static_cast<Single>(std::sin(spin));
-  point.X = static_cast<Single>(std::cos(theta) * r);
+  point.SpinCos = static_cast<Single>(Cosine(spin));
+  point.SpinSin = static_cast<Single>(Sine(spin));
+  point.X = static_cast<Single>(Cosine(theta) * r);
   point.Y = static_cast<Single>(y);
-  point.Z = static_cast<Single>(std::sin(theta) * r);
+  point.Z = static_cast<Single>(Sine(theta) * r);
 }
 
 }  // namespace starfolds

@@ -4,6 +4,7 @@
 
 #include "numbers/b_spline.h"
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -112,7 +113,7 @@ void SeedRibbon(SeedPoint& point, const Body& body, const RibbonSlot& slot) {
   const double a = body.Random();
   const double b = body.Random();
   const double c = body.Random();
-  const double e = std::pow(a, run.RunBiasExp);
+  const double e = Power(a, run.RunBiasExp);
   const double band = std::floor(c * biases);
   const double u = (Sign(b - 0.5) * ((1 - e) * 0.5) + band + 0.5) / biases;
   const double s = points * u + run.RibbonPhase;

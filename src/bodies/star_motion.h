@@ -9,6 +9,7 @@
 #include "bodies/plotters.h"
 #include "bodies/run_arrays.h"
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 #include "process/process_state.h"
 
 namespace starfolds {
@@ -57,8 +58,8 @@ inline void WaveStar(StarState& star, const StarMotion& motion) {
   star.StarVY += motion.WavePhaseStep;
   const double decay = motion.WaveDecay;
   const double fading = decay > 0 ? decay / (star.StarAge + decay) : 0;
-  star.StarY = static_cast<Single>(motion.WaveAmplitude *
-                                   std::sin(static_cast<double>(star.StarVY)) * fading);
+  star.StarY =
+      static_cast<Single>(motion.WaveAmplitude * Sine(static_cast<double>(star.StarVY)) * fading);
   star.StarZ += star.StarVZ;
 }
 

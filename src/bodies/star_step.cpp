@@ -1,10 +1,10 @@
 #include "bodies/star_step.h"
 
 #include <cassert>
-#include <cmath>
 
 #include "bodies/comets.h"
 #include "bodies/seed_point.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -224,7 +224,7 @@ Recycling NewQuota(const FrameScene& scene, const TourPlace& place) {
     const Integer entry = scene.Arrays.Folds.StarfoldProf[static_cast<std::size_t>(visit)];
     return process.Profiles[ResolveProfile(process, entry)].Starfold_NewFreq;
   };
-  const double crossFade = (std::cos(place.SplineT * static_cast<double>(kPi)) + 1) * 0.5;
+  const double crossFade = (Cosine(place.SplineT * static_cast<double>(kPi)) + 1) * 0.5;
   const int pastApproach = place.SegIdx - process.Universe.Universe_GPCtrl;
   double quota = everywhere;
   if (scene.Kind == RunKind::SingleProfile) {

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -144,11 +145,11 @@ void BuildNewStarRamp(ColourTables& tables, ProfileArray& profiles) {
     const int rise = frames / 4;
     for (int j = 0; j < rise; ++j) {
       const double x = (j + 1) * static_cast<double>(kHalfPi) / (rise + 1);
-      ramp[frames - j] = Grey(std::sin(x) * 175 + 80);
+      ramp[frames - j] = Grey(Sine(x) * 175 + 80);
     }
     for (int i = rise; i <= frames; ++i) {
       const double x = (i - rise) * static_cast<double>(kHalfPi) / (frames - rise);
-      ramp[frames - i] = Grey(std::cos(x) * 175 + 80);
+      ramp[frames - i] = Grey(Cosine(x) * 175 + 80);
     }
   }
 }
@@ -172,14 +173,14 @@ void BuildPulsarTables(ColourTables& tables, ProfileArray& profiles) {
     const auto fadeOutBegin = RoundHalfEven(frames * 0.75 + 1);
     double s = 0;
     for (int k = 0; k < frames; ++k) {
-      const double wave = std::sin(k * static_cast<double>(kTwoPi) / frames + threeQuarters);
+      const double wave = Sine(k * static_cast<double>(kTwoPi) / frames + threeQuarters);
       const double hue = std::abs(hueStart - hueEnd) * 0.5 * wave + (hueStart + hueEnd) * 0.5;
       const Colour full = FlareHue(static_cast<int>(RoundHalfEven(hue)));
       if (k < fadeInEnd) {
         s += step;
-        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(std::sin(s)));
+        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(Sine(s)));
       } else if (k >= fadeOutBegin) {
-        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(std::sin(s)));
+        colours.PulsarColors[k] = ScaleColor(full, static_cast<Single>(Sine(s)));
         s -= step;
       } else {
         colours.PulsarColors[k] = full;

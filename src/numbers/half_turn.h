@@ -2,8 +2,8 @@
 #pragma once
 
 #include <array>
-#include <cmath>
 
+#include "numbers/elementary.h"
 #include "numbers/words.h"
 
 namespace starfolds {
@@ -16,8 +16,8 @@ struct HalfTurnTable {
   HalfTurnTable() {
     for (int i = 0; i <= 1000; ++i) {
       const double angle = i * static_cast<double>(kPi) / 1000;
-      Cos[i] = static_cast<Single>(std::cos(angle));
-      Sin[i] = static_cast<Single>(std::sin(angle));
+      Cos[i] = static_cast<Single>(Cosine(angle));
+      Sin[i] = static_cast<Single>(Sine(angle));
     }
   }
 };

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 #include "settings/fields.h"
 
 namespace starfolds {
@@ -17,7 +18,7 @@ double Radians(double degrees) { return degrees * kTwoPi / 360; }
 Single RandomFactor(Rnd& random, int magnitude, int exponent) {
   const double a = random();
   const Single b = random();
-  const double v = 1 + std::pow(a, exponent) * (magnitude - 1);
+  const double v = 1 + Power(a, exponent) * (magnitude - 1);
   return static_cast<Single>(b < 0.5F ? v : 1 / v);
 }
 
@@ -49,12 +50,12 @@ void PrepareBody(PreparedProfile& run, const StarfoldProfile& profile, RandomFac
   run.RunBandFill = static_cast<Single>(profile.Starfold_RadBFill * 0.01);
   run.RunSegAngle = kTwoPi / std::max<Integer>(profile.Starfold_RadSegs, 1);
   const double bandAngle = Radians(profile.Starfold_RadBands);
-  run.RunBandCos = static_cast<Single>(std::cos(bandAngle));
-  run.RunBandSin = static_cast<Single>(std::sin(bandAngle));
-  run.RunSpinCos = static_cast<Single>(std::cos(static_cast<double>(run.RunSpin)));
-  run.RunSpinSin = static_cast<Single>(std::sin(static_cast<double>(run.RunSpin)));
-  run.RunSpin8Cos = static_cast<Single>(std::cos(static_cast<double>(run.RunSpin8)));
-  run.RunSpin8Sin = static_cast<Single>(std::sin(static_cast<double>(run.RunSpin8)));
+  run.RunBandCos = static_cast<Single>(Cosine(bandAngle));
+  run.RunBandSin = static_cast<Single>(Sine(bandAngle));
+  run.RunSpinCos = static_cast<Single>(Cosine(static_cast<double>(run.RunSpin)));
+  run.RunSpinSin = static_cast<Single>(Sine(static_cast<double>(run.RunSpin)));
+  run.RunSpin8Cos = static_cast<Single>(Cosine(static_cast<double>(run.RunSpin8)));
+  run.RunSpin8Sin = static_cast<Single>(Sine(static_cast<double>(run.RunSpin8)));
 }
 
 void PrepareRates(PreparedProfile& run, const StarfoldProfile& profile, RandomFactors factors) {
@@ -143,8 +144,8 @@ void PrepareIfs(PreparedProfile& run, const StarfoldProfile& profile) {
     prepared.Y = RecordLength(point.IFS_LocY, record.IFS_CenterY, tenth);
     prepared.Z = RecordLength(point.IFS_LocZ, record.IFS_CenterZ, tenth);
     prepared.Scale = static_cast<Single>(point.IFS_Scale * 0.01);
-    prepared.Cos = static_cast<Single>(std::cos(Radians(point.IFS_Angle)));
-    prepared.Sin = static_cast<Single>(std::sin(Radians(point.IFS_Angle)));
+    prepared.Cos = static_cast<Single>(Cosine(Radians(point.IFS_Angle)));
+    prepared.Sin = static_cast<Single>(Sine(Radians(point.IFS_Angle)));
     sum += std::max<Integer>(point.IFS_RelPct, 0);
     prepared.Sum = sum;
   }
@@ -183,8 +184,8 @@ void PrepareAtoms(PreparedProfile& run, const StarfoldProfile& profile) {
 void SetLevelTilt(PreparedProfile& run, int level, Single angle) {
   StarMotion& star = run.Star;
   run.LevelTilt[level] = angle;
-  star.LevelCos[level] = static_cast<Single>(std::cos(static_cast<double>(angle)));
-  star.LevelSin[level] = static_cast<Single>(std::sin(static_cast<double>(angle)));
+  star.LevelCos[level] = static_cast<Single>(Cosine(static_cast<double>(angle)));
+  star.LevelSin[level] = static_cast<Single>(Sine(static_cast<double>(angle)));
 }
 
 /// Takes whole turns off an angle that has run past one.
@@ -256,8 +257,8 @@ void AdvanceAngles(PreparedArray& prepared) {
     run.SpinPhase = WithinTurn(static_cast<double>(run.SpinPhase) + run.RunCoreSpin);
     if (run.RunSpin8 == 0) continue;  // nor does a body that does not turn sweep
     run.SweepPhase = WithinTurn(static_cast<double>(run.SweepPhase) + run.RunSpin8);
-    run.SweepCos = static_cast<Single>(std::cos(static_cast<double>(run.SweepPhase)));
-    run.SweepSin = static_cast<Single>(std::sin(static_cast<double>(run.SweepPhase)));
+    run.SweepCos = static_cast<Single>(Cosine(static_cast<double>(run.SweepPhase)));
+    run.SweepSin = static_cast<Single>(Sine(static_cast<double>(run.SweepPhase)));
   }
 }
 

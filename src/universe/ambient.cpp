@@ -1,10 +1,10 @@
 #include "universe/ambient.h"
 
-#include <cmath>
 
 #include "bodies/plotters.h"
 #include "bodies/star_motion.h"
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 namespace {
@@ -69,7 +69,7 @@ void BuildAmbRamp(AmbientArrays& ambient) {
   ambient.AmbRamp[0] = 0xFFFFFF;
   for (std::size_t i = 0; i < frames; ++i) {
     const double quarter = static_cast<double>(kPi) / 2 * static_cast<double>(i);
-    const double level = std::cos(quarter / static_cast<double>(frames)) * 167 + 88;
+    const double level = Cosine(quarter / static_cast<double>(frames)) * 167 + 88;
     const int grey = RoundedToLimits<Integer>(level);
     ambient.AmbRamp[i + 1] = PackRgb(grey, grey, grey);
   }

@@ -1,12 +1,12 @@
 #include "universe/creation.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "bodies/seed_star.h"
 #include "bodies/star_motion.h"
 #include "bodies/star_step.h"
 #include "numbers/conversions.h"
+#include "numbers/elementary.h"
 #include "universe/ambient.h"
 #include "universe/pacing.h"
 
@@ -248,7 +248,7 @@ void RampDamping(const UniverseScene& scene, Birth& birth, int frame) {
   const double progress = (frame - rampBegin) / (universe.Universe_ESteps * (1 - 0.75));
   birth.CreationDamp =
       static_cast<Single>(static_cast<double>(scene.Process.RunUniverse.RunDamping) *
-                          std::cos(progress * static_cast<double>(kHalfPi)));
+                          Cosine(progress * static_cast<double>(kHalfPi)));
 }
 
 /// One frame. False: the run must stop.

@@ -1,8 +1,8 @@
 #include "universe/expansion.h"
 
-#include <cmath>
 
 #include "bodies/styles.h"
+#include "numbers/elementary.h"
 
 namespace starfolds {
 
@@ -24,8 +24,8 @@ ExpansionVector SeedExpansionVector(ProcessState& process, BodySlots& shape, Int
   const double z = static_cast<Single>(raw.Z * f);
 
   const double tilt = -static_cast<double>(body.Prepared.RunTilt);
-  const double c = std::cos(tilt);
-  const double s = std::sin(tilt);
+  const double c = Cosine(tilt);
+  const double s = Sine(tilt);
   const double u = s * z - c * y;
   const bool plane = body.Prepared.Star.AxisPlane;
   ExpansionVector point;
