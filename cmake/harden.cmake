@@ -30,13 +30,21 @@ function(starfolds_harden TARGET)
 
   # Overwritten return addresses, jumps over the guard page, and (on x86 only) jumps to the middle
   # of a function.
-  foreach(FLAG -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+  set(FLAGS -fstack-protector-strong -fcf-protection)
+  if(NOT WIN32) # programs for Windows touch every page of the stack in any case
+    list(APPEND FLAGS -fstack-clash-protection)
+  endif()
+  foreach(FLAG ${FLAGS})
     string(MAKE_C_IDENTIFIER "STARFOLDS_HAS${FLAG}" HAS_FLAG)
     check_cxx_compiler_flag(${FLAG} ${HAS_FLAG})
     if(${HAS_FLAG})
       target_compile_options(${TARGET} INTERFACE ${FLAG})
     endif()
   endforeach()
+
+  if(MINGW) # the stack protector and the checked library calls are a library there
+    target_link_libraries(${TARGET} INTERFACE ssp)
+  endif()
 
   # Code at a random address. Libraries that use Qt are compiled with -fPIC, which Qt adds later.
   check_pie_supported(LANGUAGES CXX)

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,10 @@ namespace starfolds {
 class TestFolder {
  public:
   explicit TestFolder(const std::filesystem::path& in = std::filesystem::temp_directory_path()) {
-    std::string name = (in / "starfolds-XXXXXX").string();
-    path_ = mkdtemp(name.data());
+    std::random_device random;
+    do {
+      path_ = in / ("starfolds-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
   }
   ~TestFolder() {
     std::error_code ignored;

@@ -18,18 +18,25 @@ inline std::string Reason(int error) {
   return std::generic_category().message(error == 0 ? EIO : error);
 }
 
+#ifndef _WIN32
 /// Why a file of this kind is not a regular file; nullopt for a regular one.
 inline std::optional<std::string> FaultOfKind(mode_t mode) {
   if (S_ISREG(mode)) return std::nullopt;
   return S_ISDIR(mode) ? Reason(EISDIR) : "Not a plain file";
 }
+#endif
 
 /// An open file, or the reason why it could not be opened.
 class Descriptor {
  public:
   Descriptor() = default;
+#ifdef _WIN32
+  /// Takes over a descriptor of the C library; a negative number and an `errno` for none.
+  Descriptor(int number, int error) : number_(number), error_(error) {}
+#else
   Descriptor(const std::string& path, int flags, mode_t rights = 0)
       : number_(open(path.c_str(), flags | O_CLOEXEC, rights)), error_(number_ < 0 ? errno : 0) {}
+#endif
   ~Descriptor() {
     if (number_ >= 0) close(number_);
   }

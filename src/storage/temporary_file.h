@@ -11,7 +11,8 @@ namespace starfolds {
 ///
 /// Where the system and the file system support it, the file has no name until then, so nothing is
 /// left behind even if the process is killed. Otherwise it has a random name ("starfolds-*.part"),
-/// which is created exclusively: no existing file or link is ever opened.
+/// which is created exclusively: no existing file or link is ever opened. Windows removes the file
+/// when the process ends, however it ends.
 class TemporaryFile {
  public:
   TemporaryFile() = default;
@@ -31,8 +32,10 @@ class TemporaryFile {
   int TakeName(const std::string& target);
 
  private:
+#ifndef _WIN32
   int LinkTo(const std::string& path) const;
   int GiveRandomName();
+#endif
 
   std::string folder_;
   Descriptor file_;
@@ -40,7 +43,8 @@ class TemporaryFile {
 };
 
 /// From now on a signal that ends the process (SIGINT, SIGTERM, SIGHUP, SIGPIPE) removes the named
-/// temporary files first. Signals that the parent process has set to be ignored stay ignored.
+/// temporary files first. Signals that the parent process has set to be ignored stay ignored. Does
+/// nothing on Windows, where the system removes them.
 void RemoveTemporaryFilesOnSignals();
 
 }  // namespace starfolds

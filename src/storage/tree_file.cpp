@@ -81,6 +81,10 @@ std::optional<std::string> FreeName(const std::string& path) {
 
 }  // namespace
 
+bool IsAbsolutePath(const std::string& path) { return path.starts_with('/'); }
+
+std::string FolderOf(const std::string& path) { return path.substr(0, path.find_last_of('/')); }
+
 FoundFile LookAtFile(const std::string& path) {
   using enum FoundFile::State;
   struct stat status {};

@@ -21,6 +21,12 @@ struct FoundFile {
   FileIdentity Identity;  // of a regular file
 };
 
+/// Whether the path begins at a root, so that it does not depend on the current folder.
+bool IsAbsolutePath(const std::string& path);
+
+/// The folder of a file whose path is absolute.
+std::string FolderOf(const std::string& path);
+
 /// Follows symbolic links. Anything but a regular file counts as unreachable, because opening a
 /// pipe could block.
 FoundFile LookAtFile(const std::string& path);

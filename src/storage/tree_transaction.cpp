@@ -154,7 +154,7 @@ int TreeTransaction::Run(const std::function<int()>& statement) {
 TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits limits) {
   using State = FoundFile::State;
   // SQLite treats some relative names specially: "" and ":memory:" are not files.
-  const bool hasPlace = place.File.starts_with('/');
+  const bool hasPlace = IsAbsolutePath(place.File);
   const FoundFile found = hasPlace ? LookAtFile(place.File) : FoundFile{State::Missing, {}};
   const bool isOpen = db_ && kind == Kind::Look && kind_ == Kind::Look &&
                       found.Is == State::Plain && found.Identity == identity_;
@@ -172,7 +172,7 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits
   if (found.Is == State::OutOfReach) return Refused;
   if (found.Is == State::Plain) {
     identity_ = found.Identity;
-  } else if (!MakeFolders(place.File.substr(0, place.File.find_last_of('/')), place.FolderRights)) {
+  } else if (!MakeFolders(FolderOf(place.File), place.FolderRights)) {
     return Refused;
   }
   // SQLite creates a journal only if something changes. Storing the present value again must fail

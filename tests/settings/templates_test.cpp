@@ -82,7 +82,7 @@ TEST_F(Templates, ShippedOnesComeBackByteByByte) {
   int count = 0;
   for (const auto& entry : std::filesystem::directory_iterator(STARFOLDS_TEMPLATES)) {
     if (entry.path().extension() != ".sfd") continue;
-    const std::string bytes = FileText(entry.path());
+    const std::string bytes = FileText(entry.path().string());
     SettingsRecords records = Read(bytes);
     ClampUniverse(records.Universe);
     ASSERT_EQ(Write(records), std::nullopt);
