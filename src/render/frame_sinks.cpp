@@ -21,9 +21,12 @@ class PngFolder : public FrameSink {
 
   Fault Take(FrameNumber frame, const MemorySurface& surface) override {
     std::error_code error;
-    fs::create_directories(folder_, error);
+    // Narrow names would be in the code page of the system, which is not UTF-8 on all.
+    const fs::path folder(std::u8string(folder_.begin(), folder_.end()));
+    fs::create_directories(folder, error);
     if (error) return "cannot make the folder " + Quoted(folder_) + ": " + error.message();
-    return WritePng((fs::path(folder_) / FileName(frame)).string(), PictureOf(surface), scale_);
+    const std::u8string file = (folder / FileName(frame)).u8string();
+    return WritePng({file.begin(), file.end()}, PictureOf(surface), scale_);
   }
 
   Fault Finish() override { return std::nullopt; }
