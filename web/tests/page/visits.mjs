@@ -7,6 +7,7 @@ import axe from "axe-core";
 import {
   browsers,
   firstStars,
+  kPatience,
   look,
   moves,
   nextDownload,
@@ -43,7 +44,25 @@ async function stillOfBody(page, index) {
   // The canvas on the page may show a former frame for a moment.
   const still = await look(page, "picture");
   assert.ok(still.lit > 100, "a body");
-  return seen(page, ({ hash }) => hash === still.hash, "the still picture of a body");
+  const { frame } = await engine(page, "hash");
+  const view = await seen(page, ({ hash }) => hash === still.hash, "the still picture of a body");
+  return { ...view, frame };
+}
+
+/** The still picture after a change of the body. Frames on the way to it are shown, too. */
+async function stillAfter(page, former) {
+  const end = Date.now() + kPatience;
+  let last = former;
+  while (Date.now() < end) {
+    const { frame } = await engine(page, "hash");
+    const still = await look(page, "picture");
+    if (frame === former.frame && still.hash !== former.hash && still.hash === last.hash) {
+      return seen(page, ({ hash }) => hash === still.hash, "the still picture after a change");
+    }
+    last = still;
+    await page.waitForTimeout(100);
+  }
+  return assert.fail("the change is not seen");
 }
 
 async function chooseTab(page, tab) {
@@ -172,7 +191,7 @@ export function visits(name) {
         const radius = numberOf(page, "Starfold0/Starfold_Radius");
         await radius.fill("120");
         await radius.press("Enter");
-        const after = await seen(page, ({ hash }) => hash !== before.hash, "another radius");
+        const after = await stillAfter(page, before);
         assert.ok(after.lit > 100);
         await page.locator("#undo").click();
         await seen(page, ({ hash }) => hash === before.hash, "the radius as before");
