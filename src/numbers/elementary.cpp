@@ -1,8 +1,8 @@
 #include "numbers/elementary.h"
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 namespace starfolds {
@@ -101,18 +101,32 @@ struct Scaled {
   int Exponent = 0;
 };
 
+// The C++ library of Emscripten 3.1.6 lacks `std::bit_cast`.
+
+std::uint64_t BitsOf(double number) {
+  std::uint64_t bits = 0;
+  std::memcpy(&bits, &number, sizeof bits);
+  return bits;
+}
+
+double FromBits(std::uint64_t bits) {
+  double number = 0;
+  std::memcpy(&number, &bits, sizeof number);
+  return number;
+}
+
 /// 2 to the power of a whole number between -1022 and 1023.
 double PowerOfTwo(int exponent) {
-  return std::bit_cast<double>(static_cast<std::uint64_t>(exponent + 1023) << 52U);
+  return FromBits(static_cast<std::uint64_t>(exponent + 1023) << 52U);
 }
 
 Scaled Scale(double value) {
   constexpr double rootOf2 = 1.4142135623730951;
   constexpr int lift = 54;  // makes subnormal numbers normal
   const bool isSmall = value < std::numeric_limits<double>::min();
-  const auto bits = std::bit_cast<std::uint64_t>(isSmall ? value * PowerOfTwo(lift) : value);
+  const auto bits = BitsOf(isSmall ? value * PowerOfTwo(lift) : value);
   int exponent = static_cast<int>(bits >> 52U) - 1023;
-  double fraction = std::bit_cast<double>((bits & 0xFFFFFFFFFFFFFU) | 0x3FF0000000000000U);
+  double fraction = FromBits((bits & 0xFFFFFFFFFFFFFU) | 0x3FF0000000000000U);
   if (fraction > rootOf2) {
     fraction /= 2;
     ++exponent;
