@@ -1,6 +1,5 @@
 #include "bodies/ifs.h"
 
-
 #include "bodies/radial.h"
 #include "numbers/conversions.h"
 #include "numbers/elementary.h"

@@ -1,6 +1,5 @@
 #include "bodies/molecule.h"
 
-
 #include "numbers/conversions.h"
 #include "numbers/elementary.h"
 #include "settings/elements.h"

@@ -1,6 +1,5 @@
 #include "universe/ambient.h"
 
-
 #include "bodies/plotters.h"
 #include "bodies/star_motion.h"
 #include "numbers/conversions.h"

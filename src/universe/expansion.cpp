@@ -1,6 +1,5 @@
 #include "universe/expansion.h"
 
-
 #include "bodies/styles.h"
 #include "numbers/elementary.h"
 
