@@ -57,13 +57,6 @@ bool DiskFiles::Exists(const std::string& path) {
   return wide && GetFileAttributesW(wide->c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-std::optional<std::string> DiskFiles::Replace(const std::string& path, std::string_view bytes) {
-  FileWriter file;
-  if (Fault fault = file.Open(path, Targets::Files)) return fault;
-  if (Fault fault = file.Write(bytes)) return fault;
-  return file.Commit();
-}
-
 /// By trial: permissions, shares and media all have a say.
 bool DiskFiles::CanWriteFolder(const std::string& folder) {
   TemporaryFile probe;

@@ -17,8 +17,6 @@ bool IsFileOfDisk(const std::wstring& path) {
 
 }  // namespace
 
-FileWriter::~FileWriter() { Close(); }
-
 FileWriter::Fault FileWriter::Open(const std::string& path, Targets targets) {
   const auto given = WidePath(path);
   if (!given) return Reason(EINVAL);
@@ -38,20 +36,6 @@ FileWriter::Fault FileWriter::Open(const std::string& path, Targets targets) {
   return UseStream(_dup(temporary_.Number()));
 }
 
-FileWriter::Fault FileWriter::UseStream(int file) {
-  if (file >= 0) stream_ = _fdopen(file, "wb");
-  if (stream_) return std::nullopt;
-  const int error = errno;
-  if (file >= 0) _close(file);
-  return Reason(error);
-}
-
-FileWriter::Fault FileWriter::Write(std::string_view bytes) {
-  errno = 0;
-  if (std::fwrite(bytes.data(), 1, bytes.size(), stream_) == bytes.size()) return std::nullopt;
-  return Reason(errno);
-}
-
 FileWriter::Fault FileWriter::Commit() {
   errno = 0;
   if (std::ferror(stream_) != 0 || std::fflush(stream_) != 0) return Reason(errno);
@@ -60,11 +44,6 @@ FileWriter::Fault FileWriter::Commit() {
   if (!temporary_.IsOpen()) return std::nullopt;
   const int error = temporary_.TakeName(target_);
   return error == 0 ? std::nullopt : Fault(Reason(error));
-}
-
-bool FileWriter::Close() {
-  std::FILE* const stream = std::exchange(stream_, nullptr);
-  return !stream || stream == stdout || std::fclose(stream) == 0;
 }
 
 }  // namespace starfolds
