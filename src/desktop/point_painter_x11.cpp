@@ -30,26 +30,30 @@ class X11PointPainter : public PointPainter {
   }
   ~X11PointPainter() override { xcb_free_gc(connection_, context_); }
 
-  bool Draw(std::span<const PixelChange> changes, const PixelScale& scale,
-            std::int64_t area) override {
+  bool Prepare(std::span<const PixelChange> changes, const PixelScale& scale, std::int64_t area,
+               PointDrawing& drawing) override {
     const double picture = kPictureCost * static_cast<double>(area);
     const auto points = static_cast<std::int64_t>(changes.size()) * kPointCost;
     if (static_cast<double>(points) > picture || !sorted_.Sort(changes)) return false;
     const auto colours = static_cast<std::int64_t>(sorted_.Groups().size()) * kColourCost;
     if (static_cast<double>(points + colours) > picture) return false;
-    for (const PlacesByColour::Group& group : sorted_.Groups()) DrawGroup(group, scale);
-    requests_.Send();
+    drawing.Bytes.clear();
+    drawing.Requests = 0;
+    for (const PlacesByColour::Group& group : sorted_.Groups()) DrawGroup(group, scale, drawing);
     return true;
   }
 
+  void Draw(const PointDrawing& drawing) override { requests_.Send(drawing); }
+
  private:
-  void DrawGroup(const PlacesByColour::Group& group, const PixelScale& scale) {
-    requests_.SetForeground(ScreenWord(group.Ink));
+  void DrawGroup(const PlacesByColour::Group& group, const PixelScale& scale,
+                 PointDrawing& drawing) {
+    requests_.SetForeground(ScreenWord(group.Ink), drawing);
     const auto places = sorted_.Places().subspan(group.Begin, group.Count);
     if (scale.IsOneToOne()) {
-      requests_.DrawPoints(places);
+      requests_.DrawPoints(places, drawing);
     } else {
-      requests_.DrawBlocks(places, scale);
+      requests_.DrawBlocks(places, scale, drawing);
     }
   }
 

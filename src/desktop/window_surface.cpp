@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "desktop/huge_pages.h"
 #include "desktop/key_presses.h"
@@ -26,6 +27,9 @@ constexpr std::size_t kJournalCapacity = std::size_t{128} * 1024;
 
 /// The initial size of a resizable window, in logical pixels.
 constexpr QSize kUsualSize{1280, 720};
+
+/// An area of tiles that is more expensive than any number of points.
+constexpr std::int64_t kAnyArea = std::numeric_limits<std::int64_t>::max();
 
 /// The maximum share of a small screen: the rest is for the window's frame and the desktop.
 constexpr double kWindowShare = 0.9;
@@ -78,7 +82,7 @@ class WindowSurface::EffectWindow : public QWindow {
   void exposeEvent(QExposeEvent*) override {
     if (isExposed()) events_.Exposed();
   }
-  void paintEvent(QPaintEvent*) override { surface_.Repaint(); }
+  void paintEvent(QPaintEvent*) override { surface_.ShowNewest(); }
   void resizeEvent(QResizeEvent*) override { events_.Resized(); }
   bool event(QEvent* event) override {
     if (event->type() == QEvent::PlatformSurface) {
@@ -218,15 +222,38 @@ bool WindowSurface::HasWindowSize() const { return window_->size() == QSize(Widt
 void WindowSurface::Present() {
   if (!IsSeen()) {
     repaintAll_ = true;
+    kept_.Clear();
     return ForgetJournal();
   }
   FitBackingStore();
   if (repaintAll_ || EverythingChanged()) {
+    kept_.Clear();
     ForgetJournal();
     ShowAll();
   } else {
-    ShowChanges(TakeChanges());
+    if (kept_.Count() == 0) PrepareFrame(TakeChanges());
+    ShowFrame(kept_.TakeOldest());
   }
+}
+
+bool WindowSurface::KeepFrame() {
+  if (!IsSeen() || !StoreFits() || repaintAll_ || EverythingChanged() || !imageIsDirect_)
+    return false;
+  PrepareFrame(TakeChanges());
+  return true;
+}
+
+void WindowSurface::PrepareFrame(std::span<const PixelChange> changes) {
+  KeptFrame& frame = kept_.Add();
+  frame.Changes.assign(changes.begin(), changes.end());
+  frame.Tiles.Resize(Width(), Height());
+  for (const auto& [place, ink] : changes) frame.Tiles.Touch(ColumnOf(place), RowOf(place));
+  const double area = static_cast<double>(frame.Tiles.Area()) * factor_ * factor_;
+  frame.AsPoints = PrepareAsPoints(frame, std::llround(area));
+}
+
+bool WindowSurface::PrepareAsPoints(KeptFrame& frame, std::int64_t area) {
+  return points_ && points_->Prepare(frame.Changes, scale_, area, frame.Points);
 }
 
 void WindowSurface::ShowAll() {
@@ -234,7 +261,9 @@ void WindowSurface::ShowAll() {
   store_->beginPaint(region);
   QPaintDevice& picture = *store_->paintDevice();
   MeasureScale({picture.width(), picture.height()});
-  if (auto image = DirectImage(picture)) {
+  auto image = DirectImage(picture);
+  imageIsDirect_ = image.has_value();
+  if (image) {
     image->PaintAll(scale_, *this);
   } else {
     QPainter(&picture).fillRect(QRect(QPoint(), store_->size()), Qt::black);
@@ -246,32 +275,40 @@ void WindowSurface::ShowAll() {
 }
 
 /// Changes that are drawn as points are not painted into the window's image: it is as large as the
-/// screen, and mostly out of the caches. The tiles where it is behind are noted instead.
-void WindowSurface::ShowChanges(std::span<const PixelChange> changes) {
-  if (changes.empty()) return;
-  for (const auto& [place, ink] : changes) tiles_.Touch(ColumnOf(place), RowOf(place));
-  const double area = static_cast<double>(tiles_.Area()) * factor_ * factor_;
-  if (points_ && points_->Draw(changes, scale_, static_cast<std::int64_t>(area))) {
-    tilesBehind_.TakeFrom(tiles_);
+/// screen, and mostly out of the caches. The tiles where it is behind are noted instead. They are
+/// later painted from the canvas, so this has to wait until no frame is kept: until then changes
+/// are drawn as points at any cost.
+void WindowSurface::ShowFrame(KeptFrame& frame) {
+  if (frame.Changes.empty()) return;
+  const bool mustBePoints = kept_.Count() > 0 && tilesBehind_.Area() > 0;
+  if (frame.AsPoints || (mustBePoints && PrepareAsPoints(frame, kAnyArea))) {
+    points_->Draw(frame.Points);
+    tilesBehind_.TakeFrom(frame.Tiles);
+  } else if (mustBePoints) {
+    kept_.Clear();
+    ShowAll();
   } else {
-    ShowTiles(changes);
+    ShowTiles(frame);
   }
 }
 
 /// If the window system has reallocated the image, all of it must be painted.
-void WindowSurface::ShowTiles(std::span<const PixelChange> changes) {
+void WindowSurface::ShowTiles(KeptFrame& frame) {
   const bool isBehind = tilesBehind_.Area() > 0;
-  tiles_.TakeFrom(tilesBehind_);
-  const std::vector<TileRect>& tiles = tiles_.Take();
+  frame.Tiles.TakeFrom(tilesBehind_);
+  const std::vector<TileRect>& tiles = frame.Tiles.Take();
   const QRegion region = RegionOf(tiles);
   store_->beginPaint(region);
   QPaintDevice& picture = *store_->paintDevice();
   const bool isSame = QSize(picture.width(), picture.height()) == pictureSize_;
-  if (isSame) PaintTiles(picture, tiles, isBehind ? std::span<const PixelChange>() : changes);
+  if (isSame) {
+    PaintTiles(picture, tiles, isBehind ? std::span<const PixelChange>() : frame.Changes);
+  }
   store_->endPaint();
   if (isSame) {
     store_->flush(region);
   } else {
+    kept_.Clear();
     ShowAll();
   }
 }
@@ -289,14 +326,18 @@ void WindowSurface::PaintTiles(QPaintDevice& picture, const std::vector<TileRect
   }
 }
 
-void WindowSurface::Repaint() {
+void WindowSurface::ShowNewest() {
   repaintAll_ = true;
   Present();
 }
 
-/// The window may have been resized, or moved to a screen of another density, since the last call.
+/// Whether the window has not been resized, or moved to a screen of another density.
+bool WindowSurface::StoreFits() const {
+  return store_->size() == window_->size() && factor_ == window_->devicePixelRatio();
+}
+
 void WindowSurface::FitBackingStore() {
-  if (store_->size() == window_->size() && factor_ == window_->devicePixelRatio()) return;
+  if (StoreFits()) return;
   factor_ = window_->devicePixelRatio();
   store_->resize(window_->size());
   repaintAll_ = true;
@@ -324,7 +365,6 @@ void WindowSurface::MeasureScale(QSize pictureSize) {
   origin_ = {room.width() / 2, room.height() / 2};
   scale_.Columns.Measure(Width(), factor_, pictureSize.width(), origin_.x());
   scale_.Rows.Measure(Height(), factor_, pictureSize.height(), origin_.y());
-  tiles_.Resize(Width(), Height());
   tilesBehind_.Resize(Width(), Height());
 }
 

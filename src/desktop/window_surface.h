@@ -14,6 +14,7 @@
 
 #include "desktop/dirty_tiles.h"
 #include "desktop/foreign_window.h"
+#include "desktop/kept_frames.h"
 #include "desktop/pixel_scale.h"
 #include "desktop/point_painter.h"
 #include "desktop/screen_image.h"
@@ -75,8 +76,13 @@ class WindowSurface : public Surface {
   bool HasWindowSize() const;
 
   /// Shows the changes. Does nothing while the window is not visible: when it becomes visible it is
-  /// painted from the whole canvas.
+  /// painted from the whole canvas. That is the newest frame, so older ones are not shown any more.
   void Present() override;
+  bool KeepFrame() override;
+  std::size_t KeptFrameCount() const override { return kept_.Count(); }
+
+  /// Shows the canvas as it is, which may be some frames ahead of what is shown.
+  void ShowNewest();
 
   QWindow& Window();
 
@@ -87,11 +93,13 @@ class WindowSurface : public Surface {
   void MeetWindow();
   void CoverScreen(ScreenPlace place);
   void ShowInState();
-  void Repaint();
+  bool StoreFits() const;
   void FitBackingStore();
   void ShowAll();
-  void ShowChanges(std::span<const PixelChange> changes);
-  void ShowTiles(std::span<const PixelChange> changes);
+  void PrepareFrame(std::span<const PixelChange> changes);
+  bool PrepareAsPoints(KeptFrame& frame, std::int64_t area);
+  void ShowFrame(KeptFrame& frame);
+  void ShowTiles(KeptFrame& frame);
   void PaintTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles,
                   std::span<const PixelChange> changes);
   void PaintWithPainter(QPaintDevice& picture, const std::vector<TileRect>& tiles);
@@ -105,9 +113,10 @@ class WindowSurface : public Surface {
   std::optional<ScreenWatch> screens_;
   bool atBottom_ = false;
   bool repaintAll_ = true;
-  double factor_ = 1;       // physical pixels per logical one
-  DirtyTiles tiles_;        // changed in the frame that is being shown
-  DirtyTiles tilesBehind_;  // where the window's image lacks changes that were drawn as points
+  bool imageIsDirect_ = false;  // and not painted through QPainter, from the canvas
+  KeptFrames kept_;             // the frame that is being shown is the last that was taken from it
+  double factor_ = 1;           // physical pixels per logical one
+  DirtyTiles tilesBehind_;      // where the window's image lacks changes that were drawn as points
   PixelScale scale_;
   QPoint origin_;             // of the surface in the window, logical pixels
   QSize pictureSize_;         // the size for which `scale_` was measured, in physical pixels

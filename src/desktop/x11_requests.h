@@ -6,9 +6,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
 
 #include "desktop/pixel_scale.h"
+#include "desktop/point_painter.h"
 #include "platform/surface.h"
 
 namespace starfolds {
@@ -21,27 +21,23 @@ class X11Requests {
   X11Requests(xcb_connection_t* connection, xcb_drawable_t drawable, xcb_gcontext_t context)
       : connection_(connection), drawable_(drawable), context_(context) {}
 
-  /// Sets the colour of the context, a pixel value of the server.
-  void SetForeground(std::uint32_t colour);
-  /// Draws single pixels. Any number of places.
-  void DrawPoints(std::span<const PixelPlace> places);
-  /// Draws the blocks of these places on a screen of another scale.
-  void DrawBlocks(std::span<const PixelPlace> places, const PixelScale& scale);
+  // These append to a drawing.
 
-  /// Writes the requests and forgets them. Does nothing if the connection is broken.
-  void Send();
+  /// Sets the colour of the context, a pixel value of the server.
+  void SetForeground(std::uint32_t colour, PointDrawing& drawing) const;
+  /// Draws single pixels. Any number of places.
+  void DrawPoints(std::span<const PixelPlace> places, PointDrawing& drawing) const;
+  /// Draws the blocks of these places on a screen of another scale.
+  void DrawBlocks(std::span<const PixelPlace> places, const PixelScale& scale,
+                  PointDrawing& drawing) const;
+
+  /// Writes the requests. Does nothing if the connection is broken.
+  void Send(const PointDrawing& drawing);
 
  private:
-  template <class Request>
-  void Append(Request request, std::size_t dataBytes);
-  template <class Data>
-  void AppendData(const Data& data);
-
   xcb_connection_t* connection_;
   xcb_drawable_t drawable_;
   xcb_gcontext_t context_;
-  std::vector<std::byte> bytes_;
-  std::size_t count_ = 0;       // requests in `bytes_`
   std::size_t unanswered_ = 0;  // requests since one that has a reply
 };
 

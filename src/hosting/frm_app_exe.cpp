@@ -144,6 +144,7 @@ void FrmAppExe::TogglePause() {
 }
 
 void FrmAppExe::SavePictureOfUniverse() {
+  surface_.ShowNewest();
   const SavedPicture saved = SavePicture(ImageOf(surface_));
   const QString text = saved.Path.isEmpty() ? "The picture could not be saved: " + saved.Fault
                                             : "Saved as " + saved.Path;

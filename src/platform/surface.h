@@ -36,6 +36,8 @@ struct PixelChange {
 /// tells early enough which of its lines are needed next.
 class Surface {
  public:
+  static constexpr std::size_t kMostKeptFrames = 8;
+
   /// `journalCapacity` is the number of pixels that are recorded between two `Present`s; after more
   /// (always with 0) the whole canvas counts as changed. `memory` holds the canvas and
   /// outlives the surface.
@@ -95,8 +97,14 @@ class Surface {
   /// Changes the size; the canvas is black afterwards. Negative sizes count as 0.
   void Resize(Integer width, Integer height);
 
-  /// Shows what was written since the last call. `FramePace` calls it once a frame.
+  /// Shows the oldest kept frame. If none is kept, shows what was written since the last call.
   virtual void Present() = 0;
+
+  /// Keeps what was written since the last frame as a frame that `Present` shows later, so that
+  /// more frames can be computed meanwhile. At most `kMostKeptFrames` are kept. False if it must be
+  /// shown now: the surface cannot keep frames, or all of it changed.
+  virtual bool KeepFrame() { return false; }
+  virtual std::size_t KeptFrameCount() const { return 0; }
 
  protected:
   /// The journal is incomplete, and the whole canvas must be shown.

@@ -34,6 +34,7 @@ struct Display {
   Single FocalPixels = 0;  // (CenterX + CenterY) * 0.5 * FocalLength
   Long FrameDelayMs = 0;   // least time of a frame; 0 until a host sets it
   Long FrameStartTick = 0;
+  Long FrameShownTick = 0;
 };
 
 struct ProcessState {

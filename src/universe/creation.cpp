@@ -266,7 +266,7 @@ bool CreationFrame(UniverseScene& scene, Birth& birth, int frame) {
   RampDamping(scene, birth, frame);
   scene.Arrays.TrailHead =
       static_cast<Integer>((scene.Arrays.TrailHead + 1) % process.RunUniverse.RunTrail);
-  if (FramePace(process)) return false;
+  if (FramePaceAhead(process)) return false;
   if (process.Mode == RunMode::Preview && frame == 0) PumpOneTick(process);
   return true;
 }

@@ -80,7 +80,7 @@ bool TourFrame(UniverseTour& tour) {
   StarStep(tour.Frame(), tour.Place);
   StepAmbientOfFrame(tour);
   StepNebulaRibbons(process, run.Slots, run.Folds.StarfoldProf);
-  return !process.Requests.TakeNewRun() && !FramePace(process);
+  return !process.Requests.TakeNewRun() && !FramePaceAhead(process);
 }
 
 /// One frame of the pull-out. It is not stamped, so it waits for the screen and not for the frame's

@@ -178,6 +178,38 @@ TEST_F(WindowSurfaceTest, RestsWhileOthersCoverItAndComesBackWhole) {
   ExpectShown();
 }
 
+TEST_F(WindowSurfaceTest, KeptFramesAreShownOneAfterTheOther) {
+  ShowAt(300, 200);
+  if (QGuiApplication::primaryScreen()->depth() == 16) GTEST_SKIP() << "keeps no frames";
+  Scatter(100);
+  Target.Present();
+  const std::vector<Colour> colours{0xFF, 0xFF00, 0xFF0000};
+  // Few changes are drawn as points, many as tiles, and then as points until none is kept.
+  for (const auto& counts : {std::vector{5, 5, 5}, {900, 900, 900}, {5, 900, 5}, {5, 5, 900}}) {
+    for (std::size_t i = 0; i < colours.size(); ++i) {
+      Scatter(counts[i]);
+      Target.SetPixelV(150, 100, colours[i]);
+      ASSERT_TRUE(Target.KeepFrame());
+    }
+    for (const Colour colour : colours) {
+      Target.Present();
+      const double factor = Target.Window().devicePixelRatio();
+      const QPoint place(static_cast<int>(150.5 * factor), static_cast<int>(100.5 * factor));
+      EXPECT_TRUE(
+          PumpUntil([&] { return LooksLike(Grab().pixel(place), ScreenWord(colour), 24); }));
+    }
+    ExpectShown();
+  }
+  Scatter(10);
+  ASSERT_TRUE(Target.KeepFrame());
+  Target.Clear();
+  Scatter(10);
+  EXPECT_FALSE(Target.KeepFrame());
+  Target.Present();
+  EXPECT_EQ(Target.KeptFrameCount(), 0U) << "they would be drawn over the new picture";
+  ExpectShown();
+}
+
 class WindowInputTest : public WindowSurfaceTest {
  protected:
   void Send(QEvent&& event) { QCoreApplication::sendEvent(&Target.Window(), &event); }

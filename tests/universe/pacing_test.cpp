@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <vector>
+
 #include "scenes/scenes.h"
 
 namespace starfolds {
@@ -58,6 +61,89 @@ TEST_F(Pacing, AStopInThePumpEndsTheWait) {
   };
   EXPECT_TRUE(FramePace(Process()));
   EXPECT_EQ(Clock.Waited, 0);
+}
+
+/// Keeps frames and notes when each was shown.
+class KeepingSurface : public MemorySurface {
+ public:
+  explicit KeepingSurface(Pump& clock) : MemorySurface(8, 8), clock_(clock) {}
+
+  void Present() override {
+    if (Kept > 0) --Kept;
+    Shown.push_back(clock_.TickCount());
+  }
+  bool KeepFrame() override {
+    if (CanKeep) ++Kept;
+    return CanKeep;
+  }
+  std::size_t KeptFrameCount() const override { return Kept; }
+
+  bool CanKeep = true;
+  std::size_t Kept = 0;
+  std::vector<Long> Shown;
+
+ private:
+  Pump& clock_;
+};
+
+class PacingAhead : public Pacing {
+ protected:
+  PacingAhead() {
+    Process().Screen.hDCDraw = &Canvas;
+    Process().Screen.FrameDelayMs = 40;
+  }
+
+  /// Computes frames that take so many milliseconds each. False if the run must stop.
+  bool Compute(int frames, Long milliseconds) {
+    for (int i = 0; i < frames; ++i) {
+      StampFrame(Process());
+      Clock.CountedPump::WaitForEvents(milliseconds);
+      if (FramePaceAhead(Process())) return false;
+    }
+    return true;
+  }
+
+  /// The times between the frames that were shown, each once.
+  std::set<Long> Intervals() const {
+    std::set<Long> intervals;
+    for (std::size_t i = 1; i < Canvas.Shown.size(); ++i) {
+      intervals.insert(Canvas.Shown[i] - Canvas.Shown[i - 1]);
+    }
+    return intervals;
+  }
+
+  KeepingSurface Canvas{Clock};
+};
+
+TEST_F(PacingAhead, FramesAreShownAtTheirTimesWheneverTheyWereComputed) {
+  for (const Long milliseconds : {0, 1, 6, 19, 25}) {
+    Canvas.Shown.clear();
+    EXPECT_TRUE(Compute(50, milliseconds));
+    EXPECT_EQ(Intervals(), std::set<Long>{40}) << milliseconds << " ms a frame";
+    const auto ahead = static_cast<int>(Canvas.Kept);
+    EXPECT_GE(static_cast<int>(Canvas.Shown.size()) + ahead, 50) << "none is lost";
+    EXPECT_TRUE(Compute(static_cast<int>(Surface::kMostKeptFrames) - ahead, milliseconds));
+  }
+}
+
+TEST_F(PacingAhead, AFrameThatCannotBeKeptComesAfterTheKeptOnes) {
+  EXPECT_TRUE(Compute(11, 0));
+  Canvas.CanKeep = false;
+  EXPECT_TRUE(Compute(2, 0));
+  EXPECT_EQ(Canvas.Kept, 0U);
+  EXPECT_EQ(Canvas.Shown.size(), 13U);
+  EXPECT_EQ(Intervals(), std::set<Long>{40});
+}
+
+TEST_F(PacingAhead, KeptFramesDoNotHoldUpAStopOrANewRun) {
+  EXPECT_TRUE(Compute(8, 0));
+  const std::size_t shown = Canvas.Shown.size();
+  Clock.OnPump = [this] { Process().Requests.AskNewRun(); };
+  Process().Screen.FrameDelayMs = 0;
+  EXPECT_TRUE(Compute(8, 1));
+  EXPECT_LE(Canvas.Shown.size(), shown + 1);
+  Process().Requests.AskStop();
+  EXPECT_FALSE(Compute(1, 0));
 }
 
 TEST_F(Pacing, APreviewEndsWithItsHost) {
