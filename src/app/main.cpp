@@ -180,7 +180,7 @@ int main(int argc, char** argv) {
     return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
   }
   switch (options.AskedFor) {
-    case Role::Help: return PrintAndEnd(UsageText());
+    case Role::Help: return PrintAndEnd(HelpOf(SaverGuide()));
     case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
     default: break;
   }

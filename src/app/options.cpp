@@ -57,12 +57,14 @@ OptionTable TableFor(StartOptions& to) {
   return {
       Heading("What runs"),
       {"--saver", "", "run the screen saver; any input ends it", asksFor(Role::Saver)},
-      {"--screens", "WHICH",
-       "with --saver: \"all\" screens, each with its own universe\n"
-       "(as without this option), the \"primary\" one, or one by its\nnumber from 1",
-       reads(ReadScreen)},
+      Offering("all primary",
+               {"--screens", "WHICH",
+                "with --saver: \"all\" screens, each with its own universe\n"
+                "(as without this option), the \"primary\" one, or one by its\nnumber from 1",
+                reads(ReadScreen)}),
       {"--window", "", "run the effect as an application", asksFor(Role::Window)},
-      {"FILE", "", "with --window: show this template, store nothing", TakeText(to.Template)},
+      Offering(kTemplateFile, {"FILE", "", "with --window: show this template, store nothing",
+                               TakeText(to.Template)}),
       {"--size", "WxH", "with --window: size of the window in pixels (1280x720)", readsSize},
       {"--full-screen", "", "with --window: cover the screen", TakeFixed(to.FullScreen, true)},
       {"--settings", "", "open the settings dialog", asksFor(Role::Settings)},
@@ -73,7 +75,9 @@ OptionTable TableFor(StartOptions& to) {
        reads(ReadHostWindow)},
       Heading("With --saver, --window, --root or --window-id, for this run only"),
       {"--seed", "N", "show the universes of seed N", TakeNumber(to.Seed)},
-      {"--theme", "N", "universe theme 1 to 8; later options replace its values", reads(ReadTheme)},
+      Offering(Numbers(1, kThemeCount),
+               {"--theme", "N", "universe theme 1 to 8; later options replace its values",
+                reads(ReadTheme)}),
       {"--stars", "N", "stars in all the starfolds, 10 to 30000", sets("Universe_Stars")},
       {"--starfolds", "N", "starfolds in a universe, 1 to 999", sets("Universe_Starfold")},
       {"--visits", "N", "visits before the next universe, 1 to 999", sets("Universe_Recycle")},
@@ -83,10 +87,10 @@ OptionTable TableFor(StartOptions& to) {
       {"--no-tour", "", "watch the whole universe from one place", sets("Universe_Tour", "0")},
       {"--randomize", "", "vary the bodies at random", sets("Adv_Randomize", "1")},
       {"--delay", "N", "minimum time of a frame in ms, 0 to 999", sets("Adv_TimeDelay")},
-      {"--set", "NAME=N",
-       "any setting by its stored name, such as Universe_Stars=9000,\n"
-       "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500",
-       TakeChange(to.Changes)},
+      Offering(kSettingChange, {"--set", "NAME=N",
+                                "any setting by its stored name, such as Universe_Stars=9000,\n"
+                                "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500",
+                                TakeChange(to.Changes)}),
       Heading("Information"),
       {"-h,--help", "", "print this text", asksFor(Role::Help), true},
       {"-V,--version", "", "print the version", asksFor(Role::Version), true},
@@ -142,6 +146,41 @@ std::string Joined(std::span<const std::string_view> arguments) {
   return line.empty() ? line : line.substr(1);
 }
 
+GuideSection SwitchesSection() {
+  return {.Title = "Switches",
+          .Intro = "as Windows gives them to a screen saver (capitals do not matter)",
+          .Rows = {{"/S", "run the screen saver, unless it is running"},
+                   {"/C", "open the settings dialog; so does no switch at all"},
+                   {"/P HANDLE", "show a preview inside the window HANDLE"},
+                   {"/A HANDLE", "change the password, where the system has one"},
+                   {"FILE.sfd", "load a template, store its universe, and run the screen saver"}},
+          .InHelp = true};
+}
+
+GuideSection EnvironmentSection() {
+  return {.Title = "Environment",
+          .Intro = "",
+          .Rows = {{"XSCREENSAVER_WINDOW", "The window of a host, decimal or 0x and hexadecimal."},
+                   {"XDG_CONFIG_HOME", "The folder of the stored settings; ~/.config without it."},
+                   {"DISPLAY, WAYLAND_DISPLAY", "The desktop to show the windows on."}}};
+}
+
+GuideSection FilesSection() {
+  return {.Title = "Files",
+          .Intro = "",
+          .Rows = {{"~/.config/Tessellane/settings.db",
+                    "The stored settings. A damaged file is kept under another name."},
+                   {"*.sfd", "Templates: text files with a complete set of settings."}}};
+}
+
+GuideSection ExitSection() {
+  return {.Title = "Exit status",
+          .Intro = "",
+          .Rows = {{"0", "The program ended as it was asked to."},
+                   {"1", "It could not show anything, for example without a display."},
+                   {"2", "The arguments are wrong, or a template could not be read or stored."}}};
+}
+
 }  // namespace
 
 std::optional<Long> WindowNumber(std::string_view text) {
@@ -163,22 +202,17 @@ Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOption
   return informs ? std::nullopt : CheckTogether(options);
 }
 
-std::string UsageText() {
+ProgramGuide SaverGuide() {
   StartOptions unused;
-  return R"(Usage: starfolds [OPTION]... [FILE] or starfolds [SWITCH]
-
-A screen saver that simulates a universe of starfolds.
-)" + OptionsHelp(TableFor(unused)) +
-         R"(
-A number beyond its range is clamped to it.
-
-Switches, as Windows gives them to a screen saver (capitals do not matter):
-  /S                  run the screen saver, unless it is running
-  /C                  open the settings dialog; so does no switch at all
-  /P HANDLE           show a preview inside the window HANDLE
-  /A HANDLE           change the password, where the system has one
-  FILE.sfd            load a template, store its universe, and run the screen saver
-)";
+  return {
+      .Name = "starfolds",
+      .Purpose = "screen saver that simulates universes of stars",
+      .Usage = {"[OPTION]... [FILE]", "[SWITCH]"},
+      .Description = "A screen saver that simulates a universe of starfolds.",
+      .Options = WithoutFunctions(TableFor(unused)),
+      .Remark = "A number beyond its range is clamped to it.",
+      .Sections = {SwitchesSection(), EnvironmentSection(), FilesSection(), ExitSection()},
+  };
 }
 
 }  // namespace starfolds

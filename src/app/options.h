@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "command_line/fault.h"
+#include "command_line/program_guide.h"
 #include "numbers/words.h"
 
 namespace starfolds {
@@ -54,7 +55,7 @@ Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOption
 /// is not a number from 1 to the largest Long.
 std::optional<Long> WindowNumber(std::string_view text);
 
-/// What `--help` prints.
-std::string UsageText();
+/// What `--help`, the manual page and shells say about the program.
+ProgramGuide SaverGuide();
 
 }  // namespace starfolds

@@ -107,6 +107,12 @@ std::string OptionsHelp(const OptionTable& table) {
   return text;
 }
 
+std::string Numbers(int low, int high) {
+  std::string words;
+  for (int i = low; i <= high; ++i) words += (words.empty() ? "" : " ") + std::to_string(i);
+  return words;
+}
+
 std::string QuotedStart(std::string_view text) {
   const std::string_view shown = FirstCharacters(text, kLongestQuote, kLongestQuote);
   return Quoted(std::string(shown) + (shown.size() < text.size() ? "..." : ""));

@@ -20,13 +20,29 @@ namespace starfolds {
 /// option without a value.
 using TakeValue = std::function<Fault(std::string_view value)>;
 
+/// What a shell offers as the value of an option. A list of words is the values themselves.
+inline constexpr const char* kAnyFile = "*";
+inline constexpr const char* kTemplateFile = "*.sfd";
+inline constexpr const char* kFolder = "/";
+inline constexpr const char* kSettingChange = "=";
+
 struct Option {
   const char* Names;     // such as "-h,--help"; without a hyphen: the positional argument
   const char* Argument;  // placeholder of the value in the help; empty: no value
   const char* Help;      // one or more lines
   TakeValue Take;
-  bool Alone = false;  // if given anywhere, the rest of the command line is ignored
+  bool Alone = false;     // if given anywhere, the rest of the command line is ignored
+  std::string Offered{};  // words separated by blanks, or one of the constants above
 };
+
+/// The option with what shells offer as its value.
+inline Option Offering(std::string offered, Option option) {
+  option.Offered = std::move(offered);
+  return option;
+}
+
+/// The whole numbers from `low` to `high`, for `Offering`.
+std::string Numbers(int low, int high);
 
 /// A row without a name is the heading of a group of options. A group with an empty heading is not
 /// listed in the help.

@@ -53,7 +53,7 @@ int RunWith(const std::vector<std::string_view>& arguments) {
     return Fail(*fault + " (--help lists the options)");
   }
   switch (options.Action) {
-    case RenderAction::Help: return PrintAndEnd(HelpText());
+    case RenderAction::Help: return PrintAndEnd(HelpOf(RendererGuide()));
     case RenderAction::Version: return PrintAndEnd("starfolds-render " STARFOLDS_VERSION "\n");
     case RenderAction::List:
     case RenderAction::Render: break;

@@ -25,8 +25,9 @@ OptionTable TableFor(RenderOptions& to) {
   return {
       Heading("The run"),
       {"--size", "WxH", "size of the surface in pixels (1280x720)", TakeSize(to.Width, to.Height)},
-      {"--scale", "N", "each pixel as a block of N x N in pictures and video, 1 to 4 (1)",
-       TakeNumber(to.Scale, 1, 4)},
+      Offering(Numbers(1, 4),
+               {"--scale", "N", "each pixel as a block of N x N in pictures and video, 1 to 4 (1)",
+                TakeNumber(to.Scale, 1, 4)}),
       {"--seed", "N", "seed of the random numbers; the same seed gives the same pixels (1)",
        TakeNumber(to.Seed)},
       {"--frames", "N", "length of the run in frames, counted from 1 (1000)",
@@ -38,24 +39,29 @@ OptionTable TableFor(RenderOptions& to) {
       {"--composite", "N", "one body of composite N, 0 to 15, instead of universes",
        TakeNumber(to.Composite, 0, kCompositeCount - 1)},
       Heading("Its settings"),
-      {"--set", "Name=value",
-       "any setting, as often as needed: Universe_Stars=9000,\n"
-       "Starfold_Radius=500 (all profiles), Starfold7/Starfold_Radius=500",
-       TakeChange(to.Changes)},
-      {"--template", "FILE", "start from the settings in a template file (.sfd)",
-       TakeText(to.TemplateFile)},
+      Offering(kSettingChange, {"--set", "Name=value",
+                                "any setting, as often as needed: Universe_Stars=9000,\n"
+                                "Starfold_Radius=500 (all profiles), Starfold7/Starfold_Radius=500",
+                                TakeChange(to.Changes)}),
+      Offering(kTemplateFile,
+               {"--template", "FILE", "start from the settings in a template file (.sfd)",
+                TakeText(to.TemplateFile)}),
       {"--stored", "", "start from the settings that you have stored", TakeFixed(to.Stored, true)},
-      {"--factory", "N", "start from the profiles of Starfolds 4.x (0) or 2.0 (1) (0)",
-       TakeNumber(to.Factory, 0, 1)},
-      {"--theme", "N", "start from universe theme N, 1 to 8 (1)",
-       TakeNumber(to.Theme, 1, kThemeCount)},
+      Offering("0 1",
+               {"--factory", "N", "start from the profiles of Starfolds 4.x (0) or 2.0 (1) (0)",
+                TakeNumber(to.Factory, 0, 1)}),
+      Offering(Numbers(1, kThemeCount), {"--theme", "N", "start from universe theme N, 1 to 8 (1)",
+                                         TakeNumber(to.Theme, 1, kThemeCount)}),
       Heading("Output, at least one of"),
-      {"--save", "FILE", "write the settings as a template file (.sfd)", TakeText(to.SaveFile)},
-      {"--png", "DIR", "write DIR/frame-000001.png and so on", TakeText(to.PngFolder)},
-      {"--y4m", "FILE", "write video as YUV4MPEG2 (\"-\": to standard output)",
-       TakeText(to.VideoFile)},
-      {"--sheet", "FILE", "write one PNG that shows all the written frames, small",
-       TakeText(to.SheetFile)},
+      Offering(kTemplateFile, {"--save", "FILE", "write the settings as a template file (.sfd)",
+                               TakeText(to.SaveFile)}),
+      Offering(kFolder,
+               {"--png", "DIR", "write DIR/frame-000001.png and so on", TakeText(to.PngFolder)}),
+      Offering(kAnyFile, {"--y4m", "FILE", "write video as YUV4MPEG2 (\"-\": to standard output)",
+                          TakeText(to.VideoFile)}),
+      Offering(kAnyFile,
+               {"--sheet", "FILE", "write one PNG that shows all the written frames, small",
+                TakeText(to.SheetFile)}),
       {"--hash", "", "print \"frame N hash\" for each of them", TakeFixed(to.Hash, true)},
       Heading("Information"),
       {"--list", "", "print the profiles, composites and themes", acts(RenderAction::List)},
@@ -106,13 +112,24 @@ Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& o
   return options.Action == RenderAction::Render ? CheckTogether(options) : std::nullopt;
 }
 
-std::string HelpText() {
+ProgramGuide RendererGuide() {
   RenderOptions unused;
-  return "Usage: starfolds-render [OPTION]...\n\n"
-         "Renders universes of stars without a screen, to pictures and video.\n" +
-         OptionsHelp(TableFor(unused)) +
-         "\nThe number in parentheses is the default. A setting beyond its range is clamped to "
-         "it.\n";
+  return {
+      .Name = "starfolds-render",
+      .Purpose = "render universes of stars to pictures and video",
+      .Usage = {"[OPTION]..."},
+      .Description = "Renders universes of stars without a screen, to pictures and video.",
+      .Options = WithoutFunctions(TableFor(unused)),
+      .Remark =
+          "The number in parentheses is the default. A setting beyond its range is clamped to "
+          "it.",
+      .Sections = {{.Title = "Exit status",
+                    .Intro = "",
+                    .Rows = {{"0", "Everything was written."},
+                             {"2",
+                              "The arguments are wrong, or something could not be written. "
+                              "Standard error has one line that says what."}}}},
+  };
 }
 
 Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "command_line/fault.h"
+#include "command_line/program_guide.h"
 #include "platform/files.h"
 #include "platform/key_value_tree.h"
 #include "render/frame_plan.h"
@@ -54,8 +55,8 @@ struct RenderOptions {
 /// twice the last one counts. If it returns a fault, `options` must not be used.
 Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& options);
 
-/// What `--help` prints.
-std::string HelpText();
+/// What `--help`, the manual page and shells say about the program.
+ProgramGuide RendererGuide();
 
 /// Makes the settings that the options ask for. `tree` is the user's.
 Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,

@@ -45,4 +45,9 @@ for line in "MimeType=$type;" 'Exec=starfolds --window %f'; do
 done
 [ -s "$root/usr/bin/../share/starfolds/templates/one-lotus.sfd" ] || fault "there are no templates"
 
+for program in "$root"/usr/bin/*; do
+  page=$share/man/man1/$(basename "$program").1
+  mandoc -T lint "$page" || fault "$page is not valid"
+done
+
 [ "$faults" = 0 ] || exit 1
