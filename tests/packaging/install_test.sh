@@ -45,6 +45,11 @@ for line in "MimeType=$type;" 'Exec=starfolds --window %f'; do
 done
 [ -s "$root/usr/bin/../share/starfolds/templates/one-lotus.sfd" ] || fault "there are no templates"
 
+appstreamcli validate --no-net --pedantic "$share"/metainfo/*.xml || fault 'the metadata are not valid'
+for icon in "$share"/icons/hicolor/*x*/apps/starfolds.png; do
+  size=$(identify -format '%wx%h' "$icon")
+  [[ $icon == */"$size"/apps/* ]] || fault "$icon is $size"
+done
 for program in "$root"/usr/bin/*; do
   page=$share/man/man1/$(basename "$program").1
   mandoc -T lint "$page" || fault "$page is not valid"
