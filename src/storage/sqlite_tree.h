@@ -25,10 +25,11 @@ struct TreePatience {
 };
 
 /// A file is locked only during a bulk, or the read or write of a single value. The user's file
-/// stays open for the next look, because a start looks several times. The first write creates the
-/// file and its folder. If the user's file turns out to be damaged at a write, it is renamed, which
-/// the complaint says in one line, and a new one is created. A look that timed out is complained
-/// about as well: the file is locked or holds too much.
+/// stays open for the next look, because a start looks several times (not on Windows, where an open
+/// file cannot be renamed). The first write creates the file and its folder. If the user's file
+/// turns out to be damaged at a write, it is renamed, which the complaint says in one line, and a
+/// new one is created. A look that timed out is complained about as well: the file is locked or
+/// holds too much.
 ///
 /// Bulks cover the user's hive only. Inside a bulk, writes to the machine's hive are stored at
 /// once, and what cannot be read there counts as missing: a file that only an administrator can
@@ -81,7 +82,7 @@ class SqliteTree : public KeyValueTree {
   TreePatience patience_;
   GiveUp giveUp_;
   std::chrono::steady_clock::time_point restUntil_;
-  TreeTransaction look_;  // of the user's file, which stays open for the next one
+  TreeTransaction look_;  // of the user's file, which may stay open for the next one
   std::unique_ptr<Bulk> bulk_;
 };
 

@@ -15,6 +15,13 @@ struct FileIdentity {
   bool operator==(const FileIdentity&) const = default;
 };
 
+/// Whether a file can be renamed while another process has it open.
+#ifdef _WIN32
+inline constexpr bool kOpenFilesCanBeRenamed = false;
+#else
+inline constexpr bool kOpenFilesCanBeRenamed = true;
+#endif
+
 struct FoundFile {
   enum class State { Missing, Plain, OutOfReach };
   State Is = State::OutOfReach;

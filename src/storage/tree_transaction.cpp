@@ -6,6 +6,8 @@
 #include <thread>
 #include <utility>
 
+#include "storage/processor_time.h"
+
 namespace starfolds {
 namespace {
 
@@ -135,18 +137,17 @@ int TreeTransaction::StopIfEndless(void* self) {
 
 /// Uses processor time, so that neither a busy nor a suspended machine counts as a slow file.
 bool TreeTransaction::IsExhausted() {
-  const auto worked = static_cast<double>(worked_ + std::clock() - runningSince_);
-  if (worked / CLOCKS_PER_SEC <= std::chrono::duration<double>(limits_.Work).count()) return false;
+  if (worked_ + ProcessorTime() - runningSince_ <= limits_.Work) return false;
   trouble_ = TreeTrouble::TooMuch;
   return true;
 }
 
 /// Most statements are too short for the progress handler; thousands of them are stopped here.
 int TreeTransaction::Run(const std::function<int()>& statement) {
-  runningSince_ = std::clock();
+  runningSince_ = ProcessorTime();
   if (IsExhausted()) return SQLITE_INTERRUPT;
   const int code = statement();
-  worked_ += std::clock() - runningSince_;
+  worked_ += ProcessorTime() - runningSince_;
   if ((code & 0xFF) == SQLITE_NOMEM) trouble_ = TreeTrouble::TooMuch;
   return code;
 }
@@ -164,7 +165,7 @@ TreeOutcome TreeTransaction::Begin(const TreePlace& place, Kind kind, TreeLimits
   limits_ = std::move(limits);
   trouble_ = TreeTrouble::None;
   waited_ = {};
-  worked_ = 0;
+  worked_ = {};
   if (found.Is == State::Missing && (kind != Kind::Make || !hasPlace)) {
     withoutFile_ = kind == Kind::Make ? Refused : Nothing;
     return withoutFile_;
@@ -319,9 +320,11 @@ void TreeTransaction::Close() {
 }
 
 /// Drops the page cache: the next look may be hours later, and changes made without SQLite would
-/// not be noticed.
+/// not be noticed. Where an open file cannot be renamed it is closed, or no process could set a
+/// damaged file aside while a saver runs.
 void TreeTransaction::EndLook() {
   sqlite3_reset(get_.get());
+  if (!kOpenFilesCanBeRenamed) return Close();
   const bool isSound = db_ && trouble_ == TreeTrouble::None;
   if (!isSound || (IsRunning() && Execute("COMMIT") != Done) || HasLog()) return Close();
   sqlite3_db_release_memory(db_);

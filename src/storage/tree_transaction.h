@@ -2,7 +2,6 @@
 #pragma once
 
 #include <chrono>
-#include <ctime>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -66,7 +65,8 @@ class TreeTransaction {
 
   TreeOutcome Commit();
   void Close();
-  /// Releases the lock, and leaves the file open for the next look.
+  /// Releases the lock. Leaves the file open for the next look, if other processes can rename it
+  /// then.
   void EndLook();
 
   Kind Is() const { return kind_; }
@@ -109,8 +109,8 @@ class TreeTransaction {
   TreeLimits limits_;
   TreeTrouble trouble_ = TreeTrouble::None;
   std::chrono::steady_clock::duration waited_{};
-  std::clock_t worked_ = 0;  // in finished statements
-  std::clock_t runningSince_ = 0;
+  std::chrono::nanoseconds worked_{};  // processor time of finished statements
+  std::chrono::nanoseconds runningSince_{};
 };
 
 }  // namespace starfolds

@@ -1,6 +1,4 @@
 // Files of all kinds of rubbish in the place of the tree.
-#include <sys/stat.h>
-
 #include <random>
 
 #include "storage/stored_tree.h"
@@ -92,20 +90,6 @@ TEST_F(TreeDamage, TheJournalGoesWithItsFile) {
   EXPECT_EQ(FileText(File + ".damaged-2"), std::string(3000, '?'));
   EXPECT_EQ(FileText(File + ".damaged-2-journal"), std::string("\0jjj", 4));
   EXPECT_FALSE(fs::exists(File + "-journal"));
-}
-
-TEST_F(TreeDamage, WhatIsNoFileIsLeft) {
-  for (const char* kind : {"folder", "pipe", "device"}) {
-    Empty();
-    fs::create_directory(Folder.Path("config"));
-    if (*kind == 'f') fs::create_directory(File);
-    if (*kind == 'p') mkfifo(File.c_str(), 0666);
-    if (*kind == 'd') fs::create_symlink("/dev/zero", File);
-    StoredTree stored(File, {}, kImpatient);
-    EXPECT_EQ(stored.Saved(2), "unread") << kind;
-    EXPECT_FALSE(stored.Save("new", 2)) << kind;
-    EXPECT_EQ(Folder.Names().size(), 2U) << kind;
-  }
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
-// The stored tree on a machine where things go wrong.
+// The stored tree with the means of POSIX: processes, permissions, links.
 #include <fcntl.h>
-#include <sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <thread>
@@ -74,37 +74,52 @@ TEST_F(TreeFaults, ADamagedFileInUseIsLeft) {
   EXPECT_TRUE(stored.Write("x", "1"));
 }
 
-/// A start looks several times. The first look may wait; the others only try once for the lock.
-TEST_F(TreeFaults, ALockedFileIsWaitedForOnce) {
-  constexpr milliseconds look(100), never(600'000);
-  ASSERT_TRUE(StoredTree(File).Save("old", 2));
-  int tries = 0;
-  int complaints = 0;
-  bool mustEnd = false;
-  SqliteTree tree(
-      {File, File}, [&](const std::string&) { ++complaints; }, {look, never, never, never},
-      [&] {
-        ++tries;
-        return mustEnd;
-      });
-  sqlite3* db = nullptr;
-  ASSERT_EQ(sqlite3_open(File.c_str(), &db), SQLITE_OK);
-  ASSERT_EQ(sqlite3_exec(db, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  EXPECT_EQ(tree.Read(kUser, "P", "0"), std::nullopt);
-  EXPECT_GT(tries, 1);
-  tries = 0;
-  for (int i = 0; i < 10; ++i) EXPECT_EQ(tree.Read(kUser, "P", "0"), std::nullopt);
-  EXPECT_FALSE(tree.Write(kUser, "P", "0", "new")) << "a change would have waited for ten minutes";
-  EXPECT_EQ(tree.Read(Hive::LocalMachine, "P", "0"), std::nullopt);
-  EXPECT_EQ(tries, 12);
-  EXPECT_EQ(complaints, 1);
-  mustEnd = true;
-  SqliteTree patient({File, {}}, {}, {never, never, never, never}, [&] { return mustEnd; });
-  EXPECT_EQ(patient.Read(kUser, "P", "0"), std::nullopt) << "the process is asked to end";
-  EXPECT_FALSE(patient.Write(kUser, "P", "0", "new"));
-  mustEnd = false;
-  sqlite3_close(db);
-  EXPECT_EQ(tree.Read(kUser, "P", "0"), "old");
+/// A start looks several times.
+TEST_F(TreeFaults, APrivateFileStaysOpenBetweenLooks) {
+  const auto openings = [&] {
+    std::error_code gone;
+    std::ptrdiff_t count = 0;
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+      count += fs::read_symlink(entry.path(), gone) == File ? 1 : 0;
+    }
+    return count;
+  };
+  StoredTree stored(File);
+  ASSERT_TRUE(stored.Save("v", 2));
+  EXPECT_EQ(fs::status(Folder.Path("config")).permissions(), fs::perms::owner_all);
+  EXPECT_EQ(stored.Saved(2), "v");
+  EXPECT_EQ(stored.Read("0"), "v");
+  EXPECT_EQ(openings(), 1);
+  fs::rename(File, File + "-away");
+  ASSERT_TRUE(StoredTree(File).Save("fresh", 2));
+  EXPECT_EQ(stored.Saved(2), "fresh");
+  EXPECT_EQ(openings(), 1);
+}
+
+TEST_F(TreeFaults, ALinkToTheFileStays) {
+  StoredTree stored(File);
+  fs::create_directory(Folder.Path("config"));
+  fs::create_symlink(Folder.Path("elsewhere.db"), File);
+  ASSERT_TRUE(stored.Write("x", "1"));
+  std::ofstream(Folder.Path("elsewhere.db")) << std::string(2000, '?');
+  ASSERT_TRUE(stored.Write("x", "2"));
+  EXPECT_EQ(stored.Complaints.size(), 1U);
+  EXPECT_TRUE(fs::is_symlink(File));
+  EXPECT_EQ(FileText(Folder.Path("elsewhere.db.damaged-1")), std::string(2000, '?'));
+}
+
+TEST_F(TreeFaults, WhatIsNoFileIsLeft) {
+  for (const char* kind : {"folder", "pipe", "device"}) {
+    fs::remove_all(Folder.Path("config"));
+    fs::create_directory(Folder.Path("config"));
+    if (*kind == 'f') fs::create_directory(File);
+    if (*kind == 'p') mkfifo(File.c_str(), 0666);
+    if (*kind == 'd') fs::create_symlink("/dev/zero", File);
+    StoredTree stored(File, {}, kImpatient);
+    EXPECT_EQ(stored.Saved(2), "unread") << kind;
+    EXPECT_FALSE(stored.Save("new", 2)) << kind;
+    EXPECT_EQ(Folder.Names().size(), 2U) << kind;
+  }
 }
 
 /// For those who may look but not touch, and for those who may do neither.
