@@ -17,6 +17,7 @@
 #include "desktop/foreign_window.h"
 #include "desktop/qt_pump.h"
 #include "desktop/signals.h"
+#include "desktop/translation.h"
 #include "hosting/main.h"
 #include "platform/console.h"
 #include "settings/first_run.h"
@@ -41,6 +42,13 @@ int Fail(const std::string& message, int exitCode) {
 
 int PrintAndEnd(const std::string& text) {
   return Print(text) ? 0 : Fail("cannot write to the standard output", kExitCannotDo);
+}
+
+/// The application object makes the user's language known.
+int PrintHelp(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  InstallTranslations();
+  return PrintAndEnd(HelpOf(SaverGuide(), TranslatedText));
 }
 
 bool ShowsDialogs(const StartOptions& options) {
@@ -180,7 +188,7 @@ int main(int argc, char** argv) {
     return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
   }
   switch (options.AskedFor) {
-    case Role::Help: return PrintAndEnd(HelpOf(SaverGuide()));
+    case Role::Help: return PrintHelp(argc, argv);
     case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
     default: break;
   }

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "command_line/options.h"
+#include "platform/user_text.h"
 #include "settings/factory.h"
 #include "settings/fields.h"
 
@@ -55,45 +56,61 @@ OptionTable TableFor(StartOptions& to) {
     return TakeSize(to.Size->Width, to.Size->Height)(text);
   };
   return {
-      Heading("What runs"),
-      {"--saver", "", "run the screen saver; any input ends it", asksFor(Role::Saver)},
+      Heading(STARFOLDS_TEXT("What runs")),
+      {"--saver", "", STARFOLDS_TEXT("run the screen saver; any input ends it"),
+       asksFor(Role::Saver)},
       Offering("all primary",
                {"--screens", "WHICH",
-                "with --saver: \"all\" screens, each with its own universe\n"
-                "(as without this option), the \"primary\" one, or one by its\nnumber from 1",
+                STARFOLDS_TEXT(
+                    "with --saver: \"all\" screens, each with its own universe\n"
+                    "(as without this option), the \"primary\" one, or one by its\nnumber from 1"),
                 reads(ReadScreen)}),
-      {"--window", "", "run the effect as an application", asksFor(Role::Window)},
-      Offering(kTemplateFile, {"FILE", "", "with --window: show this template, store nothing",
-                               TakeText(to.Template)}),
-      {"--size", "WxH", "with --window: size of the window in pixels (1280x720)", readsSize},
-      {"--full-screen", "", "with --window: cover the screen", TakeFixed(to.FullScreen, true)},
-      {"--settings", "", "open the settings dialog", asksFor(Role::Settings)},
-      Heading(
-          "For programs that host a screen saver, on X11, which handle input and end the saver"),
-      {"--root", "", "run inside the window that XSCREENSAVER_WINDOW names", asksFor(Role::Guest)},
-      {"--window-id", "N", "run inside window N (decimal, or 0x and hexadecimal)",
+      {"--window", "", STARFOLDS_TEXT("run the effect as an application"), asksFor(Role::Window)},
+      Offering(kTemplateFile,
+               {"FILE", "", STARFOLDS_TEXT("with --window: show this template, store nothing"),
+                TakeText(to.Template)}),
+      {"--size", "WxH", STARFOLDS_TEXT("with --window: size of the window in pixels (1280x720)"),
+       readsSize},
+      {"--full-screen", "", STARFOLDS_TEXT("with --window: cover the screen"),
+       TakeFixed(to.FullScreen, true)},
+      {"--settings", "", STARFOLDS_TEXT("open the settings dialog"), asksFor(Role::Settings)},
+      Heading(STARFOLDS_TEXT(
+          "For programs that host a screen saver, on X11, which handle input and end the saver")),
+      {"--root", "", STARFOLDS_TEXT("run inside the window that XSCREENSAVER_WINDOW names"),
+       asksFor(Role::Guest)},
+      {"--window-id", "N", STARFOLDS_TEXT("run inside window N (decimal, or 0x and hexadecimal)"),
        reads(ReadHostWindow)},
-      Heading("With --saver, --window, --root or --window-id, for this run only"),
-      {"--seed", "N", "show the universes of seed N", TakeNumber(to.Seed)},
+      Heading(STARFOLDS_TEXT("With --saver, --window, --root or --window-id, for this run only")),
+      {"--seed", "N", STARFOLDS_TEXT("show the universes of seed N"), TakeNumber(to.Seed)},
       Offering(Numbers(1, kThemeCount),
-               {"--theme", "N", "universe theme 1 to 8; later options replace its values",
+               {"--theme", "N",
+                STARFOLDS_TEXT("universe theme 1 to 8; later options replace its values"),
                 reads(ReadTheme)}),
-      {"--stars", "N", "stars in all the starfolds, 10 to 30000", sets("Universe_Stars")},
-      {"--starfolds", "N", "starfolds in a universe, 1 to 999", sets("Universe_Starfold")},
-      {"--visits", "N", "visits before the next universe, 1 to 999", sets("Universe_Recycle")},
-      {"--trail", "N", "length of the trails in pixels, 1 to 99", sets("Universe_STrail")},
-      {"--ambient", "N", "stars between the starfolds, 0 to 3000", sets("Universe_AmStar")},
-      {"--gravity", "N", "gravity between the starfolds, 0 to 999999", sets("Universe_GravForce")},
-      {"--no-tour", "", "watch the whole universe from one place", sets("Universe_Tour", "0")},
-      {"--randomize", "", "vary the bodies at random", sets("Adv_Randomize", "1")},
-      {"--delay", "N", "minimum time of a frame in ms, 0 to 999", sets("Adv_TimeDelay")},
-      Offering(kSettingChange, {"--set", "NAME=N",
-                                "any setting by its stored name, such as Universe_Stars=9000,\n"
-                                "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500",
-                                TakeChange(to.Changes)}),
-      Heading("Information"),
-      {"-h,--help", "", "print this text", asksFor(Role::Help), true},
-      {"-V,--version", "", "print the version", asksFor(Role::Version), true},
+      {"--stars", "N", STARFOLDS_TEXT("stars in all the starfolds, 10 to 30000"),
+       sets("Universe_Stars")},
+      {"--starfolds", "N", STARFOLDS_TEXT("starfolds in a universe, 1 to 999"),
+       sets("Universe_Starfold")},
+      {"--visits", "N", STARFOLDS_TEXT("visits before the next universe, 1 to 999"),
+       sets("Universe_Recycle")},
+      {"--trail", "N", STARFOLDS_TEXT("length of the trails in pixels, 1 to 99"),
+       sets("Universe_STrail")},
+      {"--ambient", "N", STARFOLDS_TEXT("stars between the starfolds, 0 to 3000"),
+       sets("Universe_AmStar")},
+      {"--gravity", "N", STARFOLDS_TEXT("gravity between the starfolds, 0 to 999999"),
+       sets("Universe_GravForce")},
+      {"--no-tour", "", STARFOLDS_TEXT("watch the whole universe from one place"),
+       sets("Universe_Tour", "0")},
+      {"--randomize", "", STARFOLDS_TEXT("vary the bodies at random"), sets("Adv_Randomize", "1")},
+      {"--delay", "N", STARFOLDS_TEXT("minimum time of a frame in ms, 0 to 999"),
+       sets("Adv_TimeDelay")},
+      Offering(kSettingChange,
+               {"--set", "NAME=N",
+                STARFOLDS_TEXT("any setting by its stored name, such as Universe_Stars=9000,\n"
+                               "Starfold_Radius=500 (all bodies), Starfold7/Starfold_Radius=500"),
+                TakeChange(to.Changes)}),
+      Heading(STARFOLDS_TEXT("Information")),
+      {"-h,--help", "", STARFOLDS_TEXT("print this text"), asksFor(Role::Help), true},
+      {"-V,--version", "", STARFOLDS_TEXT("print the version"), asksFor(Role::Version), true},
       // Used by a saver on several screens to start its companions.
       Heading(""),
       {"--companion", "", "", TakeFixed(to.Companion, true)},
@@ -147,14 +164,16 @@ std::string Joined(std::span<const std::string_view> arguments) {
 }
 
 GuideSection SwitchesSection() {
-  return {.Title = "Switches",
-          .Intro = "as Windows gives them to a screen saver (capitals do not matter)",
-          .Rows = {{"/S", "run the screen saver, unless it is running"},
-                   {"/C", "open the settings dialog; so does no switch at all"},
-                   {"/P HANDLE", "show a preview inside the window HANDLE"},
-                   {"/A HANDLE", "change the password, where the system has one"},
-                   {"FILE.sfd", "load a template, store its universe, and run the screen saver"}},
-          .InHelp = true};
+  return {
+      .Title = STARFOLDS_TEXT("Switches"),
+      .Intro = STARFOLDS_TEXT("as Windows gives them to a screen saver (capitals do not matter)"),
+      .Rows = {{"/S", STARFOLDS_TEXT("run the screen saver, unless it is running")},
+               {"/C", STARFOLDS_TEXT("open the settings dialog; so does no switch at all")},
+               {"/P HANDLE", STARFOLDS_TEXT("show a preview inside the window HANDLE")},
+               {"/A HANDLE", STARFOLDS_TEXT("change the password, where the system has one")},
+               {"FILE.sfd",
+                STARFOLDS_TEXT("load a template, store its universe, and run the screen saver")}},
+      .InHelp = true};
 }
 
 GuideSection EnvironmentSection() {
@@ -207,10 +226,10 @@ ProgramGuide SaverGuide() {
   return {
       .Name = "starfolds",
       .Purpose = "screen saver that simulates universes of stars",
-      .Usage = {"[OPTION]... [FILE]", "[SWITCH]"},
-      .Description = "A screen saver that simulates a universe of starfolds.",
+      .Usage = {STARFOLDS_TEXT("[OPTION]... [FILE]"), STARFOLDS_TEXT("[SWITCH]")},
+      .Description = STARFOLDS_TEXT("A screen saver that simulates a universe of starfolds."),
       .Options = WithoutFunctions(TableFor(unused)),
-      .Remark = "A number beyond its range is clamped to it.",
+      .Remark = STARFOLDS_TEXT("A number beyond its range is clamped to it."),
       .Sections = {SwitchesSection(), EnvironmentSection(), FilesSection(), ExitSection()},
   };
 }

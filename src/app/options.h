@@ -12,6 +12,7 @@
 #include "command_line/fault.h"
 #include "command_line/program_guide.h"
 #include "numbers/words.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 

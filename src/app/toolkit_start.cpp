@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/translation.h"
 #include "platform/console.h"
 #include "widgets/plain_text.h"
 #include "widgets/program_icon.h"
@@ -84,6 +85,7 @@ bool MessageBoxesAreSeen() { return NamesDesktop() && HasScreen() && !OnTerminal
 Toolkit::Toolkit(char* program) : arguments_{program, nullptr} {
   qInstallMessageHandler(CollectMessage);
   application_.emplace(argumentCount_, arguments_.data());
+  InstallTranslations();
   ShowTextsAsPlain(*application_);
   ShowUncheckedBoxes(*application_);
   QApplication::setWindowIcon(ProgramIcon());

@@ -11,14 +11,16 @@ namespace starfolds {
 namespace {
 
 constexpr std::string_view kStructures[kAtomStructureCount] = {
-    "Single    ", " 6 Point  ", " 8 Point  ", "18 Shell  ", "26 Shell  ", "38 Shell  ",
-    "Rectgrid  ", "Hexagrid  ", "Cube      ", "Tetramatrx", "Octamatrix", "Hexamatrix"};
+    STARFOLDS_TEXT("Single    "), STARFOLDS_TEXT(" 6 Point  "), STARFOLDS_TEXT(" 8 Point  "),
+    STARFOLDS_TEXT("18 Shell  "), STARFOLDS_TEXT("26 Shell  "), STARFOLDS_TEXT("38 Shell  "),
+    STARFOLDS_TEXT("Rectgrid  "), STARFOLDS_TEXT("Hexagrid  "), STARFOLDS_TEXT("Cube      "),
+    STARFOLDS_TEXT("Tetramatrx"), STARFOLDS_TEXT("Octamatrix"), STARFOLDS_TEXT("Hexamatrix")};
 
 struct Column {
   std::size_t Begin, Width;  // characters, from 0
 };
-constexpr Column kNameColumn{0, 18};
-constexpr Column kStructureColumn{18, 10};
+constexpr Column kNameColumn{0, kAtomNameWidth};
+constexpr Column kStructureColumn{kAtomNameWidth, kAtomStructureWidth};
 
 struct NumberColumn {
   Column Place;

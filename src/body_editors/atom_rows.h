@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/user_text.h"
 #include "settings/records.h"
 
 namespace starfolds {
@@ -12,7 +13,10 @@ inline constexpr int kAtomStructureCount = 12;
 
 /// The heading above the rows, aligned with their columns.
 inline constexpr std::string_view kAtomRowHeading =
-    "Element Name(s)   Type        XLoc  YLoc  ZLoc  Radius  SymRad";
+    STARFOLDS_TEXT("Element Name(s)   Type        XLoc  YLoc  ZLoc  Radius  SymRad");
+/// The widths of the first two columns, in characters.
+inline constexpr int kAtomNameWidth = 18;
+inline constexpr int kAtomStructureWidth = 10;
 
 /// The name of structure 0 to 11, padded with blanks to ten characters.
 std::string_view AtomStructureName(int structure);

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QScrollArea>
 
+#include "desktop/translation.h"
 #include "widgets/lines.h"
 #include "widgets/plain_text.h"
 
@@ -49,7 +50,7 @@ BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* 
       texts_(texts),
       preview_(model_.Process) {
   setObjectName(texts.Name);
-  setWindowTitle(WindowTitle(Record().UniFoldName + " " + std::string(texts.Caption)));
+  setWindowTitle(WindowTitle(texts.Caption.arg(Shown(Record().UniFoldName)).toStdString()));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   rows_ = new QVBoxLayout(this);
   rows_->setMenuBar(MakeMenuBar());
@@ -68,8 +69,7 @@ BodyEditor::BodyEditor(const Texts& texts, const BodyEditing& editing, QWidget* 
 StarfoldProfile& BodyEditor::Record() const { return model_.Profiles()[editBody_]; }
 
 void BodyEditor::AddPreviewAndButtons(QPushButton* cmdClear) {
-  columns_->addWidget(MakePreviewPane(std::string(texts_.PreviewCaption) + Record().UniFoldName),
-                      1);
+  columns_->addWidget(MakePreviewPane(), 1);
   rows_->addLayout(MakeButtons(cmdClear));
   bodyBoxes_.front().Box->setFocus();
 }
@@ -88,14 +88,14 @@ QMenuBar* BodyEditor::MakeMenuBar() {
   return bar;
 }
 
-QWidget* BodyEditor::MakePreviewPane(std::string_view caption) {
-  auto* fraPreview = new QGroupBox(Escaped(caption));
+QWidget* BodyEditor::MakePreviewPane() {
+  auto* fraPreview = new QGroupBox(texts_.PreviewCaption.arg(Escaped(Record().UniFoldName)));
   fraPreview->setObjectName("fraPreview");
   picPreview_->setObjectName("picPreview");
   picPreview_->setAccessibleName(tr("Preview"));
   picPreview_->setMinimumSize(kLeastPreview);
   picPreview_->installEventFilter(this);
-  cmdPreview_ = MakeButton(tr(texts_.Preview), "cmdPreview");
+  cmdPreview_ = MakeButton(texts_.Preview, "cmdPreview");
   auto* column = new QVBoxLayout(fraPreview);
   column->addWidget(picPreview_, 1);
   auto* line = new QHBoxLayout;
@@ -126,9 +126,9 @@ void BodyEditor::AddBodyBox(QGridLayout& page, const char* array, int index, con
   auto* box = new NumberBox;
   box->SetNames(array, index);
   box->SetRange(RangeIn(texts_.Ranges, row.What));
-  box->setAccessibleName(SpokenLabel(tr(row.Label)));
+  box->setAccessibleName(SpokenLabel(row.Label));
   Guide(*box, FieldOf(row.What));
-  AddLine(page, tr(row.Label), box, {box});
+  AddLine(page, row.Label, box, {box});
   connect(box, &NumberBox::Changed, this, &BodyEditor::Touched);
   bodyBoxes_.push_back({box, &FieldOf(row.What)});
   propsBoxes_.push_back(row.PropsBox);
@@ -166,7 +166,7 @@ bool BodyEditor::eventFilter(QObject* object, QEvent* event) {
 /// Reports invalid values; the valid ones are stored in the record in any case.
 bool BodyEditor::GatherIntoRecord() {
   const std::string wrong = Gather(Record());
-  if (!wrong.empty()) model_.Inform(wrong);
+  if (!wrong.empty()) model_.Inform(Translated(wrong));
   return wrong.empty();
 }
 
@@ -193,7 +193,7 @@ void BodyEditor::TogglePreview() {
   living_->Suspend();
   const PreviewEnd end = preview_.Start([this] { RunPreview(); });
   living_->Resume();
-  cmdPreview_->setText(tr(texts_.Preview));
+  cmdPreview_->setText(texts_.Preview);
   MakeDefault(*cmdOK_);
   cmdDismiss_->setEnabled(true);
   if (end == PreviewEnd::Close) return reject();

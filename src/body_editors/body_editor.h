@@ -73,16 +73,16 @@ class BodyEditor : public PlacedDialog {
     const char* Name;  // of the dialog
     std::string_view Section;
     Integer Topic;
-    std::string_view Caption;         // after the profile's name
-    std::string_view PreviewCaption;  // before the profile's name
-    const char* Preview;              // of the button while no preview runs
-    RangedEditor Ranges;              // of the boxes for settings of the profile
+    QString Caption;         // of the window; %1: the profile's name
+    QString PreviewCaption;  // of the preview; %1: the profile's name
+    QString Preview;         // of the button while no preview runs
+    RangedEditor Ranges;     // of the boxes for settings of the profile
   };
 
   /// A numeric setting of the profile.
   struct BodyBox {
     Setting<StarfoldProfile> What;
-    const char* Label;
+    QString Label;
     int PropsBox;  // index of the `txtStarfold` that "OK" writes it to, or `kNoPropsBox`
   };
   static constexpr int kNoPropsBox = -1;
@@ -122,7 +122,7 @@ class BodyEditor : public PlacedDialog {
 
  private:
   QMenuBar* MakeMenuBar();
-  QWidget* MakePreviewPane(std::string_view caption);
+  QWidget* MakePreviewPane();
   QLayout* MakeButtons(QPushButton* cmdClear);
 
   bool GatherIntoRecord();

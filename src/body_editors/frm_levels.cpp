@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <iterator>
 
+#include "desktop/translation.h"
 #include "settings/registry.h"
 #include "widgets/lines.h"
 
@@ -14,22 +15,22 @@ struct ToggleRow {
   Integer StarfoldProfile::*Member;
 };
 constexpr ToggleRow kToggles[] = {
-    {"Scale Height to Radius?", &StarfoldProfile::Starfold_StdLevB_HS},
-    {"Interleave Tilt Angles?", &StarfoldProfile::Starfold_StdLevB_A0},
-    {"Dampen Tilt Angles?", &StarfoldProfile::Starfold_StdLevB_A1}};
+    {STARFOLDS_TEXT("Scale Height to Radius?"), &StarfoldProfile::Starfold_StdLevB_HS},
+    {STARFOLDS_TEXT("Interleave Tilt Angles?"), &StarfoldProfile::Starfold_StdLevB_A0},
+    {STARFOLDS_TEXT("Dampen Tilt Angles?"), &StarfoldProfile::Starfold_StdLevB_A1}};
 
 }  // namespace
 
 FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
-    : BodyEditor({"frmLevels", sections::kLevelsPlace, help::kLevels,
-                  "Starfold Levels:  ", "Levels Preview - ", "Preview", RangedEditor::Levels},
+    : BodyEditor({"frmLevels", sections::kLevelsPlace, help::kLevels, tr("%1 Starfold Levels:  "),
+                  tr("Levels Preview - %1"), tr("Preview"), RangedEditor::Levels},
                  editing, parent) {
-  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", 0},
-                              {&StarfoldProfile::Starfold_Distance, "Distance:", 2}};
+  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, tr("Radius:"), 0},
+                              {&StarfoldProfile::Starfold_Distance, tr("Distance:"), 2}};
   const BodyBox levelRows[] = {
-      {&StarfoldProfile::Starfold_StdLevels, "Levels (1 - 10):", 9},
-      {&StarfoldProfile::Starfold_StdLevDRad, "Radius Increment (1 - 30000):", kNoPropsBox},
-      {&StarfoldProfile::Starfold_StdLevHSca, "Height Multiplier (0.0 - 99.9):", kNoPropsBox}};
+      {&StarfoldProfile::Starfold_StdLevels, tr("Levels (1 - 10):"), 9},
+      {&StarfoldProfile::Starfold_StdLevDRad, tr("Radius Increment (1 - 30000):"), kNoPropsBox},
+      {&StarfoldProfile::Starfold_StdLevHSca, tr("Height Multiplier (0.0 - 99.9):"), kNoPropsBox}};
 
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);
@@ -44,7 +45,7 @@ FrmLevels::FrmLevels(const BodyEditing& editing, QWidget* parent)
     AddBodyBox(*page, "Level", i, levelRows[i]);
   }
   for (const auto& [label, member] : kToggles) {
-    auto* box = new QCheckBox(tr(label));
+    auto* box = new QCheckBox(Translated(label));
     box->setObjectName("chkToggle_" + QString::number(chkToggle_.size()));
     box->setChecked(Record().*member != 0);
     connect(box, &QCheckBox::toggled, this, &FrmLevels::Touched);

@@ -3,10 +3,12 @@
 #include <QGroupBox>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "body_editors/atom_rows.h"
 #include "colour/tables.h"
+#include "desktop/translation.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/elements.h"
@@ -26,27 +28,27 @@ struct PropRow {
   Setting<AtomPoint> What;
   const char* Label;
 };
-constexpr PropRow kProps[] = {{&AtomPoint::Atom_LocX, "Loc X\n(0-9999):"},
-                              {&AtomPoint::Atom_LocY, "Loc Y\n(0-9999):"},
-                              {&AtomPoint::Atom_LocZ, "Loc Z\n(0-9999):"},
-                              {&AtomPoint::Atom_Size, "Radius"},
-                              {&AtomPoint::Atom_Radius, "Symmetry Radius"}};
+constexpr PropRow kProps[] = {{&AtomPoint::Atom_LocX, STARFOLDS_TEXT("Loc X\n(0-9999):")},
+                              {&AtomPoint::Atom_LocY, STARFOLDS_TEXT("Loc Y\n(0-9999):")},
+                              {&AtomPoint::Atom_LocZ, STARFOLDS_TEXT("Loc Z\n(0-9999):")},
+                              {&AtomPoint::Atom_Size, STARFOLDS_TEXT("Radius")},
+                              {&AtomPoint::Atom_Radius, STARFOLDS_TEXT("Symmetry Radius")}};
 constexpr int kPropX = 0;
 constexpr int kPropY = 1;
 constexpr int kPropZ = 2;
 constexpr int kPropSymmetry = 4;
 // Labels for lattices, if different.
-const char kEdgeLabel[] = "Points per\nEdge (1-99)";
-const char kAtomOffset[] = "Atom Offset";
+const char kEdgeLabel[] = STARFOLDS_TEXT("Points per\nEdge (1-99)");
+const char kAtomOffset[] = STARFOLDS_TEXT("Atom Offset");
 constexpr NumberRange kEdgeRange{NumberKind::AsInteger, kPointsPerEdge.Low, kPointsPerEdge.High};
 
-const char kNoAtoms[] =
+const char kNoAtoms[] = STARFOLDS_TEXT(
     "You must specify at least one Atomic Structure in order to Preview the Molecule.  \n"
     "Consider selecting one of the Themes in order to see a sample Molecule  \n"
-    "or press Cancel to return to the Starfold Settings.";
-const char kListIsFull[] =
+    "or press Cancel to return to the Starfold Settings.");
+const char kListIsFull[] = STARFOLDS_TEXT(
     "You have reached the limit with respect to the number \n"
-    "elements that can be associated with a given molecule.";
+    "elements that can be associated with a given molecule.");
 
 QFont FixedPitch() {
   QFont font("Courier New");
@@ -54,6 +56,22 @@ QFont FixedPitch() {
   font.setFixedPitch(true);
   return font;
 }
+
+/// Shows the rows of atoms in the user's language. Their text stays English: the editor parses it.
+class AtomRowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QString displayText(const QVariant& row, const QLocale&) const override {
+    const std::string english = row.toString().toStdString();
+    const AtomPoint atom = ReadAtomRow(english);
+    const QString name = Translated(ElementInfo(atom.Atom_Element).Name);
+    const QString structure = Translated(AtomStructureName(atom.Atom_Structure));
+    return name.leftJustified(kAtomNameWidth, ' ', true) +
+           structure.leftJustified(kAtomStructureWidth, ' ', true) +
+           Shown(english).mid(kAtomNameWidth + kAtomStructureWidth);
+  }
+};
 
 QLineEdit* MakeField(const char* name, const QString& about) {
   auto* field = new QLineEdit;
@@ -85,8 +103,8 @@ Colour StarColorAt(const StarfoldProfile& profile, int hue) {
 
 FrmMolecule::FrmMolecule(const BodyEditing& editing, QWidget* parent)
     : ThemedEditor({"frmMolecule", sections::kAtomicsPlace, help::kMolecule,
-                    "User Defined Molecular Structure:  ", "Molecule Preview - ",
-                    "Preview Molecule", RangedEditor::Themed},
+                    tr("%1 User Defined Molecular Structure:  "), tr("Molecule Preview - %1"),
+                    tr("Preview Molecule"), RangedEditor::Themed},
                    editing, MoleculeThemes(), parent) {
   auto* columns = new QHBoxLayout;
   auto* left = new QVBoxLayout;
@@ -115,15 +133,16 @@ QLayout* FrmMolecule::MakeList() {
   lstElements_->setFont(FixedPitch());
   lstElements_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   lstElements_->setUniformItemSizes(true);
+  lstElements_->setItemDelegate(new AtomRowDelegate(lstElements_));
   const QFontMetrics metrics(lstElements_->font());
   const int margin = lstElements_->frameWidth() +
                      lstElements_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
   const int bar = lstElements_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  lstElements_->setMinimumWidth(metrics.horizontalAdvance(Shown(kAtomRowHeading)) + bar +
+  lstElements_->setMinimumWidth(metrics.horizontalAdvance(Translated(kAtomRowHeading)) + bar +
                                 4 * margin);
   lstElements_->setMinimumHeight(metrics.lineSpacing() * kListLines);
 
-  auto* heading = new QLabel(Shown(kAtomRowHeading));
+  auto* heading = new QLabel(Translated(kAtomRowHeading));
   heading->setObjectName("lblElements");
   heading->setFont(lstElements_->font());
   heading->setIndent(margin);
@@ -159,7 +178,7 @@ void FrmMolecule::AddElementLines(QGridLayout& page) {
   cboElement_ = new QComboBox;
   cboElement_->setObjectName("cboElement");
   for (int element = 1; element <= kElementCount; ++element) {
-    cboElement_->addItem(Shown(ElementInfo(element).Name));
+    cboElement_->addItem(Translated(ElementInfo(element).Name));
   }
   cboElement_->setCurrentIndex(-1);
   AddLine(page, tr("Periodic Table &Element:"), cboElement_, {cboElement_});
@@ -180,7 +199,7 @@ void FrmMolecule::AddElementLines(QGridLayout& page) {
   cboType_->setObjectName("cboType");
   cboType_->setFont(FixedPitch());
   for (int structure = 0; structure < kAtomStructureCount; ++structure) {
-    cboType_->addItem(Shown(AtomStructureName(structure)));
+    cboType_->addItem(Translated(AtomStructureName(structure)));
   }
   cboType_->setCurrentIndex(-1);
   AddLine(page, tr("Atomic &Structure:"), cboType_, {cboType_});
@@ -195,9 +214,9 @@ void FrmMolecule::AddProps(QGridLayout& page) {
     box->SetNames("Props", index);
     box->SetRange(RangeOf(*field));
     box->SetBlankAllowed();
-    box->setAccessibleName(tr("Atom, %1").arg(SpokenLabel(tr(row.Label))));
+    box->setAccessibleName(tr("Atom, %1").arg(SpokenLabel(Translated(row.Label))));
     Guide(*box, *field);
-    lblProps_[index] = AddLine(page, tr(row.Label), box, {box});
+    lblProps_[index] = AddLine(page, Translated(row.Label), box, {box});
     lblProps_[index]->setObjectName("lblProps_" + QString::number(index));
     lblProps_[index]->setMinimumWidth(lblProps_[index]->sizeHint().width());  // boxes stay put
     txtProps_.push_back({box, field});
@@ -206,9 +225,9 @@ void FrmMolecule::AddProps(QGridLayout& page) {
 
 QLayout* FrmMolecule::MakeActions() {
   auto* line = new QHBoxLayout;
-  const char* const captions[] = {"&Add", "&Update", "&Remove"};
+  const QString captions[] = {tr("&Add"), tr("&Update"), tr("&Remove")};
   for (const Action action : {kAdd, kUpdate, kRemove}) {
-    auto* button = MakeButton(tr(captions[action]), {});
+    auto* button = MakeButton(captions[action], {});
     button->setObjectName("cmdAction_" + QString::number(action));
     connect(button, &QPushButton::clicked, this, [this, action] { Act(action); });
     line->addWidget(button);
@@ -238,8 +257,9 @@ void FrmMolecule::ShowElement(int position) {
 /// A lattice has points per edge in place of a location; a single point has no symmetry.
 void FrmMolecule::ShowStructure(int structure) {
   const bool lattice = IsLattice(static_cast<Integer>(structure));
-  lblProps_[kPropX]->setText(tr(lattice ? kEdgeLabel : kProps[kPropX].Label));
-  lblProps_[kPropSymmetry]->setText(tr(lattice ? kAtomOffset : kProps[kPropSymmetry].Label));
+  lblProps_[kPropX]->setText(Translated(lattice ? kEdgeLabel : kProps[kPropX].Label));
+  lblProps_[kPropSymmetry]->setText(
+      Translated(lattice ? kAtomOffset : kProps[kPropSymmetry].Label));
   const auto& x = txtProps_[kPropX];
   x.Box->SetRange(lattice ? kEdgeRange : RangeOf(*x.Row));
   txtProps_[kPropY].Box->setEnabled(!lattice);
@@ -281,15 +301,16 @@ void FrmMolecule::Act(Action action) {
   const QList<int> rows = SelectedRows();
   switch (action) {
     case kAdd:
-      if (lstElements_->count() >= kMaxAtoms) return Model().Inform(kListIsFull);
+      if (lstElements_->count() >= kMaxAtoms) return Model().Inform(Translated(kListIsFull));
       if (HasAtom()) AddRow();
       break;
     case kUpdate:
-      if (rows.isEmpty()) return Model().Inform("Please select an Element to update.");
+      if (rows.isEmpty()) return Model().Inform(tr("Please select an Element to update."));
       if (HasAtom()) UpdateRow(rows.first());
       break;
     case kRemove:
-      if (rows.isEmpty()) return Model().Inform("Please select one or more Elements to remove.");
+      if (rows.isEmpty())
+        return Model().Inform(tr("Please select one or more Elements to remove."));
       RemoveRows(rows);
       break;
   }
@@ -297,18 +318,18 @@ void FrmMolecule::Act(Action action) {
 }
 
 bool FrmMolecule::HasAtom() {
-  const auto lacks = [this](const char* message, QWidget* where) {
+  const auto lacks = [this](const QString& message, QWidget* where) {
     Model().Inform(message);
     where->setFocus();
     return false;
   };
-  if (cboElement_->currentIndex() < 0) return lacks("Please select an Element.", cboElement_);
+  if (cboElement_->currentIndex() < 0) return lacks(tr("Please select an Element."), cboElement_);
   if (cboType_->currentIndex() < 0) {
-    return lacks("Please select an Atomic Structure Type.", cboType_);
+    return lacks(tr("Please select an Atomic Structure Type."), cboType_);
   }
   NumberBox* symmetry = txtProps_[kPropSymmetry].Box;
   if (cboType_->currentIndex() > 0 && LenientNumber("0" + symmetry->Text()) == 0) {
-    return lacks("Please enter a Symmetry Radius.", symmetry);
+    return lacks(tr("Please enter a Symmetry Radius."), symmetry);
   }
   return true;
 }

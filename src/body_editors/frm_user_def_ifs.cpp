@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 
+#include "desktop/translation.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
@@ -19,28 +20,28 @@ struct PointColumn {
   const char* Heading;
 };
 constexpr PointColumn kColumns[kThemeRowFields] = {
-    {"LocX", &IfsPoint::IFS_LocX, "Loc X\n(0-9999):"},
-    {"LocY", &IfsPoint::IFS_LocY, "Loc Y\n(0-9999):"},
-    {"LocZ", &IfsPoint::IFS_LocZ, "Loc Z\n(0-9999):"},
-    {"Scale", &IfsPoint::IFS_Scale, "Scale\n(0-100):"},
-    {"cboRAxis", &IfsPoint::IFS_Axis, "Axis\n(X,Y,Z):"},
-    {"Angle", &IfsPoint::IFS_Angle, "Angle\n(0-360):"},
-    {"Percent", &IfsPoint::IFS_RelPct, "Rel.Pct.\n(0-9999):"}};
+    {"LocX", &IfsPoint::IFS_LocX, STARFOLDS_TEXT("Loc X\n(0-9999):")},
+    {"LocY", &IfsPoint::IFS_LocY, STARFOLDS_TEXT("Loc Y\n(0-9999):")},
+    {"LocZ", &IfsPoint::IFS_LocZ, STARFOLDS_TEXT("Loc Z\n(0-9999):")},
+    {"Scale", &IfsPoint::IFS_Scale, STARFOLDS_TEXT("Scale\n(0-100):")},
+    {"cboRAxis", &IfsPoint::IFS_Axis, STARFOLDS_TEXT("Axis\n(X,Y,Z):")},
+    {"Angle", &IfsPoint::IFS_Angle, STARFOLDS_TEXT("Angle\n(0-360):")},
+    {"Percent", &IfsPoint::IFS_RelPct, STARFOLDS_TEXT("Rel.Pct.\n(0-9999):")}};
 constexpr int kAxisColumn = 4;
 constexpr int kWeightColumn = 6;
 constexpr int kLeastPoints = 2;
 
-const char kTooFewPoints[] =
+const char kTooFewPoints[] = STARFOLDS_TEXT(
     "You must specify two or more Attractor Points in order to Preview the I.F.S.  \n"
     "Consider selecting one of the Themes in order to see a sample I.F.S.  \n"
-    "or press Cancel to return to the Starfold Settings.";
+    "or press Cancel to return to the Starfold Settings.");
 
 }  // namespace
 
 FrmUserDefIfs::FrmUserDefIfs(const BodyEditing& editing, QWidget* parent)
     : ThemedEditor({"frmUserDefIFS", sections::kIfsPlace, help::kIfs,
-                    "User Defined Iterated Function System (IFS):  ", "IFS Preview - ",
-                    "Preview I.F.S.", RangedEditor::Themed},
+                    tr("%1 User Defined Iterated Function System (IFS):  "), tr("IFS Preview - %1"),
+                    tr("Preview I.F.S."), RangedEditor::Themed},
                    editing, IfsThemes(), parent) {
   Controls().addLayout(MakeBodyAndCenter());
   Controls().addWidget(MakePoints());
@@ -54,7 +55,7 @@ QWidget* FrmUserDefIfs::MakePoints() {
   auto* frame = new QGroupBox(tr("Attractor Points"));
   auto* grid = new QGridLayout(frame);
   for (int column = 0; column < kThemeRowFields; ++column) {
-    grid->addWidget(new QLabel(tr(kColumns[column].Heading)), 0, column + 1);
+    grid->addWidget(new QLabel(Translated(kColumns[column].Heading)), 0, column + 1);
   }
   for (int i = 0; i < kMaxIfsPoints; ++i) AddPoint(*grid);
   return frame;
@@ -64,7 +65,7 @@ void FrmUserDefIfs::AddPoint(QGridLayout& grid) {
   const int index = static_cast<int>(points_.size());
   const int line = grid.rowCount();
   const QString name = tr("Point %1").arg(index + 1);
-  auto* lblPoint = new QLabel(name + ":");
+  auto* lblPoint = new QLabel(tr("Point %1:").arg(index + 1));
   lblPoint->setObjectName("lblPoint_" + QString::number(index));
   grid.addWidget(lblPoint, line, 0);
   PointRow row;
@@ -86,7 +87,7 @@ void FrmUserDefIfs::AddPoint(QGridLayout& grid) {
       row.Boxes.push_back({box, field});
       control = box;
     }
-    control->setAccessibleName(name + ", " + Shown(field->Label));
+    control->setAccessibleName(tr("%1, %2").arg(name, Translated(field->Label)));
     Guide(*control, *field);
     grid.addWidget(control, line, column + 1);
     if (column == 0) lblPoint->setBuddy(control);

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <iterator>
 
+#include "desktop/translation.h"
 #include "settings/factory.h"
 #include "widgets/lines.h"
 #include "widgets/list_wheel_guard.h"
@@ -42,9 +43,9 @@ ThemedEditor::ThemedEditor(const Texts& texts, const BodyEditing& editing,
 }
 
 QLayout* ThemedEditor::MakeBodyAndCenter() {
-  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, "Radius:", 0},
-                              {&StarfoldProfile::Starfold_Rotation, "Rotation:", 1},
-                              {&StarfoldProfile::Starfold_Distance, "Distance:", 2}};
+  const BodyBox bodyRows[] = {{&StarfoldProfile::Starfold_Radius, tr("Radius:"), 0},
+                              {&StarfoldProfile::Starfold_Rotation, tr("Rotation:"), 1},
+                              {&StarfoldProfile::Starfold_Distance, tr("Distance:"), 2}};
   auto* body = new QGroupBox(tr("Starfold (0 - 30000)"));
   QGridLayout* page = MakePage(body);
   for (int i = 0; i < static_cast<int>(std::size(bodyRows)); ++i) {
@@ -86,7 +87,7 @@ void ThemedEditor::ChooseTheme(int index) {
 }
 
 void ThemedEditor::LoadThemeHead(const std::string& text, int centerAt, int bodyAt) {
-  lblTheme_->setText(Shown(GetField(text, kThemeDescription)));
+  lblTheme_->setText(Translated(GetField(text, kThemeDescription)));
   for (NumberBox* box : txtCenter_) box->SetText(std::string(GetField(text, centerAt++)));
   for (const auto& bound : BodyBoxes()) bound.Box->SetText(std::string(GetField(text, bodyAt++)));
 }

@@ -26,20 +26,20 @@ std::string NameOf(const Option& option) {
   return std::string(names.substr(names.find_last_of(',') + 1));
 }
 
-Rows AddOptions(CLI::App& app, const OptionTable& table) {
+Rows AddOptions(CLI::App& app, const OptionTable& table, const ShownText& shown = InEnglish) {
   Rows rows;
   app.set_help_flag();  // the table has its own
   app.allow_extras();   // extra arguments and missing values are reported here
   app.allow_windows_style_options(false);
-  const char* group = "";
+  std::string group;
   for (const Option& option : table) {
     if (*option.Names == '\0') {
-      group = option.Help;
+      group = shown(option.Help);
       continue;
     }
-    CLI::Option* const added = IsFlag(option)
-                                   ? app.add_flag(option.Names, option.Help)
-                                   : app.add_option(option.Names, CLI::callback_t(), option.Help);
+    CLI::Option* const added = IsFlag(option) ? app.add_flag(option.Names)
+                                              : app.add_option(option.Names, CLI::callback_t());
+    added->description(shown(option.Help));
     if (*option.Argument != '\0') added->expected(0, 1)->take_all();
     rows[added->option_text(option.Argument)->group(group)] = &option;
   }
@@ -93,9 +93,9 @@ Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> ar
   return wrong;
 }
 
-std::string OptionsHelp(const OptionTable& table) {
+std::string OptionsHelp(const OptionTable& table, const ShownText& shown) {
   CLI::App app;
-  AddOptions(app, table);
+  AddOptions(app, table, shown);
   CLI::Formatter formatter;
   formatter.column_width(kHelpColumn);
   std::string text;

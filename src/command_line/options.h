@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "command_line/fault.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 
@@ -53,8 +54,8 @@ inline Option Heading(const char* text) { return {"", "", text, {}}; }
 /// after a blank or "=", and are applied from left to right. Returns what is wrong with them.
 Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments);
 
-/// The help text of the listed options, group by group.
-std::string OptionsHelp(const OptionTable& table);
+/// The help text of the listed options, group by group, in the language that `shown` gives.
+std::string OptionsHelp(const OptionTable& table, const ShownText& shown = InEnglish);
 
 /// The text in double quotes, cut if it is long. Control characters are kept: `Complain`
 /// replaces them.

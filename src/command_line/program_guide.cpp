@@ -93,13 +93,13 @@ std::string RoffOptions(const OptionTable& table) {
   return text;
 }
 
-std::string SectionOfHelp(const GuideSection& section) {
-  std::string text = "\n" + section.Title;
-  if (!section.Intro.empty()) text += ", " + section.Intro;
+std::string SectionOfHelp(const GuideSection& section, const ShownText& shown) {
+  std::string text = "\n" + shown(section.Title);
+  if (!section.Intro.empty()) text += ", " + shown(section.Intro);
   text += ":\n";
   for (const auto& [term, explanation] : section.Rows) {
     text += "  " + term + std::string(std::max(kTermColumns, term.size() + 2) - term.size(), ' ') +
-            explanation + "\n";
+            shown(explanation) + "\n";
   }
   return text;
 }
@@ -120,15 +120,16 @@ OptionTable WithoutFunctions(OptionTable table) {
   return table;
 }
 
-std::string HelpOf(const ProgramGuide& guide) {
+std::string HelpOf(const ProgramGuide& guide, const ShownText& shown) {
   std::string text;
   for (const std::string& usage : guide.Usage) {
-    text += (text.empty() ? "Usage: " : " or ") + guide.Name + " " + usage;
+    text += shown(text.empty() ? STARFOLDS_TEXT("Usage: ") : STARFOLDS_TEXT(" or "));
+    text += guide.Name + " " + shown(usage);
   }
-  text += "\n\n" + guide.Description + "\n" + OptionsHelp(guide.Options);
-  text += "\n" + guide.Remark + "\n";
+  text += "\n\n" + shown(guide.Description) + "\n" + OptionsHelp(guide.Options, shown);
+  text += "\n" + shown(guide.Remark) + "\n";
   for (const GuideSection& section : guide.Sections) {
-    if (section.InHelp) text += SectionOfHelp(section);
+    if (section.InHelp) text += SectionOfHelp(section, shown);
   }
   return text;
 }

@@ -33,8 +33,8 @@ struct ProgramGuide {
 /// The table without its functions, which may refer to what no longer exists.
 OptionTable WithoutFunctions(OptionTable table);
 
-/// What `--help` prints.
-std::string HelpOf(const ProgramGuide& guide);
+/// What `--help` prints, in the language that `shown` gives.
+std::string HelpOf(const ProgramGuide& guide, const ShownText& shown = InEnglish);
 
 /// A manual page of section 1 in the man macros of roff. `date` is the page's, as YYYY-MM-DD.
 std::string ManualPage(const ProgramGuide& guide, const std::string& version,

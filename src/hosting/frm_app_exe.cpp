@@ -7,6 +7,7 @@
 #include "desktop/qimage_of_surface.h"
 #include "hosting/lock_message.h"
 #include "hosting/saved_picture.h"
+#include "platform/user_text.h"
 #include "settings/registry.h"
 #include "universe/host_surface.h"
 #include "widgets/captions.h"
@@ -24,10 +25,10 @@ constexpr milliseconds kForGood{0};
 /// Interval at which a paused window checks whether the process must end.
 constexpr Long kPauseLookMs = 250;
 
-const char kKeys[] =
+const char kKeys[] = STARFOLDS_TEXT(
     "Esc: leave    F5: next universe    Ctrl+P: pause    Ctrl+S: save a picture    F1: help    "
-    "any other key: settings";
-const char kFewKeys[] = "Esc: leave    F1: help    any other key: settings";
+    "any other key: settings");
+const char kFewKeys[] = STARFOLDS_TEXT("Esc: leave    F1: help    any other key: settings");
 
 }  // namespace
 
@@ -134,7 +135,7 @@ void FrmAppExe::ShowProperties(bool help) {
 void FrmAppExe::TogglePause() {
   paused_ = !paused_;
   if (!paused_) return hints_.Hide();
-  hints_.Show("Paused. Ctrl+P: go on", "Paused", kForGood);
+  hints_.Show(STARFOLDS_TEXT("Paused. Ctrl+P: go on"), STARFOLDS_TEXT("Paused"), kForGood);
   while (paused_ && !process_.Requests.StopRun()) {
     process_.Events->PumpEvents();
     if (paused_ && !process_.Requests.StopRun()) process_.Events->WaitForEvents(kPauseLookMs);
@@ -146,9 +147,13 @@ void FrmAppExe::TogglePause() {
 void FrmAppExe::SavePictureOfUniverse() {
   surface_.ShowNewest();
   const SavedPicture saved = SavePicture(ImageOf(surface_));
-  const QString text = saved.Path.isEmpty() ? "The picture could not be saved: " + saved.Fault
-                                            : "Saved as " + saved.Path;
-  hints_.Show(text.toStdString(), saved.Path.isEmpty() ? "Not saved" : "Saved", kHintTime);
+  if (saved.Path.isEmpty()) {
+    return hints_.Show(
+        {STARFOLDS_TEXT("The picture could not be saved: %1"), {saved.Fault.toStdString()}},
+        STARFOLDS_TEXT("Not saved"), kHintTime);
+  }
+  hints_.Show({STARFOLDS_TEXT("Saved as %1"), {saved.Path.toStdString()}}, STARFOLDS_TEXT("Saved"),
+              kHintTime);
 }
 
 /// Every key without a modifier has a function: all but Esc and F5 open the properties.
@@ -170,7 +175,7 @@ void FrmAppExe::Resized() {
   ShowLockMessage(picMessage_, process_.Advanced);
   hints_.FollowWindow();
   if (!paused_ && !surface_.HasWindowSize())
-    hints_.Show("F5: next universe, in this size", "F5", kHintTime);
+    hints_.Show(STARFOLDS_TEXT("F5: next universe, in this size"), "F5", kHintTime);
 }
 
 void FrmAppExe::CloseRequested() { AppQuit(); }

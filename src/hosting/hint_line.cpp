@@ -2,6 +2,8 @@
 
 #include <QWindow>
 
+#include "desktop/translation.h"
+
 namespace starfolds {
 namespace {
 
@@ -19,10 +21,10 @@ HintLine::HintLine(QWindow& outer)
   QObject::connect(&end_, &QTimer::timeout, &end_, [this] { Hide(); });
 }
 
-void HintLine::Show(const std::string& text, const std::string& shortText,
+void HintLine::Show(const UserText& text, const UserText& shortText,
                     std::chrono::milliseconds time) {
-  text_ = text;
-  shortText_ = shortText;
+  text_ = TranslatedText(text);
+  shortText_ = TranslatedText(shortText);
   Print();
   end_.stop();
   if (time.count() > 0) end_.start(time);

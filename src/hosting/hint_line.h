@@ -6,6 +6,7 @@
 #include <string>
 
 #include "desktop/message_window.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 
@@ -14,9 +15,9 @@ class HintLine {
   /// `outer` must outlive the line.
   explicit HintLine(QWindow& outer);
 
-  /// Shows `text`, or `shortText` if the window is too narrow for it, until `time` is over or
-  /// another text is shown. With a time of 0 it stays.
-  void Show(const std::string& text, const std::string& shortText, std::chrono::milliseconds time);
+  /// Shows `text`, or `shortText` if the window is too narrow for it, in the user's language, until
+  /// `time` is over or another text is shown. With a time of 0 it stays.
+  void Show(const UserText& text, const UserText& shortText, std::chrono::milliseconds time);
   void Hide();
 
   /// Moves the line to the current lower edge of the window.

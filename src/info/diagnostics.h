@@ -7,11 +7,12 @@
 #include "platform/desktop_services.h"
 #include "platform/key_value_tree.h"
 #include "platform/surface.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 
 inline constexpr char kWriteTestPassed[] = "OK";
-inline constexpr char kWriteTestFailed[] = "No Access";
+inline constexpr char kWriteTestFailed[] = STARFOLDS_TEXT("No Access");
 
 /// Writes a value into the user's tree and reads it back. Returns what was read, or
 /// `kWriteTestFailed` if it could not be written (an earlier test may have left the value there).

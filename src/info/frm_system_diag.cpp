@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "desktop/translation.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 #include "widgets/dialog_parts.h"
@@ -24,18 +25,18 @@ constexpr double kMeasuredSeconds = 1;
 
 const char kUnknown[] = "???";
 
-const char kRegistryText[] =
+const char kRegistryText[] = STARFOLDS_TEXT(
     "The Registry is used to store the values necessary for this product.  \n"
     "If the word OK appears in the test field, then you have write access.  \n"
     "If you do not have write access, then you will have to change your \n"
-    "administrative privileges with respect to your user account.";
+    "administrative privileges with respect to your user account.");
 
-const char kGraphicsText[] =
+const char kGraphicsText[] = STARFOLDS_TEXT(
     "The %1 is used to render the effects to the \n"
     "display device.  If a circle does not appear in the region to the right, \n"
     "then your display hardware or driver may not support the API.  \n"
     "You may need to install the latest driver.  Consult the website for \n"
-    "your hardware vendor for current information.";
+    "your hardware vendor for current information.");
 
 bool IsWindows() {
   return QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
@@ -82,7 +83,7 @@ void FrmSystemDiag::RunDiagnostics() {
   ShowDisplay();
   ShowField(*version_, Shown(SystemVersion()), false);
   const std::string access = TestRegistryAccess(around_.Tree);
-  ShowField(*access_, Shown(access), access != kWriteTestPassed);
+  ShowField(*access_, Translated(access), access != kWriteTestPassed);
 }
 
 void FrmSystemDiag::ShowDisplay() {
@@ -102,7 +103,7 @@ void FrmSystemDiag::ShowDisplay() {
 
 void FrmSystemDiag::ShowSystemInfo() {
   if (around_.Desktop.ShowSystemInfo()) return;
-  around_.Boxes.Show("System Information Is Unavailable.", BoxStyle::Information,
+  around_.Boxes.Show(tr("System Information Is Unavailable.").toStdString(), BoxStyle::Information,
                      std::string(kProductName));
 }
 
@@ -138,7 +139,7 @@ QGroupBox* FrmSystemDiag::MakeRegistryFrame() {
   line->addWidget(access_, 1);
   line->addWidget(cmdSysInfo);
   rows->addLayout(line);
-  rows->addWidget(new QLabel(tr(kRegistryText)));
+  rows->addWidget(new QLabel(Translated(kRegistryText)));
   return frame;
 }
 
@@ -147,7 +148,7 @@ QGroupBox* FrmSystemDiag::MakeGraphicsFrame() {
   auto* columns = new QHBoxLayout(frame);
   const QString api = IsWindows() ? tr("Windows Graphical API")
                                   : tr("Window System (%1)").arg(QGuiApplication::platformName());
-  auto* lblGraphics = new QLabel(tr(kGraphicsText).arg(api));
+  auto* lblGraphics = new QLabel(Translated(kGraphicsText).arg(api));
   lblGraphics->setObjectName("lblGraphics");
   lblGraphics->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   auto* picGraphics = new SurfaceBox(PlotTestCircle);

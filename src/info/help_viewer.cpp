@@ -75,7 +75,8 @@ QAction* HelpViewer::AddTool(QToolBar& tools, const QString& text, const char* n
   QAction* tool = tools.addAction(text, this, act);
   tool->setObjectName(name);
   tool->setShortcuts(keys);
-  tool->setToolTip(text + " (" + tool->shortcut().toString(QKeySequence::NativeText) + ")");
+  tool->setToolTip(
+      QString("%1 (%2)").arg(text, tool->shortcut().toString(QKeySequence::NativeText)));
   return tool;
 }
 
@@ -160,7 +161,7 @@ void HelpViewer::GoTo(int reading) {
 
 void HelpViewer::ShowPage(int topic, const QStringList& words) {
   page_->ShowMarkdown(book_.Markdown(topic), words);
-  setWindowTitle("Starfolds Help - " + book_.Title(topic));
+  setWindowTitle(tr("Starfolds Help - %1").arg(book_.Title(topic)));
   back_->setEnabled(reading_ > 0);
   forward_->setEnabled(reading_ + 1 < static_cast<int>(history_.size()));
   const QSignalBlocker quiet(treContents_);

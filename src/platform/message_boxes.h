@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "numbers/words.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 
@@ -35,9 +36,9 @@ class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows a box and waits for the answer. Closing the box counts as "OK" if that is its only
-  /// button, and as "Cancel" otherwise.
-  virtual BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) = 0;
+  /// Shows a box, in the user's language, and waits for the answer. Closing the box counts as "OK"
+  /// if that is its only button, and as "Cancel" otherwise.
+  virtual BoxAnswer Show(const UserText& text, BoxStyle style, const std::string& caption) = 0;
 };
 
 /// Answers without showing a box: with the answers of a test, then with "OK". Records the calls.
@@ -52,8 +53,8 @@ class ScriptedMessageBoxes : public MessageBoxes {
   std::deque<BoxAnswer> Answers;
   std::vector<Asked> Log;
 
-  BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) override {
-    Log.push_back({text, style, caption});
+  BoxAnswer Show(const UserText& text, BoxStyle style, const std::string& caption) override {
+    Log.push_back({InEnglish(text), style, caption});
     if (Answers.empty()) return BoxAnswer::Ok;
     const BoxAnswer answer = Answers.front();
     Answers.pop_front();

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/translation.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/dialog_rows.h"
@@ -22,7 +23,7 @@ constexpr int kLabelGap = 3;         // logical pixels between a label and its c
 constexpr int kGroupGap = 5;         // additional space between two such pairs
 constexpr int kNameCharacters = 16;  // of a type's name that are always visible
 constexpr std::string_view kIfsNote =
-    "Two or more of the selected Starfold Types have a Style of IFS.";
+    STARFOLDS_TEXT("Two or more of the selected Starfold Types have a Style of IFS.");
 
 QColor Halfway(const QColor& a, const QColor& b) {
   return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
@@ -96,13 +97,13 @@ CompositeEditor::CompositeEditor(const PropsModel& model, QWidget* parent)
       model_(model),
       list_(new BodyList(this)),
       resetPercent_(new NumberBox(this)),
-      reset_(new QPushButton("&Set All", this)),
+      reset_(new QPushButton(tr("&Set All"), this)),
       name_(new NameBox(this)),
       percent_(new NumberBox(this)),
       major_(new QComboBox(this)),
       minors_(new QListWidget(this)),
-      preview_(new QPushButton("Preview Comp", this)),
-      commit_(new QPushButton("Comm&it", this)) {
+      preview_(new QPushButton(tr("Preview Comp"), this)),
+      commit_(new QPushButton(tr("Comm&it"), this)) {
   NameControls();
   percent_->SetRange(kPercents);
   resetPercent_->SetRange(kPercents);
@@ -130,8 +131,8 @@ void CompositeEditor::NameControls() {
   minors_->setObjectName("lstCompMinor");
   preview_->setObjectName("cmdPreviewComp");
   commit_->setObjectName("cmdCompCommit");
-  reset_->setAccessibleDescription("Gives all composites this relative percent");
-  minors_->setAccessibleDescription("Space chooses a type or lets it go");
+  reset_->setAccessibleDescription(tr("Gives all composites this relative percent"));
+  minors_->setAccessibleDescription(tr("Space chooses a type or lets it go"));
 }
 
 void CompositeEditor::LayOut() {
@@ -145,18 +146,18 @@ void CompositeEditor::LayOut() {
 QBoxLayout* CompositeEditor::ListColumn() {
   auto* column = new QVBoxLayout;
   column->setSpacing(kLabelGap);
-  AddGroup(*column, "Com&posites:", {list_}, 1);
-  AddGroup(*column, "Relative % of a&ll (0 - 9999):", {resetPercent_, reset_});
+  AddGroup(*column, tr("Com&posites:"), {list_}, 1);
+  AddGroup(*column, tr("Relative % of a&ll (0 - 9999):"), {resetPercent_, reset_});
   return column;
 }
 
 QBoxLayout* CompositeEditor::EditColumn() {
   auto* column = new QVBoxLayout;
   column->setSpacing(kLabelGap);
-  AddGroup(*column, "Na&me:", {name_});
-  AddGroup(*column, "Relati&ve % (0 - 9999):", {percent_});
-  AddGroup(*column, "Ma&jor Starfold Type:", {major_});
-  AddGroup(*column, "Min&or Starfold Types:", {minors_}, 1);
+  AddGroup(*column, tr("Na&me:"), {name_});
+  AddGroup(*column, tr("Relati&ve % (0 - 9999):"), {percent_});
+  AddGroup(*column, tr("Ma&jor Starfold Type:"), {major_});
+  AddGroup(*column, tr("Min&or Starfold Types:"), {minors_}, 1);
   column->addSpacing(kGroupGap);
   column->addLayout(Line({preview_, commit_}));
   return column;
@@ -272,14 +273,15 @@ void CompositeEditor::Commit() {
   const int selected = Selected();
   if (selected < 0) return;
   if (major_->currentIndex() < 0) {
-    model_.Inform("Please select a Major Starfold Type.");
+    model_.Inform(tr("Please select a Major Starfold Type."));
     major_->setFocus();
     return;
   }
   percent_->ClampTextField();
   if (MixesIfs()) {
-    model_.Inform("Note:\n\n" + std::string(kIfsNote) +
-                  "\nThis may result in strange looking Starfolds.");
+    model_.Inform(
+        tr("Note:\n\nTwo or more of the selected Starfold Types have a Style of IFS.\n"
+           "This may result in strange looking Starfolds."));
   }
   shown_ = selected;
   Store();
@@ -291,7 +293,7 @@ void CompositeEditor::StoreEdited() {
 
 void CompositeEditor::Store() {
   CompositeProfile& composite = model_.Composites()[shown_];
-  emit AboutToChange("Composite " + Shown(composite.CompFoldName));
+  emit AboutToChange(tr("Composite %1").arg(Shown(composite.CompFoldName)));
   edited_ = false;
   percent_->ClampTextField();
   composite.CompFoldName = StorableText(name_->text().toStdString());
@@ -307,14 +309,14 @@ void CompositeEditor::Store() {
 
 void CompositeEditor::ResetPercents() {
   if (Trimmed(resetPercent_->Text()).empty()) {
-    model_.Inform("Please enter a value for the Reset percent.");
+    model_.Inform(tr("Please enter a value for the Reset percent."));
     resetPercent_->setFocus();
     return;
   }
   resetPercent_->ClampTextField();
   StoreEdited();
   const std::string text = resetPercent_->Text();
-  emit AboutToChange("Percent of All Composites");
+  emit AboutToChange(tr("Percent of All Composites"));
   for (int i = 0; i < kCompositeCount; ++i) {
     model_.Composites()[i].CompFoldPct = RoundedToLimits<Integer>(LenientNumber(text));
     ShowEntry(i);
@@ -358,7 +360,7 @@ void CompositeEditor::PaintWarning() {
     colours.setColor(QPalette::Text, Qt::black);
   }
   name_->setPalette(colours);
-  name_->setToolTip(warning ? Shown(kIfsNote) : QString());
+  name_->setToolTip(warning ? Translated(kIfsNote) : QString());
   name_->setAccessibleDescription(name_->toolTip());
 }
 

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "colour/tables.h"
+#include "desktop/translation.h"
 #include "settings/registry.h"
 #include "widgets/dialog_model.h"
 #include "widgets/editor_ranges.h"
@@ -35,24 +36,27 @@ constexpr Setting<A> kDrift = &A::Adv_FontDrift;
 struct Row {
   Setting<A> What;
   const char* Control;
-  int Index;      // of `txtAdv`; negative if the control is not in that array
-  char Mnemonic;  // in the setting's label
+  int Index;  // of `txtAdv`; negative if the control is not in that array
+  const char* Label;
 };
 constexpr int kAlone = -1;
 constexpr Row kRows[] = {
-    {kFont, "cboFont", kAlone, 'n'},
-    {kMessage, "txtMessage", kAlone, 'T'},
-    {&A::Adv_TimeDelay, "Adv", 0, 'd'},
-    {&A::FocalLength, "Adv", 1, 'c'},
-    {&A::Adv_FontSize, "Adv", 2, 'S'},
-    {&A::Adv_FontHueV, "Adv", 3, 'u'},
-    {&A::Adv_Randomize, "chkRandom", kAlone, 'R'},
-    {&A::Adv_RandomMag, "Adv", 9, 'M'},
-    {&A::Adv_RandomExp, "Adv", 10, 'B'},
-    {&A::Adv_WinResize, "chkResize", kAlone, 'W'},
-    {&A::Adv_MouseMove, "chkMouseM", kAlone, 'I'},
-    {&A::Adv_DispBackG, "chkBackGr", kAlone, 'k'},
-    {kDrift, "chkDrift", kAlone, 'L'},
+    {kFont, "cboFont", kAlone, STARFOLDS_TEXT("Fo&nt:")},
+    {kMessage, "txtMessage", kAlone, STARFOLDS_TEXT("&Text:")},
+    {&A::Adv_TimeDelay, "Adv", 0, STARFOLDS_TEXT("Frame &delay in milliseconds (0 - 999):")},
+    {&A::FocalLength, "Adv", 1, STARFOLDS_TEXT("Fo&cal length distance (0.01 - 10.0):")},
+    {&A::Adv_FontSize, "Adv", 2, STARFOLDS_TEXT("&Size:")},
+    {&A::Adv_FontHueV, "Adv", 3, STARFOLDS_TEXT("Text H&ue (0 - 359):")},
+    {&A::Adv_Randomize, "chkRandom", kAlone, STARFOLDS_TEXT("&Randomize Properties")},
+    {&A::Adv_RandomMag, "Adv", 9, STARFOLDS_TEXT("Randomization &Magnitude (1 - 100):")},
+    {&A::Adv_RandomExp, "Adv", 10, STARFOLDS_TEXT("&Bias Exponent to Normal (1 - 100):")},
+    {&A::Adv_WinResize, "chkResize", kAlone,
+     STARFOLDS_TEXT("&Window can be resized (EXE version only)")},
+    {&A::Adv_MouseMove, "chkMouseM", kAlone,
+     STARFOLDS_TEXT("&Ignore mouse moves in screen saver mode")},
+    {&A::Adv_DispBackG, "chkBackGr", kAlone,
+     STARFOLDS_TEXT("Display in bac&kground (double-click to stop)")},
+    {kDrift, "chkDrift", kAlone, STARFOLDS_TEXT("&Let the text drift slowly")},
 };
 
 bool IsCheck(const AdvancedField& field) {
@@ -62,8 +66,7 @@ bool IsCheck(const AdvancedField& field) {
 QString LabelOf(const Setting<A>& setting) {
   const auto row = std::find_if(std::begin(kRows), std::end(kRows),
                                 [&](const Row& each) { return each.What == setting; });
-  QString label = Escaped(FieldOf(setting).Label);
-  return label.insert(label.indexOf(QLatin1Char(row->Mnemonic)), '&');
+  return Translated(row->Label);
 }
 
 /// The default font is listed even if it is not installed: the window system then substitutes it.

@@ -9,6 +9,7 @@
 #include "body_editors/frm_levels.h"
 #include "body_editors/frm_molecule.h"
 #include "body_editors/frm_user_def_ifs.h"
+#include "desktop/translation.h"
 #include "properties/frm_welcome.h"
 #include "settings/registry.h"
 #include "settings/safety_copy.h"
@@ -27,9 +28,9 @@ constexpr QSize kUsualSize{1360, 780};
 constexpr double kMostOfScreen =
     0.94;  // for the first placement; the rest is for window frames and panels
 
-const char kAcceptSettings[] = "&Accept Settings";
-const char kReturnToUniverse[] = "&Return to Universe Settings";
-const char kStarfoldProperties[] = "Starfold Properties";
+const char kAcceptSettings[] = STARFOLDS_TEXT("&Accept Settings");
+const char kReturnToUniverse[] = STARFOLDS_TEXT("&Return to Universe Settings");
+const char kStarfoldProperties[] = STARFOLDS_TEXT("Starfold Properties");
 
 }  // namespace
 
@@ -228,7 +229,7 @@ QWidget* FrmProps::MakeButtons() {
   auto* line = new QWidget;
   auto* buttons = new QHBoxLayout(line);
   buttons->setContentsMargins(0, 0, 0, 0);
-  cmdAccept_ = MakeButton(tr(kAcceptSettings), "cmdAccept");
+  cmdAccept_ = MakeButton(Translated(kAcceptSettings), "cmdAccept");
   cmdDismiss_ = MakeButton(tr("Cancel"), "cmdDismiss");
   buttons->addWidget(MakeOverridesNote(), 9);
   buttons->addStretch(1);
@@ -346,7 +347,7 @@ PreviewPane* FrmProps::MakePreviewPane() {
              if (inStarfoldView_) starfold_->StorePageToProfile(currentProfile_);
            },
        .Seed = around_.Seed});
-  pane->setTitle(tr(kStarfoldProperties));
+  pane->setTitle(Translated(kStarfoldProperties));
   connect(pane, &PreviewPane::RunningChanged, this, [this](bool running) {
     templates_.SetEnabled(!running);
     stills_.SetPaused(running);
@@ -365,7 +366,7 @@ PreviewSource::Body FrmProps::IdleBody() const {
 }
 
 void FrmProps::OpenStarfoldView(bool open) {
-  if (open && currentProfile_ < 0) return model_.Inform("Please select a Starfold Profile.");
+  if (open && currentProfile_ < 0) return model_.Inform(tr("Please select a Starfold Profile."));
   universe_->Settle();
   undo_.EndEdit();
   inStarfoldView_ = open;
@@ -376,17 +377,17 @@ void FrmProps::OpenStarfoldView(bool open) {
     ShowBodyPlace();
   } else {
     starfold_->StorePageToProfile(currentProfile_);
-    preview_->setTitle(tr(kStarfoldProperties));
+    preview_->setTitle(Translated(kStarfoldProperties));
     universe_->BodiesChanged();
   }
-  cmdAccept_->setText(open ? tr(kReturnToUniverse) : tr(kAcceptSettings));
+  cmdAccept_->setText(open ? Translated(kReturnToUniverse) : Translated(kAcceptSettings));
   views_->setCurrentIndex(open ? 1 : 0);
 }
 
 /// The name of the open body, and its place in the list.
 void FrmProps::ShowBodyPlace() {
   const QString name = Shown(universe_->Bodies().EntryName(currentProfile_));
-  preview_->setTitle("Starfold:  " + Escaped(name.toStdString()));
+  preview_->setTitle(tr("Starfold:  %1").arg(Escaped(name.toStdString())));
   lblFoldPlace_->setText(tr("%1 of %2:  %3").arg(currentProfile_ + 1).arg(kProfileCount).arg(name));
 }
 
@@ -437,8 +438,9 @@ bool FrmProps::MayClose() {
   if (unasked_ || around_.Process.Requests.QuitApp()) return true;
   Settle();
   if (!undo_.IsChanged()) return true;
-  switch (around_.Boxes.Show("The settings were changed.\n\nDo you want to accept the changes?",
-                             BoxStyle::UnacceptedChanges, std::string(kProductName))) {
+  switch (around_.Boxes.Show(
+      tr("The settings were changed.\n\nDo you want to accept the changes?").toStdString(),
+      BoxStyle::UnacceptedChanges, std::string(kProductName))) {
     case BoxAnswer::AcceptChanges: return Store();
     case BoxAnswer::Cancel: return false;
     default: return true;

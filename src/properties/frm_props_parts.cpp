@@ -168,7 +168,7 @@ QWidget* FrmProps::MakeBodySteps() {
     step->setObjectName(name);
     step->setText(text);
     step->setAccessibleName(tip);
-    step->setToolTip(tip + "  (" + key.toString(QKeySequence::NativeText) + ")");
+    step->setToolTip(QString("%1  (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
     step->setFocusPolicy(Qt::TabFocus);
     line->addWidget(step);
     connect(step, &QToolButton::clicked, this, [this, by] { StepBody(by); });
@@ -207,7 +207,9 @@ QWidget* FrmProps::MakeOverridesNote() {
   QStringList all;
   for (const std::string& each : overrides) all.append(Shown(each));
   QString named = all.mid(0, most).join(", ");
-  if (overrides.size() > most) named += tr(" and %1 more").arg(overrides.size() - most);
+  if (overrides.size() > most) {
+    named = tr("%1 and %n more", nullptr, static_cast<int>(overrides.size() - most)).arg(named);
+  }
   note->setText(
       tr("Overridden in this run: %1.\nWhat you accept is stored, and holds in runs without "
          "these options.")

@@ -10,6 +10,7 @@
 #include <memory>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "settings/factory.h"
 #include "widgets/dialog_model.h"
 #include "widgets/samples.h"
@@ -29,9 +30,8 @@ QString AsItStands(const QString& text) {
 }
 
 /// The page's paragraphs are separated by empty lines. One of several lines is a list: first the
-/// notes, then the new features.
-QString PageAsHtml(const QString& text) {
-  QStringList headings = {"Notes", "New in this version"};
+/// notes, then the new features; `headings` are theirs.
+QString PageAsHtml(const QString& text, QStringList headings) {
   QString html;
   for (const QString& block : text.split("\n\n")) {
     const QStringList lines = block.split('\n');
@@ -94,7 +94,7 @@ void FrmWelcome::AddBanner() {
 }
 
 void FrmWelcome::AddText(const WelcomePage& page) {
-  auto* title = new QLabel(Shown(page.Caption), this);
+  auto* title = new QLabel(Translated(page.Caption), this);
   title->setObjectName("lblCaption");
   QFont large = title->font();
   large.setPointSizeF(large.pointSizeF() * 1.6);
@@ -103,7 +103,8 @@ void FrmWelcome::AddText(const WelcomePage& page) {
   title->setTextFormat(Qt::PlainText);
   column_->addWidget(title);
 
-  auto* text = new QLabel(PageAsHtml(Shown(page.Text)), this);
+  auto* text =
+      new QLabel(PageAsHtml(Translated(page.Text), {tr("Notes"), tr("New in this version")}), this);
   text->setObjectName("lblPage");
   text->setTextFormat(Qt::RichText);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -115,7 +116,7 @@ void FrmWelcome::AddText(const WelcomePage& page) {
 void FrmWelcome::AddButtons(const WelcomePage& page) {
   picStatus_ = new PictureBox(this);
   picStatus_->setObjectName("picStatus");
-  picStatus_->setAccessibleName("Progress of the safety copy");
+  picStatus_->setAccessibleName(tr("Progress of the safety copy"));
   picStatus_->setFixedHeight(kStatusHeight);
   QSizePolicy policy = picStatus_->sizePolicy();
   policy.setRetainSizeWhenHidden(page.OffersReset);  // so that the layout does not change
@@ -123,11 +124,11 @@ void FrmWelcome::AddButtons(const WelcomePage& page) {
   picStatus_->hide();
   column_->addWidget(picStatus_);
 
-  cmdReset_ = new QPushButton("&Reset the Properties", this);
+  cmdReset_ = new QPushButton(tr("&Reset the Properties"), this);
   cmdReset_->setObjectName("cmdReset");
-  cmdReset_->setToolTip("Saves the current settings to propsave.sfd, then resets them");
+  cmdReset_->setToolTip(tr("Saves the current settings to propsave.sfd, then resets them"));
   cmdReset_->setVisible(page.OffersReset);
-  cmdDismiss_ = new QPushButton(Shown(page.Dismiss), this);
+  cmdDismiss_ = new QPushButton(Translated(page.Dismiss), this);
   cmdDismiss_->setObjectName("cmdDismiss");
   cmdDismiss_->setDefault(true);
   cmdDismiss_->setFocus();

@@ -91,13 +91,13 @@ void PreviewPane::ToggleUniverse() {
 void PreviewPane::ToggleBody() {
   if (preview_.IsOn()) return preview_.Stop();
   const int body = source_.SelectedProfile();
-  if (body < 0) return model_.Inform("Please select a Starfold Type.");
+  if (body < 0) return model_.Inform(tr("Please select a Starfold Type."));
   PreviewOne(cmdPreviewFold_, body, false);
 }
 
 void PreviewPane::ToggleComposite(QPushButton* button, int index) {
   if (preview_.IsOn()) return preview_.Stop();
-  if (index < 0) return model_.Inform("Please select a Composite Starfold Type.");
+  if (index < 0) return model_.Inform(tr("Please select a Composite Starfold Type."));
   PreviewOne(button, index, true);
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "colour/tables.h"
+#include "desktop/translation.h"
 #include "numbers/text.h"
 #include "properties/property_copy_table.h"
 
@@ -19,19 +20,19 @@ PropertyCopy::PropertyCopy(const PropsModel& model, QWidget* parent)
     : QWidget(parent),
       model_(model),
       property_(new QComboBox(this)),
-      valueLabel_(new QLabel("Val&ue:", this)),
+      valueLabel_(new QLabel(tr("Val&ue:"), this)),
       range_(new QLabel(this)),
       text_(new NumberBox(this)),
       choice_(new QComboBox(this)),
       check_(new QCheckBox(this)),
-      copy_(new QPushButton("&Copy to All", this)) {
+      copy_(new QPushButton(tr("&Copy to All"), this)) {
   property_->setObjectName("cboPropCopyList");
   range_->setObjectName("lblPropCopy");
   text_->SetNames("PropCopy");
   choice_->setObjectName("cboPropCopy");
   check_->setObjectName("chkPropCopy");
   copy_->setObjectName("cmdPropCopy");
-  for (const CopyRow& row : CopyRows()) property_->addItem(Shown(EntryText(row)));
+  for (const CopyRow& row : CopyRows()) property_->addItem(Translated(EntryText(row)));
   property_->setCurrentIndex(-1);
   LayOut();
   ConnectControls();
@@ -39,13 +40,13 @@ PropertyCopy::PropertyCopy(const PropsModel& model, QWidget* parent)
 }
 
 void PropertyCopy::LayOut() {
-  auto* propertyLabel = new QLabel("Propert&y:", this);
+  auto* propertyLabel = new QLabel(tr("Propert&y:"), this);
   propertyLabel->setBuddy(property_);
   copy_->setAutoDefault(false);
   QSizePolicy keepsItsLine = valueLabel_->sizePolicy();
   keepsItsLine.setRetainSizeWhenHidden(true);
   valueLabel_->setSizePolicy(keepsItsLine);
-  copy_->setAccessibleDescription("Writes the value into all fifty types of starfold");
+  copy_->setAccessibleDescription(tr("Writes the value into all fifty types of starfold"));
   for (QComboBox* box : {property_, choice_}) {
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -110,24 +111,24 @@ void PropertyCopy::SetupPropCopyValue(int position) {
 void PropertyCopy::ShowTextBox(const CopyRow& row) {
   const NumberRange range = RangeOf(row);
   text_->SetRange(range);
-  range_->setText(Shown(RangeText(range)));
+  range_->setText(Translated(RangeText(range)));
   range_->show();
   ShowValueControl(*text_, row);
 }
 
 /// Qt selects the first entry that is added.
 void PropertyCopy::ShowChoices(const CopyRow& row) {
-  for (const std::string_view name : row.Choices()) choice_->addItem(Shown(name));
+  for (const std::string_view name : row.Choices()) choice_->addItem(Translated(name));
   ShowValueControl(*choice_, row);
 }
 
 void PropertyCopy::ShowCheckBox(const CopyRow& row) {
-  check_->setText("Control Point Loop is Closed?");
+  check_->setText(tr("Control Point Loop is Closed?"));
   ShowValueControl(*check_, row);
 }
 
 void PropertyCopy::ShowValueControl(QWidget& control, const CopyRow& row) {
-  control.setAccessibleName(Shown(EntryText(row)));
+  control.setAccessibleName(Translated(EntryText(row)));
   valueLabel_->setBuddy(&control);
   control.show();
 }
@@ -139,7 +140,7 @@ void PropertyCopy::ClampPropCopyValue() {
 void PropertyCopy::CopyPropertyToAllProfiles() {
   const CopyRow* row = Row();
   if (!row) {
-    model_.Inform("Please select a Property to copy.");
+    model_.Inform(tr("Please select a Property to copy."));
     property_->setFocus();
     return;
   }
@@ -148,7 +149,7 @@ void PropertyCopy::CopyPropertyToAllProfiles() {
     return;
   }
   if (!row->Target) return;
-  emit AboutToChange(tr("Copy of %1").arg(Shown(EntryText(*row))));
+  emit AboutToChange(tr("Copy of %1").arg(Translated(EntryText(*row))));
   const int types = TypesSetBy(*row, model_.Profiles());
   CopyProperty(*row, Value(), model_.Profiles());
   ProcessState& process = model_.Process;
@@ -177,7 +178,8 @@ Single PropertyCopy::Value() const {
 
 void PropertyCopy::AskForValue() {
   const bool fromList = !choice_->isHidden();
-  model_.Inform(fromList ? "Please select a Property value." : "Please enter a Property value.");
+  model_.Inform(fromList ? tr("Please select a Property value.")
+                         : tr("Please enter a Property value."));
   if (fromList) {
     choice_->setFocus();
   } else {

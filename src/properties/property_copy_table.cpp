@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "numbers/text.h"
+#include "platform/user_text.h"
 #include "settings/fields.h"
 #include "widgets/editor_ranges.h"
 
@@ -80,14 +81,14 @@ constexpr CopyRow kRows[] = {
     Number(&P::Starfold_CometSPersist),
     Number(&P::Starfold_HWC_Start),
     Number(&P::Starfold_HWC_End),
-    NoEffect("Attractor Iteration Points", {AsInteger, 1, 99}),
-    NoEffect("Attractor Iteration Scale %", {AsInteger, 0, 100}),
-    NoEffect("Attractor Rotation Angle", {AsInteger, 0, 360}),
-    NoEffect("Wireframe Vertices", {AsInteger, 4, 10}),
-    NoEffect("Wireframe Scale %", {AsInteger, 0, 100}),
-    NoEffect("Wireframe Iteration Levels", {AsInteger, 1, 99}),
-    NoEffect("Fractal Iteration Points", {AsInteger, 4, 10}),
-    NoEffect("Fractal Iteration Scale %", {AsInteger, 0, 100}),
+    NoEffect(STARFOLDS_TEXT("Attractor Iteration Points"), {AsInteger, 1, 99}),
+    NoEffect(STARFOLDS_TEXT("Attractor Iteration Scale %"), {AsInteger, 0, 100}),
+    NoEffect(STARFOLDS_TEXT("Attractor Rotation Angle"), {AsInteger, 0, 360}),
+    NoEffect(STARFOLDS_TEXT("Wireframe Vertices"), {AsInteger, 4, 10}),
+    NoEffect(STARFOLDS_TEXT("Wireframe Scale %"), {AsInteger, 0, 100}),
+    NoEffect(STARFOLDS_TEXT("Wireframe Iteration Levels"), {AsInteger, 1, 99}),
+    NoEffect(STARFOLDS_TEXT("Fractal Iteration Points"), {AsInteger, 4, 10}),
+    NoEffect(STARFOLDS_TEXT("Fractal Iteration Scale %"), {AsInteger, 0, 100}),
     // Changes another setting than its label says, as in earlier versions.
     {.Labelled = &P::Starfold_CP_Points,
      .Target = &P::Starfold_CP_Close,
@@ -96,15 +97,15 @@ constexpr CopyRow kRows[] = {
     NoEffect(&P::Starfold_CP_B_Pts),
     NoEffect(&P::Starfold_CP_B_Exp),
     NoEffect(&P::Starfold_CP_B_Spd),
-    NoEffect("Nebula Expansion Speed", {AsSingle, 0, 99.9}),
-    NoEffect("Nebula Solar Wind Magnitude", {AsSingle, 0, 99.9}),
+    NoEffect(STARFOLDS_TEXT("Nebula Expansion Speed"), {AsSingle, 0, 99.9}),
+    NoEffect(STARFOLDS_TEXT("Nebula Solar Wind Magnitude"), {AsSingle, 0, 99.9}),
     {.Labelled = &P::Starfold_CP_Close, .Control = CopyControl::Check},
-    NoEffect("Quasar Emit Speed", {AsSingle, 0, 99.9}),
-    NoEffect("Graviton Force", {AsSingle, 0, 99.9}),
-    NoEffect("Starwave Expansion Rate", {AsInteger, 1, 30000}),
-    NoEffect("Starwave Interleaved Waves", {AsInteger, 1, 99}),
-    NoEffect("Starwave Amplitude Persistence", {AsInteger, 1, 999}),
-    NoEffect("Starwave Particle Angle Increment", {AsSingle, 0, 99.9}),
+    NoEffect(STARFOLDS_TEXT("Quasar Emit Speed"), {AsSingle, 0, 99.9}),
+    NoEffect(STARFOLDS_TEXT("Graviton Force"), {AsSingle, 0, 99.9}),
+    NoEffect(STARFOLDS_TEXT("Starwave Expansion Rate"), {AsInteger, 1, 30000}),
+    NoEffect(STARFOLDS_TEXT("Starwave Interleaved Waves"), {AsInteger, 1, 99}),
+    NoEffect(STARFOLDS_TEXT("Starwave Amplitude Persistence"), {AsInteger, 1, 999}),
+    NoEffect(STARFOLDS_TEXT("Starwave Particle Angle Increment"), {AsSingle, 0, 99.9}),
 };
 
 }  // namespace
@@ -120,10 +121,10 @@ NumberRange RangeOf(const CopyRow& row) {
 }
 
 /// "360.0" instead of "360" shows that fractions are accepted.
-std::string RangeText(const NumberRange& range) {
+UserText RangeText(const NumberRange& range) {
   std::string high = NumberText(static_cast<Single>(range.High));
   if (range.Kind == NumberKind::AsSingle && high.find('.') == std::string::npos) high += ".0";
-  return "Range (" + NumberText(static_cast<Single>(range.Low)) + " - " + high + "):";
+  return {STARFOLDS_TEXT("Range (%1 - %2):"), {NumberText(static_cast<Single>(range.Low)), high}};
 }
 
 int TypesSetBy(const CopyRow& row, const ProfileArray& profiles) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/user_text.h"
 #include "settings/dialog_rows.h"
 #include "settings/records.h"
 #include "widgets/number_box.h"
@@ -36,7 +37,7 @@ std::span<const CopyRow> CopyRows();
 std::string EntryText(const CopyRow& row);
 NumberRange RangeOf(const CopyRow& row);
 /// "Range (0 - 99.9):"
-std::string RangeText(const NumberRange& range);
+UserText RangeText(const NumberRange& range);
 
 /// The number of profiles that a copy of the row sets.
 int TypesSetBy(const CopyRow& row, const ProfileArray& profiles);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
@@ -34,14 +35,23 @@ struct Heading {
   int Box;
   const char* Text;
 };
-constexpr Heading kHeadings[] = {{10, "New Stars"}, {20, "Novas"}, {30, "Pulsars"}, {40, "Comets"}};
+constexpr Heading kHeadings[] = {{10, STARFOLDS_TEXT("New Stars")},
+                                 {20, STARFOLDS_TEXT("Novas")},
+                                 {30, STARFOLDS_TEXT("Pulsars")},
+                                 {40, STARFOLDS_TEXT("Comets")}};
 
+/// The entries are marked for translation.
 QComboBox* MakeList(const char* name, std::span<const std::string_view> entries) {
   auto* list = new QComboBox;
   list->setObjectName(name);
   LetShrink(list);
-  for (const std::string_view entry : entries) list->addItem(Shown(entry));
+  for (const std::string_view entry : entries) list->addItem(Translated(entry));
   return list;
+}
+
+QString CaptionOf(int label, int style) {
+  const RowLabel caption = LabelOf(label, style);
+  return Translated(caption.Text) + Shown(caption.Range);
 }
 
 }  // namespace
@@ -179,10 +189,10 @@ void StarfoldView::ApplyStyle(int style) {
       any = any || IsShown(*row, style);
     }
     NameBoxes(line, style);
-    line.Text->setText(Escaped(LabelOf(line.Label, style)));
+    line.Text->setText(Escaped(CaptionOf(line.Label, style).toStdString()));
     line.Text->setVisible(any);
     if (line.Label == kColorLabel) {
-      if (facts.OwnColorRule) line.Text->setText(Escaped(facts.OwnColorCaption));
+      if (facts.OwnColorRule) line.Text->setText(EscapedTranslation(facts.OwnColorCaption));
       line.Text->setObjectName(facts.OwnColorRule ? "lblOtherColorCycles" : "lblStarfold_7");
     }
   }
@@ -194,7 +204,7 @@ void StarfoldView::ApplyStyle(int style) {
   show(StyleBox::Spline, {chkCP_Closed_, chkCP_AdvHW_});
   show(StyleBox::ColorRule, {cboFoldColor_, lblFoldColor_});
   show(StyleBox::Levels, {cmdFoldLevels_});
-  cmdIFS_Chem_->setText(Escaped(facts.BodyEditorCaption));
+  cmdIFS_Chem_->setText(EscapedTranslation(facts.BodyEditorCaption));
 }
 
 /// For screen readers: by the style's caption if it has one of its own, or else by the setting.
@@ -202,16 +212,18 @@ void StarfoldView::NameBoxes(const Line& line, int style) {
   const StyleFacts& facts = FactsOf(static_cast<Integer>(style));
   QStringList captions;
   for (const StyleCaption& caption : facts.Captions) {
-    if (caption.Label == line.Label) captions = SpokenLabel(Escaped(caption.Text)).split(", ");
+    if (caption.Label == line.Label)
+      captions = SpokenLabel(EscapedTranslation(caption.Text)).split(", ");
   }
   if (line.Label == kColorLabel && facts.OwnColorRule) {
-    captions = {SpokenLabel(Escaped(facts.OwnColorCaption))};
+    captions = {SpokenLabel(EscapedTranslation(facts.OwnColorCaption))};
   }
   qsizetype shown = 0;
   for (const StarfoldRow* row : line.Rows) {
     if (boxes_[row]->isHidden()) continue;
-    const QString name = shown < captions.size() ? captions[shown].simplified()
-                                                 : Shown(FieldOf(*row, style).Label).simplified();
+    const QString name = shown < captions.size()
+                             ? captions[shown].simplified()
+                             : Translated(FieldOf(*row, style).Label).simplified();
     boxes_[row]->setAccessibleName(name);
     ++shown;
   }
@@ -236,7 +248,7 @@ QWidget* StarfoldView::MakePages() {
   pages_ = new QStackedWidget;
   const int labels = LabelWidth();
   for (int i = 0; i < kStarfoldPageCount; ++i) {
-    const QString name = Shown(StarfoldPageName(i));
+    const QString name = Translated(StarfoldPageName(i));
     cboFoldExtras_->addItem(name);
     auto* frame = new QGroupBox;
     frame->setAccessibleName(name);
@@ -261,9 +273,9 @@ int StarfoldView::LabelWidth() const {
   int width = 0;
   for (int style = 0; style < kStyleCount; ++style) {
     const StyleFacts& facts = FactsOf(static_cast<Integer>(style));
-    width = std::max(width, RangeLabel::WidthOf(Shown(facts.OwnColorCaption), fontMetrics()));
+    width = std::max(width, RangeLabel::WidthOf(Translated(facts.OwnColorCaption), fontMetrics()));
     for (const StarfoldRow& row : StarfoldRows()) {
-      const QString label = Shown(LabelOf(row.Label, style));
+      const QString label = CaptionOf(row.Label, style);
       width = std::max(width, RangeLabel::WidthOf(label, fontMetrics()));
     }
   }
@@ -328,7 +340,7 @@ void StarfoldView::AddRows(QGridLayout& page, StarfoldPage which) {
     if (row.Page != which) continue;
     if (!line.empty() && line.front()->Label != row.Label) end();
     for (const Heading& heading : kHeadings) {
-      if (heading.Box == row.Index) AddHeading(page, tr(heading.Text));
+      if (heading.Box == row.Index) AddHeading(page, Translated(heading.Text));
     }
     line.push_back(&row);
   }
@@ -343,7 +355,7 @@ void StarfoldView::AddRowLine(QGridLayout& page, const std::vector<const Starfol
   const int label = rows.front()->Label;
   QWidget* buddy = widgets.front();
   widgets.insert(widgets.end(), alsoInLine.begin(), alsoInLine.end());
-  QLabel* text = AddLine(page, Escaped(LabelOf(label, Style())), buddy, widgets);
+  QLabel* text = AddLine(page, Escaped(CaptionOf(label, Style()).toStdString()), buddy, widgets);
   text->setObjectName("lblStarfold_" + QString::number(label));
   lines_.push_back({label, text, rows});
 }
@@ -352,7 +364,7 @@ NumberBox* StarfoldView::MakeBox(const QString& array, const StarfoldRow& row) {
   auto* box = new NumberBox;
   box->SetNames(array, row.Index);
   box->SetRange(RangeOf(row, 0));
-  box->setAccessibleName(Shown(FieldOf(row, 0).Label).simplified());
+  box->setAccessibleName(Translated(FieldOf(row, 0).Label).simplified());
   boxes_[&row] = box;
   new SettingGuide(*box, model_.HelpBook,
                    [this, &row] { return Guided(FieldOf(row, Style()), Style()); });

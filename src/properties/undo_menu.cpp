@@ -9,9 +9,8 @@
 namespace starfolds {
 namespace {
 
-QString EntryText(const QString& verb, const std::string& what) {
-  return verb + " " + QString::fromStdString(what).replace("&", "&&");
-}
+/// What was done as a part of a menu entry.
+QString Named(const std::string& what) { return QString::fromStdString(what).replace("&", "&&"); }
 
 /// The line in which a box takes text; nullptr if it takes none.
 const QLineEdit* LineOf(const QObject* box) {
@@ -132,9 +131,11 @@ void UndoMenu::Step(bool forward) {
 void UndoMenu::UpdateEntries() {
   if (undo_) {
     undo_->setEnabled(history_.CanUndo());
-    undo_->setText(EntryText(tr("&Undo"), history_.CanUndo() ? history_.UndoText() : ""));
+    undo_->setText(history_.CanUndo() ? tr("&Undo %1").arg(Named(history_.UndoText()))
+                                      : tr("&Undo"));
     redo_->setEnabled(history_.CanRedo());
-    redo_->setText(EntryText(tr("&Redo"), history_.CanRedo() ? history_.RedoText() : ""));
+    redo_->setText(history_.CanRedo() ? tr("&Redo %1").arg(Named(history_.RedoText()))
+                                      : tr("&Redo"));
   }
   emit Changed();
 }

@@ -1,5 +1,6 @@
 #include "properties/universe_guides.h"
 
+#include "desktop/translation.h"
 #include "settings/dialog_rows.h"
 #include "widgets/number_box.h"
 #include "widgets/setting_guide.h"
@@ -14,16 +15,16 @@ struct Named {
   const char* Name;
 };
 constexpr Named kNames[] = {
-    {"spnUni_16", "Hue Start"},
-    {"spnUni_17", "Hue End"},
-    {"cboUniTheme", "Theme of the universe"},
-    {"cboUniProfile", "Universe Profile"},
-    {"cboTourStarfolds", "Starfolds to visit"},
-    {"lstCompStarfold", "Composite starfolds and their relative percent"},
-    {"cboCompMajor", "Major starfold type"},
-    {"lstCompMinor", "Minor starfold types"},
-    {"cmdCompCommit", "Commit the composite starfold"},
-    {"cboPropCopyList", "Property to copy"},
+    {"spnUni_16", STARFOLDS_TEXT("Hue Start")},
+    {"spnUni_17", STARFOLDS_TEXT("Hue End")},
+    {"cboUniTheme", STARFOLDS_TEXT("Theme of the universe")},
+    {"cboUniProfile", STARFOLDS_TEXT("Universe Profile")},
+    {"cboTourStarfolds", STARFOLDS_TEXT("Starfolds to visit")},
+    {"lstCompStarfold", STARFOLDS_TEXT("Composite starfolds and their relative percent")},
+    {"cboCompMajor", STARFOLDS_TEXT("Major starfold type")},
+    {"lstCompMinor", STARFOLDS_TEXT("Minor starfold types")},
+    {"cmdCompCommit", STARFOLDS_TEXT("Commit the composite starfold")},
+    {"cboPropCopyList", STARFOLDS_TEXT("Property to copy")},
 };
 
 /// The controls of settings that are no numbers.
@@ -54,7 +55,7 @@ void GuideUniverse(QWidget& view, Help& help) {
   }
   for (const Named& named : kNames) {
     if (auto* const control = view.findChild<QWidget*>(named.Object)) {
-      control->setAccessibleName(QObject::tr(named.Name));
+      control->setAccessibleName(Translated(named.Name));
     }
   }
 }

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "settings/factory.h"
@@ -43,12 +44,12 @@ constexpr Setting<U> kProfileSetting = &U::Universe_Profile;
 constexpr Setting<U> kHueSetting = &U::Universe_HW_Start;
 constexpr Setting<U> kTourListSetting = &U::Universe_GS_Idx;
 
-constexpr const char* kGravityNote =
+constexpr const char* kGravityNote = STARFOLDS_TEXT(
     "Note:  The time required to compute the gravitational attraction \n"
     "between Starfolds is related to the Square of the number of Starfolds \n"
     "in the Universe.  Entering 0 will ensure that gravity computations are \n"
     "bypassed entirely.  See the Online help for more information.\n"
-    "Comets will NOT appear in any of the Starfolds if a non-zero Gravity is entered.";
+    "Comets will NOT appear in any of the Starfolds if a non-zero Gravity is entered.");
 
 /// In a narrow window the text takes two lines.
 void LetWrap(QLabel& label, int leastWidth) {
@@ -342,7 +343,7 @@ QWidget* UniverseView::MakePages() {
   pages_ = new QStackedWidget;
   composites_ = new CompositeEditor(model_);
   for (int i = 0; i < kUniversePageCount; ++i) {
-    const QString name = Shown(UniversePageName(i));
+    const QString name = Translated(UniversePageName(i));
     cboUniExtras_->addItem(name);
     auto* frame = MakeFrame({}, qPrintable("fraUniProp_" + QString::number(i)));
     frame->setAccessibleName(name);
@@ -382,7 +383,8 @@ void UniverseView::FillCreationPage(QGridLayout& page) {
   cboUniProfile_ = new QComboBox;
   cboUniProfile_->setObjectName("cboUniProfile");
   LetShrink(cboUniProfile_);
-  LetWrap(*AddLine(page, Escaped(FieldOf(kProfileSetting).Label), cboUniProfile_, {cboUniProfile_}),
+  LetWrap(*AddLine(page, EscapedTranslation(FieldOf(kProfileSetting).Label), cboUniProfile_,
+                   {cboUniProfile_}),
           kLeastLabel);
   picUniProfile_ =
       MakeSamplePlace("picUniProfile", tr("Sample of the universe profile"), kSampleSize);
@@ -393,7 +395,7 @@ void UniverseView::FillCreationPage(QGridLayout& page) {
 
 void UniverseView::FillTourPage(QGridLayout& page) {
   for (const Check& check : kChecks) {
-    auto* box = new QCheckBox(Escaped(FieldOf(check.What).Label));
+    auto* box = new QCheckBox(EscapedTranslation(FieldOf(check.What).Label));
     box->setObjectName(check.Name);
     checks_[&FieldOf(check.What)] = box;
   }
@@ -413,7 +415,7 @@ void UniverseView::FillTourPage(QGridLayout& page) {
   ChooseOnlyInOpenedList(*cboTourStarfolds_);
   cboTourStarfolds_->lineEdit()->setMaxLength(static_cast<int>(kLongestValue));
   cboTourStarfolds_->setToolTip(tr("Choosing a body from the list adds its number"));
-  auto* label = new QLabel(Escaped(FieldOf(kTourListSetting).Label));
+  auto* label = new QLabel(EscapedTranslation(FieldOf(kTourListSetting).Label));
   LetWrap(*label, kLeastLabel);
   label->setBuddy(cboTourStarfolds_);
   AddWideLine(page, label);
@@ -435,7 +437,7 @@ void UniverseView::FillTourPage(QGridLayout& page) {
 
 void UniverseView::FillGravityPage(QGridLayout& page) {
   AddRows(page, UniversePage::Gravity);
-  auto* note = new QLabel(kGravityNote);
+  auto* note = new QLabel(Translated(kGravityNote));
   note->setObjectName("lblGravityWarning");
   note->setWordWrap(true);
   AddWideLine(page, note);
@@ -468,9 +470,9 @@ QLabel* UniverseView::AddRowLine(QGridLayout& page, const std::vector<const Univ
   }
   const std::string_view label = FieldOf(rows.front()->What).Label;
   if (rows.size() > 1) {
-    for (QWidget* box : widgets) box->setAccessibleName(Shown(label));
+    for (QWidget* box : widgets) box->setAccessibleName(Translated(label));
   }
-  QLabel* text = AddLine(page, Escaped(label), widgets.front(), widgets);
+  QLabel* text = AddLine(page, EscapedTranslation(label), widgets.front(), widgets);
   LetWrap(*text, kLeastLabel);
   if (rows.front()->What == kHueSetting) page.addWidget(picUniHue_, page.rowCount(), 1);
   if (rows.front()->Page == UniversePage::Tour) {
@@ -498,7 +500,7 @@ void UniverseView::SelectBody() {
 
 void UniverseView::CommitBody() {
   const int index = lstUniStarfold_->Selected();
-  if (index < 0) return model_.Inform("Please select a Starfold Profile.");
+  if (index < 0) return model_.Inform(tr("Please select a Starfold Profile."));
   typedFor_ = index;
   StoreNameAndWeight();
 }
@@ -530,7 +532,7 @@ void UniverseView::StoreNameAndWeight() {
 
 void UniverseView::ResetWeights() {
   if (Trimmed(txtResetFoldPct_->Text()).empty()) {
-    return model_.Inform("Please enter a value for the Reset percent.");
+    return model_.Inform(tr("Please enter a value for the Reset percent."));
   }
   txtResetFoldPct_->ClampTextField();
   StoreTyped();

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "numbers/text.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 namespace {
@@ -14,8 +15,9 @@ using UP = UniversePage;
 using SP = StarfoldPage;
 
 constexpr std::string_view kUniversePages[kUniversePageCount] = {
-    "Universe Creation", "New / Ambient Star Creation", "Starfold Tour Characteristics",
-    "Composite Starfolds", "Gravity between Starfolds"};
+    STARFOLDS_TEXT("Universe Creation"), STARFOLDS_TEXT("New / Ambient Star Creation"),
+    STARFOLDS_TEXT("Starfold Tour Characteristics"), STARFOLDS_TEXT("Composite Starfolds"),
+    STARFOLDS_TEXT("Gravity between Starfolds")};
 
 constexpr UniverseRow kUniverseRows[] = {
     {0, &U::Universe_Stars, AsLong, UP::Always},
@@ -45,8 +47,9 @@ constexpr UniverseRow kUniverseRows[] = {
 };
 
 constexpr std::string_view kStarfoldPages[kStarfoldPageCount] = {
-    "Starfold Motion, Shape and Color Properties", "New, Nova and Pulsar Star Properties",
-    "Comet and Color Properties"};
+    STARFOLDS_TEXT("Starfold Motion, Shape and Color Properties"),
+    STARFOLDS_TEXT("New, Nova and Pulsar Star Properties"),
+    STARFOLDS_TEXT("Comet and Color Properties")};
 
 constexpr StarfoldRow kStarfoldRows[] = {
     {0, &P::Starfold_Radius, AsLong, SP::Shape, 0},
@@ -118,36 +121,41 @@ struct Caption {
   std::string_view Text;
 };
 constexpr Caption kCaptions[] = {
-    {0, "Radius, Rotation (1, 0 - 30000):"},
-    {1, "Distance (0 - 30000), Axial Plane:"},
-    {2, "Radials (1 - 99), Fill % (0 - 100):"},
-    {3, "Bands (1 - 99), Fill % (0 - 100):"},
-    {90, "Starfold Height / Width Ratio (0.0 - 99.9):"},
-    {91, "Radius Distribution Exponent (0.0 - 99.9):"},
-    {92, "Height Distribution Exponent (0.0 - 99.9):"},
-    {93, "Initial Tilt Angle in Degrees (0 - 360):"},
-    {94, "Tilt Angle Increment in Degrees (0 - 360):"},
-    {96, "Hue Wheel Start (0 - 359), Increment (0 - 360):"},
-    {7, "Color Multiplier (0 - 30000):"},
+    {0, STARFOLDS_TEXT("Radius, Rotation (1, 0 - 30000):")},
+    {1, STARFOLDS_TEXT("Distance (0 - 30000), Axial Plane:")},
+    {2, STARFOLDS_TEXT("Radials (1 - 99), Fill % (0 - 100):")},
+    {3, STARFOLDS_TEXT("Bands (1 - 99), Fill % (0 - 100):")},
+    {90, STARFOLDS_TEXT("Starfold Height / Width Ratio (0.0 - 99.9):")},
+    {91, STARFOLDS_TEXT("Radius Distribution Exponent (0.0 - 99.9):")},
+    {92, STARFOLDS_TEXT("Height Distribution Exponent (0.0 - 99.9):")},
+    {93, STARFOLDS_TEXT("Initial Tilt Angle in Degrees (0 - 360):")},
+    {94, STARFOLDS_TEXT("Tilt Angle Increment in Degrees (0 - 360):")},
+    {96, STARFOLDS_TEXT("Hue Wheel Start (0 - 359), Increment (0 - 360):")},
+    {7, STARFOLDS_TEXT("Color Multiplier (0 - 30000):")},
 };
 
 constexpr std::string_view kPlanes[] = {"Y-Z", "X-Z"};
 constexpr std::string_view kColorRules[] = {
-    "Rotational Velocity", "Rotational Velocity (Square Root)", "Distance from Core",
-    "Distance from Core (Squared)", "Black (Stars are Invisible)"};
-constexpr std::string_view kShapes[] = {"Standard",        "Top-Like",   "Spherical",
-                                        "Conical",         "Hyperbolic", "Outer-Hyperbolic",
-                                        "Inner-Hyperbolic"};
-constexpr std::string_view kPulsarShapes[] = {"Nova", "Axes", "Star", "Sphere", "Sphere-2"};
+    STARFOLDS_TEXT("Rotational Velocity"), STARFOLDS_TEXT("Rotational Velocity (Square Root)"),
+    STARFOLDS_TEXT("Distance from Core"), STARFOLDS_TEXT("Distance from Core (Squared)"),
+    STARFOLDS_TEXT("Black (Stars are Invisible)")};
+constexpr std::string_view kShapes[] = {
+    STARFOLDS_TEXT("Standard"),        STARFOLDS_TEXT("Top-Like"),
+    STARFOLDS_TEXT("Spherical"),       STARFOLDS_TEXT("Conical"),
+    STARFOLDS_TEXT("Hyperbolic"),      STARFOLDS_TEXT("Outer-Hyperbolic"),
+    STARFOLDS_TEXT("Inner-Hyperbolic")};
+constexpr std::string_view kPulsarShapes[] = {STARFOLDS_TEXT("Nova"), STARFOLDS_TEXT("Axes"),
+                                              STARFOLDS_TEXT("Star"), STARFOLDS_TEXT("Sphere"),
+                                              STARFOLDS_TEXT("Sphere-2")};
 
-/// "New Star Frequency (0 - 9999):", made from the setting that the label's row edits.
-std::string LabelFromField(int label) {
+/// "New Star Frequency" and " (0 - 9999):", made from the setting that the label's row edits.
+RowLabel LabelFromField(int label) {
   for (const StarfoldRow& row : kStarfoldRows) {
     if (row.Label != label) continue;
     const Field<StarfoldProfile>& field = FieldOf(row, 0);
     const NumberRange range = RangeOf(row, 0);
     const auto number = [](double value) { return NumberText(static_cast<Single>(value)); };
-    return std::string(field.Label) + " (" + number(range.Low) + " - " + number(range.High) + "):";
+    return {field.Label, " (" + number(range.Low) + " - " + number(range.High) + "):"};
   }
   return {};
 }
@@ -189,12 +197,12 @@ NumberRange RangeOf(const StarfoldRow& row, int style) {
   return {row.Kind, limits.Low, limits.High};
 }
 
-std::string LabelOf(int label, int style) {
+RowLabel LabelOf(int label, int style) {
   for (const StyleCaption& caption : FactsOf(static_cast<Integer>(style)).Captions) {
-    if (caption.Label == label) return std::string(caption.Text);
+    if (caption.Label == label) return {caption.Text, {}};
   }
   for (const Caption& caption : kCaptions) {
-    if (caption.Label == label) return std::string(caption.Text);
+    if (caption.Label == label) return {caption.Text, {}};
   }
   return LabelFromField(label);
 }

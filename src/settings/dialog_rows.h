@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "settings/fields.h"
@@ -73,7 +74,11 @@ const Field<StarfoldProfile>& FieldOf(const StarfoldRow& row, int style);
 NumberRange RangeOf(const StarfoldRow& row, int style);
 
 /// The caption of `lblStarfold(label)` for a style.
-std::string LabelOf(int label, int style);
+struct RowLabel {
+  std::string_view Text;  // marked for translation
+  std::string Range;      // behind it; empty if the text has the range
+};
+RowLabel LabelOf(int label, int style);
 
 // --- The lists ---
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "numbers/text.h"
+#include "platform/user_text.h"
 #include "settings/first_run.h"
 #include "settings/former_settings.h"
 #include "settings/product.h"
@@ -49,7 +50,7 @@ void WriteAdvancedDefaults(KeyValueTree& tree) {
   change.Commit();
 }
 
-void Warn(PropertySettings& settings, const std::string& text) {
+void Warn(PropertySettings& settings, const UserText& text) {
   settings.Boxes.Show(text, BoxStyle::Exclamation, std::string(kProductName));
 }
 
@@ -65,29 +66,34 @@ ResetEntry EntryOf(int menuIndex) {
   return {FactorySet::Starfolds4x, "Starfolds 4.x"};
 }
 
-std::string ResetQuestion(PropertySettings& settings, std::string_view setName) {
-  std::string text = "Do you really want to reset the Properties to the ";
-  text.append(setName);
-  text +=
-      " factory settings?\n\n"
-      "Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.\n"
-      "No       - Reset Properties without saving current settings.\n"
-      "Cancel - Don't Reset or Save Properties.";
-  if (!settings.Disk.CanWriteFolder(settings.ProgramFolder)) {
-    text += "\n\n'propsave.sfd' will be saved in:  " + settings.UserFolder;
+UserText ResetQuestion(PropertySettings& settings, std::string_view setName) {
+  if (settings.Disk.CanWriteFolder(settings.ProgramFolder)) {
+    return {STARFOLDS_TEXT(
+                "Do you really want to reset the Properties to the %1 factory settings?\n\n"
+                "Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.\n"
+                "No       - Reset Properties without saving current settings.\n"
+                "Cancel - Don't Reset or Save Properties."),
+            {std::string(setName)}};
   }
-  return text;
+  return {STARFOLDS_TEXT(
+              "Do you really want to reset the Properties to the %1 factory settings?\n\n"
+              "Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.\n"
+              "No       - Reset Properties without saving current settings.\n"
+              "Cancel - Don't Reset or Save Properties.\n\n"
+              "'propsave.sfd' will be saved in:  %2"),
+          {std::string(setName), settings.UserFolder}};
 }
 
-constexpr std::string_view kUpgradeText =
+constexpr std::string_view kUpgradeText = STARFOLDS_TEXT(
     "It appears that you already have an earlier version of the product.  "
     "In order to experience the new effects in this version, you should "
     "Reset the Properties to the Factory Settings.  \n\n"
     "Your current settings will be saved to the template file:  propsave.sfd\n\n"
-    "Restore your settings from the menu:  File-> Open Template.";
+    "Restore your settings from the menu:  File-> Open Template.");
 
-constexpr std::string_view kNewUserText =
-    "You can use this product to simulate a Universe populated by several user-defined Starfolds.  "
+constexpr std::string_view kNewUserText = STARFOLDS_TEXT(
+    "Thank you for installing %1.   You can use this product to simulate a Universe populated by "
+    "several user-defined Starfolds.  "
     "Watch as the camera tours the Universe, visiting the Starfolds based on a trajectory that you "
     "provide.  \n\n"
     "The Factory settings have been optimized for a 400 MHz CPU.\n"
@@ -97,7 +103,7 @@ constexpr std::string_view kNewUserText =
     "Settings are stored per the Current User, not the Local Machine.\n"
     "Effects can be displayed on the desktop background.\n"
     "Define Pulsars as a new type of star.\n"
-    "Set Starfold randomization values.";
+    "Set Starfold randomization values.");
 
 std::string ProductAndVersion() {
   return std::string(kProductName) + " " + std::string(kProductVersion);
@@ -129,12 +135,13 @@ void ShowFactorySettings(PropertySettings& settings, PropertiesDialog& dialog, F
 }
 
 /// Returns a reason for the user if nothing was stored.
-std::optional<std::string> StoreDialog(PropertySettings& settings, const PropertiesDialog& dialog) {
+std::optional<UserText> StoreDialog(PropertySettings& settings, const PropertiesDialog& dialog) {
   TreeBulk change = TreeBulk::Change(settings.Tree);
   if (settings.ReplacesUnread) {
     const KeptCopy copy = KeepFormerSettings(settings.Tree, settings.Disk, settings.UserFolder);
     if (!copy.Fault.empty()) {
-      return "The stored settings could not be kept in:\n" + copy.Path + "\n\n" + copy.Fault;
+      return UserText(STARFOLDS_TEXT("The stored settings could not be kept in:\n%1"), {copy.Path},
+                      copy.Fault);
     }
   }
   RegistryWrite(settings.Tree, sections::kGeneral, kAnimationType, Long{0});
@@ -142,8 +149,9 @@ std::optional<std::string> StoreDialog(PropertySettings& settings, const Propert
   SaveAllProfiles(settings.Tree, settings.Profiles);
   SaveAllComposites(settings.Tree, settings.Composites);
   if (change.Commit()) return std::nullopt;
-  return "The Property settings cannot be saved.\n\n"
-         "The settings that were stored before are kept.";
+  return UserText(
+      STARFOLDS_TEXT("The Property settings cannot be saved.\n\n"
+                     "The settings that were stored before are kept."));
 }
 
 }  // namespace
@@ -153,11 +161,10 @@ void DrawProgress(ProgressPicture* picture, int step, int total) {
 }
 
 WelcomePage MakeWelcomePage(bool isUpgrade) {
-  const std::string caption = "Welcome to " + ProductAndVersion() + ".";
-  if (isUpgrade) return {caption, std::string(kUpgradeText), true, "Close"};
-  return {caption,
-          "Thank you for installing " + ProductAndVersion() + ".   " + std::string(kNewUserText),
-          false, "OK"};
+  const UserText caption(STARFOLDS_TEXT("Welcome to %1."), {ProductAndVersion()});
+  if (isUpgrade) return {caption, kUpgradeText, true, STARFOLDS_TEXT("Close")};
+  return {caption, UserText(std::string(kNewUserText), {ProductAndVersion()}), false,
+          STARFOLDS_TEXT("OK")};
 }
 
 StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDialog& dialog) {
@@ -181,11 +188,11 @@ StoredProperties LoadDialogFromRegistry(PropertySettings& settings, PropertiesDi
 void OpenProperties(PropertySettings& settings, PropertiesDialog& dialog,
                     const StoredProperties& stored) {
   if (!stored.Readable) {
-    return Warn(settings,
-                "The stored settings cannot be read.\n\n"
-                "The Properties show the Factory Settings.  "
-                "Accepting them replaces the stored settings,\nwhich are kept in:  " +
-                    settings.UserFolder);
+    return Warn(settings, {STARFOLDS_TEXT("The stored settings cannot be read.\n\n"
+                                          "The Properties show the Factory Settings.  "
+                                          "Accepting them replaces the stored settings,\n"
+                                          "which are kept in:  %1"),
+                           {settings.UserFolder}});
   }
   if (!stored.WelcomeOffered) return ShowWelcome(settings, dialog, stored);
   if (stored.Complete) return;
@@ -219,10 +226,10 @@ bool SaveDialogToRegistry(PropertySettings& settings, PropertiesDialog& dialog) 
 
 BoxAnswer AskAfterFailedSave(PropertySettings& settings) {
   return settings.Boxes.Show(
-      "What you have set is not stored yet.  It is still in the dialog.\n\n"
-      "You can try to store it again, for instance after making room on the disk;\n"
-      "save it as a template in another folder, and open that later;\n"
-      "or close the dialog without saving.",
+      STARFOLDS_TEXT("What you have set is not stored yet.  It is still in the dialog.\n\n"
+                     "You can try to store it again, for instance after making room on the disk;\n"
+                     "save it as a template in another folder, and open that later;\n"
+                     "or close the dialog without saving."),
       BoxStyle::SaveFailed, std::string(kProductName));
 }
 
@@ -257,9 +264,9 @@ std::optional<std::string> LoadTemplate(PropertySettings& settings, PropertiesDi
   dialog.RebuildCompositeLists();
   file.ClearBuffer();
   if (!advancedStored) {
-    Warn(settings,
-         "The Advanced Settings of the template cannot be stored.\n\nThose that were "
-         "stored before are kept.");
+    Warn(settings, STARFOLDS_TEXT(
+                       "The Advanced Settings of the template cannot be stored.\n\nThose that were "
+                       "stored before are kept."));
   }
   return std::nullopt;
 }

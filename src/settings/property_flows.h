@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/key_value_tree.h"
 #include "platform/message_boxes.h"
+#include "platform/user_text.h"
 #include "settings/factory.h"
 #include "settings/fields.h"
 #include "settings/records.h"
@@ -43,10 +44,10 @@ void DrawProgress(ProgressPicture* picture, int step, int total);
 
 /// The texts of `frmWelcome`.
 struct WelcomePage {
-  std::string Caption;
-  std::string Text;
-  bool OffersReset = false;  // cmdReset
-  std::string Dismiss;       // cmdDismiss
+  UserText Caption;
+  UserText Text;
+  bool OffersReset;  // cmdReset
+  UserText Dismiss;  // cmdDismiss
 };
 
 /// `frmProps`, as the functions below use it.

@@ -7,6 +7,7 @@
 #include "numbers/characters.h"
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "platform/user_text.h"
 #include "settings/product.h"
 
 namespace starfolds {
@@ -94,10 +95,10 @@ bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes) {
   const bool written = RegistryWrite(tree, sections::kGeneral, key, Long{1});
   if (written && RegistryReadInteger(tree, sections::kGeneral, key, 0) == 1) return true;
   boxes.Show(
-      "The Registry is read-only.\n\n"
-      "The Property settings cannot be saved.\n"
-      "You must change your Windows User Privileges so that programs \n"
-      "can write to the Registry.  See your System Administrator for assistance.",
+      STARFOLDS_TEXT("The Registry is read-only.\n\n"
+                     "The Property settings cannot be saved.\n"
+                     "You must change your Windows User Privileges so that programs \n"
+                     "can write to the Registry.  See your System Administrator for assistance."),
       BoxStyle::Exclamation, std::string(kProductName));
   return false;
 }

@@ -1,5 +1,6 @@
 #include "settings/safety_copy.h"
 
+#include "platform/user_text.h"
 #include "settings/product.h"
 
 namespace starfolds {
@@ -15,8 +16,9 @@ void SaveSafetyCopy(PropertySettings& settings, PropertiesDialog& dialog,
                     ProgressPicture* picture) {
   settings.Template.TemplateFileName = SafetyCopyPath(settings);
   if (const auto fault = SaveTemplate(settings, dialog, picture)) {
-    settings.Boxes.Show("The current settings could not be saved to:\n" +
-                            settings.Template.TemplateFileName + "\n\n" + *fault,
+    settings.Boxes.Show({STARFOLDS_TEXT("The current settings could not be saved to:\n%1"),
+                         {settings.Template.TemplateFileName},
+                         *fault},
                         BoxStyle::Exclamation, std::string(kProductName));
   }
 }

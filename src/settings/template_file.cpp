@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "numbers/utf8.h"
+#include "platform/user_text.h"
 #include "settings/packing.h"
 #include "settings/records.h"
 
@@ -189,7 +190,7 @@ std::optional<std::string> TemplateFile::Load(const std::string& path) {
   buffer_.emplace(*std::move(contents.Bytes));
   if (!buffer_->HasTemplateSection()) {
     buffer_.reset();
-    return "It holds no settings of a universe";
+    return STARFOLDS_TEXT("It holds no settings of a universe");
   }
   refused_.reset();
   return std::nullopt;

@@ -5,6 +5,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "platform/user_text.h"
 #include "settings/first_run.h"
 #include "settings/product.h"
 #include "settings/record_io.h"
@@ -105,7 +106,7 @@ void WriteAdmin(TemplateFile& file) {
 
 std::optional<std::string> StoredOrWhy(TreeBulk& change) {
   if (change.Commit()) return std::nullopt;
-  return "Its settings cannot be stored";
+  return STARFOLDS_TEXT("Its settings cannot be stored");
 }
 
 }  // namespace

@@ -11,6 +11,8 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/user_text.h"
+
 namespace starfolds {
 
 /// The text of an `errno` for the user. 0 means an unknown reason.
@@ -22,7 +24,7 @@ inline std::string Reason(int error) {
 /// Why a file of this kind is not a regular file; nullopt for a regular one.
 inline std::optional<std::string> FaultOfKind(mode_t mode) {
   if (S_ISREG(mode)) return std::nullopt;
-  return S_ISDIR(mode) ? Reason(EISDIR) : "Not a plain file";
+  return S_ISDIR(mode) ? Reason(EISDIR) : STARFOLDS_TEXT("Not a plain file");
 }
 #endif
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/user_text.h"
 #include "storage/disk_files.h"
 #include "storage/file_writer.h"
 #include "storage/windows_path.h"
@@ -40,7 +41,8 @@ FileContents DiskFiles::Read(const std::string& path, std::size_t limit) {
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {std::nullopt, Reason(EISDIR)};
   const Handle file(*wide, GENERIC_READ, kShareAll);
   if (!file.IsOpen()) return {std::nullopt, Reason(ErrnoOf(GetLastError()))};
-  if (GetFileType(file.Get()) != FILE_TYPE_DISK) return {std::nullopt, "Not a plain file"};
+  if (GetFileType(file.Get()) != FILE_TYPE_DISK)
+    return {std::nullopt, STARFOLDS_TEXT("Not a plain file")};
   LARGE_INTEGER size{};
   if (!GetFileSizeEx(file.Get(), &size)) return {std::nullopt, Reason(ErrnoOf(GetLastError()))};
   if (std::cmp_greater(size.QuadPart, limit)) return {std::nullopt, Reason(EFBIG)};

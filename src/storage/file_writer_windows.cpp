@@ -1,3 +1,4 @@
+#include "platform/user_text.h"
 #include "storage/file_writer.h"
 
 #include <fcntl.h>
@@ -26,7 +27,7 @@ FileWriter::Fault FileWriter::Open(const std::string& path, Targets targets) {
   if (attributes != INVALID_FILE_ATTRIBUTES) {
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return Reason(EISDIR);
     if (!IsFileOfDisk(wide)) {  // such as NUL or a pipe
-      if (targets == Targets::Files) return "Not a plain file";
+      if (targets == Targets::Files) return STARFOLDS_TEXT("Not a plain file");
       return UseStream(_wopen(wide.c_str(), _O_WRONLY | _O_BINARY | _O_NOINHERIT));
     }
     if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return Reason(EACCES);

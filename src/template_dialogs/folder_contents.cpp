@@ -1,6 +1,5 @@
 #include "template_dialogs/folder_contents.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -11,12 +10,12 @@
 #include <string_view>
 #include <system_error>
 
+#include "desktop/translation.h"
+
 namespace starfolds {
 namespace {
 
 namespace fs = std::filesystem;
-
-QString Translated(const char* text) { return QCoreApplication::translate("frmFileIO", text); }
 
 /// File systems without files of users.
 bool IsPseudo(const QByteArray& type) {
@@ -35,8 +34,9 @@ bool IsForFiles(const QStorageInfo& storage) {
 
 QString NameOf(const QStorageInfo& storage) {
   const QString path = QDir::toNativeSeparators(storage.rootPath());
-  const QString name = storage.isRoot() ? Translated("File system") : storage.name();
-  return name.isEmpty() || name == path ? path : name + "  (" + path + ")";
+  const QString name =
+      storage.isRoot() ? Translated(STARFOLDS_TEXT("File system")) : storage.name();
+  return name.isEmpty() || name == path ? path : QString("%1  (%2)").arg(name, path);
 }
 
 bool HoldsFolder(const QString& root, const QString& folder) {
@@ -69,8 +69,10 @@ std::vector<FolderRoot> FolderRoots(const QString& templates) {
     if (std::none_of(roots.begin(), roots.end(), same)) roots.push_back({name, path});
   };
   const QString home = QDir::cleanPath(QDir::homePath());
-  add(Translated("Home folder") + "  (" + QDir::toNativeSeparators(home) + ")", home);
-  if (!templates.isEmpty()) add(Translated("Templates of Starfolds"), templates);
+  add(QString("%1  (%2)")
+          .arg(Translated(STARFOLDS_TEXT("Home folder")), QDir::toNativeSeparators(home)),
+      home);
+  if (!templates.isEmpty()) add(Translated(STARFOLDS_TEXT("Templates of Starfolds")), templates);
   for (const QStorageInfo& storage : QStorageInfo::mountedVolumes()) {
     if (IsForFiles(storage)) add(NameOf(storage), storage.rootPath());
   }

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/user_text.h"
 #include "settings/product.h"
 #include "settings/registry.h"
 #include "widgets/dialog_model.h"
@@ -74,10 +75,11 @@ class FrmFileIo::FolderDelegate : public QStyledItemDelegate {
   QIcon closed_;
 };
 
-std::string TemplateFaultText(bool open, const std::string& path, const std::string& reason) {
-  return std::string(open ? "The template could not be opened:\n"
-                          : "The template could not be saved to:\n") +
-         QDir::toNativeSeparators(Shown(path)).toStdString() + "\n\n" + reason;
+UserText TemplateFaultText(bool open, const std::string& path, const std::string& reason) {
+  return {open ? STARFOLDS_TEXT("The template could not be opened:\n%1")
+               : STARFOLDS_TEXT("The template could not be saved to:\n%1"),
+          {QDir::toNativeSeparators(Shown(path)).toStdString()},
+          reason};
 }
 
 FrmFileIo::FrmFileIo(const FileIoSurroundings& surroundings, QWidget* parent)
@@ -267,7 +269,7 @@ bool FrmFileIo::EnterFolder(const QString& folder) {
 
 bool FrmFileIo::EnterOrSay(const QString& folder) {
   if (EnterFolder(folder)) return true;
-  Inform("The folder cannot be read.");
+  Inform(tr("The folder cannot be read."));
   return false;
 }
 
@@ -320,16 +322,16 @@ bool FrmFileIo::EnterTypedFolder(const QString& typed) {
 void FrmFileIo::TakeForOpening(const QString& typed) {
   const QString path = TypedPath(folder_, typed);
   if (typed.isEmpty() || !QFileInfo::exists(path)) {
-    return Refuse("Please select an existing file.");
+    return Refuse(tr("Please select an existing file."));
   }
   Take(path);
 }
 
 void FrmFileIo::TakeForSaving(const QString& typed) {
-  if (typed.isEmpty()) return Refuse("Please enter a file name.");
+  if (typed.isEmpty()) return Refuse(tr("Please enter a file name."));
   const QString name = QDir::fromNativeSeparators(typed).section('/', -1);
   const QString path = TypedPath(folder_, name.contains('.') ? typed : typed + "." + extension_);
-  if (!CanBeWritten(path)) return Refuse("Please enter a valid path and file.");
+  if (!CanBeWritten(path)) return Refuse(tr("Please enter a valid path and file."));
   Take(path);
 }
 
@@ -371,11 +373,11 @@ void FrmFileIo::FocusName() {
   txtFile_->selectAll();
 }
 
-void FrmFileIo::Inform(const std::string& text) {
-  around_.Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
+void FrmFileIo::Inform(const QString& text) {
+  around_.Boxes.Show(text.toStdString(), BoxStyle::Information, std::string(kProductName));
 }
 
-void FrmFileIo::Refuse(const std::string& text) {
+void FrmFileIo::Refuse(const QString& text) {
   Inform(text);
   FocusName();
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/message_boxes.h"
+#include "platform/user_text.h"
 #include "template_dialogs/folder_contents.h"
 #include "template_dialogs/template_preview.h"
 #include "widgets/picture_box.h"
@@ -38,7 +39,7 @@ struct FileIoSurroundings {
 };
 
 /// The message for a template that could not be loaded or saved.
-std::string TemplateFaultText(bool open, const std::string& path, const std::string& reason);
+UserText TemplateFaultText(bool open, const std::string& path, const std::string& reason);
 
 class FrmFileIo : public PlacedDialog {
   Q_OBJECT
@@ -83,9 +84,9 @@ class FrmFileIo : public PlacedDialog {
   void Take(const QString& path);
   void StoreFolder();
   void FocusName();
-  void Inform(const std::string& text);
+  void Inform(const QString& text);
   /// Rejects the typed name with a message.
-  void Refuse(const std::string& text);
+  void Refuse(const QString& text);
 
   FileIoSurroundings around_;
   bool open_ = true;     // bOpen

@@ -9,6 +9,7 @@
 #include <memory>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "settings/product.h"
 #include "settings/share_link.h"
 #include "settings/templates.h"
@@ -21,7 +22,8 @@ namespace starfolds {
 namespace {
 
 constexpr char kExtension[] = "sfd";
-constexpr char kFileTypes[] = "Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|";
+constexpr char kFileTypes[] =
+    STARFOLDS_TEXT("Starfold Templates (*.sfd)|*.sfd|All Files (*.*)|*.*|");
 
 /// The path of the dragged template; nullopt unless exactly one template file is dragged.
 std::optional<std::string> DraggedTemplate(const QMimeData* data) {
@@ -94,15 +96,16 @@ void TemplateMenu::ShareAsLink(const std::string& page) {
   const QString fragment = LinkFragment(LinkText(*records, {}));
   if (fragment.size() > kLongestLinkFragment) {
     host_.Settings.Boxes.Show(
-        "The settings are too long for a link. Save them as a template instead.",
+        tr("The settings are too long for a link. Save them as a template instead.").toStdString(),
         BoxStyle::Exclamation, std::string(kProductName));
     return;
   }
   QGuiApplication::clipboard()->setText(Shown(page) + "#" + fragment);
   host_.Settings.Boxes.Show(
-      "A link to this universe is in the clipboard now. Whoever opens it sees the universe in a "
-      "browser.\n\nThe link contains the settings, without your on-screen message. Nothing was "
-      "sent.",
+      tr("A link to this universe is in the clipboard now. Whoever opens it sees the universe in a "
+         "browser.\n\nThe link contains the settings, without your on-screen message. Nothing was "
+         "sent.")
+          .toStdString(),
       BoxStyle::Information, std::string(kProductName));
 }
 
@@ -145,7 +148,7 @@ void TemplateMenu::Choose(bool open) {
       &host_.Window);
   frmFileIo.ChooseTemplate(
       open, true, open ? tr("Select Template to Open") : tr("Enter or Select Template to Save"),
-      kFileTypes, kExtension);
+      Translated(kFileTypes), kExtension);
 }
 
 /// Queued: a preview may have been started meanwhile.

@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "settings/templates.h"
 #include "widgets/dialog_parts.h"
 
@@ -48,7 +49,7 @@ const std::string& NameOf(const SettingsRecords& records, int body) {
 QString FactsOf(const SettingsRecords& records, const std::vector<WeightedBody>& bodies) {
   int sum = 0;
   for (const WeightedBody& body : bodies) sum += body.Weight;
-  QString text = QString("%1 stars in %2 starfolds of %3 types:")
+  QString text = Translated(STARFOLDS_TEXT("%1 stars in %2 starfolds of %3 types:"))
                      .arg(records.Universe.Universe_Stars)
                      .arg(records.Universe.Universe_Starfold)
                      .arg(bodies.size());
@@ -59,7 +60,9 @@ QString FactsOf(const SettingsRecords& records, const std::vector<WeightedBody>&
                 .arg(bodies[i].Weight * 100 / sum)
                 .arg(name.size() > longest ? name.left(longest) + "…" : name);
   }
-  if (bodies.size() > kMostNamed) text += QString("\nand %1 more").arg(bodies.size() - kMostNamed);
+  if (bodies.size() > kMostNamed) {
+    text += '\n' + Translated(STARFOLDS_TEXT("and %1 more")).arg(bodies.size() - kMostNamed);
+  }
   return text;
 }
 

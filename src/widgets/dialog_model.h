@@ -25,9 +25,9 @@ struct PropsModel {
   ProfileArray& Profiles() const { return Process.Profiles; }
   CompositeArray& Composites() const { return Process.Composites; }
 
-  /// Shows a message with the button "OK".
-  void Inform(const std::string& text) const {
-    Boxes.Show(text, BoxStyle::Information, std::string(kProductName));
+  /// Shows a message in the user's language with the button "OK".
+  void Inform(const QString& text) const {
+    Boxes.Show(text.toStdString(), BoxStyle::Information, std::string(kProductName));
   }
 };
 

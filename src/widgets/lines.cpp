@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QRegularExpression>
 
+#include "desktop/translation.h"
 #include "widgets/dialog_model.h"
 #include "widgets/range_label.h"
 
@@ -91,5 +92,7 @@ void LetShrink(QComboBox* list) {
 }
 
 QString Escaped(std::string_view text) { return Shown(text).replace("&", "&&"); }
+
+QString EscapedTranslation(std::string_view text) { return Translated(text).replace("&", "&&"); }
 
 }  // namespace starfolds

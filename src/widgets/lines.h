@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/user_text.h"
+
 namespace starfolds {
 
 /// Appends a line to a form's grid: the label is in the left column, and its text may have a
@@ -42,5 +44,7 @@ void LetShrink(QComboBox* list);
 
 /// Text for a label or button, with "&" escaped.
 QString Escaped(std::string_view text);
+/// The same of a text marked by `STARFOLDS_TEXT`, in the user's language.
+QString EscapedTranslation(std::string_view text);
 
 }  // namespace starfolds

@@ -45,8 +45,9 @@ void NumberBox::SetRange(const NumberRange& range) {
   range_ = range;
   const int present = static_cast<int>(lineEdit()->text().size());
   lineEdit()->setMaxLength(std::max(LongestText(), present));  // keeps the current text
-  setAccessibleDescription(QString::fromStdString(TextOf(range.Low, range.Kind) + " to " +
-                                                  TextOf(range.High, range.Kind)));
+  setAccessibleDescription(tr("%1 to %2")
+                               .arg(QString::fromStdString(TextOf(range.Low, range.Kind)),
+                                    QString::fromStdString(TextOf(range.High, range.Kind))));
 }
 
 void NumberBox::SetNoRange() {

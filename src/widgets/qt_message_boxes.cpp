@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "desktop/translation.h"
 #include "widgets/dialog_model.h"
 
 namespace starfolds {
@@ -28,36 +29,38 @@ QMessageBox::Icon IconOf(BoxStyle style) {
 struct BoxButton {
   QMessageBox::StandardButton Button;
   BoxAnswer Answer;
-  const char* Text = nullptr;  // replaces Qt's text
+  const char* Text;  // replaces Qt's, whose translation may not be installed
 };
 
 std::vector<BoxButton> ButtonsOf(BoxStyle style) {
   switch (style) {
     case BoxStyle::YesNoCancelQuestion:
-      return {{QMessageBox::Yes, BoxAnswer::Yes},
-              {QMessageBox::No, BoxAnswer::No},
-              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+      return {{QMessageBox::Yes, BoxAnswer::Yes, STARFOLDS_TEXT("&Yes")},
+              {QMessageBox::No, BoxAnswer::No, STARFOLDS_TEXT("&No")},
+              {QMessageBox::Cancel, BoxAnswer::Cancel, STARFOLDS_TEXT("Cancel")}};
     case BoxStyle::UnacceptedChanges:
-      return {{QMessageBox::Save, BoxAnswer::AcceptChanges, "&Accept Settings"},
-              {QMessageBox::Discard, BoxAnswer::DiscardChanges, "&Discard"},
-              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+      return {{QMessageBox::Save, BoxAnswer::AcceptChanges, STARFOLDS_TEXT("&Accept Settings")},
+              {QMessageBox::Discard, BoxAnswer::DiscardChanges, STARFOLDS_TEXT("&Discard")},
+              {QMessageBox::Cancel, BoxAnswer::Cancel, STARFOLDS_TEXT("Cancel")}};
     case BoxStyle::SaveFailed:
-      return {{QMessageBox::Retry, BoxAnswer::TryAgain, "&Try Again"},
-              {QMessageBox::Save, BoxAnswer::SaveAsTemplate, "&Save as Template..."},
-              {QMessageBox::Discard, BoxAnswer::CloseWithoutSaving, "&Close without Saving"},
-              {QMessageBox::Cancel, BoxAnswer::Cancel}};
+      return {
+          {QMessageBox::Retry, BoxAnswer::TryAgain, STARFOLDS_TEXT("&Try Again")},
+          {QMessageBox::Save, BoxAnswer::SaveAsTemplate, STARFOLDS_TEXT("&Save as Template...")},
+          {QMessageBox::Discard, BoxAnswer::CloseWithoutSaving,
+           STARFOLDS_TEXT("&Close without Saving")},
+          {QMessageBox::Cancel, BoxAnswer::Cancel, STARFOLDS_TEXT("Cancel")}};
     case BoxStyle::Plain:
     case BoxStyle::Information:
     case BoxStyle::Exclamation: break;
   }
-  return {{QMessageBox::Ok, BoxAnswer::Ok}};
+  return {{QMessageBox::Ok, BoxAnswer::Ok, STARFOLDS_TEXT("OK")}};
 }
 
 /// Closing the box counts as its last button.
 void AddButtons(QMessageBox& box, const std::vector<BoxButton>& buttons) {
   for (const BoxButton& each : buttons) {
     QPushButton* button = box.addButton(each.Button);
-    if (each.Text) button->setText(each.Text);
+    button->setText(Translated(each.Text));
   }
   box.setDefaultButton(buttons.front().Button);
   box.setEscapeButton(buttons.back().Button);
@@ -81,13 +84,12 @@ BoxAnswer AnswerOf(int pressed, const std::vector<BoxButton>& buttons) {
 
 }  // namespace
 
-BoxAnswer QtMessageBoxes::Show(const std::string& text, BoxStyle style,
-                               const std::string& caption) {
+BoxAnswer QtMessageBoxes::Show(const UserText& text, BoxStyle style, const std::string& caption) {
   QWidget* asking = QApplication::activeWindow();
   if (!asking) asking = QApplication::activeModalWidget();
   QMessageBox box(IconOf(style), Shown(caption), QString(), QMessageBox::NoButton, asking);
   box.setTextFormat(Qt::PlainText);  // a name or a path may contain markup
-  box.setText(Shown(text));
+  box.setText(Translated(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   const std::vector<BoxButton> buttons = ButtonsOf(style);
   AddButtons(box, buttons);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/message_boxes.h"
+#include "platform/user_text.h"
 
 namespace starfolds {
 
@@ -9,7 +10,7 @@ namespace starfolds {
 /// both. Their text can be selected and copied. Esc answers like closing the box.
 class QtMessageBoxes : public MessageBoxes {
  public:
-  BoxAnswer Show(const std::string& text, BoxStyle style, const std::string& caption) override;
+  BoxAnswer Show(const UserText& text, BoxStyle style, const std::string& caption) override;
 };
 
 }  // namespace starfolds

@@ -52,7 +52,7 @@ QString SettingGuide::Tip() const {
   QString tip = Wrapped(Shown(help_.SentenceOf(setting.Name, setting.Style)));
   if (!tip.isEmpty()) tip += '\n';
   if (const auto* box = qobject_cast<const NumberBox*>(&control_)) {
-    tip += tr("Range: %1. ").arg(box->accessibleDescription());
+    return tip + tr("Range: %1. Default: %2.").arg(box->accessibleDescription(), DefaultShown());
   }
   return tip + tr("Default: %1.").arg(DefaultShown());
 }

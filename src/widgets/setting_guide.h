@@ -1,6 +1,7 @@
 // Explains the setting that a control edits, in its place.
 #pragma once
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QWidget>
 #include <functional>
@@ -27,6 +28,8 @@ GuidedSetting Guided(const Field<Record>& field, int style = kAnyStyle) {
 /// range and the default, F1 to that section, and "Back to Default" in its context menu. Belongs to
 /// the control. `help` must outlive it.
 class SettingGuide : public QObject {
+  Q_DECLARE_TR_FUNCTIONS(starfolds::SettingGuide)
+
  public:
   using Source = std::function<GuidedSetting()>;
   SettingGuide(QWidget& control, Help& help, Source setting);
