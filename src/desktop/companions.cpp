@@ -17,6 +17,9 @@
 #include <signal.h>
 #include <sys/prctl.h>
 #endif
+#ifdef _WIN32
+#include "desktop/windows_api.h"
+#endif
 
 namespace starfolds {
 namespace {
@@ -30,13 +33,43 @@ constexpr int kRestartPause = 500;
 constexpr int kStartTime = 10'000;
 constexpr int kMostFailures = 3;  // in a row
 
-/// Called in the child process before the program is executed. The owner may have ended already.
+/// Milliseconds between two looks at the pipe, on systems that do not report that it was closed.
+[[maybe_unused]] constexpr int kOwnerCheckInterval = 100;
+
+#ifdef _WIN32
+
+/// A job whose processes are killed when its last handle is closed. The only one is never closed
+/// but by the end of this process.
+HANDLE MakeDeadlyJob() {
+  const HANDLE job = CreateJobObjectW(nullptr, nullptr);
+  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+  limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+  SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
+  return job;
+}
+
+/// If the process was killed in between, there is nothing to add.
+void AddToJob(qint64 processId) {
+  static const HANDLE job = MakeDeadlyJob();
+  const HANDLE process =
+      OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, static_cast<DWORD>(processId));
+  if (process == nullptr) return;
+  AssignProcessToJobObject(job, process);
+  CloseHandle(process);
+}
+
+#endif
+
+/// Has a companion killed when its owner ends. On Linux the function is called in the new process
+/// before the program is executed; the owner may have ended already.
 void DieWithOwner([[maybe_unused]] QProcess& process) {
 #ifdef __linux__
   process.setChildProcessModifier([owner = getpid()] {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != owner) _exit(0);
   });
+#elif defined(_WIN32)
+  QObject::connect(&process, &QProcess::started, [&process] { AddToJob(process.processId()); });
 #endif
 }
 
@@ -125,6 +158,32 @@ class OwnerWatch::Pipe {
 
  private:
   QSocketNotifier notifier_;
+};
+
+#elif defined(_WIN32)
+
+/// The read end of the pipe. Windows does not report that the other end was closed unless a thread
+/// waits for it.
+class OwnerWatch::Pipe {
+ public:
+  explicit Pipe(std::function<void()> gone) {
+    check_.setInterval(kOwnerCheckInterval);
+    check_.callOnTimeout([this, gone = std::move(gone)] {
+      if (!IsClosed()) return;
+      check_.stop();
+      gone();
+    });
+    check_.start();
+  }
+
+ private:
+  static bool IsClosed() {
+    const HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+    return !PeekNamedPipe(input, nullptr, 0, nullptr, nullptr, nullptr) &&
+           GetLastError() == ERROR_BROKEN_PIPE;
+  }
+
+  QTimer check_;
 };
 
 #else

@@ -14,6 +14,7 @@
 #include <limits>
 
 #include "desktop/huge_pages.h"
+#include "desktop/image_sender.h"
 #include "desktop/key_presses.h"
 #include "desktop/qimage_of_surface.h"
 #include "desktop/window_hints.h"
@@ -42,6 +43,9 @@ Qt::WindowFlags StackingFlags(Stacking stacking) {
   }
   return {};
 }
+
+/// Qt's own name. On Windows a window that takes no focus would get it when it is shown.
+constexpr const char* kShownWithoutActivating = "_q_showWithoutActivating";
 
 bool IsWhole(double factor) { return factor == std::floor(factor); }
 
@@ -132,6 +136,7 @@ void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
   atBottom_ = stacking == Stacking::AtBottom;
   TakeFlags(Qt::Window | Qt::FramelessWindowHint | StackingFlags(stacking) |
             (place.Leads ? Qt::WindowFlags() : Qt::WindowDoesNotAcceptFocus));
+  window_->setProperty(kShownWithoutActivating, !place.Leads || atBottom_);
   CoverScreen(place);
   if (place.Leads && !atBottom_) window_->requestActivate();
   screens_.emplace([this, place] { CoverScreen(place); });
@@ -305,12 +310,24 @@ void WindowSurface::ShowTiles(KeptFrame& frame) {
     PaintTiles(picture, tiles, isBehind ? std::span<const PixelChange>() : frame.Changes);
   }
   store_->endPaint();
-  if (isSame) {
-    store_->flush(region);
-  } else {
+  if (!isSame) {
     kept_.Clear();
-    ShowAll();
+    return ShowAll();
   }
+  if (!SendTiles(picture, tiles)) store_->flush(region);
+}
+
+/// False if nothing was sent.
+bool WindowSurface::SendTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles) {
+  if (picture.devType() != QInternal::Image || picture.depth() != 32) return false;
+  rects_.clear();
+  for (const TileRect& tile : tiles) {
+    const QPoint begin(scale_.Columns.Begin(tile.X), scale_.Rows.Begin(tile.Y));
+    const QPoint last(scale_.Columns.End(tile.X + tile.Width - 1) - 1,
+                      scale_.Rows.End(tile.Y + tile.Height - 1) - 1);
+    rects_.emplace_back(begin, last);
+  }
+  return SendParts(*window_, static_cast<QImage&>(picture), rects_);
 }
 
 /// Paints the changes if there are any, and else the tiles as a whole.

@@ -100,6 +100,7 @@ class WindowSurface : public Surface {
   bool PrepareAsPoints(KeptFrame& frame, std::int64_t area);
   void ShowFrame(KeptFrame& frame);
   void ShowTiles(KeptFrame& frame);
+  bool SendTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles);
   void PaintTiles(QPaintDevice& picture, const std::vector<TileRect>& tiles,
                   std::span<const PixelChange> changes);
   void PaintWithPainter(QPaintDevice& picture, const std::vector<TileRect>& tiles);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/message_window.h"
+#include "desktop/saver_guard.h"
 #include "hosting/run_loop.h"
 #include "hosting/saver_input.h"
 
@@ -39,6 +40,7 @@ class FrmSaver : private WindowEvents {
   ScreenPlace place_;
   bool backG_;  // BackG: a background of the desktop, which input does not end
   SaverInput input_;
+  SaverGuard guard_;
   bool running_ = false;
   bool outgrown_ = false;  // the run ends because the window was resized
   bool leaving_ = false;   // input has ended the saver, or the password is being asked for

@@ -1,0 +1,22 @@
+#include "desktop/window_hints_windows.h"
+
+#include "desktop/window_hints.h"
+#include "desktop/windows_api.h"
+
+namespace starfolds {
+
+void MarkUnlisted(QWindow& window) {
+  const HWND handle = NativeWindow(window);
+  if (handle != nullptr) SetPropW(handle, kUnlistedMark, reinterpret_cast<HANDLE>(1));
+}
+
+/// Tool windows have no button in the task bar, and are not in the list of Alt+Tab.
+void MarkAsBackground(QWindow& window) {
+  const HWND handle = NativeWindow(window);
+  if (handle == nullptr) return;
+  const LONG_PTR style = GetWindowLongPtrW(handle, GWL_EXSTYLE);
+  SetWindowLongPtrW(handle, GWL_EXSTYLE,
+                    (style & ~WS_EX_APPWINDOW) | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE);
+}
+
+}  // namespace starfolds
