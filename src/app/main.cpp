@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/options.h"
+#include "app/system_start.h"
 #include "app/toolkit_start.h"
 #include "app/windows.h"
 #include "command_line/options.h"
@@ -182,10 +183,15 @@ int RunOnDesktop(char* program, const StartOptions& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+  PrepareProcess();
+  const std::vector<std::string> texts = ProgramArguments(argc, argv);
+  const std::vector<std::string_view> arguments(texts.begin(), texts.end());
   StartOptions options;
   if (const Fault wrong = ParseStartOptions(arguments, options)) {
     return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
+  }
+  if (options.AskedFor == Role::FromCommandLine) {
+    options.CommandLine = RawCommandLine().value_or(options.CommandLine);
   }
   switch (options.AskedFor) {
     case Role::Help: return PrintHelp(argc, argv);

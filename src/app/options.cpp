@@ -210,6 +210,12 @@ std::optional<Long> WindowNumber(std::string_view text) {
   return static_cast<Long>(*number);
 }
 
+Long WindowOfSettings(std::string_view commandLine) {
+  if (!IsSystemSwitch(commandLine)) return 0;
+  commandLine.remove_prefix(std::min(commandLine.find_first_of("0123456789"), commandLine.size()));
+  return WindowNumber(commandLine).value_or(0);
+}
+
 Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options) {
   if (!HasOptions(arguments)) {
     options.CommandLine = Joined(arguments);

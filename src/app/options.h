@@ -56,6 +56,9 @@ Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOption
 /// is not a number from 1 to the largest Long.
 std::optional<Long> WindowNumber(std::string_view text);
 
+/// The window in a system's request for the settings dialog, such as "/c:1234"; 0 if it names none.
+Long WindowOfSettings(std::string_view commandLine);
+
 /// What `--help`, the manual page and shells say about the program.
 ProgramGuide SaverGuide();
 

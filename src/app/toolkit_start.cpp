@@ -1,18 +1,17 @@
 #include "app/toolkit_start.h"
 
+#include <QPalette>
+#include <QStyle>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "app/system_start.h"
 #include "desktop/translation.h"
 #include "platform/console.h"
 #include "widgets/plain_text.h"
 #include "widgets/program_icon.h"
 #include "widgets/visible_boxes.h"
-
-#ifdef __unix__
-#include <unistd.h>
-#endif
 
 namespace starfolds {
 namespace {
@@ -56,17 +55,18 @@ void ReplayMessages() {
   messages.clear();
 }
 
+/// Windows' style paints selected rows in a light colour, and their texts in the usual one. Lists
+/// that paint their texts themselves take the colour from the palette.
+void ShowSelectedRowsReadably() {
+  if (!QApplication::style()->inherits("QWindowsVistaStyle")) return;
+  QPalette palette = QApplication::palette("QAbstractItemView");
+  palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+  QApplication::setPalette(palette, "QAbstractItemView");
+}
+
 bool HasScreen() {
   const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
   return !platform.startsWith("offscreen") && !platform.startsWith("minimal");
-}
-
-bool OnTerminal() {
-#ifdef __unix__
-  return isatty(STDIN_FILENO) != 0 || isatty(STDOUT_FILENO) != 0 || isatty(STDERR_FILENO) != 0;
-#else
-  return false;
-#endif
 }
 
 }  // namespace
@@ -88,6 +88,7 @@ Toolkit::Toolkit(char* program) : arguments_{program, nullptr} {
   InstallTranslations();
   ShowTextsAsPlain(*application_);
   ShowUncheckedBoxes(*application_);
+  ShowSelectedRowsReadably();
   QApplication::setWindowIcon(ProgramIcon());
   ReplayMessages();
 }

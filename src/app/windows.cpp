@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/saver_screens.h"
+#include "desktop/foreign_owner.h"
 #include "desktop/foreign_window.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
@@ -75,6 +76,12 @@ void AppWindows::ShowFrmAppExe() {
     RunFrmProps(&owner);
   };
   FrmAppExe(process_, seed_, showProperties, shape).Activate();
+}
+
+/// The dialog belongs to the window that the system names behind the switch, if there is one.
+void AppWindows::ShowFrmProps() {
+  const ForeignOwner owner(WindowOfSettings(options_.CommandLine));
+  RunFrmProps(owner.Window());
 }
 
 /// The safety copy of the settings goes beside the program, or else beside the user's settings.

@@ -23,7 +23,7 @@ class AppWindows : public StartActions {
   bool FileExists(const std::string& path) override;
   void ShowFrmSaver() override;
   void ShowFrmAppExe() override;
-  void ShowFrmProps() override { RunFrmProps(nullptr); }
+  void ShowFrmProps() override;
   void LoadFrmPreview() override;
   void LoadTemplate(const std::string& path) override;
 
