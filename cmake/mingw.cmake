@@ -10,6 +10,10 @@ set(CMAKE_RC_COMPILER ${TRIPLE}-windres)
 
 # Never headers and libraries of the system that compiles.
 set(CMAKE_FIND_ROOT_PATH /usr/${TRIPLE})
+# The static Qt that `./dev windows` makes or unpacks. Its tools run on the system that compiles.
+get_filename_component(QT_FOLDER ${CMAKE_CURRENT_LIST_DIR}/../build/windows-qt/qt-mingw ABSOLUTE)
+list(APPEND CMAKE_FIND_ROOT_PATH ${QT_FOLDER})
+set(QT_HOST_PATH /usr)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
@@ -19,6 +23,3 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)
-
-# Libraries that Debian does not have for MinGW-w64.
-list(APPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR}/windows)
