@@ -9,6 +9,7 @@
 #include "numbers/conversions.h"
 #include "numbers/text.h"
 #include "platform/user_text.h"
+#include "settings/idle_settings.h"
 
 namespace starfolds {
 namespace {
@@ -518,6 +519,7 @@ STARFOLDS_FIELD_TEXT(IfsRecord)
 STARFOLDS_FIELD_TEXT(IfsPoint)
 STARFOLDS_FIELD_TEXT(AtomRecord)
 STARFOLDS_FIELD_TEXT(AtomPoint)
+STARFOLDS_FIELD_TEXT(IdleSettings)
 #undef STARFOLDS_FIELD_TEXT
 
 std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,

@@ -1,0 +1,156 @@
+// `starfolds-idle`: starts the saver when there was no input for some time.
+#include <QCoreApplication>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QTimer>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desktop/signals.h"
+#include "idle/idle_config.h"
+#include "idle/options.h"
+#include "idle/service.h"
+#include "idle/surroundings.h"
+#include "platform/console.h"
+#include "storage/storage_places.h"
+
+namespace {
+
+using namespace starfolds;
+
+constexpr int kExitCannotDo = 1;
+constexpr int kExitWrongUse = 2;
+constexpr IdleTime kTestTime{5'000};
+constexpr int kLongestAnswer = 1500;  // of the buses, for --status, in milliseconds
+
+int Fail(const std::string& message, int exitCode) {
+  Complain("starfolds-idle", message);
+  return exitCode;
+}
+
+QString Text(const char* text) { return QCoreApplication::translate("starfolds-idle", text); }
+
+void PrintLine(const QString& line) { Print(Harmless(line.toStdString()) + "\n"); }
+
+/// Beside this program, or else in the search path.
+QString SaverProgram(const IdleOptions& options) {
+  if (!options.Saver.empty()) return QString::fromStdString(options.Saver);
+  const QString name = "starfolds";
+  const QString beside =
+      QStandardPaths::findExecutable(name, {QCoreApplication::applicationDirPath()});
+  return beside.isEmpty() ? name : beside;
+}
+
+/// One service per display: a user may have several sessions.
+QString LockPath() {
+  QString display = qEnvironmentVariable("WAYLAND_DISPLAY");
+  if (display.isEmpty()) display = qEnvironmentVariable("DISPLAY");
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  if (folder.isEmpty()) folder = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+  return folder + "/starfolds-idle-" + display.replace('/', '_') + ".lock";
+}
+
+std::string NoSource(const IdleSurroundings& around) {
+  return around.HasDisplay()
+             ? "this desktop does not tell programs when there is no input"
+             : "there is no desktop to watch (neither DISPLAY nor WAYLAND_DISPLAY reaches one)";
+}
+
+IdlePlan PlanOf(const IdleConfig& config) {
+  return {std::chrono::minutes(config.Idle.Idle_Minutes), config.EndsOnInput, false};
+}
+
+/// Runs until a signal, the end of the window system, or settings that turn it off.
+int Serve(const IdleOptions& options, SqliteTree& tree) {
+  const auto config = ReadIdleConfig(tree);
+  if (!config) return Fail("the settings cannot be read", kExitCannotDo);
+  if (!config->Idle.Idle_On) return 0;
+  QLockFile lock(LockPath());
+  lock.setStaleLockTime(0);
+  if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError) return 0;
+
+  IdleSurroundings around(QCoreApplication::quit, config->Idle.Idle_Battery);
+  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
+  InhibitService inhibitions(around.SessionBus(), around.Against());
+  IdleService service(*around.Source(), around.Against(), SaverProgram(options), PlanOf(*config),
+                      PrintLine, QCoreApplication::quit);
+  service.ShowingChanged = [&](bool showing) { inhibitions.SetShowing(showing); };
+  const IdleConfigWatch changes(tree, OwnTreeFiles().User, *config, [&](const IdleConfig& now) {
+    if (!now.Idle.Idle_On) return QCoreApplication::quit();
+    around.Battery().SetLimit(now.Idle.Idle_Battery);
+    service.Change(PlanOf(now));
+  });
+  PrintLine(Text("Watching: %1").arg(around.Source()->Name()));
+  return QCoreApplication::exec();
+}
+
+int Test(const IdleOptions& options, SqliteTree& tree) {
+  const IdleConfig config = ReadIdleConfig(tree).value_or(IdleConfig());
+  IdleSurroundings around(QCoreApplication::quit, config.Idle.Idle_Battery);
+  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
+  IdleService service(*around.Source(), around.Against(), SaverProgram(options),
+                      {kTestTime, config.EndsOnInput, true}, PrintLine, QCoreApplication::quit);
+  PrintLine(Text("Waiting for five seconds without input."));
+  return QCoreApplication::exec();
+}
+
+QString ServiceState() {
+  QLockFile lock(LockPath());
+  lock.setStaleLockTime(0);
+  if (lock.tryLock()) return Text("not running");
+  qint64 process = 0;
+  QString host, program;
+  lock.getLockInfo(&process, &host, &program);
+  return Text("running, process %1").arg(process);
+}
+
+void PrintStatus(IdleSurroundings& around, const std::optional<IdleConfig>& config) {
+  around.Against().Refresh();
+  const IdleSource* const source = around.Source();
+  PrintLine(
+      Text("Idleness: %1").arg(source ? source->Name() : QString::fromStdString(NoSource(around))));
+  const QStringList against = around.Against().Reasons();
+  PrintLine(Text("Against a screen saver now: %1")
+                .arg(against.isEmpty() ? Text("nothing") : against.join(' ')));
+  PrintLine(Text("Service: %1").arg(ServiceState()));
+  if (!config) return PrintLine(Text("Settings: they cannot be read"));
+  PrintLine(Text("Settings: %1, after %2 min, on battery from %3 %")
+                .arg(config->Idle.Idle_On ? Text("on") : Text("off"))
+                .arg(config->Idle.Idle_Minutes)
+                .arg(config->Idle.Idle_Battery));
+}
+
+/// Waits for the answers of the buses, which come in any order or not at all.
+int Status(SqliteTree& tree) {
+  const auto config = ReadIdleConfig(tree);
+  IdleSurroundings around(QCoreApplication::quit, config.value_or(IdleConfig()).Idle.Idle_Battery);
+  QTimer::singleShot(kLongestAnswer, QCoreApplication::quit);
+  QCoreApplication::exec();
+  PrintStatus(around, config);
+  return around.Source() ? 0 : kExitCannotDo;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+  IdleOptions options;
+  if (const Fault wrong = ParseIdleOptions(arguments, options)) {
+    return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
+  }
+  if (options.AskedFor == IdleRole::Help) return Print(IdleUsageText()) ? 0 : kExitCannotDo;
+  if (options.AskedFor == IdleRole::Version) {
+    return Print("starfolds-idle " STARFOLDS_VERSION "\n") ? 0 : kExitCannotDo;
+  }
+  StopSignals stopSignals;
+  const QCoreApplication application(argc, argv);
+  stopSignals.Watch(QCoreApplication::quit);
+  SqliteTree tree(OwnTreeFiles(),
+                  [](const std::string& line) { Complain("starfolds-idle", line); });
+  switch (options.AskedFor) {
+    case IdleRole::Status: return Status(tree);
+    case IdleRole::Test: return Test(options, tree);
+    default: return Serve(options, tree);
+  }
+}

@@ -1,0 +1,44 @@
+#include "idle/options.h"
+
+#include "command_line/options.h"
+
+namespace starfolds {
+namespace {
+
+OptionTable TableFor(IdleOptions& to) {
+  const auto asksFor = [&](IdleRole role) { return TakeFixed(to.AskedFor, role); };
+  return {
+      Heading("Options"),
+      {"--status", "", "print what was found here, and what forbids the saver now",
+       asksFor(IdleRole::Status)},
+      {"--test", "", "start the saver once, after five seconds without input",
+       asksFor(IdleRole::Test)},
+      {"--program", "FILE", "start FILE --saver instead of the starfolds beside this\nprogram",
+       TakeText(to.Saver)},
+      {"-h,--help", "", "print this text", asksFor(IdleRole::Help), true},
+      {"-V,--version", "", "print the version", asksFor(IdleRole::Version), true},
+  };
+}
+
+}  // namespace
+
+Fault ParseIdleOptions(std::span<const std::string_view> arguments, IdleOptions& options) {
+  return ReadOptions(TableFor(options), arguments);
+}
+
+std::string IdleUsageText() {
+  IdleOptions unused;
+  return R"(Usage: starfolds-idle [OPTION]...
+
+Starts the Starfolds screen saver when there was no input for some time, and
+ends it at the next input. It waits while a film or a call inhibits idleness,
+on battery, and while the screen is locked or off. It locks nothing.
+
+)" + OptionsHelp(TableFor(unused)) +
+         R"(
+The settings are in the settings dialog: starfolds --settings, Edit, When Idle.
+Without options it ends at once if they are off.
+)";
+}
+
+}  // namespace starfolds
