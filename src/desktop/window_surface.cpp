@@ -187,8 +187,11 @@ void WindowSurface::TakeFlags(Qt::WindowFlags flags) {
   if (window_->handle() != nullptr) MeetWindow();
 }
 
-/// Called when the native window was created, or created again.
+/// Called when the native window was created, or created again. Kept drawings are for the former
+/// one.
 void WindowSurface::MeetWindow() {
+  kept_.Clear();
+  repaintAll_ = true;
   if (window_->property(kUnlistedProperty).toBool()) MarkUnlisted(*window_);
   sight_ = MakeSightWatch(*window_);
   points_ = MakePointPainter(*window_);
