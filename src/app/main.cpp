@@ -25,6 +25,7 @@
 #include "settings/overrides.h"
 #include "settings/template_file.h"
 #include "storage/disk_files.h"
+#include "storage/earlier_tree.h"
 #include "storage/sqlite_tree.h"
 
 namespace {
@@ -162,6 +163,7 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   process->Platform = &platform;
   SqliteTree tree(OwnTreeFiles(), Say, {},
                   [&] { return stopSignals.Asked() || process->Requests.QuitApp(); });
+  if (const auto earlier = EarlierTree()) ImportEarlierSettings(tree, *earlier);
   MigrateMachineSettings(tree);
   BeginningTree edited(tree);
   OverriddenTree overridden(edited);

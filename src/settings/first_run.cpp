@@ -23,25 +23,66 @@ constexpr Setting<A> kEarlierAdvanced[] = {&A::FocalLength,   &A::Adv_TimeDelay,
                                            &A::Adv_FontSize,  &A::Adv_FontHueV,  &A::LockMessage,
                                            &A::Adv_MouseMove, &A::Adv_DispBackG, &A::Adv_WinResize};
 
-void CopyPlainValues(KeyValueTree& tree) {
-  CopyMachineValueToUser(tree, sections::kMain, "WindowState", "0");
-  CopyMachineValueToUser(tree, sections::kMain, "WindowSize", {});
+/// The sections with the place of a window.
+constexpr std::string_view kPlaces[] = {sections::kGeneral,       sections::kMain,
+                                        sections::kLevelsPlace,   sections::kIfsPlace,
+                                        sections::kAtomicsPlace,  sections::kAdvancedPlace,
+                                        sections::kTemplatePlace, sections::kSystemDiagPlace};
+
+/// The values outside of the records, from the user's hive.
+void CopyUserValues(KeyValueTree& tree, KeyValueTree& from) {
+  for (const std::string_view place : kPlaces) {
+    CopyUserValue(tree, from, place, "WindowState");
+    CopyUserValue(tree, from, place, "WindowSize");
+  }
+  CopyUserValue(tree, from, sections::kTemplate, "Path_Drive");
+  CopyUserValue(tree, from, sections::kTemplate, "Path_Dir");
+  for (const Field<A>& field : AdvancedFields()) {
+    CopyUserValue(tree, from, sections::kAdvanced, field.Name);
+  }
+  for (const Field<U>& field : UniverseFields()) {
+    CopyUserValue(tree, from, sections::kUniverse, field.Name);
+  }
+  CopyUserValue(tree, from, sections::kGeneral, kResetSettings);
+}
+
+/// The same from the machine's hive, where earlier versions stored fewer.
+void CopyMachineValues(KeyValueTree& tree, KeyValueTree& from) {
+  CopyMachineValueToUser(tree, from, sections::kMain, "WindowState", "0");
+  CopyMachineValueToUser(tree, from, sections::kMain, "WindowSize", {});
   for (const Setting<A>& setting : kEarlierAdvanced) {
     const Field<A>& field = FieldOf(setting);
-    CopyMachineValueToUser(tree, sections::kAdvanced, field.Name, DefaultText(field));
+    CopyMachineValueToUser(tree, from, sections::kAdvanced, field.Name, DefaultText(field));
   }
   static constexpr Moved<U> listLast[] = {{&U::Universe_GS_Idx, &U::Universe_GravFrame}};
   for (const Field<UniverseSettings>* field : OrderOf<U>(UniverseFields(), listLast)) {
-    CopyMachineValueToUser(tree, sections::kUniverse, field->Name, DefaultText(*field));
+    CopyMachineValueToUser(tree, from, sections::kUniverse, field->Name, DefaultText(*field));
   }
 }
 
-void CopyRecords(KeyValueTree& tree) {
+void CopyRecords(KeyValueTree& tree, KeyValueTree& from, RootSelector root) {
   const auto records = std::make_unique<SettingsRecords>();
-  LoadAllProfiles(tree, records->Profiles, RootSelector::LocalMachine);
-  LoadAllComposites(tree, records->Composites, RootSelector::LocalMachine);
+  LoadAllProfiles(from, records->Profiles, root);
+  LoadAllComposites(from, records->Composites, root);
   SaveAllProfiles(tree, records->Profiles);
   SaveAllComposites(tree, records->Composites);
+}
+
+/// Copies the settings of one hive of `from`, if they are complete and the user's are not.
+void TakeOver(KeyValueTree& tree, KeyValueTree& from, RootSelector root) {
+  if (!HasMarkIn(from, kAnimationType, root) || HasMark(tree, kAnimationType)) return;
+  // Checked again inside the transaction: a tree that could not be read before must not be treated
+  // as an empty one.
+  TreeBulk change = TreeBulk::Change(tree);
+  if (!change.Begun() || HasMark(tree, kAnimationType)) return;
+  if (root == RootSelector::CurrentUser) {
+    CopyUserValues(tree, from);
+  } else {
+    CopyMachineValues(tree, from);
+  }
+  CopyRecords(tree, from, root);
+  RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
+  change.Commit();
 }
 
 }  // namespace
@@ -51,13 +92,12 @@ bool HasMark(KeyValueTree& tree, std::string_view mark) {
 }
 
 void MigrateMachineSettings(KeyValueTree& tree) {
-  if (!HasMarkIn(tree, kAnimationType, RootSelector::LocalMachine)) return;
-  TreeBulk change = TreeBulk::Change(tree);
-  if (!change.Begun() || HasMark(tree, kAnimationType)) return;
-  CopyPlainValues(tree);
-  CopyRecords(tree);
-  RegistryWrite(tree, sections::kGeneral, kAnimationType, Long{0});
-  change.Commit();
+  TakeOver(tree, tree, RootSelector::LocalMachine);
+}
+
+void ImportEarlierSettings(KeyValueTree& tree, KeyValueTree& earlier) {
+  const bool hasUsers = HasMarkIn(earlier, kAnimationType, RootSelector::CurrentUser);
+  TakeOver(tree, earlier, hasUsers ? RootSelector::CurrentUser : RootSelector::LocalMachine);
 }
 
 SettingsRecords SettingsToShow(KeyValueTree& tree) {

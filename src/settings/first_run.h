@@ -20,6 +20,12 @@ bool HasMark(KeyValueTree& tree, std::string_view mark);
 /// machine's tree is complete and the user's is not.
 void MigrateMachineSettings(KeyValueTree& tree);
 
+/// Takes over, once, what an earlier version stored in another tree, such as the registry of
+/// Windows: the user's settings as they are or, if that tree has none, those of the machine, like
+/// `MigrateMachineSettings`. Nothing is changed in `earlier`. All is stored in one transaction; if
+/// that fails, the next start tries again.
+void ImportEarlierSettings(KeyValueTree& tree, KeyValueTree& earlier);
+
 /// The settings of a run that stores nothing: the user's, with the factory's bodies if the tree is
 /// incomplete or could not be read as a whole.
 SettingsRecords SettingsToShow(KeyValueTree& tree);

@@ -103,10 +103,17 @@ bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes) {
   return false;
 }
 
-void CopyMachineValueToUser(KeyValueTree& tree, std::string_view section, std::string_view key,
-                            std::string_view fallback) {
+void CopyMachineValueToUser(KeyValueTree& tree, KeyValueTree& from, std::string_view section,
+                            std::string_view key, std::string_view fallback) {
   RegistryWrite(tree, section, key,
-                RegistryReadText(tree, section, key, fallback, RootSelector::LocalMachine));
+                RegistryReadText(from, section, key, fallback, RootSelector::LocalMachine));
+}
+
+void CopyUserValue(KeyValueTree& tree, KeyValueTree& from, std::string_view section,
+                   std::string_view key) {
+  constexpr std::string_view missing = "\n";  // never stored, because blanks at the ends are not
+  const std::string text = RegistryReadText(from, section, key, missing);
+  if (text != missing) RegistryWrite(tree, section, key, text);
 }
 
 }  // namespace starfolds

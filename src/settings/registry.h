@@ -82,9 +82,13 @@ void RegistryDeleteKey(KeyValueTree& tree, std::string_view app, std::string_vie
 /// Whether the user's tree can be written. If not, a message box says so.
 bool RegistryWriteTest(KeyValueTree& tree, MessageBoxes& boxes);
 
-/// Copies a value as text from the machine's tree to the user's; writes `fallback` if it is
-/// missing.
-void CopyMachineValueToUser(KeyValueTree& tree, std::string_view section, std::string_view key,
-                            std::string_view fallback);
+/// Copies a value as text from the machine's hive of `from` to the user's hive of `tree`; writes
+/// `fallback` if it is missing.
+void CopyMachineValueToUser(KeyValueTree& tree, KeyValueTree& from, std::string_view section,
+                            std::string_view key, std::string_view fallback);
+
+/// Copies a value as text from the user's hive of one tree to that of another, if it exists.
+void CopyUserValue(KeyValueTree& tree, KeyValueTree& from, std::string_view section,
+                   std::string_view key);
 
 }  // namespace starfolds

@@ -143,6 +143,38 @@ TEST(FirstRun, MigratesACompleteMachineTreeOnce) {
   EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 777);
 }
 
+TEST(FirstRun, TakesOverTheUsersSettingsElseTheMachines) {
+  for (const auto root : {RootSelector::LocalMachine, RootSelector::CurrentUser}) {
+    MemoryTree earlier;
+    RegistryWrite(earlier, "General", kAnimationType, Long{0}, RootSelector::LocalMachine);
+    RegistryWrite(earlier, "General", kAnimationType, Long{0}, root);
+    RegistryWrite(earlier, "General", kResetSettings, Long{1}, root);
+    RegistryWrite(earlier, "General\\Levels", "WindowSize", "00010000200003000040", root);
+    RegistryWrite(earlier, "Universe", "Universe_Stars", Long{777}, root);
+    RegistryWrite(earlier, "Advanced", "LockMessage", "", root);
+    RegistryWrite(earlier, "Advanced", "Adv_FontName", std::string(200, 'x'), root);
+    RegistryWrite(earlier, CompositeSection(15), "_CompFoldName", "All mine", root);
+    const MemoryTree before = earlier;
+    MemoryTree full;
+    full.WritesUntilFull = 50;
+    ImportEarlierSettings(full, earlier);
+    EXPECT_FALSE(HasMark(full, kAnimationType));
+    MemoryTree tree;
+    ImportEarlierSettings(tree, earlier);
+    EXPECT_EQ(earlier, before);
+    EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 777);
+    EXPECT_EQ(LoadSettings(tree).Composites[15].CompFoldName, "All mine");
+    EXPECT_EQ(LoadSettings(tree).Advanced.Adv_FontName, "Arial");
+    const bool isUser = root == RootSelector::CurrentUser;
+    EXPECT_EQ(HasMark(tree, kResetSettings), isUser) << "the welcome page tells of the upgrade";
+    EXPECT_EQ(RegistryReadText(tree, "General\\Levels", "WindowSize").empty(), !isUser);
+    EXPECT_EQ(RegistryReadText(tree, "Advanced", "LockMessage", "none"), "");
+    RegistryWrite(tree, "Universe", "Universe_Stars", Long{888});
+    ImportEarlierSettings(tree, earlier);
+    EXPECT_EQ(LoadSettings(tree).Universe.Universe_Stars, 888);
+  }
+}
+
 TEST(FirstRun, AnEmptyTreeGetsTheFactorysBodiesAndStaysMarkedAsEmpty) {
   MemoryTree tree;
   EXPECT_TRUE(EnsureFactoryProfiles(tree));
