@@ -151,9 +151,12 @@ bool CanBeWritten(const QString& path) {
 }
 
 QString ShippedTemplates(const QString& programFolder) {
-  for (const char* const place : {"/templates", "/../share/starfolds/templates"}) {
-    const QString folder = QDir::cleanPath(programFolder + place);
-    if (QFileInfo(folder).isDir()) return folder;
+  QStringList places{programFolder + "/templates", programFolder + "/../share/starfolds/templates"};
+  // On Windows the saver is in the system's folder, which has no place for them.
+  const QString ofAllUsers = qEnvironmentVariable("ProgramData");
+  if (!ofAllUsers.isEmpty()) places << ofAllUsers + "/Tessellane/templates";
+  for (const QString& place : places) {
+    if (QFileInfo(place).isDir()) return QDir::cleanPath(place);
   }
   return {};
 }
