@@ -128,7 +128,7 @@ check_programs() {
   say 'autopkgtest'
   make_room installed
   cp -r debian "$rooms"/*.deb "$rooms/installed/build"
-  in_room installed apt-get -qq --yes install /build/starfolds_*.deb >/dev/null
+  in_room installed sh -c 'apt-get -qq --yes install /build/starfolds_*.deb' >/dev/null
   in_room installed apt-get -qq --yes install --no-install-recommends autopkgtest >/dev/null
   in_room installed sh -c 'mkdir /build/source && mv /build/debian /build/source/ &&
     autopkgtest --no-built-binaries /build/*.deb /build/source -- null'

@@ -6,6 +6,7 @@
 
 #include "numbers/text.h"
 #include "render/contact_sheet.h"
+#include "render/ffmpeg_video.h"
 #include "render/options.h"
 #include "render/png_picture.h"
 #include "render/y4m_video.h"
@@ -44,8 +45,10 @@ class PngFolder : public FrameSink {
 
 class HashLines : public FrameSink {
  public:
+  explicit HashLines(std::string prefix) : prefix_(std::move(prefix)) {}
+
   Fault Take(FrameNumber frame, const MemorySurface& surface) override {
-    std::printf("frame %" PRId64 " %016" PRIx64 "\n", frame, surface.Hash());
+    std::printf("%sframe %" PRId64 " %016" PRIx64 "\n", prefix_.c_str(), frame, surface.Hash());
     return std::nullopt;
   }
 
@@ -53,6 +56,9 @@ class HashLines : public FrameSink {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return std::nullopt;
     return "cannot write the hashes to the standard output";
   }
+
+ private:
+  std::string prefix_;  // of each line
 };
 
 }  // namespace
@@ -63,12 +69,19 @@ FrameSinks MakeSinks(const RenderOptions& options) {
     sinks.push_back(std::make_unique<PngFolder>(options.PngFolder, options.Scale));
   }
   if (!options.VideoFile.empty()) {
-    sinks.push_back(std::make_unique<Y4mVideo>(options.VideoFile, options.Scale));
+    sinks.push_back(std::make_unique<FfmpegVideo>(options.VideoFile, options.Scale));
+  }
+  if (!options.Y4mFile.empty()) {
+    sinks.push_back(std::make_unique<Y4mVideo>(options.Y4mFile, options.Scale));
   }
   if (!options.SheetFile.empty()) {
     sinks.push_back(std::make_unique<ContactSheet>(options.SheetFile));
   }
-  if (options.Hash) sinks.push_back(std::make_unique<HashLines>());
+  if (options.Hash) {
+    const std::string prefix =
+        options.Universes ? "universe " + std::to_string(options.Universes->First) + " " : "";
+    sinks.push_back(std::make_unique<HashLines>(prefix));
+  }
   return sinks;
 }
 

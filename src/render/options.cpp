@@ -3,6 +3,7 @@
 #include "command_line/options.h"
 #include "platform/console.h"
 #include "render/contact_sheet.h"
+#include "render/ffmpeg_video.h"
 #include "render/output_file.h"
 #include "settings/fields.h"
 #include "settings/first_run.h"
@@ -18,6 +19,23 @@ constexpr std::int64_t kMaxPicturePixels = std::int64_t{1} << 26;
 /// About 46 days of video.
 constexpr FrameNumber kMaxFrames = 100'000'000;
 
+constexpr FrameNumber kUsualFrames = 1000;
+constexpr std::uint64_t kMaxUniverse = 999'999'999;
+
+/// "A..B", or "N" for one universe.
+Fault ReadUniverses(RenderOptions& to, std::string_view text) {
+  const std::size_t dots = text.find("..");
+  const auto first = WholeNumber<std::uint64_t>(text.substr(0, dots));
+  const auto last =
+      dots == std::string_view::npos ? first : WholeNumber<std::uint64_t>(text.substr(dots + 2));
+  if (!first || !last || *first < 1 || *last < *first || *last > kMaxUniverse) {
+    return "takes one number or FIRST..LAST, from 1 to " + std::to_string(kMaxUniverse) + ", not " +
+           QuotedStart(text);
+  }
+  to.Universes = UniverseRange{*first, *last};
+  return std::nullopt;
+}
+
 /// The program's options, which store their values in `to`.
 OptionTable TableFor(RenderOptions& to) {
   const auto frame = [](FrameNumber& of) { return TakeNumber(of, FrameNumber{1}, kMaxFrames); };
@@ -30,8 +48,14 @@ OptionTable TableFor(RenderOptions& to) {
                 TakeNumber(to.Scale, 1, 4)}),
       {"--seed", "N", "seed of the random numbers; the same seed gives the same pixels (1)",
        TakeNumber(to.Seed)},
-      {"--frames", "N", "length of the run in frames, counted from 1 (1000)",
-       frame(to.Plan.Frames)},
+      {"--universes", "A..B",
+       "universes A to B, whole, each with files of its own; N is the first\n"
+       "universe of seed N. What an earlier run has completed is kept",
+       [&to](std::string_view text) { return ReadUniverses(to, text); }},
+      {"--frames", "N",
+       "length of the run in frames, counted from 1 (1000); with --universes\n"
+       "the most frames of each",
+       TakeNumber(to.FramesGiven, FrameNumber{1}, kMaxFrames)},
       {"--first", "N", "the first frame that is written (1)", frame(to.Plan.First)},
       {"--every", "N", "write every Nth frame from there on (1)", frame(to.Plan.Every)},
       {"--profile", "N", "one body of profile N, 0 to 49, instead of universes",
@@ -57,8 +81,12 @@ OptionTable TableFor(RenderOptions& to) {
                                TakeText(to.SaveFile)}),
       Offering(kFolder,
                {"--png", "DIR", "write DIR/frame-000001.png and so on", TakeText(to.PngFolder)}),
-      Offering(kAnyFile, {"--y4m", "FILE", "write video as YUV4MPEG2 (\"-\": to standard output)",
+      Offering(kAnyFile, {"--video", "FILE",
+                          "write compressed video with ffmpeg: H.264 (.mp4, .mkv, .mov), AV1\n"
+                          "(.webm), .gif or .webp",
                           TakeText(to.VideoFile)}),
+      Offering(kAnyFile, {"--y4m", "FILE", "write video as YUV4MPEG2 (\"-\": to standard output)",
+                          TakeText(to.Y4mFile)}),
       Offering(kAnyFile,
                {"--sheet", "FILE", "write one PNG that shows all the written frames, small",
                 TakeText(to.SheetFile)}),
@@ -70,10 +98,21 @@ OptionTable TableFor(RenderOptions& to) {
   };
 }
 
+Fault CheckUniverses(const RenderOptions& options) {
+  if (options.Seed) return "--universes has the seeds in it; give it or --seed";
+  if (options.Profile || options.Composite) {
+    return "--universes renders universes; --profile and --composite render one body";
+  }
+  if (IsStandardOutput(options.Y4mFile) || IsStandardOutput(options.SheetFile)) {
+    return "--universes writes files, not to the standard output";
+  }
+  return std::nullopt;
+}
+
 Fault CheckTogether(const RenderOptions& options) {
   const FramePlan& plan = options.Plan;
   if (!options.WritesFrames() && options.SaveFile.empty()) {
-    return "nothing to write: give --png, --y4m, --sheet, --save or --hash";
+    return "nothing to write: give --png, --video, --y4m, --sheet, --save or --hash";
   }
   const int bases = (options.Stored ? 1 : 0) + (options.TemplateFile.empty() ? 0 : 1) +
                     (options.Factory || options.Theme ? 1 : 0);
@@ -86,6 +125,9 @@ Fault CheckTogether(const RenderOptions& options) {
     return "--size and --scale make pictures of more than " + std::to_string(kMaxPicturePixels) +
            " pixels";
   }
+  if (options.Universes) {
+    if (Fault fault = CheckUniverses(options)) return fault;
+  }
   if (options.Profile && options.Composite) {
     return "--profile and --composite each show one body; give one of them";
   }
@@ -93,11 +135,13 @@ Fault CheckTogether(const RenderOptions& options) {
     return "--first " + std::to_string(plan.First) + " lies beyond the last frame, " +
            std::to_string(plan.Frames);
   }
-  if (!options.SheetFile.empty() && plan.Count() > ContactSheet::kMaxTiles) {
-    return "--sheet has room for " + std::to_string(ContactSheet::kMaxTiles) + " frames, not " +
-           std::to_string(plan.Count()) + "; raise --every";
+  if (!options.Universes) {
+    if (Fault fault = CheckSheet(options)) return fault;
   }
-  const int toOutput = (options.Hash ? 1 : 0) + (IsStandardOutput(options.VideoFile) ? 1 : 0) +
+  if (!options.VideoFile.empty()) {
+    if (Fault fault = CheckVideoFile(options.VideoFile)) return fault;
+  }
+  const int toOutput = (options.Hash ? 1 : 0) + (IsStandardOutput(options.Y4mFile) ? 1 : 0) +
                        (IsStandardOutput(options.SheetFile) ? 1 : 0);
   if (toOutput > 1) {
     return "only one of --hash, --y4m and --sheet can have the standard output";
@@ -109,7 +153,15 @@ Fault CheckTogether(const RenderOptions& options) {
 
 Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& options) {
   if (Fault fault = ReadOptions(TableFor(options), arguments)) return fault;
+  options.Plan.Frames = options.FramesGiven.value_or(options.Universes ? kMaxFrames : kUsualFrames);
   return options.Action == RenderAction::Render ? CheckTogether(options) : std::nullopt;
+}
+
+Fault CheckSheet(const RenderOptions& options) {
+  const FrameNumber count = options.Plan.Count();
+  if (options.SheetFile.empty() || count <= ContactSheet::kMaxTiles) return std::nullopt;
+  return "--sheet has room for " + std::to_string(ContactSheet::kMaxTiles) + " frames, not " +
+         std::to_string(count) + "; raise --every";
 }
 
 ProgramGuide RendererGuide() {

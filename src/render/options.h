@@ -21,13 +21,22 @@ namespace starfolds {
 
 enum class RenderAction { Render, List, Help, Version };
 
+/// Universe N is the first one of the seed N, so it does not depend on the others.
+struct UniverseRange {
+  std::uint64_t First = 1, Last = 1;
+
+  std::uint64_t Count() const { return Last - First + 1; }
+};
+
 struct RenderOptions {
   RenderAction Action = RenderAction::Render;
   int Width = 1280;
   int Height = 720;
   int Scale = 1;  // each pixel is a block of Scale x Scale in pictures and video
-  std::uint64_t Seed = 1;
-  FramePlan Plan;
+  std::optional<std::uint64_t> Seed;  // nullopt: 1
+  FramePlan Plan;                     // `Frames` is the most frames; see `FramesGiven`
+  std::optional<FrameNumber> FramesGiven;
+  std::optional<UniverseRange> Universes;  // each in files of its own, instead of one run
   // One body instead of universes.
   std::optional<Integer> Profile;
   std::optional<Integer> Composite;
@@ -42,12 +51,14 @@ struct RenderOptions {
   // The outputs; an empty path means none.
   std::string SaveFile;
   std::string PngFolder;
-  std::string VideoFile;
+  std::string VideoFile;  // compressed by ffmpeg
+  std::string Y4mFile;
   std::string SheetFile;
   bool Hash = false;
 
   bool WritesFrames() const {
-    return !PngFolder.empty() || !VideoFile.empty() || !SheetFile.empty() || Hash;
+    return !PngFolder.empty() || !VideoFile.empty() || !Y4mFile.empty() || !SheetFile.empty() ||
+           Hash;
   }
 };
 
@@ -57,6 +68,10 @@ Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& o
 
 /// What `--help`, the manual page and shells say about the program.
 ProgramGuide RendererGuide();
+
+/// Whether a contact sheet, if one is asked for, has room for the frames. `Plan.Frames` must be
+/// final.
+Fault CheckSheet(const RenderOptions& options);
 
 /// Makes the settings that the options ask for. `tree` is the user's.
 Fault MakeSettings(const RenderOptions& options, KeyValueTree& tree, Files& disk,

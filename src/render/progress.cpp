@@ -12,8 +12,8 @@ void Progress::Show(FrameNumber frame) {
   percent_ = percent;
   std::string bar(50, '.');
   bar.replace(0, static_cast<std::size_t>(percent / 2), static_cast<std::size_t>(percent / 2), '#');
-  std::fprintf(stderr, "\r[%s] %3d %%  frame %" PRId64 " of %" PRId64, bar.c_str(), percent, frame,
-               frames_);
+  std::fprintf(stderr, "\r%s[%s] %3d %%  frame %" PRId64 " of %" PRId64, title_.c_str(),
+               bar.c_str(), percent, frame, frames_);
 }
 
 void Progress::End() const {

@@ -5,6 +5,7 @@
 #include "render/progress.h"
 #include "render/recording_surface.h"
 #include "render/standard_streams.h"
+#include "render/universes.h"
 #include "settings/stored_records.h"
 #include "universe/host_surface.h"
 #include "universe/single_body_run.h"
@@ -40,7 +41,8 @@ Fault FinishAll(const FrameSinks& sinks) {
 
 }  // namespace
 
-Fault Render(const RenderOptions& options, SettingsRecords& records) {
+Fault RenderOneRun(const RenderOptions& options, SettingsRecords& records,
+                   const std::string& title) {
   const FrameSinks sinks = MakeSinks(options);
   CountedPump pump;
   MemoryDesktop desktop;
@@ -54,14 +56,18 @@ Fault Render(const RenderOptions& options, SettingsRecords& records) {
   RecordingSurface surface(static_cast<Integer>(options.Width),
                            static_cast<Integer>(options.Height), options.Plan, sinks,
                            process->Requests);
-  Progress progress(options.Plan.Frames, ErrorIsTerminal());
+  Progress progress(options.Plan.Frames, ErrorIsTerminal(), title);
   surface.OnFrame = [&](FrameNumber frame) { progress.Show(frame); };
   ReadAdvancedSettings(*process);
-  SetupDisplay(*process, surface, options.Seed);
+  SetupDisplay(*process, surface, options.Seed.value_or(1));
   ReadUniverseSettings(*process, false);
   RunEffect(*process, options);
   progress.End();
   return surface.Trouble() ? surface.Trouble() : FinishAll(sinks);
+}
+
+Fault Render(const RenderOptions& options, SettingsRecords& records) {
+  return options.Universes ? RenderUniverses(options, records) : RenderOneRun(options, records, "");
 }
 
 }  // namespace starfolds

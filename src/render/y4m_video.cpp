@@ -43,10 +43,15 @@ constexpr Weights kCr{Fixed((1 - kRedLuma) * kRedChroma), Fixed(-kGreenLuma* kRe
 
 YCbCr ToYCbCr(Colour colour) { return {kLuma.Of(colour), kCb.Of(colour), kCr.Of(colour)}; }
 
-Fault Y4mVideo::Take(FrameNumber, const MemorySurface& surface) {
+Fault Y4mStream::Take(const MemorySurface& surface) {
   const Picture picture = PictureOf(surface);
-  if (!file_.Stream()) {
-    if (Fault fault = Begin(picture)) return fault;
+  if (!begun_) {
+    begun_ = true;
+    if (Fault fault =
+            WriteText("YUV4MPEG2 W" + std::to_string(picture.Width * scale_) + " H" +
+                      std::to_string(picture.Height * scale_) + " F25:1 Ip A1:1 C444\n")) {
+      return fault;
+    }
   }
   colours_.clear();
   for (const Colour colour : picture.Pixels) {
@@ -59,19 +64,11 @@ Fault Y4mVideo::Take(FrameNumber, const MemorySurface& surface) {
   return std::nullopt;
 }
 
-Fault Y4mVideo::Finish() { return file_.Commit(); }
-
-Fault Y4mVideo::Begin(const Picture& picture) {
-  if (Fault fault = file_.Open(path_)) return fault;
-  return WriteText("YUV4MPEG2 W" + std::to_string(picture.Width * scale_) + " H" +
-                   std::to_string(picture.Height * scale_) + " F25:1 Ip A1:1 C444\n");
+Fault Y4mStream::WriteText(const std::string& text) {
+  return write_({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
-Fault Y4mVideo::WriteText(const std::string& text) {
-  return file_.Write({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
-}
-
-Fault Y4mVideo::WritePlane(const Picture& picture, std::uint8_t YCbCr::*channel) {
+Fault Y4mStream::WritePlane(const Picture& picture, std::uint8_t YCbCr::*channel) {
   const auto width = static_cast<std::size_t>(picture.Width);
   for (std::size_t start = 0; start < colours_.size(); start += width) {
     rowBytes_.clear();
@@ -79,10 +76,19 @@ Fault Y4mVideo::WritePlane(const Picture& picture, std::uint8_t YCbCr::*channel)
       rowBytes_.insert(rowBytes_.end(), static_cast<std::size_t>(scale_), colours_[i].*channel);
     }
     for (int i = 0; i < scale_; ++i) {
-      if (Fault fault = file_.Write(rowBytes_)) return fault;
+      if (Fault fault = write_(rowBytes_)) return fault;
     }
   }
   return std::nullopt;
 }
+
+Fault Y4mVideo::Take(FrameNumber, const MemorySurface& surface) {
+  if (!file_.Stream()) {
+    if (Fault fault = file_.Open(path_)) return fault;
+  }
+  return stream_.Take(surface);
+}
+
+Fault Y4mVideo::Finish() { return file_.Commit(); }
 
 }  // namespace starfolds

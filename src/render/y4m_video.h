@@ -3,6 +3,8 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,25 +22,42 @@ struct YCbCr {
 /// lines and more.
 YCbCr ToYCbCr(Colour colour);
 
-/// Chroma at full resolution (C444), so that a star of one pixel keeps its colour and odd sizes
-/// need no special case. 25 frames a second, the saver's rate with its frame delay of 40 ms.
+/// Frames as the bytes of a YUV4MPEG2 stream. Chroma at full resolution (C444), so that a star of
+/// one pixel keeps its colour and odd sizes need no special case. 25 frames a second, the saver's
+/// rate with its frame delay of 40 ms.
+class Y4mStream {
+ public:
+  using WriteBytes = std::function<Fault(std::span<const std::uint8_t>)>;
+
+  Y4mStream(int scale, WriteBytes write) : scale_(scale), write_(std::move(write)) {}
+
+  /// Writes the header before the first frame.
+  Fault Take(const MemorySurface& surface);
+
+ private:
+  Fault WriteText(const std::string& text);
+  Fault WritePlane(const Picture& picture, std::uint8_t YCbCr::*channel);
+
+  int scale_;
+  WriteBytes write_;
+  bool begun_ = false;
+  std::vector<YCbCr> colours_;  // of the frame in hand
+  std::vector<std::uint8_t> rowBytes_;
+};
+
+/// A file with such a stream.
 class Y4mVideo : public FrameSink {
  public:
-  Y4mVideo(std::string path, int scale) : path_(std::move(path)), scale_(scale) {}
+  Y4mVideo(std::string path, int scale)
+      : path_(std::move(path)), stream_(scale, [this](auto bytes) { return file_.Write(bytes); }) {}
 
   Fault Take(FrameNumber frame, const MemorySurface& surface) override;
   Fault Finish() override;
 
  private:
-  Fault Begin(const Picture& picture);
-  Fault WriteText(const std::string& text);
-  Fault WritePlane(const Picture& picture, std::uint8_t YCbCr::*channel);
-
   std::string path_;
-  int scale_;
   OutputFile file_;
-  std::vector<YCbCr> colours_;  // of the frame in hand
-  std::vector<std::uint8_t> rowBytes_;
+  Y4mStream stream_;
 };
 
 }  // namespace starfolds

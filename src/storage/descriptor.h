@@ -36,6 +36,12 @@ class Descriptor {
   /// Takes over a descriptor of the C library; a negative number and an `errno` for none.
   Descriptor(int number, int error) : number_(number), error_(error) {}
 #else
+  /// Takes over an open file.
+  static Descriptor Owning(int number) {
+    Descriptor file;
+    file.number_ = number;
+    return file;
+  }
   Descriptor(const std::string& path, int flags, mode_t rights = 0)
       : number_(open(path.c_str(), flags | O_CLOEXEC, rights)), error_(number_ < 0 ? errno : 0) {}
 #endif

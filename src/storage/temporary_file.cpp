@@ -116,6 +116,11 @@ int TemporaryFile::Create(const std::string& folder, mode_t rights) {
   });
 }
 
+std::string TemporaryFile::PathForOthers() const {
+  if (!path_.empty()) return path_;
+  return "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(file_.Number());
+}
+
 int TemporaryFile::LinkTo(const std::string& path) const {
   const bool linked =
       linkat(AT_FDCWD, ProcessName(file_).c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;

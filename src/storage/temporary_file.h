@@ -27,6 +27,9 @@ class TemporaryFile {
   bool IsOpen() const { return file_.IsOpen(); }
   int Number() const { return file_.Number(); }
 
+  /// A path under which other programs can open the file while this process has it open.
+  std::string PathForOthers() const;
+
   /// Gives the file the name `target`, of its own folder, and replaces a file of that name. Returns
   /// 0 or an `errno`.
   int TakeName(const std::string& target);

@@ -62,6 +62,8 @@ int TemporaryFile::Create(const std::string& folder, [[maybe_unused]] mode_t rig
   return error;
 }
 
+std::string TemporaryFile::PathForOthers() const { return path_; }
+
 /// Other handles of the file, such as a stream, must be closed before: the system renames no file
 /// that others have open for writing.
 int TemporaryFile::TakeName(const std::string& target) {

@@ -173,7 +173,19 @@ void ClearAway(UniverseTour& tour) {
   tour.Process().Screen.hDCDraw->Clear();
 }
 
+Integer VisitsOf(const UniverseSettings& universe) {
+  return std::min(universe.Universe_Starfold, universe.Universe_Recycle);
+}
+
 }  // namespace
+
+std::int64_t FramesOfUniverse(UniverseSettings universe) {
+  ClampUniverse(universe);
+  const std::int64_t approach = universe.Universe_GPCtrl;
+  const std::int64_t visit = approach + universe.Universe_GCCtrl;
+  return universe.Universe_ESteps +
+         (VisitsOf(universe) * visit + approach) * universe.Universe_GSteps;
+}
 
 void UniverseRun(ProcessState& process) {
   ClampUniverse(process.Universe);
@@ -181,7 +193,7 @@ void UniverseRun(ProcessState& process) {
   RunArrays run(process.Universe, process.RunUniverse.RunTrail, process.Universe.Universe_Starfold,
                 process.Universe.Universe_AmStar);
   UniverseTour tour{.Scene = {process, run}};
-  tour.VisitCount = std::min(process.Universe.Universe_Starfold, process.Universe.Universe_Recycle);
+  tour.VisitCount = VisitsOf(process.Universe);
   BuildAmbRamp(run.Ambient);
 
   while (Create(tour) && VisitAll(tour) && PullOut(tour)) ClearAway(tour);

@@ -41,7 +41,7 @@ TEST(Options, EachIsRead) {
   EXPECT_EQ(options.Plan.First, 4);
   EXPECT_EQ(options.Plan.Every, 7);
   EXPECT_EQ(options.Profile, 49);
-  EXPECT_EQ(options.VideoFile, "-");
+  EXPECT_EQ(options.Y4mFile, "-");
   EXPECT_FALSE(options.Hash);
   EXPECT_EQ(Settings(options).Universe.Universe_Stars, 777);
   EXPECT_EQ(Settings(options).Profiles[3].UniFoldName, "a=b");
@@ -90,6 +90,13 @@ const BadLine kBadLines[] = {
     {{"--set", "Universe_Stars"}, "takes Name=value"},
     {{"--set", "Universe_Star=1"}, "there is no setting \"Universe_Star\""},
     {{"--set", "Universe_Stars=many"}, "takes a number, not \"many\""},
+    {{"--hash", "--universes", "5..4"}, "takes one number or FIRST..LAST"},
+    {{"--hash", "--universes", "0..4"}, "not \"0..4\""},
+    {{"--hash", "--universes", "1...2"}, "not \"1...2\""},
+    {{"--hash", "--universes", "1..", "--seed", "1"}, "not \"1..\""},
+    {{"--hash", "--universes", "1", "--seed", "1"}, "give it or --seed"},
+    {{"--y4m", "-", "--universes", "1"}, "not to the standard output"},
+    {{"--video", "a.mp4/b"}, "must end with one of .mp4, "},
     {{"--sheet", "s.png"}, "--sheet has room for 400 frames, not 1000"},
     {{"--hash", "--y4m", "-"}, "only one of --hash, --y4m and --sheet"},
     {{"--sheet", "-", "--frames", "9", "--y4m", "/dev/stdout"}, "can have the standard output"},

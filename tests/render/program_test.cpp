@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <sstream>
@@ -145,6 +146,88 @@ TEST(Program, VideoGoesToTheStandardStreams) {
     EXPECT_EQ(RunProgram(folder, std::string("--size 9x9 --frames 2 ") + line).Out, video) << line;
   }
   EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
+constexpr const char* kSmallUniverse =
+    "--size 160x90 --set Universe_ESteps=12 --set Universe_GSteps=9 --set Universe_Recycle=1 ";
+
+/// How many pixels of a picture are not black.
+int StarsIn(const std::string& png) {
+  int stars = 0;
+  for (const Colour pixel : ReadPng(png).Pixels) stars += pixel != 0;
+  return stars;
+}
+
+TEST(Program, AUniverseDoesNotDependOnTheOthersOfItsRange) {
+  const TestFolder folder;
+  const auto lines = [&](const std::string& range) {
+    return RunProgram(folder, kSmallUniverse + ("--hash --universes " + range)).Out;
+  };
+  const std::string all = lines("2..4");
+  EXPECT_EQ(all, lines("2") + lines("3..4"));
+  EXPECT_THAT(all, StartsWith("universe 2 frame 1 "));
+
+  const auto frames = std::count(all.begin(), all.end(), '\n') / 3;
+  const std::string last = std::to_string(frames);
+  const std::string behind = std::to_string(frames + 1);
+  RunProgram(folder, kSmallUniverse + ("--seed 3 --png p --first " + last + " --frames " + behind));
+  const auto picture = [&](const std::string& frame) {
+    return folder.Path("p/frame-" + std::string(6 - frame.size(), '0') + frame + ".png");
+  };
+  EXPECT_LT(StarsIn(picture(last)), 10) << "the universe is a speck";
+  EXPECT_GT(StarsIn(picture(behind)), 50) << "the next one begins";
+}
+
+TEST(Program, KeepsTheUniversesThatAreComplete) {
+  const TestFolder folder;
+  const auto make = [&](const std::string& more) {
+    return RunProgram(folder, kSmallUniverse + ("--png p --sheet made/s.png --every 9 " + more))
+        .Err;
+  };
+  std::filesystem::create_directory(folder.Path("made"));
+  EXPECT_THAT(make("--universes 7"), HasSubstr("universe 7 is complete"));
+  const std::string sheet = FileText(folder.Path("made/s-000007.png"));
+  std::ofstream(folder.Path("p/universe-000007/frame-000010.png")) << "kept";
+  std::string said = make("--universes 6..7");
+  EXPECT_THAT(said, HasSubstr("universe 6 is complete"));
+  EXPECT_THAT(said, HasSubstr("universe 7 was complete"));
+  EXPECT_EQ(FileText(folder.Path("p/universe-000007/frame-000010.png")), "kept");
+
+  said = make("--universes 7 --set Universe_Stars=400");
+  EXPECT_THAT(said, HasSubstr("universe 7 is complete")) << "the settings are others";
+  EXPECT_NE(FileText(folder.Path("made/s-000007.png")), sheet);
+  std::filesystem::remove(folder.Path("made/s-000007.png"));
+  EXPECT_THAT(make("--universes 7"), HasSubstr("universe 7 is complete"));
+  EXPECT_EQ(FileText(folder.Path("made/s-000007.png")), sheet);
+}
+
+/// The program in PATH that is called ffmpeg is a script: it stores its input as the video, or
+/// fails.
+TEST(Program, VideoIsWhatFfmpegMakesOfTheFrames) {
+  const TestFolder folder;
+  const TestFolder programs;
+  const auto run = [&](const std::string& script, const std::string& frames) {
+    std::ofstream(programs.Path("ffmpeg")) << "#!/bin/sh\n" << script << "\n";
+    std::filesystem::permissions(programs.Path("ffmpeg"), std::filesystem::perms::owner_all);
+    const std::string former = getenv("PATH");
+    setenv("PATH", (programs.Path("") + ":" + former).c_str(), 1);
+    const Outcome outcome =
+        RunProgram(folder, "--size 64x36 --y4m raw --video ./-o.mp4 --frames " + frames);
+    setenv("PATH", former.c_str(), 1);
+    return outcome;
+  };
+  const std::string store = "for file; do :; done; cat >\"${file#file:}\"";
+  EXPECT_EQ(run(store, "30").ExitCode, 0);
+  const std::string video = FileText(folder.Path("-o.mp4"));
+  EXPECT_EQ(video, FileText(folder.Path("raw")));
+  EXPECT_THAT(video, StartsWith("YUV4MPEG2 W64 H36 "));
+  for (const char* script : {"exit 3", "cat >/dev/null; exit 3", "echo no >&2; exec <&-; exit 3"}) {
+    const Outcome outcome = run(script, "200");
+    EXPECT_EQ(outcome.ExitCode, 2);
+    EXPECT_THAT(outcome.Err, HasSubstr("-o.mp4\": ffmpeg ended with code 3")) << script;
+    EXPECT_EQ(FileText(folder.Path("-o.mp4")), video) << script;
+  }
+  EXPECT_THAT(folder.Names(), UnorderedElementsAre("raw", "-o.mp4"));
 }
 
 TEST(Program, AFullStandardOutputIsAFault) {
