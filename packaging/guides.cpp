@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/options.h"
+#include "idle/options.h"
 #include "platform/console.h"
 #include "render/options.h"
 
@@ -21,7 +22,7 @@ int main(int argc, char** argv) {
   if (argc != 5) return Refuse("takes FORMAT PROGRAM VERSION DATE");
   const std::string format = argv[1];
   const std::string program = argv[2];
-  for (const ProgramGuide& guide : {SaverGuide(), RendererGuide()}) {
+  for (const ProgramGuide& guide : {SaverGuide(), RendererGuide(), IdleGuide()}) {
     if (guide.Name != program) continue;
     if (format == "man") return Print(ManualPage(guide, argv[3], argv[4])) ? 0 : 1;
     if (format == "bash") return Print(BashCompletion(guide)) ? 0 : 1;

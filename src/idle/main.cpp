@@ -139,7 +139,7 @@ int main(int argc, char** argv) {
   if (const Fault wrong = ParseIdleOptions(arguments, options)) {
     return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
   }
-  if (options.AskedFor == IdleRole::Help) return Print(IdleUsageText()) ? 0 : kExitCannotDo;
+  if (options.AskedFor == IdleRole::Help) return Print(HelpOf(IdleGuide())) ? 0 : kExitCannotDo;
   if (options.AskedFor == IdleRole::Version) {
     return Print("starfolds-idle " STARFOLDS_VERSION "\n") ? 0 : kExitCannotDo;
   }

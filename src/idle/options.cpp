@@ -13,8 +13,9 @@ OptionTable TableFor(IdleOptions& to) {
        asksFor(IdleRole::Status)},
       {"--test", "", "start the saver once, after five seconds without input",
        asksFor(IdleRole::Test)},
-      {"--program", "FILE", "start FILE --saver instead of the starfolds beside this\nprogram",
-       TakeText(to.Saver)},
+      Offering(kAnyFile, {"--program", "FILE",
+                          "start FILE --saver instead of the starfolds beside this\nprogram",
+                          TakeText(to.Saver)}),
       {"-h,--help", "", "print this text", asksFor(IdleRole::Help), true},
       {"-V,--version", "", "print the version", asksFor(IdleRole::Version), true},
   };
@@ -26,19 +27,22 @@ Fault ParseIdleOptions(std::span<const std::string_view> arguments, IdleOptions&
   return ReadOptions(TableFor(options), arguments);
 }
 
-std::string IdleUsageText() {
+ProgramGuide IdleGuide() {
   IdleOptions unused;
-  return R"(Usage: starfolds-idle [OPTION]...
-
-Starts the Starfolds screen saver when there was no input for some time, and
-ends it at the next input. It waits while a film or a call inhibits idleness,
-on battery, and while the screen is locked or off. It locks nothing.
-
-)" + OptionsHelp(TableFor(unused)) +
-         R"(
-The settings are in the settings dialog: starfolds --settings, Edit, When Idle.
-Without options it ends at once if they are off.
-)";
+  return {
+      .Name = "starfolds-idle",
+      .Purpose = "start the Starfolds screen saver when there is no input",
+      .Usage = {"[OPTION]..."},
+      .Description =
+          "Starts the Starfolds screen saver when there was no input for some time, and\n"
+          "ends it at the next input. It waits while a film or a call inhibits idleness,\n"
+          "on battery, and while the screen is locked or off. It locks nothing.",
+      .Options = WithoutFunctions(TableFor(unused)),
+      .Remark =
+          "The settings are in the settings dialog: starfolds --settings, Edit, When Idle.\n"
+          "Without options it ends at once if they are off.",
+      .Sections = {},
+  };
 }
 
 }  // namespace starfolds

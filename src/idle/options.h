@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "command_line/fault.h"
+#include "command_line/program_guide.h"
 
 namespace starfolds {
 
@@ -19,7 +20,7 @@ struct IdleOptions {
 /// Parses the arguments after the program's name. Returns what is wrong with them.
 Fault ParseIdleOptions(std::span<const std::string_view> arguments, IdleOptions& options);
 
-/// What `--help` prints.
-std::string IdleUsageText();
+/// What `--help`, the manual page and shells say about the program.
+ProgramGuide IdleGuide();
 
 }  // namespace starfolds
