@@ -69,7 +69,13 @@ make_build_room() {
   mv "$rooms/builder/build/control.part" "$rooms/builder/build/control"
 }
 
-# build_packages N: builds the files of the work tree. What differs between two builds must not change
+# The files of the work tree, as they are now: the tree may change during the builds.
+pack_source() {
+  git ls-files -z --cached --others --exclude-standard |
+    tar --create --null --files-from=- --ignore-failed-read --file="$rooms/source.tar" 2>/dev/null
+}
+
+# build_packages N: builds the packed source. What differs between two builds must not change
 # the packages: the folder, the time zone, the permissions of new files, the number of jobs.
 build_packages() {
   local folder=/build/$1 zones=(UTC Pacific/Chatham) masks=(022 002)
@@ -77,9 +83,7 @@ build_packages() {
   say "build $1"
   rm -rf "$rooms/builder$folder"
   mkdir -p "$rooms/builder$source"
-  git ls-files -z --cached --others --exclude-standard |
-    tar --create --null --files-from=- --ignore-failed-read 2>/dev/null |
-    tar --extract --directory="$rooms/builder$source"
+  tar --extract --file="$rooms/source.tar" --directory="$rooms/builder$source"
   in_room builder chown -R builder "$folder"
   # shellcheck disable=SC2016 # the inner shell expands
   in_room builder setpriv --reuid=builder --regid=builder --init-groups env HOME=/nonexistent \
@@ -135,6 +139,7 @@ check_programs() {
 }
 
 make_base
+pack_source
 make_build_room
 for ((i = 1; i <= times; ++i)); do build_packages "$i"; done
 ((times < 2)) || compare_builds
