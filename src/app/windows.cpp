@@ -78,9 +78,13 @@ void AppWindows::ShowFrmAppExe() {
   FrmAppExe(process_, seed_, showProperties, shape).Activate();
 }
 
-/// The dialog belongs to the window that the system names behind the switch, if there is one.
+/// The dialog belongs to the window that the system names behind the switch, if there is one. The
+/// end of that window also ends the loops of dialogs that are open above it.
 void AppWindows::ShowFrmProps() {
-  const ForeignOwner owner(WindowOfSettings(options_.CommandLine));
+  const ForeignOwner owner(WindowOfSettings(options_.CommandLine), [this] {
+    process_.Requests.AskQuit();
+    QCoreApplication::quit();
+  });
   RunFrmProps(owner.Window());
 }
 

@@ -1,7 +1,9 @@
 // A window of another program that a dialog of this program belongs to.
 #pragma once
 
+#include <QTimer>
 #include <QWindow>
+#include <functional>
 #include <memory>
 
 #include "numbers/words.h"
@@ -11,7 +13,9 @@ namespace starfolds {
 /// While it exists, the window takes no input, as below a modal dialog of its own program.
 class ForeignOwner {
  public:
-  explicit ForeignOwner(Long handle);
+  /// `gone` is called from inside the pump when the window has been destroyed, and with it, by the
+  /// system, the dialog's window.
+  ForeignOwner(Long handle, std::function<void()> gone);
   /// The window takes input again, and has the focus.
   ~ForeignOwner();
   ForeignOwner(const ForeignOwner&) = delete;
@@ -22,6 +26,7 @@ class ForeignOwner {
 
  private:
   std::unique_ptr<QWindow> window_;
+  QTimer check_;
 };
 
 }  // namespace starfolds

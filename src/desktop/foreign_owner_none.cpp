@@ -2,7 +2,7 @@
 
 namespace starfolds {
 
-ForeignOwner::ForeignOwner(Long) {}
+ForeignOwner::ForeignOwner(Long, std::function<void()>) {}
 ForeignOwner::~ForeignOwner() = default;
 
 }  // namespace starfolds

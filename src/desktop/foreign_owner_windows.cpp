@@ -1,15 +1,31 @@
 #include "desktop/foreign_owner.h"
+
+#include <chrono>
+#include <utility>
+
 #include "desktop/windows_api.h"
 
 namespace starfolds {
+namespace {
+
+constexpr std::chrono::milliseconds kCheckInterval{200};
+
+}  // namespace
 
 /// Some hosts name a control inside their window.
-ForeignOwner::ForeignOwner(Long handle) {
+ForeignOwner::ForeignOwner(Long handle, std::function<void()> gone) {
   const HWND named = WindowOfNumber(handle);
   if (!OnWindowsDesktop() || !IsWindow(named)) return;
   const HWND window = GetAncestor(named, GA_ROOT);
   window_.reset(QWindow::fromWinId(reinterpret_cast<WId>(window)));
-  if (window_) EnableWindow(window, FALSE);
+  if (!window_) return;
+  EnableWindow(window, FALSE);
+  check_.callOnTimeout([this, window, gone = std::move(gone)] {
+    if (IsWindow(window)) return;
+    check_.stop();
+    gone();
+  });
+  check_.start(kCheckInterval);
 }
 
 ForeignOwner::~ForeignOwner() {

@@ -19,4 +19,19 @@ void MarkAsBackground(QWindow& window) {
                     (style & ~WS_EX_APPWINDOW) | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE);
 }
 
+/// Qt takes owners of other programs away when it shows the window.
+void SetOwner(QWindow& window, QWindow* owner) {
+  window.setTransientParent(owner);
+  const HWND handle = owner == nullptr ? nullptr : NativeWindow(*owner);
+  DWORD process = GetCurrentProcessId();
+  if (handle != nullptr) GetWindowThreadProcessId(handle, &process);
+  if (process == GetCurrentProcessId()) return;
+  const auto giveOwner = [&window, handle](bool visible) {
+    if (!visible) return;
+    SetWindowLongPtrW(NativeWindow(window), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(handle));
+  };
+  // Queued, because the signal comes before the window is shown.
+  QObject::connect(&window, &QWindow::visibleChanged, &window, giveOwner, Qt::QueuedConnection);
+}
+
 }  // namespace starfolds

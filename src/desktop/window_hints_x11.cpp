@@ -35,4 +35,6 @@ void MarkAsBackground(QWindow& window) {
                       &allWorkspaces);
 }
 
+void SetOwner(QWindow& window, QWindow* owner) { window.setTransientParent(owner); }
+
 }  // namespace starfolds

@@ -10,6 +10,7 @@
 #include "body_editors/frm_molecule.h"
 #include "body_editors/frm_user_def_ifs.h"
 #include "desktop/translation.h"
+#include "desktop/window_hints.h"
 #include "properties/frm_welcome.h"
 #include "settings/registry.h"
 #include "settings/safety_copy.h"
@@ -82,7 +83,7 @@ void FrmProps::Open() {
   open_ = true;
   resize(kUsualSize.boundedTo(screen()->availableSize() * kMostOfScreen));
   winId();  // creates the window, so that its owner can be set before it is shown
-  windowHandle()->setTransientParent(around_.Owner);
+  SetOwner(*windowHandle(), around_.Owner);
   // Before any question: a safety copy contains the values of the dialog.
   const StoredProperties stored = LoadDialogFromRegistry(settings_, *this);
   if (universe_->Bodies().Selected() < 0) universe_->Bodies().setCurrentRow(0);

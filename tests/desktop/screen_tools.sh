@@ -44,7 +44,8 @@ has_ended() {
   return 1
 }
 
-# expect_end WHAT: the program has been told to go, and does so within thirty seconds with code 0.
+# expect_end WHAT [CODE]: the program has been told to go, and does so within thirty seconds, with this
+# exit code (0).
 expect_end() {
   local tries code
   for tries in $(seq 1 1500); do
@@ -55,7 +56,7 @@ expect_end() {
   wait "$running"
   code=$?
   running=
-  [ "$code" = 0 ] || fault "$1: exit code $code"
+  [ "$code" = "${2:-0}" ] || fault "$1: exit code $code"
 }
 
 expect_running() {
