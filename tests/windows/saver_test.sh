@@ -108,7 +108,7 @@ test_settings() {
 }
 
 test_settings_of_killed_host() {
-  start wine "$saver" "/C $window"
+  start wine "$saver" /C "$window"
   await '/C' has windows "owner=$window \[Starfold Properties\]"
   kill -9 "$host_process"
   expect_end '/C and the end of its program'
