@@ -14,6 +14,7 @@
 #include "info/help_viewer.h"
 #include "info/help_window.h"
 #include "properties/frm_advanced.h"
+#include "properties/frm_idle.h"
 #include "properties/frm_props.h"
 #include "settings/first_run.h"
 #include "settings/stored_records.h"
@@ -119,6 +120,16 @@ void TakeAdvanced(KeyValueTree& tree, Help& help, const QString& prefix) {
   FrmAdvanced dialog(tree, help);
   dialog.ShowInPlace();
   dialog.grab().save(prefix + "advanced.png");
+}
+
+/// Asks the idle service that is in the search path, if there is one.
+void TakeIdle(KeyValueTree& tree, Help& help, const QString& prefix) {
+  FrmIdle dialog(tree, help, FindIdleProgram());
+  dialog.ShowInPlace();
+  QElapsedTimer answer;
+  answer.start();
+  while (answer.elapsed() < 3000) QApplication::processEvents();
+  dialog.grab().save(prefix + "idle.png");
 }
 
 void TakeFileIo(KeyValueTree& tree, Help& help, MessageBoxes& boxes, const QString& prefix) {
@@ -227,6 +238,7 @@ int main(int argc, char** argv) {
   const QString prefix = QString(argv[1]) + "/" + look + "-";
   TakePictures(dialog, prefix);
   TakeAdvanced(tree, help, prefix);
+  TakeIdle(tree, help, prefix);
   TakeFileIo(tree, help, boxes, prefix);
   FrmSystemDiag diagnostics({tree, desktop, boxes, help, {"0.1.0", "settings.db"}});
   diagnostics.ShowInPlace();

@@ -14,6 +14,7 @@ constexpr HelpTopic kTopics[] = {
     {help::kGettingStarted, "getting-started.md", 0},
     {help::kWindows, "windows.md", 0},
     {kNoContext, "saver-hosts.md", 1},
+    {help::kIdle, "idle.md", 1},
     {kNoContext, "command-line.md", 1},
     {kNoContext, "properties.md", 0},
     {help::kUniverseView, "universe-view.md", 1},

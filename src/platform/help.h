@@ -28,6 +28,7 @@ inline constexpr Integer kIfs = 7100;
 inline constexpr Integer kMolecule = 7300;
 inline constexpr Integer kLevels = 7400;
 inline constexpr Integer kAdvanced = 8000;
+inline constexpr Integer kIdle = 8100;
 inline constexpr Integer kAbout = 9000;
 }  // namespace help
 

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "properties/frm_advanced.h"
+#include "properties/frm_idle.h"
 #include "properties/frm_props.h"
 #include "properties/universe_guides.h"
 #include "widgets/lines.h"
@@ -65,6 +66,12 @@ void FrmProps::MakeMenus() {
                     preview_->CameraChanged();
                   })
       ->setObjectName("mnuAdvanced");
+  if (const QString idle = FindIdleProgram(); !idle.isEmpty()) {
+    edit->addAction(
+            tr("When &Idle..."), this,
+            [this, idle] { FrmIdle(*editing_->Tree, around_.HelpBook, idle, this).RunModal(); })
+        ->setObjectName("mnuIdle");
+  }
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   const auto addHelp = [&](const QString& text, const char* name,

@@ -17,9 +17,9 @@ const Field<I> kIdleFields[] = {
     {"Idle_On", &I::Idle_On, RangeRule::Fixed, 0, 1,
      "Start the screen saver when there is no input"},
     {"Idle_Minutes", &I::Idle_Minutes, RangeRule::Fixed, 1, 240,
-     "After minutes without input (1 - 240):"},
+     "Minutes without input (1 - 240):"},
     {"Idle_Battery", &I::Idle_Battery, RangeRule::Fixed, 0, 100,
-     "On battery only from a charge of % (0 - 100):"},
+     "Least charge on battery in % (0 - 100):"},
 };
 
 bool IsInRange(const Field<I>& field, const std::string& text) {

@@ -35,6 +35,7 @@ inline constexpr std::string_view kLevelsPlace = "General\\Levels";
 inline constexpr std::string_view kIfsPlace = "General\\IFS";
 inline constexpr std::string_view kAtomicsPlace = "General\\Atomics";
 inline constexpr std::string_view kAdvancedPlace = "General\\Advanced";
+inline constexpr std::string_view kIdlePlace = "General\\Idle";
 inline constexpr std::string_view kTemplatePlace = "General\\Template";
 inline constexpr std::string_view kSystemDiagPlace = "General\\SystemDiag";
 inline constexpr std::string_view kHelpPlace = "General\\Help";

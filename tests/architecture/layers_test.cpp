@@ -30,8 +30,8 @@ const std::map<std::string, Layers> kMayInclude = [] {
   may["render"] = below;
   may["render"].insert({"command_line", "storage", "render"});
   may["desktop"] = {"numbers", "platform", "desktop", "Qt"};
-  may["idle"] = {"numbers", "platform", "settings", "command_line", "storage",
-                 "desktop", "idle",     "Qt"};
+  may["idle"] = {"numbers", "platform", "settings", "command_line",
+                 "storage", "desktop",  "idle",     "Qt"};
   may["widgets"] = below;
   may["widgets"].insert({"desktop", "widgets", "Qt"});
   for (const char* window : {"hosting", "body_editors", "template_dialogs", "info"}) {

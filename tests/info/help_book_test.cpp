@@ -13,6 +13,7 @@
 
 #include "numbers/text.h"
 #include "settings/dialog_rows.h"
+#include "settings/idle_settings.h"
 
 namespace starfolds {
 namespace {
@@ -35,7 +36,7 @@ TEST(HelpBookTest, EveryDialogFindsItsOwnTopic) {
   for (const Integer context :
        {help::kProject, help::kFileIo, help::kSystemDiag, help::kUniverseView, help::kUniversePage,
         help::kStarfoldView, help::kStarfoldPage, help::kIfs, help::kLevels, help::kAdvanced,
-        help::kAbout}) {
+        help::kIdle, help::kAbout}) {
     EXPECT_NE(book.TopicOf(context), 0) << context;
   }
 }
@@ -141,6 +142,7 @@ TEST_F(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
   ExpectDescribed(ProfileFields());
   ExpectDescribed(CompositeFields());
   ExpectDescribed(AdvancedFields());
+  ExpectDescribed(IdleFields());
   ExpectDescribed(IfsCenterFields());
   ExpectDescribed(IfsPointFields());
   ExpectDescribed(AtomCenterFields());

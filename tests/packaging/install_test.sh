@@ -17,7 +17,8 @@ DESTDIR=$root "$cmake" --install "$build" --prefix /usr >/dev/null || exit 1
 share=$root/usr/share
 
 for file in "$share/applications/starfolds.desktop" \
-            "$share/applications/screensavers/starfolds.desktop"; do
+            "$share/applications/screensavers/starfolds.desktop" \
+            "$root/etc/xdg/autostart/starfolds-idle.desktop"; do
   desktop-file-validate "$file" || fault "$file is not valid"
   icon=$(sed -n 's/^Icon=//p' "$file")
   [ -s "$share/icons/hicolor/scalable/apps/$icon.svg" ] || fault "$file: there is no icon '$icon'"
@@ -35,6 +36,12 @@ for line in 'Categories=Screensaver;' 'OnlyShowIn=MATE;XFCE;' \
   grep -qxF "$line" "$saver" || fault "the saver's desktop file lacks $line"
 done
 [ -s "$share/xscreensaver/config/starfolds.xml" ] || fault "XScreenSaver's settings are missing"
+
+# Of the two that start the idle service, the unit acts where systemd runs the session.
+unit=$root/usr/lib/systemd/user/graphical-session.target.wants/starfolds-idle.service
+grep -qxF 'ExecStart=/usr/bin/starfolds-idle' "$unit" || fault "the unit of the idle service is missing"
+grep -qxF 'X-systemd-skip=true' "$root/etc/xdg/autostart/starfolds-idle.desktop" ||
+  fault "the idle service is started twice"
 
 # Files of templates have a type, which the program opens; its own lie where it looks for them.
 type=application/x-starfolds-template

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "properties/frm_advanced.h"
+#include "properties/frm_idle.h"
 #include "properties/props_dialog.h"
 #include "widgets/setting_guide.h"
 
@@ -79,6 +80,9 @@ TEST_F(AccessibilityTest, EveryControlOfTheUniverseHasANameAValueAndARange) {
   FrmAdvanced advanced(Tree, HelpBook);
   advanced.ShowInPlace();
   ExpectExplained(advanced, "advanced settings");
+  FrmIdle idle(Tree, HelpBook, "");
+  idle.ShowInPlace();
+  ExpectExplained(idle, "when idle");
 }
 
 TEST_F(AccessibilityTest, EveryControlOfAStarfoldHasThemInEveryStyle) {
