@@ -1,13 +1,16 @@
 // Writes pictures of the properties dialog, with every page and style, and of the other dialogs,
-// for the documents. Usage: dialog_pictures FOLDER light|dark. QT_SCALE_FACTOR sets their scale.
+// for the documents. Usage: dialog_pictures FOLDER light|dark [FILE.qm] [WIDTH HEIGHT], with a
+// translation and the size of the window. QT_SCALE_FACTOR sets their scale.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QStyleFactory>
 #include <QTimer>
+#include <cstdlib>
 #include <map>
 
+#include "desktop/translation.h"
 #include "info/frm_about.h"
 #include "info/frm_credits.h"
 #include "info/frm_system_diag.h"
@@ -217,6 +220,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
+  if (argc > 3) InstallTranslation(argv[3]);
   const QString look = argv[2];
   if (look == "dark") QApplication::setPalette(DarkPalette());
   ShowUncheckedBoxes(application);
@@ -233,7 +237,7 @@ int main(int argc, char** argv) {
   process.Desktop = &desktop;
   FrmProps dialog({process, tree, boxes, disk, help, "/", "/", [] { return 1U; }});
   dialog.Open();
-  dialog.resize(1280, 700);
+  dialog.resize(argc > 5 ? QSize(std::atoi(argv[4]), std::atoi(argv[5])) : QSize(1280, 700));
   QDir().mkpath(argv[1]);
   const QString prefix = QString(argv[1]) + "/" + look + "-";
   TakePictures(dialog, prefix);

@@ -1417,7 +1417,7 @@ URL:  %1</translation>
     </message>
     <message>
         <source>&amp;Set All</source>
-        <translation>A&amp;lle setzen</translation>
+        <translation>Alle set&amp;zen</translation>
     </message>
     <message>
         <source>Preview Comp</source>
@@ -1457,7 +1457,7 @@ URL:  %1</translation>
     </message>
     <message>
         <source>Min&amp;or Starfold Types:</source>
-        <translation>Nebentyp&amp;en:</translation>
+        <translation>Nebent&amp;ypen:</translation>
     </message>
     <message>
         <source>Please select a Major Starfold Type.</source>

@@ -9,6 +9,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import textwrap
 from pathlib import Path
 from xml.etree import ElementTree
 from xml.sax.saxutils import escape
@@ -117,9 +118,12 @@ def check(file, known):
 
 
 def pseudo(text):
-    """In brackets and longer, in words that can wrap; places, mnemonics and markup are kept."""
-    words = len(text) // 3 // 4 + 1
-    return '[' + text + ' ' + ' '.join(['öüäx'] * words) + ']'
+    """In brackets, each line longer, in words that can wrap; places, mnemonics and markup are kept."""
+    lines = []
+    for line in text.split('\n'):
+        more = textwrap.wrap('öüäx' * (len(line) // 3 // 4 + 1), 6)
+        lines.append(line + (' ' + ' '.join(more))[:len(line) // 3])
+    return '[' + '\n'.join(lines) + ']'
 
 
 def main():

@@ -85,6 +85,7 @@ void AddGroup(QBoxLayout& column, const QString& text, std::initializer_list<QWi
   QWidget* control = *line.begin();
   auto* label = new QLabel(text, control->parentWidget());
   label->setBuddy(control);
+  label->setWordWrap(true);
   if (!column.isEmpty()) column.addSpacing(kGroupGap);
   column.addWidget(label);
   column.addLayout(Line(line), stretch);

@@ -108,6 +108,7 @@ class FrmProps : public QMainWindow, private PropertiesDialog, private PropsBoxe
   PreviewPane* MakePreviewPane();
   QWidget* MakeButtons();
   void ConnectParts();
+  int LeastFormWidth() const;
   void PlacePreview();
   QWidget* MakeOverridesNote();
   QWidget* MakeBodySteps();

@@ -143,9 +143,16 @@ void FrmProps::ConnectChanges() {
   }
 }
 
-/// Beside the form, or below it in a narrow window.
+/// The least width in which the form needs no horizontal scroll bar.
+int FrmProps::LeastFormWidth() const {
+  return universe_->minimumSizeHint().width() + kScrollBarRoom;
+}
+
+/// Beside the form, or below it if the window is too narrow for both.
 void FrmProps::PlacePreview() {
-  const bool beside = width() >= kWideWindow;
+  const int edges = width() - splitter_->width() + splitter_->handleWidth();
+  const int needed = LeastFormWidth() + preview_->LeastWidth() + edges;
+  const bool beside = width() >= std::max(kWideWindow, needed);
   const Qt::Orientation wanted = beside ? Qt::Horizontal : Qt::Vertical;
   if (isPlaced_ && splitter_->orientation() == wanted) return;
   isPlaced_ = true;
@@ -153,7 +160,7 @@ void FrmProps::PlacePreview() {
   preview_->PutButtonsBeside(!beside);
   const int room = beside ? width() : height();
   const int form =
-      beside ? std::max({kFormWidth, universe_->minimumSizeHint().width() + kScrollBarRoom,
+      beside ? std::max({kFormWidth, LeastFormWidth(),
                          std::min(universe_->sizeHint().width() + kScrollBarRoom, room * 9 / 20)})
              : room / 2;
   splitter_->setSizes({form, room - form});

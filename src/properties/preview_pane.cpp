@@ -63,6 +63,15 @@ void PreviewPane::PutButtonsBeside(bool beside) {
   LimitPicture();
 }
 
+int PreviewPane::LeastWidth() const {
+  int buttons = 0;
+  for (int i = 0; i < buttons_->count(); ++i) {
+    buttons += buttons_->itemAt(i)->minimumSize().width() + buttons_->spacing();
+  }
+  const int edges = width() - column_->contentsRect().width();
+  return std::max(kLeastPreview.width(), buttons) + edges;
+}
+
 void PreviewPane::resizeEvent(QResizeEvent* event) {
   QGroupBox::resizeEvent(event);
   LimitPicture();

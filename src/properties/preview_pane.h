@@ -53,6 +53,8 @@ class PreviewPane : public QGroupBox {
   void CameraChanged();
   /// Puts the buttons below the picture or, in a pane that is wide and low, beside it.
   void PutButtonsBeside(bool beside);
+  /// The least width of the pane while its buttons are below the picture.
+  int LeastWidth() const;
 
   PictureBox& Picture() { return *picPreview_; }
 

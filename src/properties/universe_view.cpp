@@ -260,7 +260,9 @@ QWidget* UniverseView::MakeStarfoldTypes() {
   txtResetFoldPct_->SetBlankAllowed();
   auto* reset = MakeButton(tr("Reset All"), "cmdResetFoldPct");
   reset->setToolTip(tr("Gives all 50 types this percent"));
-  AddLine(*page, tr("Reset all percents to:"), txtResetFoldPct_, {txtResetFoldPct_, reset});
+  LetWrap(
+      *AddLine(*page, tr("Reset all percents to:"), txtResetFoldPct_, {txtResetFoldPct_, reset}),
+      kLeastShortLabel);
   auto* props = MakeButton(tr("Sho&w Props"), "cmdFoldProps");
   props->setToolTip(tr("Opens the properties of the selected type"));
   AddWideLine(*page, props);
@@ -320,7 +322,7 @@ QWidget* UniverseView::MakeUniverseProperties() {
   cboUniTheme_ = new QComboBox;
   cboUniTheme_->setObjectName("cboUniTheme");
   for (int entry = 0; entry <= kThemeCount; ++entry) {
-    cboUniTheme_->addItem(Shown(FactoryThemeName(entry)));
+    cboUniTheme_->addItem(Translated(FactoryThemeName(entry)));
   }
   LetShrink(cboUniTheme_);
   auto* surprise = MakeButton(tr("Surprise Me"), "cmdUniSurprise");

@@ -4,6 +4,7 @@
 
 #include "numbers/conversions.h"
 #include "numbers/text.h"
+#include "platform/user_text.h"
 #include "settings/factory_rows.h"
 #include "settings/fields.h"
 
@@ -204,7 +205,7 @@ Integer FactoryProfilePct(int row, FactorySet set) {
 }
 
 std::string_view FactoryThemeName(int entry) {
-  if (entry == 0) return "< NONE >";
+  if (entry == 0) return STARFOLDS_TEXT("< NONE >");
   if (entry < 0 || entry > kThemeCount) return {};
   return FactoryThemes()[static_cast<std::size_t>(entry - 1)].Name;
 }
