@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QXmlStreamReader>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -85,6 +86,30 @@ TEST(HostSettings, SwitchesAreTheOtherWayThanTheDefault) {
     EXPECT_EQ(changes[0].second, isSet ? "1" : "0");
     EXPECT_NE(changes[0].second, Find(changes[0].first).Default);
   }
+}
+
+/// The options for one run, except for those that a dialog cannot offer.
+TEST(HostSettings, OfferEveryOptionForOneRun) {
+  std::set<std::string> offered{"--seed", "--set"};
+  for (const char* element : {"number", "boolean", "option"}) {
+    for (const Attributes& attributes : Elements(element)) {
+      for (const char* name : {"arg", "arg-set", "arg-unset"}) {
+        const std::string argument = Text(attributes, name);
+        offered.insert(argument.substr(0, argument.find(' ')));
+      }
+    }
+  }
+  bool forOneRun = false;
+  int options = 0;
+  for (const Option& option : SaverGuide().Options) {
+    if (*option.Names == '\0') {
+      forOneRun = std::string_view(option.Help).ends_with("for this run only");
+    } else if (forOneRun) {
+      EXPECT_TRUE(offered.contains(option.Names)) << option.Names;
+      ++options;
+    }
+  }
+  EXPECT_GT(options, 8);
 }
 
 TEST(HostSettings, ThemesHaveTheirNames) {
