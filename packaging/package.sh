@@ -57,7 +57,10 @@ make_room() {
 
 # Kept as long as the packages that it needs are the same.
 make_build_room() {
-  if cmp -s debian/control "$rooms/builder/build/control"; then return; fi
+  local kept=$rooms/builder/build/control
+  if [[ -f $kept ]] && diff -q <(sed '/^$/q' debian/control) <(sed '/^$/q' "$kept") >/dev/null; then
+    return
+  fi
   say 'installing what the build needs'
   make_room builder
   cp debian/control "$rooms/builder/build/control.part"
