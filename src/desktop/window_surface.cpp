@@ -142,12 +142,22 @@ void WindowSurface::ShowFullScreen(Stacking stacking, ScreenPlace place) {
   screens_.emplace([this, place] { CoverScreen(place); });
 }
 
-/// A window that fills a screen already would not be moved to another one by the window manager.
+/// A window that fills a screen already would not be moved to another one by the window manager. A
+/// compositor of Wayland moves the window of an output that is gone to another one, where it is no
+/// longer full screen, or nowhere; only a window that is shown anew gets its place again.
 void WindowSurface::CoverScreen(ScreenPlace place) {
   QScreen* const named = FindScreen(place.Number);
   QScreen* const screen = named != nullptr ? named : QGuiApplication::primaryScreen();
-  if (screen == nullptr) return;
-  if (window_->isVisible() && window_->geometry() == screen->geometry()) return;
+  // Without any output Qt on Wayland has a screen without a size.
+  if (screen == nullptr || screen->geometry().isEmpty()) return;
+  // The process that leads ends the others when a screen is gone; until then they stay out of the
+  // way.
+  if (named == nullptr && !place.Leads && window_->isVisible()) return;
+  const bool onWayland = QGuiApplication::platformName().startsWith("wayland");
+  const bool keptItsPlace =
+      !onWayland || (window_->windowState() == Qt::WindowFullScreen && window_->isExposed());
+  if (window_->isVisible() && window_->geometry() == screen->geometry() && keptItsPlace) return;
+  if (onWayland) window_->setVisible(false);
   window_->setWindowState(Qt::WindowNoState);
   window_->setScreen(screen);
   window_->setGeometry(screen->geometry());
