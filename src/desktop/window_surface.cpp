@@ -281,6 +281,7 @@ void WindowSurface::ShowAll() {
   MeasureScale({picture.width(), picture.height()});
   auto image = DirectImage(picture);
   imageIsDirect_ = image.has_value();
+  paintIsCleared_ = image && static_cast<QImage&>(picture).hasAlphaChannel();
   if (image) {
     image->PaintAll(scale_, *this);
   } else {
@@ -310,13 +311,14 @@ void WindowSurface::ShowFrame(KeptFrame& frame) {
   }
 }
 
-/// If the window system has reallocated the image, all of it must be painted.
+/// If the window system has reallocated the image, all of it must be painted. What does not change
+/// in the tiles must stay, so Qt is given nothing to clear.
 void WindowSurface::ShowTiles(KeptFrame& frame) {
   const bool isBehind = tilesBehind_.Area() > 0;
   frame.Tiles.TakeFrom(tilesBehind_);
   const std::vector<TileRect>& tiles = frame.Tiles.Take();
   const QRegion region = RegionOf(tiles);
-  store_->beginPaint(region);
+  store_->beginPaint(paintIsCleared_ ? QRegion() : region);
   QPaintDevice& picture = *store_->paintDevice();
   const bool isSame = QSize(picture.width(), picture.height()) == pictureSize_;
   if (isSame) {

@@ -114,10 +114,11 @@ class WindowSurface : public Surface {
   std::optional<ScreenWatch> screens_;
   bool atBottom_ = false;
   bool repaintAll_ = true;
-  bool imageIsDirect_ = false;  // and not painted through QPainter, from the canvas
-  KeptFrames kept_;             // the frame that is being shown is the last that was taken from it
-  double factor_ = 1;           // physical pixels per logical one
-  DirtyTiles tilesBehind_;      // where the window's image lacks changes that were drawn as points
+  bool imageIsDirect_ = false;   // and not painted through QPainter, from the canvas
+  bool paintIsCleared_ = false;  // Qt clears what is to be painted, as on Wayland
+  KeptFrames kept_;              // the frame that is being shown is the last that was taken from it
+  double factor_ = 1;            // physical pixels per logical one
+  DirtyTiles tilesBehind_;       // where the window's image lacks changes that were drawn as points
   PixelScale scale_;
   QPoint origin_;             // of the surface in the window, logical pixels
   QSize pictureSize_;         // the size for which `scale_` was measured, in physical pixels

@@ -19,9 +19,10 @@ eventually() {
 }
 
 # Many colour bytes of the output, but not most, are above black: without a window it is grey.
+grab() { grim -t ppm -o "$1" - | convert ppm:- -depth 8 rgb:"$picture"; }
 shows_stars() {
   local lit black
-  grim -t ppm -o "$1" - | convert ppm:- -depth 8 rgb:"$picture"
+  grab "$1"
   lit=$(tr -d '\0' <"$picture" | wc -c)
   black=$(tr -cd '\0' <"$picture" | wc -c)
   [ "$lit" -gt 300 ] && [ "$black" -gt "$lit" ]
@@ -61,6 +62,23 @@ eventually has_windows 3 || fault 'not one window on each of three outputs'
 expect_running 'changes of the outputs'
 press_until_end 'a key'
 swaymsg output HEADLESS-1 scale 1 >/dev/null
+
+# Stars that do not move stay, beside others that do: this scene has more than 2000 such bytes for a
+# thousand frames.
+keeps_stars() {
+  for _ in 1 2 3; do
+    grab HEADLESS-1
+    [ "$(tr -d '\0' <"$picture" | wc -c)" -gt 2000 ] || return 1
+  done
+  shows_stars HEADLESS-1
+}
+start "$program" --saver --seed 5 --no-tour --screens primary --delay 10 \
+  --set Universe_ESteps=20 --set Starfold_Rotation=0 --set Universe_NewFreq=0 \
+  --set Universe_AmStar=0
+expect_stars HEADLESS-1 'a scene that stands still'
+eventually keeps_stars || fault 'stars that do not move vanish'
+kill -TERM "$running"
+expect_end 'SIGTERM'
 
 # The dialogs.
 start "$program" --settings
