@@ -1,6 +1,7 @@
 ; The installer for Windows, built by pack.sh, which defines
 ;   VERSION, PACKAGE (the folder with the files to install), SETUP (the file to write) and
-;   LISTS (a folder with lists of commands that remove exactly the files of PACKAGE).
+;   PARTS (a folder with templates.nsh, the commands that remove exactly the templates of PACKAGE, and
+;         side.bmp, the picture of the last page).
 ;
 ; /S        without a window
 ; /ALLUSERS for all users, /CURRENTUSER for this one; else as before, else for all if that is allowed
@@ -51,6 +52,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) 2026 the Starfolds authors"
 
 !define MUI_ICON "${__FILEDIR__}/starfolds.ico"
 !define MUI_UNICON "${__FILEDIR__}/starfolds.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PARTS}/side.bmp"
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_TEXT "Choose ${NAME} as the screen saver"
 !define MUI_FINISHPAGE_RUN_FUNCTION OpenListOfSavers
@@ -59,6 +61,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) 2026 the Starfolds authors"
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
 !insertmacro MUI_UNPAGE_CONFIRM
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW un.HideSpace
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
@@ -105,6 +108,13 @@ Function un.onInit
   ${IfNot} ${Errors}
     Call un.SelectSettings
   ${EndIf}
+FunctionEnd
+
+; The uninstaller needs no space, and says so otherwise.
+Function un.HideSpace
+  FindWindow $0 "#32770" "" $HWNDPARENT
+  GetDlgItem $0 $0 1023
+  ShowWindow $0 ${SW_HIDE}
 FunctionEnd
 
 ; A program that runs can be renamed but not removed: it is removed at the next start of the system.
@@ -213,7 +223,7 @@ Section "un.Program" Program
   Delete "$INSTDIR\README.txt"
   Delete "$INSTDIR\LICENSE.txt"
   Delete "$INSTDIR\uninstall.exe"
-  !include "${LISTS}/templates.nsh"
+  !include "${PARTS}/templates.nsh"
   RMDir "$Scenes" ; stays if there are templates of others
   ${If} $MultiUser.InstallMode == AllUsers
     RMDir "$APPDATA\Tessellane"

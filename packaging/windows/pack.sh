@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # pack.sh BUILD: makes the installer and the zip of BUILD, a build for Windows, in that folder. Needs
-# NSIS and zip, and prints the names of both files.
+# NSIS, zip and ImageMagick, and prints the names of both files.
 set -euo pipefail
 build=$(readlink -f "$1")
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -22,7 +22,11 @@ for file in "$stage"/templates/*; do
   printf 'Delete "$Scenes\\%s"\n' "$(basename "$file")"
 done >"$build/package/templates.nsh"
 
-makensis -V2 -WX "-DVERSION=$version" "-DPACKAGE=$stage" "-DLISTS=$build/package" \
+# Stars in their own size: a smaller picture would lose them.
+convert "$root/docs/pictures/readme.png" -gravity center -crop 164x314+0+0 +repage \
+  "BMP3:$build/package/side.bmp"
+
+makensis -V2 -WX "-DVERSION=$version" "-DPACKAGE=$stage" "-DPARTS=$build/package" \
   "-DSETUP=$build/$name-setup.exe" "$here/installer.nsi" >&2
 (cd "$build/package" && rm -f "$build/$name.zip" && zip -qrX9 "$build/$name.zip" "$name")
 printf '%s\n' "$build/$name-setup.exe" "$build/$name.zip"
