@@ -99,7 +99,7 @@ std::string BashCases(const std::vector<Option>& options, const std::string& fun
 
 // --- zsh ----------------------------------------------------------------------------------------
 
-/// Text inside of a single-quoted specification of `_arguments`.
+/// Text inside of a single-quoted argument of `_arguments`.
 std::string ZshText(std::string_view text) {
   std::string escaped;
   for (const char c : text) {
