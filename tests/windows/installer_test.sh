@@ -53,18 +53,25 @@ exists() {
   for file in "$@"; do [[ -e $drive/$file ]] || fail "$file is missing"; done
 }
 
-# uninstall PROGRAM ARGUMENT...: the uninstaller runs as a copy of itself, so its end is that of the
-# program's folder.
-uninstall() {
-  local program=$1 i
+# gone WHAT COMMAND...: waits until the command fails.
+gone() {
+  local what=$1 i
   shift
-  run "$program" /S "$@"
   for ((i = 0; i < 600; i++)); do
-    wine reg query "$hive\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Starfolds" \
-      >/dev/null 2>&1 </dev/null || break
+    "$@" >/dev/null 2>&1 </dev/null || return 0
     sleep 0.1
   done
-  timeout 60 wineserver -w || true # other programs of the prefix may go on
+  fail "$what is still there"
+}
+
+# uninstall HIVE PROGRAM ARGUMENT...: the uninstaller runs as a copy of itself, and removes its entry
+# of the registry when all files have gone but the settings.
+uninstall() {
+  local hive=$1
+  shift
+  run "$@" /S
+  gone 'the program' \
+    wine reg query "$hive\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Starfolds"
 }
 
 # trial MODE HIVE FOLDER SAVER TEMPLATES MENU ARGUMENT...: the paths are below C:.
@@ -90,7 +97,7 @@ trial() {
   expect 'the icon' "$(value "$type\\DefaultIcon" @)" "$windows\\starfolds.exe,0"
 
   : >"$drive/$templates/of-the-user.sfd"
-  uninstall "$windows\\uninstall.exe" "/$mode"
+  uninstall "$hive" "$windows\\uninstall.exe" "/$mode"
   exists "$templates/of-the-user.sfd"
   rm "$drive/$templates/of-the-user.sfd"
   rmdir -p --ignore-fail-on-non-empty "$drive/$templates"
@@ -105,8 +112,9 @@ for key in "${keys[@]}" 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstal
 done
 user=users/$(wine cmd /c 'echo %USERNAME%' </dev/null | tr -d '\r')
 settings="$drive/$user/AppData/Roaming/Tessellane"
-mkdir -p "$settings" "$drive/odd folder"
-: >"$drive/odd folder/of-another"
+others=("$drive/odd folder" "$drive/$user/AppData/Local/Programs") # folders with files of others
+mkdir -p "$settings" "${others[@]}"
+touch "${others[@]/%//of-another}"
 : >"$settings/settings.db"
 
 trial ALLUSERS HKLM 'Program Files/Starfolds' windows/system32/starfolds.scr \
@@ -117,7 +125,7 @@ trial CURRENTUSER HKCU "$user/AppData/Local/Programs/Starfolds" \
   "$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs"
 trial CURRENTUSER HKCU 'odd folder/ä 日' 'odd folder/ä 日/starfolds.scr' 'odd folder/ä 日/templates' \
   "$user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs" '/D=C:\odd' 'folder\ä' '日' # not quoted, as the installer needs it
-rm -r "$drive/odd folder"
+rm "${others[@]/%//of-another}"
 
 # The installer makes it the saver of the user, and the uninstaller takes that and the settings back.
 desktop='HKCU\Control Panel\Desktop'
@@ -129,7 +137,8 @@ saver=$(value "$desktop" SCRNSAVE.EXE)
 cmp "$(wine winepath -u "$saver" </dev/null | tr -d '\r')" build/windows/src/app/starfolds.scr ||
   fail 'the saver is another file'
 : >"$settings/of-another"
-hive=HKCU uninstall "$program\\uninstall.exe" /CURRENTUSER /SETTINGS
+uninstall HKCU "$program\\uninstall.exe" /CURRENTUSER /SETTINGS
+gone 'the settings' test -e "$settings/settings.db"
 expect 'the saver' "$(value "$desktop" SCRNSAVE.EXE)" ''
 expect 'what is kept of the settings' "$(ls "$settings")" of-another
 ((failures == 0)) && echo 'installer_test: passed'
