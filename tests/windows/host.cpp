@@ -62,12 +62,18 @@ void Resize(HWND window, int width, int height) {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-/// A saver that takes the command answers 0 and does not pass it on.
-void AskForSaver() {
-  DWORD_PTR answer = 1;
-  SendMessageTimeoutW(GetForegroundWindow(), WM_SYSCOMMAND, SC_SCREENSAVE, 0, SMTO_BLOCK, 30000,
-                      &answer);
-  std::printf("answer %llu\n", static_cast<unsigned long long>(answer));
+DWORD_PTR AnswerOfForeground(UINT message, WPARAM wide) {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(GetForegroundWindow(), message, wide, 0, SMTO_BLOCK, 30000, &answer);
+  return answer;
+}
+
+/// A session that does not end after all, and one that does.
+void EndSession() {
+  AnswerOfForeground(WM_ENDSESSION, FALSE);
+  const bool may = AnswerOfForeground(WM_QUERYENDSESSION, 0) != 0;
+  std::printf("the session %s end\n", may ? "may" : "may not");
+  if (may) AnswerOfForeground(WM_ENDSESSION, TRUE);
 }
 
 void Obey(HWND window, const std::string& line) {
@@ -76,7 +82,7 @@ void Obey(HWND window, const std::string& line) {
   if (std::sscanf(line.c_str(), "size %d %d", &width, &height) == 2) Resize(window, width, height);
   if (line == "children") EnumChildWindows(window, PrintChild, reinterpret_cast<LPARAM>(window));
   if (line == "windows") EnumWindows(PrintWindow, 0);
-  if (line == "saver") AskForSaver();
+  if (line == "session") EndSession();
   if (line == "destroy") DestroyWindow(window);
   std::printf("done\n");
   std::fflush(stdout);

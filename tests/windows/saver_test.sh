@@ -82,6 +82,12 @@ test_saver() {
   done
 }
 
+test_end_of_session() {
+  start_saver
+  has session 'the session may end' || fault 'the saver keeps the session'
+  expect_end 'the end of the session'
+}
+
 test_saver_windows() {
   start_saver
   has windows ' 400,0 400x600 topmost owner' || fault "no second window, or it has the focus"
@@ -163,6 +169,7 @@ test_names() {
 two_monitors
 start_host
 test_saver
+test_end_of_session
 test_saver_windows
 test_settings
 test_nothing_to_show
