@@ -4,6 +4,46 @@
 <context>
     <name>Starfolds</name>
     <message>
+        <source>The computer runs on battery, at %1 %.</source>
+        <translation>Der Rechner läuft im Akkubetrieb, bei %1 %.</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Nicht gestartet: %1</translation>
+    </message>
+    <message>
+        <source>The screen saver starts.</source>
+        <translation>Der Bildschirmschoner startet.</translation>
+    </message>
+    <message>
+        <source>The screen saver is ended: %1</source>
+        <translation>Der Bildschirmschoner wird beendet: %1</translation>
+    </message>
+    <message>
+        <source>The screen saver is ended.</source>
+        <translation>Der Bildschirmschoner wird beendet.</translation>
+    </message>
+    <message>
+        <source>The screen saver has ended.</source>
+        <translation>Der Bildschirmschoner ist beendet.</translation>
+    </message>
+    <message>
+        <source>The screen saver has ended: %1.</source>
+        <translation>Der Bildschirmschoner ist beendet: %1.</translation>
+    </message>
+    <message>
+        <source>the saver has failed</source>
+        <translation>Der Bildschirmschoner ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The screen is off.</source>
+        <translation>Der Bildschirm ist aus.</translation>
+    </message>
+    <message>
+        <source>XScreenSaver shows the screen savers here: choose Starfolds in it.</source>
+        <translation>Hier zeigt XScreenSaver die Bildschirmschoner: Wählen Sie dort Starfolds.</translation>
+    </message>
+    <message>
         <source>What runs</source>
         <translation>Was läuft</translation>
     </message>
@@ -1486,6 +1526,18 @@ Solche Starfolds können seltsam aussehen.</translation>
         <translation>Anteil aller Verbünde</translation>
     </message>
     <message>
+        <source>A program inhibits idleness.</source>
+        <translation>Ein Programm verhindert den Leerlauf.</translation>
+    </message>
+    <message>
+        <source>MATE shows the screen savers here: choose Starfolds in its preferences.</source>
+        <translation>Hier zeigt MATE die Bildschirmschoner: Wählen Sie Starfolds in dessen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Xfce shows the screen savers here: choose Starfolds in its preferences.</source>
+        <translation>Hier zeigt Xfce die Bildschirmschoner: Wählen Sie Starfolds in dessen Einstellungen.</translation>
+    </message>
+    <message>
         <source>About Starfolds</source>
         <translation>Über Starfolds</translation>
     </message>
@@ -1640,6 +1692,54 @@ Freie Software unter der MIT-Lizenz.</translation>
     <message>
         <source>Please enter a valid path and file.</source>
         <translation>Bitte geben Sie einen gültigen Pfad und Dateinamen ein.</translation>
+    </message>
+    <message>
+        <source>When Idle</source>
+        <translation>Bei Leerlauf</translation>
+    </message>
+    <message>
+        <source>This locks nothing. If your desktop locks the screen after some time, choose fewer minutes here: the saver starts before the lock, and ends when it comes.</source>
+        <translation>Hiermit wird nichts gesperrt. Wenn Ihr Desktop den Bildschirm nach einiger Zeit sperrt, wählen Sie hier weniger Minuten: Der Bildschirmschoner startet vor der Sperre und endet, wenn sie kommt.</translation>
+    </message>
+    <message>
+        <source>Screen Saver</source>
+        <translation>Bildschirmschoner</translation>
+    </message>
+    <message>
+        <source>&amp;Start the screen saver when there is no input</source>
+        <translation>Den Bildschirmschoner &amp;starten, wenn keine Eingabe kommt</translation>
+    </message>
+    <message>
+        <source>&amp;Minutes without input (1 - 240):</source>
+        <translation>&amp;Minuten ohne Eingabe (1 - 240):</translation>
+    </message>
+    <message>
+        <source>Least charge on &amp;battery in % (0 - 100):</source>
+        <translation>Mindestladung im A&amp;kkubetrieb in % (0 - 100):</translation>
+    </message>
+    <message>
+        <source>Found Here</source>
+        <translation>Hier gefunden</translation>
+    </message>
+    <message>
+        <source>Asking the desktop...</source>
+        <translation>Der Desktop wird befragt...</translation>
+    </message>
+    <message>
+        <source>&amp;Test in Five Seconds</source>
+        <translation>In fünf Sekunden &amp;testen</translation>
+    </message>
+    <message>
+        <source>The settings cannot be stored.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be run.</source>
+        <translation>%1 kann nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Stop the &amp;Test</source>
+        <translation>&amp;Test anhalten</translation>
     </message>
     <message>
         <source>%1 Starfold Levels:  </source>
@@ -1838,6 +1938,10 @@ Möchten Sie die Änderungen übernehmen?</translation>
         <translation>&amp;Erweiterte Einstellungen...</translation>
     </message>
     <message>
+        <source>When &amp;Idle...</source>
+        <translation>Bei &amp;Leerlauf...</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -2016,6 +2120,10 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
         <translation>Speichert die aktuellen Einstellungen in propsave.sfd und setzt sie dann zurück</translation>
     </message>
     <message>
+        <source>help/en</source>
+        <translation>help/de</translation>
+    </message>
+    <message>
         <source>Text of the help</source>
         <translation>Text der Hilfe</translation>
     </message>
@@ -2076,8 +2184,12 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
         <translation>Starfolds-Hilfe - %1</translation>
     </message>
     <message>
+        <source>A program inhibits idleness (%1).</source>
+        <translation>Ein Programm verhindert den Leerlauf (%1).</translation>
+    </message>
+    <message>
         <source>Fit</source>
-        <translation>Einpassen</translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>The body fills the picture. Otherwise it is at its distance from the camera, as in a run.</source>
@@ -2090,6 +2202,10 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
     <message>
         <source>The body moves while no preview runs.</source>
         <translation>Der Körper bewegt sich, solange keine Vorschau läuft.</translation>
+    </message>
+    <message>
+        <source>The desktop has locked or blanked the screen.</source>
+        <translation>Der Desktop hat den Bildschirm gesperrt oder abgeschaltet.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -2146,6 +2262,22 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
     <message>
         <source>Please enter a Property value.</source>
         <translation>Bitte geben Sie einen Wert ein.</translation>
+    </message>
+    <message>
+        <source>A program inhibits idleness (logind).</source>
+        <translation>Ein Programm verhindert den Leerlauf (logind).</translation>
+    </message>
+    <message>
+        <source>Another session is on the screen.</source>
+        <translation>Eine andere Sitzung ist auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>The screen is locked.</source>
+        <translation>Der Bildschirm ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>The computer goes to sleep.</source>
+        <translation>Der Rechner geht in den Ruhezustand.</translation>
     </message>
     <message>
         <source>off</source>

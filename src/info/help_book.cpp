@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "desktop/translation.h"
 #include "settings/records.h"
 
 namespace starfolds {
@@ -93,7 +94,8 @@ QStringList PartsOf(const QString& markdown) {
 }
 
 QString FirstSentence(const QString& markdown) {
-  static const QRegularExpression sentence(R"(^.+?[.!?](?=\s+["A-Z]|$))");
+  static const QRegularExpression sentence(R"(^.+?[.!?](?=\s+["„\p{Lu}]|$))",
+                                           QRegularExpression::UseUnicodePropertiesOption);
   return sentence.match(WithoutMarkup(markdown)).captured();
 }
 
@@ -122,12 +124,13 @@ HelpBook::HelpBook() {
   }
 }
 
-/// A setting is described where its name stands before its range: "`Name`: 1 to 20, default 5." The
-/// sentence follows it, or begins the next paragraph of the section.
+/// A setting is described where its name stands before its range: "`Name`: 1 to 20, default 5.", or
+/// "`Name`: 1 bis 20, Vorgabe 5." The sentence follows it, or begins the next paragraph of the
+/// section.
 void HelpBook::IndexSettings(int topic) {
   static const QRegularExpression described(
-      R"(`(\w+)`\)?: [\d.]+ to \d+(?:\.\d+)?(?: \([^()]*\))?)"
-      R"((?:, default \d+(?:\.\d+)?(?: \((?:[^()]|\([^()]*\))*\))?)?\.)");
+      R"(`(\w+)`\)?: [\d.]+ (?:to|bis) \d+(?:\.\d+)?(?: \([^()]*\))?)"
+      R"((?:, (?:default|Vorgabe) \d+(?:\.\d+)?(?: \((?:[^()]|\([^()]*\))*\))?)?\.)");
   static const QRegularExpression named(R"(`((?:Starfold|Universe|IFS|Atom)_\w+)`)");
   QString heading;
   std::vector<decltype(settings_)::iterator> open;  // the sentence is still missing
@@ -178,7 +181,9 @@ std::optional<HelpBook::SettingText> HelpBook::OfSetting(std::string_view name, 
 HelpBook::Page HelpBook::ReadPage(const HelpTopic& topic) {
   const auto name =
       QString::fromLatin1(topic.File.data(), static_cast<qsizetype>(topic.File.size()));
-  QFile file(kHelpFolder + name);
+  // A page without a translation is shown in English.
+  const QString translated = ":/" + Translated(STARFOLDS_TEXT("help/en")) + '/' + name;
+  QFile file(QFile::exists(translated) ? translated : kHelpFolder + name);
   Page page;
   if (file.open(QIODevice::ReadOnly)) page.Markdown = QString::fromUtf8(file.readAll());
   for (const QString& line : page.Markdown.split('\n')) {

@@ -26,12 +26,13 @@ struct HelpTopic {
 /// In the order of the contents. The first one is the home page.
 std::span<const HelpTopic> HelpTopics();
 
-/// Folder of the help's files in the program's resources, ending in a slash.
+/// Folder of the help's files in the program's resources, ending in a slash. Each translation has
+/// a folder in it.
 inline constexpr char kHelpFolder[] = ":/help/";
 
 class HelpBook {
  public:
-  /// Reads all topics.
+  /// Reads all topics, in the user's language where they are translated.
   HelpBook();
 
   int Count() const { return static_cast<int>(pages_.size()); }

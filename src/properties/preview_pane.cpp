@@ -68,8 +68,8 @@ int PreviewPane::LeastWidth() const {
   for (int i = 0; i < buttons_->count(); ++i) {
     buttons += buttons_->itemAt(i)->minimumSize().width() + buttons_->spacing();
   }
-  const int edges = width() - column_->contentsRect().width();
-  return std::max(kLeastPreview.width(), buttons) + edges;
+  const QMargins edges = contentsMargins() + column_->contentsMargins();
+  return std::max(kLeastPreview.width(), buttons) + edges.left() + edges.right();
 }
 
 void PreviewPane::resizeEvent(QResizeEvent* event) {

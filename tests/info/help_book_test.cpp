@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
+#include <QTranslator>
 #include <algorithm>
 #include <map>
 #include <optional>
@@ -11,9 +13,11 @@
 #include <string>
 #include <vector>
 
+#include "desktop/translation.h"
 #include "numbers/text.h"
 #include "settings/dialog_rows.h"
 #include "settings/idle_settings.h"
+#include "widgets/dialog_parts.h"
 
 namespace starfolds {
 namespace {
@@ -86,8 +90,8 @@ struct Description {
 };
 
 std::multimap<std::string, Description> Descriptions(const HelpBook& book) {
-  static const QRegularExpression pattern(
-      R"(`(\w+)`\)?[ :|]+([\d.]+) to ([\d.]*\d)(?:(?:, default| *\|) *(\d+(?:\.\d+)?))?)");
+  static const QRegularExpression pattern(R"(`(\w+)`\)?[ :|]+([\d.]+) (?:to|bis) ([\d.]*\d))"
+                                          R"((?:(?:, default|, Vorgabe| *\|) *(\d+(?:\.\d+)?))?)");
   std::multimap<std::string, Description> found;
   for (int topic = 0; topic < book.Count(); ++topic) {
     auto places = pattern.globalMatch(book.Markdown(topic));
@@ -102,7 +106,19 @@ std::multimap<std::string, Description> Descriptions(const HelpBook& book) {
   return found;
 }
 
-class HelpOfSettingsTest : public testing::Test {
+/// Translates the help while it exists; "" is English.
+class Translation {
+ public:
+  explicit Translation(const char* file) {
+    EXPECT_TRUE(*file == '\0' || InstallTranslation(file)) << file;
+  }
+  ~Translation() {
+    for (QTranslator* each : qApp->findChildren<QTranslator*>()) delete each;
+  }
+};
+constexpr const char* kTranslations[] = {"", ":/translations/starfolds_de.qm"};
+
+class HelpOfSettingsTest : public testing::TestWithParam<const char*> {
  protected:
   /// Settings that dialogs edit are there to be found, and wherever a range is told it is the one
   /// of the dialog.
@@ -124,6 +140,7 @@ class HelpOfSettingsTest : public testing::Test {
     }
   }
 
+  const Translation Language{GetParam()};
   const HelpBook Book;
   const std::multimap<std::string, Description> Described = Descriptions(Book);
 
@@ -137,7 +154,7 @@ class HelpOfSettingsTest : public testing::Test {
   }
 };
 
-TEST_F(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
+TEST_P(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
   ExpectDescribed(UniverseFields());
   ExpectDescribed(ProfileFields());
   ExpectDescribed(CompositeFields());
@@ -149,11 +166,13 @@ TEST_F(HelpOfSettingsTest, NamesEachOneAndTellsTheRangeOfItsDialog) {
   ExpectDescribed(AtomPointFields());
 }
 
-TEST_F(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
+TEST_P(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
   const int first = *Book.TopicOfFile("style-standard.md");
   for (int style = 0; style < kStyleCount; ++style) {
     const std::string name(StyleNames()[style]);
-    EXPECT_EQ(Book.Title(first + style), QString::fromStdString(name).simplified());
+    const QString title = Book.Title(first + style);
+    EXPECT_TRUE(title == Translated(name).simplified() || title == Shown(name).simplified())
+        << title.toStdString() << " is not " << name;
     for (const Field<StarfoldProfile>& field : ProfileFields()) {
       if (field.Rule == RangeRule::None || field.Rule == RangeRule::Fixed) continue;
       const Limits limits = StyleLimits(field.Rule, static_cast<Integer>(style));
@@ -169,7 +188,7 @@ TEST_F(HelpOfSettingsTest, EachStyleTellsItsOwnRanges) {
 }
 
 /// The sentences of tool tips, and where F1 leads.
-TEST_F(HelpOfSettingsTest, EverySettingOfThePagesHasASentence) {
+TEST_P(HelpOfSettingsTest, EverySettingOfThePagesHasASentence) {
   for (const UniverseRow& row : UniverseRows()) {
     const auto text = Book.OfSetting(FieldOf(row.What).Name, kAnyStyle);
     ASSERT_TRUE(text) << FieldOf(row.What).Name;
@@ -189,9 +208,35 @@ TEST_F(HelpOfSettingsTest, EverySettingOfThePagesHasASentence) {
   }
   EXPECT_EQ(FileOf(Book.OfSetting("Starfold_QG_Force", 5)->Topic), "style-quasar.md");
   EXPECT_EQ(FileOf(Book.OfSetting("Starfold_Radius", 5)->Topic), "starfold-shape.md");
-  EXPECT_EQ(Book.OfSetting("Starfold_Rotation", 0)->Heading, "Radius, Rotation");
-  EXPECT_EQ(Book.OfSetting("Starfold_Radius", 0)->Sentence, "The radius is the size of the body.");
+  const bool german = *GetParam() != '\0';
+  EXPECT_EQ(Book.OfSetting("Starfold_Rotation", 0)->Heading,
+            german ? "Radius, Drehung" : "Radius, Rotation");
+  EXPECT_EQ(
+      Book.OfSetting("Starfold_Radius", 0)->Sentence,
+      german ? "Der Radius ist die Größe des Körpers." : "The radius is the size of the body.");
   EXPECT_FALSE(Book.OfSetting("Starfold_Nothing", 0));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, HelpOfSettingsTest, testing::ValuesIn(kTranslations));
+
+/// A translated page has the sections, settings, links, pictures and tables of the English one.
+TEST(HelpBookTest, TranslatedPagesAreInStepWithTheEnglishOnes) {
+  const HelpBook english;
+  const Translation language(kTranslations[1]);
+  const HelpBook german;
+  int translated = 0;
+  for (int topic = 0; topic < english.Count(); ++topic) {
+    translated += german.Markdown(topic) != english.Markdown(topic);
+    for (const char* pattern :
+         {R"((?m)^(#+ ))", R"(`(\w+_\w+)`)", R"(\]\(([^)]*)\))", R"((?m)^(\||- |\d+\. ))"}) {
+      std::vector<std::string> parts = AllOf(german, topic, pattern);
+      std::vector<std::string> wanted = AllOf(english, topic, pattern);
+      std::ranges::sort(parts);
+      std::ranges::sort(wanted);
+      EXPECT_EQ(parts, wanted) << FileOf(topic) << ": " << pattern;
+    }
+  }
+  EXPECT_GT(translated, 0);
 }
 
 TEST(HelpSearchTest, FindsAllWordsWhateverTheirCapitalsTitlesFirst) {
