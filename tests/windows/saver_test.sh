@@ -51,6 +51,18 @@ ask() {
 has() { ask "$1" | grep -qE "$2"; }
 lacks() { ! has "$1" "$2"; }
 
+# press KEY COMMAND...: until the command succeeds. A window can be in front before it takes keys.
+press() {
+  local key=$1 tries
+  shift
+  for tries in $(seq 1 300); do
+    ((tries % 50 != 1)) || xdotool key "$key"
+    sleep 0.1
+    "$@" && return
+  done
+  fault "$key: waited in vain for: $*"
+}
+
 two_monitors() {
   xrandr --setmonitor left 400/100x600/150+0+0 screen
   xrandr --setmonitor right 400/100x600/150+400+0 none
@@ -104,11 +116,10 @@ test_settings() {
   await '/c' has windows "owner=$window \[Starfold Properties\]"
   has windows 'disabled owner=0 \[Host\]' || fault "the host takes input below the dialog"
   await 'the welcome' has windows 'foreground .*\[Starfolds\]'
-  xdotool key Return
-  await 'the dialog without the welcome' has windows 'foreground .*\[Starfold Properties\]'
+  press Return has windows 'foreground .*\[Starfold Properties\]'
   timeout 60 wine "$saver" 2>/dev/null || fault "a second dialog: $?"
   [ "$(ask windows | grep -c 'Starfold Properties')" = 1 ] || fault "a second dialog has a window"
-  xdotool key alt+F4
+  press alt+F4 has_ended "$running"
   expect_end '/c'
   await 'the host after /c' has windows 'foreground owner=0 \[Host\]'
 }
@@ -158,11 +169,11 @@ test_names() {
   start wine "$saver" --window --full-screen "Z:$folder/Größe Ω.sfd"
   await 'a template' has windows ' 0,0 400x600 foreground'
   wait_for_stars "$left"
-  xdotool key Escape
+  press Escape has_ended "$running"
   expect_end 'a template'
   start wine "$saver" --window "Z:$folder/None.sfd"
   await 'a message about the name' has windows 'foreground .*\[Starfolds\]'
-  xdotool key Return
+  press Return has_ended "$running"
   expect_end 'a template that does not exist' 2
 }
 
