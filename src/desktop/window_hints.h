@@ -18,8 +18,8 @@ void MarkUnlisted(QWindow& window);
 /// bars or window switchers. The native window must exist and not be shown yet.
 void MarkAsBackground(QWindow& window);
 
-/// Keeps `window` above `owner`, which may be a window of another program; null: no owner. The native
-/// window must exist and not be shown yet.
+/// Keeps `window` above `owner`, which may be a window of another program; null: no owner. The
+/// native window must exist and not be shown yet.
 void SetOwner(QWindow& window, QWindow* owner);
 
 }  // namespace starfolds
