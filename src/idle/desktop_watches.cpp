@@ -193,6 +193,10 @@ InhibitService::InhibitService(const QDBusConnection& sessionBus, Hindrances& hi
   if (!bus_.isConnected()) return;
   bus_.registerObject("/org/freedesktop/ScreenSaver", this, contents);
   bus_.registerObject("/ScreenSaver", this, contents);
+}
+
+void InhibitService::Offer() {
+  if (!bus_.isConnected()) return;
   bus_.interface()->registerService("org.freedesktop.ScreenSaver",
                                     QDBusConnectionInterface::DontQueueService,
                                     QDBusConnectionInterface::AllowReplacement);

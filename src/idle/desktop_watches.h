@@ -107,6 +107,9 @@ class InhibitService : public QObject, protected QDBusContext {
  public:
   InhibitService(const QDBusConnection& sessionBus, Hindrances& hindrances);
 
+  /// Takes the service's name, if nobody has it.
+  void Offer();
+
   void SetShowing(bool showing);
 
  public slots:

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/signals.h"
+#include "desktop/translation.h"
 #include "idle/idle_config.h"
 #include "idle/options.h"
 #include "idle/service.h"
@@ -22,6 +23,9 @@ using namespace starfolds;
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
 constexpr IdleTime kTestTime{5'000};
+/// In milliseconds. Programs of the desktop that start at the same login come first: some end if
+/// their name on the bus is taken.
+constexpr int kLogin = 60'000;
 constexpr int kLongestAnswer = 1500;  // of the buses, for --status, in milliseconds
 
 int Fail(const std::string& message, int exitCode) {
@@ -29,7 +33,10 @@ int Fail(const std::string& message, int exitCode) {
   return exitCode;
 }
 
-QString Text(const char* text) { return QCoreApplication::translate("starfolds-idle", text); }
+/// The context of the texts below.
+class IdleProgram {
+  Q_DECLARE_TR_FUNCTIONS(IdleProgram)
+};
 
 void PrintLine(const QString& line) { Print(Harmless(line.toStdString()) + "\n"); }
 
@@ -51,10 +58,12 @@ QString LockPath() {
   return folder + "/starfolds-idle-" + display.replace('/', '_') + ".lock";
 }
 
-std::string NoSource(const IdleSurroundings& around) {
-  return around.HasDisplay()
-             ? "this desktop does not tell programs when there is no input"
-             : "there is no desktop to watch (neither DISPLAY nor WAYLAND_DISPLAY reaches one)";
+QString NoSource(const IdleSurroundings& around) {
+  if (around.HasDisplay()) {
+    return IdleProgram::tr("this desktop does not tell programs when there is no input");
+  }
+  return IdleProgram::tr(
+      "there is no desktop to watch (neither DISPLAY nor WAYLAND_DISPLAY reaches one)");
 }
 
 IdlePlan PlanOf(const IdleConfig& config) {
@@ -71,8 +80,9 @@ int Serve(const IdleOptions& options, SqliteTree& tree) {
   if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError) return 0;
 
   IdleSurroundings around(QCoreApplication::quit, config->Idle.Idle_Battery);
-  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
+  if (!around.Source()) return Fail(NoSource(around).toStdString(), kExitCannotDo);
   InhibitService inhibitions(around.SessionBus(), around.Against());
+  QTimer::singleShot(kLogin, &inhibitions, &InhibitService::Offer);
   IdleService service(*around.Source(), around.Against(), SaverProgram(options), PlanOf(*config),
                       PrintLine, QCoreApplication::quit);
   service.ShowingChanged = [&](bool showing) { inhibitions.SetShowing(showing); };
@@ -81,42 +91,41 @@ int Serve(const IdleOptions& options, SqliteTree& tree) {
     around.Battery().SetLimit(now.Idle.Idle_Battery);
     service.Change(PlanOf(now));
   });
-  PrintLine(Text("Watching: %1").arg(around.Source()->Name()));
+  PrintLine(IdleProgram::tr("Watching: %1").arg(around.Source()->Name()));
   return QCoreApplication::exec();
 }
 
 int Test(const IdleOptions& options, SqliteTree& tree) {
   const IdleConfig config = ReadIdleConfig(tree).value_or(IdleConfig());
   IdleSurroundings around(QCoreApplication::quit, config.Idle.Idle_Battery);
-  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
+  if (!around.Source()) return Fail(NoSource(around).toStdString(), kExitCannotDo);
   IdleService service(*around.Source(), around.Against(), SaverProgram(options),
                       {kTestTime, config.EndsOnInput, true}, PrintLine, QCoreApplication::quit);
-  PrintLine(Text("Waiting for five seconds without input."));
+  PrintLine(IdleProgram::tr("Waiting for five seconds without input."));
   return QCoreApplication::exec();
 }
 
 QString ServiceState() {
   QLockFile lock(LockPath());
   lock.setStaleLockTime(0);
-  if (lock.tryLock()) return Text("not running");
+  if (lock.tryLock()) return IdleProgram::tr("not running");
   qint64 process = 0;
   QString host, program;
   lock.getLockInfo(&process, &host, &program);
-  return Text("running, process %1").arg(process);
+  return IdleProgram::tr("running, process %1").arg(process);
 }
 
 void PrintStatus(IdleSurroundings& around, const std::optional<IdleConfig>& config) {
   around.Against().Refresh();
   const IdleSource* const source = around.Source();
-  PrintLine(
-      Text("Idleness: %1").arg(source ? source->Name() : QString::fromStdString(NoSource(around))));
+  PrintLine(IdleProgram::tr("Idleness: %1").arg(source ? source->Name() : NoSource(around)));
   const QStringList against = around.Against().Reasons();
-  PrintLine(Text("Against a screen saver now: %1")
-                .arg(against.isEmpty() ? Text("nothing") : against.join(' ')));
-  PrintLine(Text("Service: %1").arg(ServiceState()));
-  if (!config) return PrintLine(Text("Settings: they cannot be read"));
-  PrintLine(Text("Settings: %1, after %2 min, on battery from %3 %")
-                .arg(config->Idle.Idle_On ? Text("on") : Text("off"))
+  PrintLine(IdleProgram::tr("Against a screen saver now: %1")
+                .arg(against.isEmpty() ? IdleProgram::tr("nothing") : against.join(' ')));
+  PrintLine(IdleProgram::tr("Service: %1").arg(ServiceState()));
+  if (!config) return PrintLine(IdleProgram::tr("Settings: they cannot be read"));
+  PrintLine(IdleProgram::tr("Settings: %1, after %2 min, on battery from %3 %")
+                .arg(config->Idle.Idle_On ? IdleProgram::tr("on") : IdleProgram::tr("off"))
                 .arg(config->Idle.Idle_Minutes)
                 .arg(config->Idle.Idle_Battery));
 }
@@ -145,6 +154,7 @@ int main(int argc, char** argv) {
   }
   StopSignals stopSignals;
   const QCoreApplication application(argc, argv);
+  InstallTranslations();
   stopSignals.Watch(QCoreApplication::quit);
   SqliteTree tree(OwnTreeFiles(),
                   [](const std::string& line) { Complain("starfolds-idle", line); });

@@ -163,6 +163,7 @@ TEST_F(BusTest, InhibitorsLocksAndHostsOfTheDesktop) {
 
 TEST_F(BusTest, PlayersInhibitUntilTheyEnd) {
   InhibitService service(Bus, Against);
+  service.Offer();
   std::optional<QDBusConnection> player = QDBusConnection::connectToBus(Address, "player");
   const auto call = [&](const char* method, const QVariantList& arguments) {
     QDBusMessage message = QDBusMessage::createMethodCall("org.freedesktop.ScreenSaver",
