@@ -8,6 +8,62 @@
         <translation>Der Rechner läuft im Akkubetrieb, bei %1 %.</translation>
     </message>
     <message>
+        <source>this desktop does not tell programs when there is no input</source>
+        <translation>dieser Desktop teilt Programmen nicht mit, wann keine Eingabe kommt</translation>
+    </message>
+    <message>
+        <source>there is no desktop to watch (neither DISPLAY nor WAYLAND_DISPLAY reaches one)</source>
+        <translation>es gibt keinen Desktop, der beobachtet werden kann (weder DISPLAY noch WAYLAND_DISPLAY führt zu einem)</translation>
+    </message>
+    <message>
+        <source>Watching: %1</source>
+        <translation>Beobachtet: %1</translation>
+    </message>
+    <message>
+        <source>Waiting for five seconds without input.</source>
+        <translation>Wartet auf fünf Sekunden ohne Eingabe.</translation>
+    </message>
+    <message>
+        <source>not running</source>
+        <translation>läuft nicht</translation>
+    </message>
+    <message>
+        <source>running, process %1</source>
+        <translation>läuft, Prozess %1</translation>
+    </message>
+    <message>
+        <source>Idleness: %1</source>
+        <translation>Untätigkeit: %1</translation>
+    </message>
+    <message>
+        <source>Against a screen saver now: %1</source>
+        <translation>Gegen einen Bildschirmschoner spricht jetzt: %1</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>Service: %1</source>
+        <translation>Dienst: %1</translation>
+    </message>
+    <message>
+        <source>Settings: they cannot be read</source>
+        <translation>Einstellungen: Sie können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Settings: %1, after %2 min, on battery from %3 %</source>
+        <translation>Einstellungen: %1, nach %2 min, im Akkubetrieb ab %3 %</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
         <source>Not started: %1</source>
         <translation>Nicht gestartet: %1</translation>
     </message>
@@ -2278,14 +2334,6 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
     <message>
         <source>The computer goes to sleep.</source>
         <translation>Der Rechner geht in den Ruhezustand.</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>ein</translation>
     </message>
     <message>
         <source>Range: %1. Default: %2.</source>

@@ -143,16 +143,8 @@ void Run(ProcessState& process, const StartOptions& options, AppWindows& windows
   }
 }
 
-int RunOnDesktop(char* program, const StartOptions& options) {
-  if (!NamesDesktop()) {
-    return Fail("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
-                kExitCannotDo);
-  }
-  StopSignals stopSignals;
-  // On some desktops the desktop's style more than doubles the memory and time of a start, and a
-  // window full of stars does not show it.
-  QGuiApplication::setDesktopSettingsAware(ShowsDialogs(options));
-  const Toolkit toolkit(program);
+/// Runs until the windows have closed. The application object exists.
+int RunWindows(StopSignals& stopSignals, const StartOptions& options) {
   QtPump pump;
   const std::unique_ptr<DesktopServices> desktop = MakeDesktopServices();
 
@@ -180,6 +172,21 @@ int RunOnDesktop(char* program, const StartOptions& options) {
   }
   Run(*process, options, windows);
   return windows.ExitCode();
+}
+
+int RunOnDesktop(char* program, const StartOptions& options) {
+  if (!NamesDesktop()) {
+    return Fail("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
+                kExitCannotDo);
+  }
+  StopSignals stopSignals;
+  // On some desktops the desktop's style more than doubles the memory and time of a start, and a
+  // window full of stars does not show it.
+  QGuiApplication::setDesktopSettingsAware(ShowsDialogs(options));
+  const Toolkit toolkit(program);
+  const int exitCode = RunWindows(stopSignals, options);
+  toolkit.EndWhereQtMayHang(exitCode);
+  return exitCode;
 }
 
 }  // namespace

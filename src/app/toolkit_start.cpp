@@ -2,6 +2,7 @@
 
 #include <QPalette>
 #include <QStyle>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -91,6 +92,12 @@ Toolkit::Toolkit(char* program) : arguments_{program, nullptr} {
   ShowSelectedRowsReadably();
   QApplication::setWindowIcon(ProgramIcon());
   ReplayMessages();
+}
+
+void Toolkit::EndWhereQtMayHang(int exitCode) const {
+  if (!QGuiApplication::platformName().startsWith("wayland")) return;
+  std::fflush(nullptr);
+  std::_Exit(exitCode);
 }
 
 }  // namespace starfolds

@@ -20,6 +20,11 @@ class Toolkit {
  public:
   explicit Toolkit(char* program);
 
+  /// Ends the process on Wayland, and returns elsewhere. Everything of ours but this object must
+  /// have been destroyed. Qt 6.4 has a thread that reads what the compositor sends; at the end of
+  /// the application it and the main thread sometimes wait for each other for ever.
+  void EndWhereQtMayHang(int exitCode) const;
+
  private:
   /// Only the program's name: Qt would take some of the system's switches for its own options.
   int argumentCount_ = 1;

@@ -45,8 +45,8 @@ class FileWriter {
 
   Fault Write(std::string_view bytes);
 
-  /// A path under which another program can write the file instead, until `Commit`. Only after `Open`
-  /// with `Targets::Files`.
+  /// A path under which another program can write the file instead, until `Commit`. Only after
+  /// `Open` with `Targets::Files`.
   std::string PathForOthers() const { return temporary_.PathForOthers(); }
 
   /// Completes the file. Nothing may be written afterwards.
