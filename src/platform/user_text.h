@@ -14,13 +14,13 @@
 namespace starfolds {
 
 /// A marked text, in which %1 to %9 stand for values, and these values, which are shown as they
-/// are. A text that is not marked is shown as it is.
+/// are. Other texts are shown as they are: texts convert. NOLINTBEGIN(google-explicit-constructor)
 struct UserText {
   UserText(std::string text, std::vector<std::string> values = {}, std::string reason = {})
       : Text(std::move(text)), Values(std::move(values)), Reason(std::move(reason)) {}
   UserText(std::string_view text) : Text(text) {}
   UserText(const char* text) : Text(text) {}
-
+  // NOLINTEND(google-explicit-constructor)
   std::string Text;
   std::vector<std::string> Values;
   std::string Reason;  // a marked text, or one of the system; shown as a paragraph at the end
