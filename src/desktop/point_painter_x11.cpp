@@ -34,7 +34,8 @@ class X11PointPainter : public PointPainter {
                PointDrawing& drawing) override {
     const double picture = kPictureCost * static_cast<double>(area);
     const auto points = static_cast<std::int64_t>(changes.size()) * kPointCost;
-    if (static_cast<double>(points) > picture || !sorted_.Sort(changes)) return false;
+    if (static_cast<double>(points) > picture) return false;
+    sorted_.Sort(changes);
     const auto colours = static_cast<std::int64_t>(sorted_.Groups().size()) * kColourCost;
     if (static_cast<double>(points + colours) > picture) return false;
     drawing.Bytes.clear();

@@ -303,9 +303,6 @@ void WindowSurface::ShowFrame(KeptFrame& frame) {
   if (frame.AsPoints || (mustBePoints && PrepareAsPoints(frame, kAnyArea))) {
     points_->Draw(frame.Points);
     tilesBehind_.TakeFrom(frame.Tiles);
-  } else if (mustBePoints) {
-    kept_.Clear();
-    ShowAll();
   } else {
     ShowTiles(frame);
   }
