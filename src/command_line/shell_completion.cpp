@@ -89,8 +89,8 @@ std::string BashCases(const std::vector<Option>& options, const std::string& fun
     if (values.empty()) {
       others.push_back(names);
     } else {
-      cases += "        " + names + ")\n            " + values +
-               "\n            return\n            ;;\n";
+      cases.append("        ").append(names).append(")\n            ").append(values);
+      cases += "\n            return\n            ;;\n";
     }
   }
   if (others.empty()) return cases;
