@@ -28,11 +28,9 @@ class BusProperties : public QObject {
   BusProperties(const QDBusConnection& bus, BusPlace place,
                 std::function<void(const QVariantMap& all)> changed, bool start = false);
 
- private slots:
-  void TakeChanges(const QString& interface, const QVariantMap& changed,
-                   const QStringList& invalidated);
-
  private:
+  Q_SLOT void TakeChanges(const QString& interface, const QVariantMap& changed,
+                          const QStringList& invalidated);
   void Read(bool start);
   void TakeAll(QDBusPendingCallWatcher* call);
 

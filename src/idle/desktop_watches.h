@@ -24,11 +24,9 @@ class SessionWatch : public QObject {
  public:
   SessionWatch(const QDBusConnection& systemBus, Hindrances& hindrances);
 
- private slots:
-  void PrepareForSleep(bool begins);
-  void Lock();
-
  private:
+  Q_SLOT void PrepareForSleep(bool begins);
+  Q_SLOT void Lock();
   void WatchSession(const QString& path);
 
   QDBusConnection bus_;
@@ -65,10 +63,8 @@ class LockWatch : public QObject {
  public:
   LockWatch(const QDBusConnection& sessionBus, BusPlace lock, Hindrances& hindrances);
 
- private slots:
-  void ActiveChanged(bool active);
-
  private:
+  Q_SLOT void ActiveChanged(bool active);
   void Ask();
 
   QDBusConnection bus_;
@@ -85,10 +81,8 @@ class DesktopWatch : public QObject {
  public:
   DesktopWatch(const QDBusConnection& sessionBus, Hindrances& hindrances);
 
- private slots:
-  void HasInhibitChanged(bool has);
-
  private:
+  Q_SLOT void HasInhibitChanged(bool has);
   void WatchHost(const QString& service, const QString& reason);
 
   QDBusConnection bus_;
@@ -112,10 +106,9 @@ class InhibitService : public QObject, protected QDBusContext {
 
   void SetShowing(bool showing);
 
- public slots:
-  Q_SCRIPTABLE uint Inhibit(const QString& application, const QString& reason);
-  Q_SCRIPTABLE void UnInhibit(uint cookie);
-  Q_SCRIPTABLE bool GetActive() const { return showing_; }
+  Q_SLOT Q_SCRIPTABLE uint Inhibit(const QString& application, const QString& reason);
+  Q_SLOT Q_SCRIPTABLE void UnInhibit(uint cookie);
+  Q_SLOT Q_SCRIPTABLE bool GetActive() const { return showing_; }
 
  signals:
   Q_SCRIPTABLE void ActiveChanged(bool active);

@@ -21,10 +21,8 @@ class MutterSource : public QObject, public IdleSource {
   QString Name() const override { return "org.gnome.Mutter.IdleMonitor (D-Bus)"; }
   void Watch(IdleTime time) override;
 
- private slots:
-  void WatchFired(uint watch);
-
  private:
+  Q_SLOT void WatchFired(uint watch);
   void WatchForInput();
 
   QDBusConnection bus_;
