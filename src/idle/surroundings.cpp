@@ -3,7 +3,7 @@
 namespace starfolds {
 
 /// In a Wayland session the X server, if there is one, sees only the input of its own windows.
-IdleSurroundings::IdleSurroundings(std::function<void()> lost, Integer batteryLimit)
+IdleSurroundings::IdleSurroundings(const std::function<void()>& lost, Integer batteryLimit)
     : sessionBus_(QDBusConnection::sessionBus()),
       systemBus_(QDBusConnection::systemBus()),
       wayland_(WaylandLink::Connect(hindrances_, lost)),

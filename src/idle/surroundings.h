@@ -17,7 +17,7 @@ namespace starfolds {
 class IdleSurroundings {
  public:
   /// `lost` is called when the window system has ended. `batteryLimit` as in `BatteryWatch`.
-  IdleSurroundings(std::function<void()> lost, Integer batteryLimit);
+  IdleSurroundings(const std::function<void()>& lost, Integer batteryLimit);
 
   /// The source of idleness; nullptr if this desktop has none.
   IdleSource* Source() const { return source_.get(); }

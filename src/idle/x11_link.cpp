@@ -96,6 +96,7 @@ class X11Link::Connection {
     if (!tree) return false;
     const xcb_window_t* const children = xcb_query_tree_children(tree.get());
     std::vector<xcb_get_property_cookie_t> questions;
+    questions.reserve(static_cast<std::size_t>(xcb_query_tree_children_length(tree.get())));
     for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
       questions.push_back(
           xcb_get_property(Server(), 0, children[i], mark->atom, XCB_ATOM_ANY, 0, 0));
