@@ -15,6 +15,19 @@ wait_for_window() {
   fault "there is no window '$1'"
 }
 
+# activate WINDOW: makes it the one that gets the keys. A new window is in the search before the
+# window manager gives it the focus, and a key sent in between reaches no window.
+activate() {
+  local tries
+  for tries in $(seq 1 300); do
+    xdotool windowactivate "$1" 2>/dev/null
+    [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ] &&
+      [ "$(xdotool getwindowfocus -f 2>/dev/null)" = "$1" ] && return
+    sleep 0.1
+  done
+  fault "window $1 does not get the keys"
+}
+
 # expect_title WINDOW TITLE WHAT
 expect_title() {
   for _ in $(seq 1 300); do
@@ -27,10 +40,12 @@ expect_title() {
 # The welcome waits for its answer, and the help can be used meanwhile.
 start "$program" --settings
 welcome=$(wait_for_window '^Starfolds$')
-xdotool windowfocus --sync "$welcome" key F1
+activate "$welcome"
+xdotool key F1
 help=$(wait_for_window '^Starfolds Help')
 expect_title "$help" 'Starfolds Help - Getting started' 'F1 on the welcome'
-xdotool windowfocus --sync "$help" key ctrl+f
+activate "$help"
+xdotool key ctrl+f
 xdotool type 'water molecule'
 xdotool key Return
 expect_title "$help" 'Starfolds Help - The molecule editor' 'search beside the welcome'
@@ -41,22 +56,28 @@ xdotool key alt+Left
 expect_title "$help" 'Starfolds Help - The molecule editor' 'back'
 
 # The properties behind it go on, and take the help with them.
-xdotool windowfocus --sync "$welcome" key Return
+activate "$welcome"
+xdotool key Return
 properties=$(wait_for_window '^Starfold Properties$')
-xdotool windowfocus --sync "$properties" key F1
+activate "$properties"
+xdotool key F1
 expect_title "$help" 'Starfolds Help - The universe view' 'F1 on the list of types'
 xdotool windowsize --sync "$help" 760 540
-xdotool windowfocus --sync "$properties" key alt+f key x
+activate "$properties"
+xdotool key alt+f key x
 expect_end 'closing the properties with the help open'
 
 # It comes back where it was.
 start "$program" --settings
 properties=$(wait_for_window '^Starfold Properties$')
-xdotool windowfocus --sync "$properties" key alt+h key c
+activate "$properties"
+xdotool key alt+h key c
 help=$(wait_for_window '^Starfolds Help')
 size=$(xdotool getwindowgeometry --shell "$help" | grep -E 'WIDTH|HEIGHT' | tr '\n' ' ')
 [ "$size" = 'WIDTH=760 HEIGHT=540 ' ] || fault "the help comes back with $size"
-xdotool windowfocus --sync "$help" key Escape
-xdotool windowfocus --sync "$properties" key alt+f key x
+activate "$help"
+xdotool key Escape
+activate "$properties"
+xdotool key alt+f key x
 expect_end 'closing the properties after the help'
 exit "$faults"
