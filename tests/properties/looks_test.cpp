@@ -66,16 +66,19 @@ TEST_F(LooksTest, ManyValuesAreReadInOneTransaction) {
     ReadUniverseSettings(*Process, false);
   };
   EXPECT_LE(Looks(startRun), 4) << "the marks, the advanced values, and all of the run";
-  EXPECT_LE(Looks([&] { Open(); }), 2) << "the settings, and the place of the window";
+  // The preview starts by a timer, and on a busy machine within any of these.
+  constexpr int preview = 1;
+  EXPECT_LE(Looks([&] { Open(); }), 2 + preview) << "the settings, and the place of the window";
   EXPECT_EQ(Edit("txtUni_0").text(), "5000");
-  EXPECT_LE(Looks([&] { FrmAdvanced(Counted, HelpBook).ShowInPlace(); }), 2);
+  EXPECT_LE(Looks([&] { FrmAdvanced(Counted, HelpBook).ShowInPlace(); }), 2 + preview);
   const auto chooseFile = [&] {
     WhenShown<FrmFileIo>([](FrmFileIo& dialog) { dialog.reject(); });
     Choose("mnuOpen");
   };
-  EXPECT_LE(Looks(chooseFile), 4)
-      << "the folder, the place of the window, which is stored, and once the preview's camera";
-  EXPECT_LE(Looks([&] { Click("cmdAccept"); }), 4) << "a test, all, and the place of the window";
+  EXPECT_LE(Looks(chooseFile), 3 + preview)
+      << "the folder, and the place of the window, which is stored";
+  EXPECT_LE(Looks([&] { Click("cmdAccept"); }), 3 + preview)
+      << "a test, all, and the place of the window";
   EXPECT_FALSE(Dialog->IsOpen());
 }
 
