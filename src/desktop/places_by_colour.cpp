@@ -1,6 +1,11 @@
 #include "desktop/places_by_colour.h"
 
 namespace starfolds {
+namespace {
+
+constexpr Colour kBlack = 0;
+
+}  // namespace
 
 void PlacesByColour::Sort(std::span<const PixelChange> changes) {
   Count(changes);
@@ -18,12 +23,14 @@ void PlacesByColour::Sort(std::span<const PixelChange> changes) {
   }
 }
 
+/// Half of the pixels are erased, so black has the first group without a search.
 void PlacesByColour::Count(std::span<const PixelChange> changes) {
-  groups_.clear();
+  groups_.assign(1, {kBlack, 0, 0});
   usedSlots_.clear();
   groupOfPlace_.resize(changes.size());
   for (std::size_t i = 0; i < changes.size(); ++i) {
-    const std::size_t group = GroupOf(changes[i].Ink);
+    const Colour ink = changes[i].Ink;
+    const std::size_t group = ink == kBlack ? 0 : GroupOf(ink);
     ++groups_[group].Count;
     groupOfPlace_[i] = static_cast<std::uint32_t>(group);
   }
@@ -36,7 +43,7 @@ std::size_t PlacesByColour::GroupOf(Colour ink) {
   groups_.push_back({ink, 0, 0});
   if (usedSlots_.size() < kMostColours) {
     usedSlots_.push_back(slot);
-    groupOfSlot_[slot] = static_cast<std::uint32_t>(groups_.size());
+    groupOfSlot_[slot] = static_cast<std::uint16_t>(groups_.size());
   }
   return groups_.size() - 1;
 }

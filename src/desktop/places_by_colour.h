@@ -34,13 +34,13 @@ class PlacesByColour {
   static constexpr int kSlotBits = 14;
   static constexpr std::size_t kSlots = std::size_t{1} << kSlotBits;
   static_assert(kSlots == 4 * kMostColours);
-  static constexpr std::uint32_t kFree = 0;
+  static constexpr std::uint16_t kFree = 0;
 
   void Count(std::span<const PixelChange> changes);
   std::size_t GroupOf(Colour ink);
   std::size_t SlotOf(Colour ink) const;
 
-  std::array<std::uint32_t, kSlots> groupOfSlot_{};  // group number from 1; 0: empty
+  std::array<std::uint16_t, kSlots> groupOfSlot_{};  // group number from 1; 0: empty
   std::vector<std::size_t> usedSlots_;
   std::vector<Group> groups_;
   std::vector<std::uint32_t> groupOfPlace_;
