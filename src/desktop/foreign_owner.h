@@ -15,7 +15,7 @@ class ForeignOwner {
  public:
   /// `gone` is called from inside the pump when the window has been destroyed, and with it, by the
   /// system, the dialog's window.
-  ForeignOwner(Long handle, std::function<void()> gone);
+  ForeignOwner(Long handle, const std::function<void()>& gone);
   /// The window takes input again, and has the focus.
   ~ForeignOwner();
   ForeignOwner(const ForeignOwner&) = delete;

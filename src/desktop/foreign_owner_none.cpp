@@ -2,7 +2,7 @@
 
 namespace starfolds {
 
-ForeignOwner::ForeignOwner(Long, std::function<void()>) {}
+ForeignOwner::ForeignOwner(Long, const std::function<void()>&) {}
 ForeignOwner::~ForeignOwner() = default;
 
 }  // namespace starfolds

@@ -1,7 +1,6 @@
 #include "desktop/foreign_owner.h"
 
 #include <chrono>
-#include <utility>
 
 #include "desktop/windows_api.h"
 
@@ -13,14 +12,14 @@ constexpr std::chrono::milliseconds kCheckInterval{200};
 }  // namespace
 
 /// Some hosts name a control inside their window.
-ForeignOwner::ForeignOwner(Long handle, std::function<void()> gone) {
+ForeignOwner::ForeignOwner(Long handle, const std::function<void()>& gone) {
   const HWND named = WindowOfNumber(handle);
   if (!OnWindowsDesktop() || !IsWindow(named)) return;
   const HWND window = GetAncestor(named, GA_ROOT);
   window_.reset(QWindow::fromWinId(reinterpret_cast<WId>(window)));
   if (!window_) return;
   EnableWindow(window, FALSE);
-  check_.callOnTimeout([this, window, gone = std::move(gone)] {
+  check_.callOnTimeout([this, window, gone] {
     if (IsWindow(window)) return;
     check_.stop();
     gone();

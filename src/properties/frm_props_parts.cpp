@@ -176,8 +176,8 @@ QWidget* FrmProps::MakeBodySteps() {
   bodySteps_ = new QWidget;
   auto* line = new QHBoxLayout(bodySteps_);
   line->setContentsMargins(0, 0, 0, 0);
-  const auto add = [&](const char* name, const QString& text, const QString& tip, QKeySequence key,
-                       int by) {
+  const auto add = [&](const char* name, const QString& text, const QString& tip,
+                       const QKeySequence& key, int by) {
     auto* step = new QToolButton;
     step->setObjectName(name);
     step->setText(text);
