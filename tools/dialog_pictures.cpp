@@ -244,7 +244,7 @@ int main(int argc, char** argv) {
   TakeAdvanced(tree, help, prefix);
   TakeIdle(tree, help, prefix);
   TakeFileIo(tree, help, boxes, prefix);
-  FrmSystemDiag diagnostics({tree, desktop, boxes, help, {"0.1.0", "settings.db"}});
+  FrmSystemDiag diagnostics({tree, desktop, boxes, help, {"0.1.0", "settings.db"}, {}});
   diagnostics.ShowInPlace();
   Take(diagnostics, prefix + "diagnostics.png");
   TakeAbout(process, help, prefix);

@@ -22,6 +22,7 @@
 #include "settings/product.h"
 #include "settings/templates.h"
 #include "storage/disk_files.h"
+#include "storage/processor_time.h"
 #include "storage/storage_places.h"
 #include "template_dialogs/frm_file_io.h"
 #include "widgets/qt_message_boxes.h"
@@ -92,9 +93,13 @@ void AppWindows::ShowFrmProps() {
 void AppWindows::RunFrmProps(QWindow* owner) {
   DiskFiles disk;
   const auto showDiagnostics = [&](QWidget& over) {
-    FrmSystemDiag(
-        {edited_, *process_.Desktop, boxes_, help_, {STARFOLDS_VERSION, OwnTreeFiles().User}},
-        &over)
+    FrmSystemDiag({edited_,
+                   *process_.Desktop,
+                   boxes_,
+                   help_,
+                   {STARFOLDS_VERSION, OwnTreeFiles().User},
+                   ProcessorTime},
+                  &over)
         .RunModal();
   };
   const auto showAbout = [&](QWidget& over) {

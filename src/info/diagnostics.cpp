@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <ctime>
 #include <memory>
 #include <numbers>
 
@@ -84,7 +83,8 @@ std::uint64_t ColoursOf(int depth) {
   return depth > 0 && depth <= mostBits ? std::uint64_t{1} << depth : 0;
 }
 
-FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width, int height,
+FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop,
+                        const ProcessorClock& processorTime, int width, int height,
                         double seconds) {
   MemorySurface surface(RoundedToLimits<Integer>(width), RoundedToLimits<Integer>(height));
   const auto process = std::make_unique<ProcessState>();
@@ -98,11 +98,11 @@ FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width,
   ReadUniverseSettings(*process, false);
 
   events.Start();
-  const std::clock_t processorBegin = std::clock();
+  const auto processorBegin = processorTime();
   UniverseRun(*process);
   FrameCost cost;
   cost.Seconds = events.Seconds();
-  cost.ProcessorSeconds = static_cast<double>(std::clock() - processorBegin) / CLOCKS_PER_SEC;
+  cost.ProcessorSeconds = std::chrono::duration<double>(processorTime() - processorBegin).count();
   cost.Frames = events.Frames();
   cost.Stars = process->Universe.Universe_Stars;
   cost.Width = surface.Width();

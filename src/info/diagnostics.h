@@ -1,7 +1,9 @@
 // The measurements of the diagnostics dialog, without widgets.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "platform/desktop_services.h"
@@ -38,9 +40,12 @@ struct FrameCost {
   int Height = 0;
 };
 
+/// The processor time that this process has used since some moment.
+using ProcessorClock = std::function<std::chrono::nanoseconds()>;
+
 /// Runs the universe that is stored in `tree` on a surface in memory, without delays, for the given
 /// time. No events are processed meanwhile.
-FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop, int width, int height,
-                        double seconds);
+FrameCost MeasureFrames(KeyValueTree& tree, DesktopServices& desktop,
+                        const ProcessorClock& processorTime, int width, int height, double seconds);
 
 }  // namespace starfolds

@@ -111,8 +111,8 @@ void FrmSystemDiag::ShowSystemInfo() {
 void FrmSystemDiag::CopyReport() {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   const QSize size = screen()->size();
-  const FrameCost cost =
-      MeasureFrames(around_.Tree, around_.Desktop, size.width(), size.height(), kMeasuredSeconds);
+  const FrameCost cost = MeasureFrames(around_.Tree, around_.Desktop, around_.ProcessorTime,
+                                       size.width(), size.height(), kMeasuredSeconds);
   QGuiApplication::restoreOverrideCursor();
   QGuiApplication::clipboard()->setText(
       Shown(DiagnosticsReport(around_.Facts, TestRegistryAccess(around_.Tree), cost)));

@@ -18,6 +18,7 @@ struct DiagSurroundings {
   MessageBoxes& Boxes;
   Help& HelpBook;
   ProgramFacts Facts;
+  ProcessorClock ProcessorTime;
 };
 
 class FrmSystemDiag : public PlacedDialog {

@@ -5,8 +5,10 @@
 #include <QDir>
 #include <QImage>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QWindow>
+#include <chrono>
 
 #include "info/diagnostics.h"
 #include "settings/registry.h"
@@ -19,8 +21,9 @@ class FrmSystemDiagTest : public testing::Test {
  protected:
   FrmSystemDiag& Open() {
     const ProgramFacts facts{"1.2.3", QDir::homePath().toStdString() + "/.config/settings.db"};
-    Dialog =
-        std::make_unique<FrmSystemDiag>(DiagSurroundings{Tree, Desktop, Boxes, HelpBook, facts});
+    const auto processorTime = [this] { return UsedTime += std::chrono::seconds(100); };
+    Dialog = std::make_unique<FrmSystemDiag>(
+        DiagSurroundings{Tree, Desktop, Boxes, HelpBook, facts, processorTime});
     Dialog->ShowInPlace();
     return *Dialog;
   }
@@ -28,6 +31,7 @@ class FrmSystemDiagTest : public testing::Test {
   QLineEdit& Field(int index) {
     return Part<QLineEdit>(*Dialog, ("txtDiagnostics_" + std::to_string(index)).c_str());
   }
+  std::chrono::nanoseconds UsedTime{};
   MemoryTree Tree;
   MemoryDesktop Desktop;
   ScriptedMessageBoxes Boxes;
@@ -72,6 +76,10 @@ TEST_F(FrmSystemDiagTest, TheReportNamesEverythingButTheUser) {
     EXPECT_TRUE(report.contains(part)) << part.toStdString() << "\n" << report.toStdString();
   }
   EXPECT_FALSE(report.contains(QDir::homePath() + "/"));
+  const auto cost =
+      QRegularExpression("Frame: ([0-9.]+) ms of processor time, (\\d+) frames").match(report);
+  const int frames = cost.captured(2).toInt();
+  EXPECT_NEAR(cost.captured(1).toDouble() * frames, 100000, 0.001 * frames) << "not the given time";
   EXPECT_FALSE(Part<QLabel>(*Dialog, "lblCopied").text().isEmpty());
 }
 

@@ -183,7 +183,7 @@ TEST_P(LanguagesTest, TheOtherDialogsFit) {
   });
   Choose("mnuOpen");
   FrmAdvanced advanced(Tree, HelpBook);
-  FrmSystemDiag diagnostics({Tree, Desktop, Boxes, HelpBook, {"1", "settings.db"}});
+  FrmSystemDiag diagnostics({Tree, Desktop, Boxes, HelpBook, {"1", "settings.db"}, {}});
   FrmWelcome welcome(MakeWelcomePage(true), {}, HelpBook);
   HelpViewer help(Tree, {});
   for (QWidget* window :
