@@ -1,5 +1,7 @@
 #include "desktop/alarm.h"
 
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
@@ -16,26 +18,41 @@ namespace {
 
 using std::chrono::nanoseconds;
 
-class ToolkitAlarm : public Alarm {
+/// A timer whose end is an event of the loop.
+class LoopAlarm : public Alarm {
+ public:
+  void Wait(nanoseconds time) override {
+    Arm(time);
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    Disarm();
+  }
+
+ private:
+  /// Fires once, `fromNow` later. Replaces an earlier setting.
+  virtual void Arm(nanoseconds fromNow) = 0;
+  virtual void Disarm() = 0;
+};
+
+class ToolkitAlarm : public LoopAlarm {
  public:
   ToolkitAlarm() {
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setSingleShot(true);
   }
 
+ private:
   void Arm(nanoseconds fromNow) override {
     timer_.start(std::chrono::ceil<std::chrono::milliseconds>(std::max(fromNow, nanoseconds(0))));
   }
   void Disarm() override { timer_.stop(); }
 
- private:
   QTimer timer_;
 };
 
 #ifdef __linux__
 
 /// A kernel timer, which the event loop polls as a file descriptor that becomes readable.
-class KernelAlarm : public Alarm {
+class KernelAlarm : public LoopAlarm {
  public:
   /// `file` is a timerfd, owned by the alarm.
   explicit KernelAlarm(int file) : file_(file), notifier_(file, QSocketNotifier::Read) {
@@ -43,6 +60,7 @@ class KernelAlarm : public Alarm {
   }
   ~KernelAlarm() override { close(file_); }
 
+ private:
   void Arm(nanoseconds fromNow) override {
     // A time of zero would disarm the timer.
     const auto wait = std::max(fromNow, nanoseconds(1)).count();
@@ -56,7 +74,6 @@ class KernelAlarm : public Alarm {
     armed_ = false;
   }
 
- private:
   void Set(timespec fromNow) {
     const itimerspec once{.it_interval = {}, .it_value = fromNow};
     timerfd_settime(file_, 0, &once, nullptr);
@@ -73,6 +90,7 @@ class KernelAlarm : public Alarm {
 
 std::unique_ptr<Alarm> MakeToolkitAlarm() { return std::make_unique<ToolkitAlarm>(); }
 
+#ifndef _WIN32
 std::unique_ptr<Alarm> MakeAlarm() {
 #ifdef __linux__
   const int file = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
@@ -80,5 +98,6 @@ std::unique_ptr<Alarm> MakeAlarm() {
 #endif
   return MakeToolkitAlarm();
 }
+#endif
 
 }  // namespace starfolds

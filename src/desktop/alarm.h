@@ -1,4 +1,4 @@
-// A timer that wakes the sleeping event loop.
+// Waits in the event loop for a limited time.
 #pragma once
 
 #include <chrono>
@@ -6,20 +6,20 @@
 
 namespace starfolds {
 
-/// Only wakes the event loop; the caller then checks the clock.
 class Alarm {
  public:
   virtual ~Alarm() = default;
 
-  /// Fires once, `fromNow` later. Replaces an earlier setting.
-  virtual void Arm(std::chrono::nanoseconds fromNow) = 0;
-  virtual void Disarm() = 0;
+  /// Waits until events have come, and processes them, or until `time` has passed. May return
+  /// earlier; the caller checks the clock.
+  virtual void Wait(std::chrono::nanoseconds time) = 0;
 };
 
-/// The most precise timer of the system: on Linux exact to some microseconds, elsewhere Qt's.
+/// With the most precise timer of the system: on Linux exact to some microseconds, on Windows to
+/// half a millisecond, elsewhere Qt's.
 std::unique_ptr<Alarm> MakeAlarm();
 
-/// Qt's timer, up to a millisecond off. Available on all systems.
+/// With Qt's timer, up to a millisecond off. Available on all systems.
 std::unique_ptr<Alarm> MakeToolkitAlarm();
 
 }  // namespace starfolds

@@ -67,9 +67,7 @@ void QtPump::WaitForRefresh() {
 
 /// Returns at `end`, or earlier after events were processed.
 void QtPump::SleepUntil(Clock::time_point end) {
-  alarm_->Arm(end - Clock::now());
-  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-  alarm_->Disarm();
+  alarm_->Wait(end - Clock::now());
   DeleteWhatIsDue();
   hasWaited_ = true;
 }

@@ -5,19 +5,15 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <chrono>
-#include <ctime>
 #include <thread>
 
 #include "desktop/pumped_test.h"
+#include "storage/processor_time.h"
 
 namespace starfolds {
 namespace {
 
 using AlarmMaker = std::unique_ptr<Alarm> (*)();
-
-double ProcessorMilliseconds() {
-  return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
 
 class QtPumpWith : public testing::TestWithParam<AlarmMaker> {
  protected:
@@ -27,7 +23,7 @@ class QtPumpWith : public testing::TestWithParam<AlarmMaker> {
 };
 
 TEST_P(QtPumpWith, SleepsUntilTheTimeHasPassed) {
-  const double processorBegin = ProcessorMilliseconds();
+  const auto processorBegin = ProcessorTime();
   const Long begin = Events.TickCount();
   int rounds = 0;
   while (Since(begin) < 300) {
@@ -37,7 +33,7 @@ TEST_P(QtPumpWith, SleepsUntilTheTimeHasPassed) {
   // A wait that returned at once would go round many thousand times; one that never woke would not
   // come here.
   EXPECT_LT(rounds, 50);
-  EXPECT_LT(ProcessorMilliseconds() - processorBegin, 150);
+  EXPECT_LT(ProcessorTime() - processorBegin, std::chrono::milliseconds(150));
 }
 
 TEST_P(QtPumpWith, WakesForAnEventAndRunsIt) {
