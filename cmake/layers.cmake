@@ -33,9 +33,20 @@ else()
   target_compile_options(starfolds_options INTERFACE /W4 /WX /fp:precise)
 endif()
 
+# The saver for Windows is one file that users download. Functions that nothing uses are left out
+# (cmake/windows/lean_link.py), and the layers that are not in this list, which no frame passes
+# through, are compiled for size.
+set(FRAME_LAYERS numbers platform prepared colour process bodies universe desktop render_lib)
+if(MINGW)
+  target_compile_options(starfolds_options INTERFACE -ffunction-sections -fdata-sections)
+endif()
+
 # starfolds_layer(NAME SOURCES file... KNOWS layer-or-library...)
 function(starfolds_layer NAME)
   cmake_parse_arguments(LAYER "" "" "SOURCES;KNOWS" ${ARGN})
   add_library(starfolds_${NAME} STATIC ${LAYER_SOURCES})
+  if(MINGW AND NOT NAME IN_LIST FRAME_LAYERS)
+    target_compile_options(starfolds_${NAME} PRIVATE -Os)
+  endif()
   target_link_libraries(starfolds_${NAME} PUBLIC starfolds_options ${LAYER_KNOWS})
 endfunction()
