@@ -2,8 +2,6 @@
 
 #include <QCoreApplication>
 #include <QTimer>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "app/saver_screens.h"
@@ -24,6 +22,7 @@
 #include "storage/disk_files.h"
 #include "storage/processor_time.h"
 #include "storage/storage_places.h"
+#include "storage/tree_file.h"
 #include "template_dialogs/frm_file_io.h"
 #include "widgets/qt_message_boxes.h"
 
@@ -34,9 +33,7 @@ constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
 
 /// The folder of the user's stored settings.
-std::string UserFolder() {
-  return std::filesystem::path(OwnTreeFiles().User).parent_path().string();
-}
+std::string UserFolder() { return FolderOf(OwnTreeFiles().User); }
 
 }  // namespace
 
@@ -48,10 +45,7 @@ AppWindows::AppWindows(ProcessState& process, const StartOptions& options, KeyVa
       seed_([options] { return options.Seed ? *options.Seed : ClockSeed(); }),
       help_(edited, *process.Desktop, boxes_) {}
 
-bool AppWindows::FileExists(const std::string& path) {
-  std::error_code ignored;
-  return std::filesystem::exists(path, ignored);
-}
+bool AppWindows::FileExists(const std::string& path) { return DiskFiles().Exists(path); }
 
 /// Shows nothing after a template could not be loaded, because the effect would not be the
 /// requested one.

@@ -165,6 +165,12 @@ test_nothing_to_show() {
 }
 
 test_names() {
+  mkdir "$folder/Größe"
+  cp "$saver" "$folder/Größe/stars.exe" # an application, because no "stars.scr" is beside it
+  start wine "Z:$folder/Größe/stars.exe" /s
+  await 'an application' has windows ' 0,0 400x600 foreground owner=0 \[stars\]'
+  press Escape has_ended "$running"
+  expect_end 'an application'
   cp "$template" "$folder/Größe Ω.sfd"
   start wine "$saver" --window --full-screen "Z:$folder/Größe Ω.sfd"
   await 'a template' has windows ' 0,0 400x600 foreground'
