@@ -256,7 +256,9 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   if (picture.isNull()) return {};
   const double wanted = ShownSize(picture).width() * devicePixelRatioF();
   const int width = std::min(static_cast<int>(std::lround(wanted)), picture.width());
-  picture.setDevicePixelRatio(1);  // otherwise Qt 6.4 crashes when it scales a palette picture
+  // A palette picture that Qt 6.4 scales is dithered to 216 colours, or Qt crashes.
+  picture.convertTo(QImage::Format_ARGB32_Premultiplied);
+  picture.setDevicePixelRatio(1);
   return picture.scaledToWidth(width, Qt::SmoothTransformation);
 }
 

@@ -117,6 +117,12 @@ TEST_F(HelpWindowTest, LinesStayShortAndPicturesAndTablesFit) {
     Follow(std::string(topic.File).c_str());
     EXPECT_LE(page.horizontalScrollBar()->maximum(), 0) << topic.File;
   }
+  const QUrl file("pictures/dialog-starfold@2x.png");
+  const auto picture =
+      page.document()->resource(QTextDocument::ImageResource, file).value<QImage>();
+  ASSERT_GT(picture.width(), 200);
+  const QImage plain = picture.copy(picture.width() * 4 / 5, picture.height() * 3 / 4, 8, 8);
+  EXPECT_TRUE(plain.allGray()) << "not dithered";
 }
 
 }  // namespace
