@@ -21,8 +21,13 @@ class Toolkit {
   explicit Toolkit(char* program);
 
   /// Ends the process on Wayland, and returns elsewhere. Everything of ours but this object must
-  /// have been destroyed. Qt 6.4 has a thread that reads what the compositor sends; at the end of
-  /// the application it and the main thread sometimes wait for each other for ever.
+  /// have been destroyed.
+  ///
+  /// The destructor of Qt 6.4's connection to the compositor may never return. Two threads read the
+  /// connection; libwayland lets the first one that reads wait until the other has read or
+  /// cancelled. The destructor stops them one after the other. If the first has just been told to
+  /// read and is stopped before it wakes up, it ends without cancelling; the second then waits for
+  /// it for ever if the compositor has sent something, and the destructor waits for the second.
   void EndWhereQtMayHang(int exitCode) const;
 
  private:
