@@ -16,6 +16,10 @@
         <translation>es gibt keinen Desktop, der beobachtet werden kann (weder DISPLAY noch WAYLAND_DISPLAY führt zu einem)</translation>
     </message>
     <message>
+        <source>the settings cannot be read</source>
+        <translation>die Einstellungen können nicht gelesen werden</translation>
+    </message>
+    <message>
         <source>Watching: %1</source>
         <translation>Beobachtet: %1</translation>
     </message>
@@ -98,6 +102,34 @@
     <message>
         <source>XScreenSaver shows the screen savers here: choose Starfolds in it.</source>
         <translation>Hier zeigt XScreenSaver die Bildschirmschoner: Wählen Sie dort Starfolds.</translation>
+    </message>
+    <message>
+        <source>cannot write to the standard output</source>
+        <translation>in die Standardausgabe kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>(--help lists the options)</source>
+        <translation>(--help zeigt die Optionen)</translation>
+    </message>
+    <message>
+        <source>--root is for programs that host a screen saver, and %1 names no window of one; --saver runs the screen saver without a host</source>
+        <translation>--root ist für Programme, in deren Fenster ein Bildschirmschoner läuft, und %1 nennt kein solches Fenster; --saver startet den Bildschirmschoner ohne ein solches Programm</translation>
+    </message>
+    <message>
+        <source>%1 is '%2', which is no window of an X server; on Wayland no host can show a screen saver inside its own window</source>
+        <translation>%1 ist „%2“ und damit kein Fenster eines X-Servers; unter Wayland kann kein Programm einen Bildschirmschoner in seinem eigenen Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>there is no X server to reach the window of the host (DISPLAY names none that answers)</source>
+        <translation>das Fenster des anderen Programms ist ohne X-Server nicht erreichbar (DISPLAY nennt keinen, der antwortet)</translation>
+    </message>
+    <message>
+        <source>cannot read %1</source>
+        <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)</source>
+        <translation>es gibt keinen Desktop, auf dem etwas gezeigt werden könnte (weder DISPLAY noch WAYLAND_DISPLAY)</translation>
     </message>
     <message>
         <source>What runs</source>
@@ -215,6 +247,34 @@ Starfold7/Starfold_Radius=500</translation>
         <translation>die Version ausgeben</translation>
     </message>
     <message>
+        <source>%1: a template goes with --window, or alone</source>
+        <translation>%1: eine Vorlage steht mit --window oder allein</translation>
+    </message>
+    <message>
+        <source>--seed goes with --saver, --window, --root or --window-id</source>
+        <translation>--seed gilt nur mit --saver, --window, --root oder --window-id</translation>
+    </message>
+    <message>
+        <source>settings go with --saver, --window, --root or --window-id</source>
+        <translation>Einstellungen gelten nur mit --saver, --window, --root oder --window-id</translation>
+    </message>
+    <message>
+        <source>--screens goes with --saver</source>
+        <translation>--screens gilt nur mit --saver</translation>
+    </message>
+    <message>
+        <source>--size and --full-screen go with --window</source>
+        <translation>--size und --full-screen gelten nur mit --window</translation>
+    </message>
+    <message>
+        <source>--size and --full-screen exclude each other</source>
+        <translation>--size und --full-screen schließen einander aus</translation>
+    </message>
+    <message>
+        <source>--window-id goes alone or with --root</source>
+        <translation>--window-id steht allein oder mit --root</translation>
+    </message>
+    <message>
         <source>Switches</source>
         <translation>Schalter</translation>
     </message>
@@ -257,6 +317,10 @@ Starfold7/Starfold_Radius=500</translation>
     <message>
         <source>A number beyond its range is clamped to it.</source>
         <translation>Eine Zahl außerhalb ihres Bereichs wird auf ihn begrenzt.</translation>
+    </message>
+    <message>
+        <source>cannot connect to the display</source>
+        <translation>keine Verbindung zur Anzeige</translation>
     </message>
     <message>
         <source>Scale Height to Radius?</source>
@@ -429,12 +493,80 @@ oder kehren Sie mit „Abbrechen“ zu den Starfold-Einstellungen zurück.</tran
         <translation>System aus Sternpunkten.</translation>
     </message>
     <message>
+        <source>unknown option %1</source>
+        <translation>unbekannte Option %1</translation>
+    </message>
+    <message>
+        <source>unexpected argument %1</source>
+        <translation>unerwartetes Argument %1</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 needs a value</source>
+        <translation>%1 braucht einen Wert</translation>
+    </message>
+    <message>
+        <source>takes WIDTHxHEIGHT, each from 1 to %1, not %2</source>
+        <translation>braucht BREITExHÖHE, jeweils von 1 bis %1, nicht %2</translation>
+    </message>
+    <message>
+        <source>takes Name=value, not %1</source>
+        <translation>braucht Name=Wert, nicht %1</translation>
+    </message>
+    <message>
+        <source>takes a whole number from %1 to %2, not %3</source>
+        <translation>braucht eine ganze Zahl von %1 bis %2, nicht %3</translation>
+    </message>
+    <message>
         <source>Esc: leave    F5: next universe    Ctrl+P: pause    Ctrl+S: save a picture    F1: help    any other key: settings</source>
         <translation>Esc: beenden    F5: nächstes Universum    Strg+P: Pause    Strg+S: Bild speichern    F1: Hilfe    andere Taste: Einstellungen</translation>
     </message>
     <message>
         <source>Esc: leave    F1: help    any other key: settings</source>
         <translation>Esc: beenden    F1: Hilfe    andere Taste: Einstellungen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>print what was found here, and what forbids the saver now</source>
+        <translation>zeigen, was hier gefunden wurde und was den Bildschirmschoner
+im Augenblick verhindert</translation>
+    </message>
+    <message>
+        <source>start the saver once, after five seconds without input</source>
+        <translation>den Bildschirmschoner einmal starten, nach fünf Sekunden ohne
+Eingabe</translation>
+    </message>
+    <message>
+        <source>start FILE --saver instead of the starfolds beside this
+program</source>
+        <translation>FILE --saver starten statt des starfolds neben diesem
+Programm</translation>
+    </message>
+    <message>
+        <source>[OPTION]...</source>
+        <translation>[OPTION]...</translation>
+    </message>
+    <message>
+        <source>Starts the Starfolds screen saver when there was no input for some time, and
+ends it at the next input. It waits while a film or a call inhibits idleness,
+on battery, and while the screen is locked or off. It locks nothing.</source>
+        <translation>Startet den Bildschirmschoner Starfolds nach einiger Zeit ohne Eingabe und
+beendet ihn bei der nächsten Eingabe. Das Programm wartet, solange ein Film oder
+ein Anruf den Leerlauf verhindert, im Akkubetrieb und solange der Bildschirm
+gesperrt oder ausgeschaltet ist. Es sperrt nichts.</translation>
+    </message>
+    <message>
+        <source>The settings are in the settings dialog: starfolds --settings, Edit, When Idle.
+Without options it ends at once if they are off.</source>
+        <translation>Die Einstellungen stehen im Eigenschaften-Dialog: starfolds --settings,
+Bearbeiten, Bei Leerlauf. Ohne Optionen endet das Programm sofort, wenn sie
+ausgeschaltet sind.</translation>
     </message>
     <message>
         <source>No Access</source>
@@ -1194,6 +1326,42 @@ Ist die Schwerkraft nicht 0, dann erscheinen in KEINEM Starfold Kometen.</transl
         <translation>Atomstruktur:</translation>
     </message>
     <message>
+        <source>%1 takes a number, not %2</source>
+        <translation>%1 braucht eine Zahl, nicht %2</translation>
+    </message>
+    <message>
+        <source>there is no setting %1 in a composite</source>
+        <translation>ein Verbund hat keine Einstellung %1</translation>
+    </message>
+    <message>
+        <source>there is no setting %1 in a profile</source>
+        <translation>ein Typ hat keine Einstellung %1</translation>
+    </message>
+    <message>
+        <source>there is no setting %1</source>
+        <translation>es gibt keine Einstellung %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the stored settings cannot be changed</source>
+        <translation>die gespeicherten Einstellungen können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>your settings cannot be kept as %1</source>
+        <translation>Ihre Einstellungen können nicht als %1 aufgehoben werden</translation>
+    </message>
+    <message>
+        <source>the settings could not be stored</source>
+        <translation>die Einstellungen konnten nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>the setting %1 is %2, which is no number from %3 to %4; its default %5 is used</source>
+        <translation>die Einstellung %1 ist %2 und damit keine Zahl von %3 bis %4; die Vorgabe %5 gilt</translation>
+    </message>
+    <message>
         <source>Do you really want to reset the Properties to the %1 factory settings?
 
 Yes      - Save current settings to 'propsave.sfd' then Reset the Properties.
@@ -1494,6 +1662,22 @@ URL:  %1</source>
         <translation>Die Webseite ist nicht erreichbar.
 
 URL:  %1</translation>
+    </message>
+    <message>
+        <source>there is no screen %1</source>
+        <translation>es gibt keinen Bildschirm %1</translation>
+    </message>
+    <message>
+        <source>a preview inside another program's window needs an X server</source>
+        <translation>eine Vorschau im Fenster eines anderen Programms braucht einen X-Server</translation>
+    </message>
+    <message>
+        <source>there is no window %1 to show anything in</source>
+        <translation>es gibt kein Fenster %1, in dem etwas gezeigt werden könnte</translation>
+    </message>
+    <message>
+        <source>cannot store the universe of %1</source>
+        <translation>das Universum von %1 kann nicht gespeichert werden</translation>
     </message>
     <message>
         <source>&amp;Window</source>
@@ -2348,6 +2532,18 @@ Was Sie übernehmen, wird gespeichert und gilt in Läufen ohne diese Optionen.</
         <translation>Zurück zur &amp;Vorgabe (%1)</translation>
     </message>
     <message>
+        <source>%1 holds no settings that can be read; it is kept as %2</source>
+        <translation>%1 enthält keine lesbaren Einstellungen; die Datei wird als %2 aufgehoben</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another process; its settings are ignored</source>
+        <translation>%1 ist von einem anderen Prozess gesperrt; die Einstellungen darin gelten nicht</translation>
+    </message>
+    <message>
+        <source>%1 takes too long to read; its settings are ignored</source>
+        <translation>%1 zu lesen dauert zu lange; die Einstellungen darin gelten nicht</translation>
+    </message>
+    <message>
         <source>Shape and Color</source>
         <translation>Form und Farbe</translation>
     </message>
@@ -2708,6 +2904,10 @@ Der Link enthält die Einstellungen, aber nicht Ihre Bildschirmnachricht. Es wur
         <translation>Alle Typen haben den Anteil %1</translation>
     </message>
     <message>
+        <source>takes the number of a window, not %1</source>
+        <translation>braucht die Nummer eines Fensters, nicht %1</translation>
+    </message>
+    <message>
         <source>Single    </source>
         <translation>Einzeln   </translation>
     </message>
@@ -2870,6 +3070,24 @@ Der Link enthält die Einstellungen, aber nicht Ihre Bildschirmnachricht. Es wur
     <message>
         <source>Sphere-2</source>
         <translation>Kugel 2</translation>
+    </message>
+    <message>
+        <source>Stored the universe and the advanced settings of %1.</source>
+        <translation>Das Universum und die erweiterten Einstellungen von %1 sind gespeichert.</translation>
+    </message>
+    <message>
+        <source>To get the factory settings back: starfolds --settings, Edit &gt; Reset Properties, Accept Settings.</source>
+        <translation>Zurück zu den Werkseinstellungen: starfolds --settings, Bearbeiten &gt; Eigenschaften zurücksetzen, Einstellungen übernehmen.</translation>
+    </message>
+    <message>
+        <source>Your former settings are kept in %1.
+To get them back: starfolds --settings, File &gt; Open Template, Accept Settings.</source>
+        <translation>Ihre bisherigen Einstellungen stehen in %1.
+Zurück zu ihnen: starfolds --settings, Datei &gt; Vorlage öffnen, Einstellungen übernehmen.</translation>
+    </message>
+    <message>
+        <source>To look at a template and store nothing: starfolds --window FILE</source>
+        <translation>Eine Vorlage ansehen, ohne etwas zu speichern: starfolds --window DATEI</translation>
     </message>
     <message>
         <source>It appears that you already have an earlier version of the product.  In order to experience the new effects in this version, you should Reset the Properties to the Factory Settings.  

@@ -5,6 +5,7 @@ update.py          takes new texts into each .ts file, unfinished, and drops tho
 update.py --check  changes nothing; lists what is out of date, unfinished or inconsistent, and fails
 update.py --pseudo FILE  writes a translation into no language, each text one third longer
 """
+import ast
 import re
 import subprocess
 import sys
@@ -20,6 +21,7 @@ CONTEXT = 'Starfolds'  # the program asks for a text without regard to its class
 PLURAL_FORMS = 2  # of all languages so far
 # What a translation must have as often as its text has it.
 PLACES = re.compile(r'%n|%\d|</?[a-z]+>')
+MARKED = re.compile(r'STARFOLDS_TEXT\(((?:\s*"(?:[^"\\]|\\.)*")+)\s*\)')
 RANGE = re.compile(r'\([\d., XYZ-]*-[\d., XYZ-]*\)')
 
 
@@ -56,7 +58,19 @@ def extract():
             [find_lupdate(), '-silent', '-tr-function-alias', 'QT_TR_NOOP+=STARFOLDS_TEXT',
              '-I', SOURCES, '-locations', 'none', SOURCES, '-ts', file],
             check=True, capture_output=True)
-        return list(read(file))
+        texts = list(read(file))
+    complain_about_lost(texts)
+    return texts
+
+
+def complain_about_lost(texts):
+    """lupdate drops a marked text outside of a namespace and of a class, often without a word."""
+    known = {text for text, _, _ in texts}
+    for file in [*SOURCES.rglob('*.h'), *SOURCES.rglob('*.cpp')]:
+        for literals in MARKED.findall(file.read_text(encoding='utf-8')):
+            text = ast.literal_eval(f'({literals})')
+            if text and text not in known:
+                sys.exit(f'update.py: {file.name}: lupdate does not find {text!r}')
 
 
 def message(key, forms):

@@ -28,29 +28,28 @@
 #include "storage/earlier_tree.h"
 #include "storage/sqlite_tree.h"
 
+namespace starfolds {
 namespace {
-
-using namespace starfolds;
 
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
 
-void Say(const std::string& message) { Complain("starfolds", message); }
-
-int Fail(const std::string& message, int exitCode) {
-  Say(message);
+/// Before the application object has been made.
+int Fail(const UserText& message, int exitCode) {
+  Complain("starfolds", InOneLine(message, TranslationBeforeStart()));
   return exitCode;
 }
 
 int PrintAndEnd(const std::string& text) {
-  return Print(text) ? 0 : Fail("cannot write to the standard output", kExitCannotDo);
+  return Print(text) ? 0
+                     : Fail(STARFOLDS_TEXT("cannot write to the standard output"), kExitCannotDo);
 }
 
-/// The application object makes the user's language known.
-int PrintHelp(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  InstallTranslations();
-  return PrintAndEnd(HelpOf(SaverGuide(), TranslatedText));
+int FailWithHint(const UserText& wrong) {
+  const ShownText shown = TranslationBeforeStart();
+  Complain("starfolds",
+           InOneLine(wrong, shown) + " " + shown(STARFOLDS_TEXT("(--help lists the options)")));
+  return kExitWrongUse;
 }
 
 bool ShowsDialogs(const StartOptions& options) {
@@ -88,23 +87,26 @@ std::optional<Long> WindowOfHost(const StartOptions& options) {
   return options.HostWindow ? options.HostWindow : WindowNumber(NamedByHost());
 }
 
-std::string WrongHostWindow() {
+UserText WrongHostWindow() {
   const std::string named = NamedByHost();
   if (named.empty()) {
-    return std::string("--root is for programs that host a screen saver, and ") + kHostVariable +
-           " names no window of one; --saver runs the screen saver without a host";
+    return {
+        STARFOLDS_TEXT("--root is for programs that host a screen saver, and %1 names no window "
+                       "of one; --saver runs the screen saver without a host"),
+        {kHostVariable}};
   }
-  return std::string(kHostVariable) + " is '" + named +
-         "', which is no window of an X server; on Wayland no host can show a screen saver inside "
-         "its own window";
+  return {STARFOLDS_TEXT("%1 is '%2', which is no window of an X server; on Wayland no host can "
+                         "show a screen saver inside its own window"),
+          {kHostVariable, named}};
 }
 
 /// Finds a host's window, and selects the window system that it is on.
-Fault PrepareForHost(const StartOptions& options) {
+TextFault PrepareForHost(const StartOptions& options) {
   if (options.AskedFor == Role::Guest) {
     if (!WindowOfHost(options)) return WrongHostWindow();
     if (ChooseForeignWindowSystem()) return std::nullopt;
-    return "there is no X server to reach the window of the host (DISPLAY names none that answers)";
+    return STARFOLDS_TEXT(
+        "there is no X server to reach the window of the host (DISPLAY names none that answers)");
   }
   // Whether a preview is shown is decided later, and so is the case without an X server.
   if (options.AskedFor == Role::FromCommandLine && AsksForPreview(options.CommandLine)) {
@@ -114,11 +116,12 @@ Fault PrepareForHost(const StartOptions& options) {
 }
 
 /// Reads the template if a message box would not be visible: it would wait for ever for its answer.
-Fault CheckTemplate(const StartOptions& options) {
+TextFault CheckTemplate(const StartOptions& options) {
   if (options.Template.empty() || MessageBoxesAreSeen()) return std::nullopt;
   DiskFiles disk;
   const Fault fault = TemplateFile(disk).Load(options.Template);
-  return fault ? "cannot read " + QuotedStart(options.Template) + ": " + *fault : fault;
+  if (!fault) return std::nullopt;
+  return UserText(STARFOLDS_TEXT("cannot read %1"), {QuotedStart(options.Template)}, *fault);
 }
 
 /// Each dialog runs an event loop nested in that of the dialog opened before it. Closing one may
@@ -153,7 +156,10 @@ int RunWindows(StopSignals& stopSignals, const StartOptions& options) {
   process->Events = &pump;
   process->Desktop = desktop.get();
   process->Platform = &platform;
-  SqliteTree tree(OwnTreeFiles(), Say, {},
+  const auto complain = [](const UserText& line) {
+    Complain("starfolds", InOneLine(line, TranslatedText));
+  };
+  SqliteTree tree(OwnTreeFiles(), complain, {},
                   [&] { return stopSignals.Asked() || process->Requests.QuitApp(); });
   if (const auto earlier = EarlierTree()) ImportEarlierSettings(tree, *earlier);
   MigrateMachineSettings(tree);
@@ -176,8 +182,10 @@ int RunWindows(StopSignals& stopSignals, const StartOptions& options) {
 
 int RunOnDesktop(char* program, const StartOptions& options) {
   if (!NamesDesktop()) {
-    return Fail("there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)",
-                kExitCannotDo);
+    return Fail(
+        STARFOLDS_TEXT(
+            "there is no desktop to show anything on (neither DISPLAY nor WAYLAND_DISPLAY)"),
+        kExitCannotDo);
   }
   StopSignals stopSignals;
   // On some desktops the desktop's style more than doubles the memory and time of a start, and a
@@ -190,24 +198,24 @@ int RunOnDesktop(char* program, const StartOptions& options) {
 }
 
 }  // namespace
+}  // namespace starfolds
 
 int main(int argc, char** argv) {
+  using namespace starfolds;
   PrepareProcess();
   const std::vector<std::string> texts = ProgramArguments(argc, argv);
   const std::vector<std::string_view> arguments(texts.begin(), texts.end());
   StartOptions options;
-  if (const Fault wrong = ParseStartOptions(arguments, options)) {
-    return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
-  }
+  if (const TextFault wrong = ParseStartOptions(arguments, options)) return FailWithHint(*wrong);
   if (options.AskedFor == Role::FromCommandLine) {
     options.CommandLine = RawCommandLine().value_or(options.CommandLine);
   }
   switch (options.AskedFor) {
-    case Role::Help: return PrintHelp(argc, argv);
+    case Role::Help: return PrintAndEnd(HelpOf(SaverGuide(), TranslationBeforeStart()));
     case Role::Version: return PrintAndEnd("starfolds " STARFOLDS_VERSION "\n");
     default: break;
   }
-  if (const Fault wrong = CheckTemplate(options)) return Fail(*wrong, kExitWrongUse);
-  if (const Fault wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
+  if (const TextFault wrong = CheckTemplate(options)) return Fail(*wrong, kExitWrongUse);
+  if (const TextFault wrong = PrepareForHost(options)) return Fail(*wrong, kExitCannotDo);
   return RunOnDesktop(argv[0], options);
 }

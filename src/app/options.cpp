@@ -15,14 +15,14 @@ namespace {
 constexpr int kMostScreens = 1000;  // above any real number
 constexpr std::string_view kSwitchLetters = "sScCpPaA";
 
-Fault ReadHostWindow(StartOptions& to, std::string_view text) {
+TextFault ReadHostWindow(StartOptions& to, std::string_view text) {
   to.AskedFor = Role::Guest;
   to.HostWindow = WindowNumber(text);
   if (to.HostWindow) return std::nullopt;
-  return "takes the number of a window, not " + QuotedStart(text);
+  return UserText(STARFOLDS_TEXT("takes the number of a window, not %1"), {QuotedStart(text)});
 }
 
-Fault ReadScreen(StartOptions& to, std::string_view text) {
+TextFault ReadScreen(StartOptions& to, std::string_view text) {
   to.Screen = std::nullopt;
   if (text == "all") return std::nullopt;
   if (text == "primary") text = "1";
@@ -30,9 +30,9 @@ Fault ReadScreen(StartOptions& to, std::string_view text) {
 }
 
 /// A theme is a list of changes; those of later options override them.
-Fault ReadTheme(StartOptions& to, std::string_view text) {
+TextFault ReadTheme(StartOptions& to, std::string_view text) {
   int theme = 0;
-  if (Fault fault = TakeNumber(theme, 1, kThemeCount)(text)) return fault;
+  if (TextFault fault = TakeNumber(theme, 1, kThemeCount)(text)) return fault;
   UniverseSettings universe;
   LoadFactoryTheme(universe, theme, false);
   for (const auto& field : UniverseFields()) {
@@ -48,7 +48,7 @@ OptionTable TableFor(StartOptions& to) {
   const auto sets = [&](const char* setting, const char* fixed = "") {
     return TakeChange(to.Changes, setting, fixed);
   };
-  const auto reads = [&](Fault (*read)(StartOptions&, std::string_view)) {
+  const auto reads = [&](TextFault (*read)(StartOptions&, std::string_view)) {
     return [&to, read](std::string_view text) { return read(to, text); };
   };
   const auto readsSize = [&to](std::string_view text) {
@@ -118,22 +118,31 @@ OptionTable TableFor(StartOptions& to) {
 }
 
 /// Reports combinations of options that would otherwise have no effect.
-Fault CheckTogether(const StartOptions& options) {
+TextFault CheckTogether(const StartOptions& options) {
   const Role role = options.AskedFor;
   const bool runs = role == Role::Saver || role == Role::Window || role == Role::Guest;
   if (!options.Template.empty() && role != Role::Window) {
-    return QuotedStart(options.Template) + ": a template goes with --window, or alone";
+    return UserText(STARFOLDS_TEXT("%1: a template goes with --window, or alone"),
+                    {QuotedStart(options.Template)});
   }
-  if (options.Seed && !runs) return "--seed goes with --saver, --window, --root or --window-id";
+  if (options.Seed && !runs) {
+    return STARFOLDS_TEXT("--seed goes with --saver, --window, --root or --window-id");
+  }
   if (!options.Changes.empty() && !runs) {
-    return "settings go with --saver, --window, --root or --window-id";
+    return STARFOLDS_TEXT("settings go with --saver, --window, --root or --window-id");
   }
-  if (options.Screen && role != Role::Saver) return "--screens goes with --saver";
+  if (options.Screen && role != Role::Saver) {
+    return STARFOLDS_TEXT("--screens goes with --saver");
+  }
   if ((options.Size || options.FullScreen) && role != Role::Window) {
-    return "--size and --full-screen go with --window";
+    return STARFOLDS_TEXT("--size and --full-screen go with --window");
   }
-  if (options.Size && options.FullScreen) return "--size and --full-screen exclude each other";
-  if (options.HostWindow && role != Role::Guest) return "--window-id goes alone or with --root";
+  if (options.Size && options.FullScreen) {
+    return STARFOLDS_TEXT("--size and --full-screen exclude each other");
+  }
+  if (options.HostWindow && role != Role::Guest) {
+    return STARFOLDS_TEXT("--window-id goes alone or with --root");
+  }
   return std::nullopt;
 }
 
@@ -216,13 +225,13 @@ Long WindowOfSettings(std::string_view commandLine) {
   return WindowNumber(commandLine).value_or(0);
 }
 
-Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options) {
+TextFault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options) {
   if (!HasOptions(arguments)) {
     options.CommandLine = Joined(arguments);
     return std::nullopt;
   }
   options.Given.assign(arguments.begin(), arguments.end());
-  if (Fault fault = ReadOptions(TableFor(options), arguments)) return fault;
+  if (TextFault fault = ReadOptions(TableFor(options), arguments)) return fault;
   const bool informs = options.AskedFor == Role::Help || options.AskedFor == Role::Version;
   return informs ? std::nullopt : CheckTogether(options);
 }

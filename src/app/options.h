@@ -50,7 +50,7 @@ struct StartOptions {
 /// Parses the arguments after the program's name; of several roles the last one counts. What a
 /// system passes to its screen saver (a switch such as "/S", or only a template's name) is not an
 /// option and goes to `CommandLine` unchanged. Returns what is wrong with the arguments.
-Fault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options);
+TextFault ParseStartOptions(std::span<const std::string_view> arguments, StartOptions& options);
 
 /// Parses a window's number as hosts write it, decimal or "0x" and hexadecimal; nullopt if `text`
 /// is not a number from 1 to the largest Long.

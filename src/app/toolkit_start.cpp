@@ -36,7 +36,9 @@ std::vector<Message> messages;
     reason = message.Text;
     break;
   }
-  Complain("starfolds", "cannot connect to the display: " + reason.trimmed().toStdString());
+  const UserText message(STARFOLDS_TEXT("cannot connect to the display"), {},
+                         reason.trimmed().toStdString());
+  Complain("starfolds", InOneLine(message, TranslationBeforeStart()));
   std::_Exit(kExitCannotDo);
 }
 

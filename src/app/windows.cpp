@@ -7,6 +7,7 @@
 #include "app/saver_screens.h"
 #include "desktop/foreign_owner.h"
 #include "desktop/foreign_window.h"
+#include "desktop/translation.h"
 #include "hosting/frm_app_exe.h"
 #include "hosting/frm_preview.h"
 #include "hosting/frm_saver.h"
@@ -54,7 +55,7 @@ void AppWindows::ShowFrmSaver() {
   const auto place = PlaceOfSaver(options_);
   if (!place) {
     const std::string number = std::to_string(options_.Screen.value_or(1));
-    return Fail("there is no screen " + number, kExitCannotDo);
+    return Fail({STARFOLDS_TEXT("there is no screen %1"), {number}}, kExitCannotDo);
   }
   const OtherScreens others(options_, [this] { process_.Requests.AskQuit(); });
   FrmSaver(process_, seed_, *place).Load();
@@ -109,7 +110,8 @@ void AppWindows::RunFrmProps(QWindow* owner) {
 
 void AppWindows::LoadFrmPreview() {
   if (!CanOpenForeignWindows()) {
-    Fail("a preview inside another program's window needs an X server", kExitCannotDo);
+    Fail(STARFOLDS_TEXT("a preview inside another program's window needs an X server"),
+         kExitCannotDo);
     return;
   }
   FrmPreview(process_, seed_).Load();
@@ -120,7 +122,7 @@ void AppWindows::ShowInHost(Long hostWindow) {
   if (GuestWindow(process_, seed_, hostWindow).Run(false)) return;
   // A host that ends while its saver starts is not an error; a number from a user or a script that
   // names no window is.
-  Fail("there is no window " + std::to_string(hostWindow) + " to show anything in",
+  Fail({STARFOLDS_TEXT("there is no window %1 to show anything in"), {std::to_string(hostWindow)}},
        options_.HostWindow ? kExitCannotDo : 0);
 }
 
@@ -130,15 +132,17 @@ void AppWindows::LoadTemplate(const std::string& path) {
   DiskFiles disk;
   TemplateFile file(disk);
   if (const auto fault = file.Load(path)) {
-    return Fail("cannot read " + Quoted(path) + ": " + *fault, kExitWrongUse);
+    return Fail({STARFOLDS_TEXT("cannot read %1"), {Quoted(path)}, *fault}, kExitWrongUse);
   }
   TemplateImport done =
       ImportOverFormerSettings(file, path, edited_, process_.Profiles, disk, UserFolder());
   if (done.Fault) {
-    return Fail("cannot store the universe of " + Quoted(path) + ": " + *done.Fault, kExitWrongUse);
+    done.Fault->Subject =
+        TranslatedText({STARFOLDS_TEXT("cannot store the universe of %1"), {Quoted(path)}});
+    return Fail(*done.Fault, kExitWrongUse);
   }
   done.FormerSettings = Harmless(done.FormerSettings);
-  Print(ImportNote(Harmless(path), done));
+  Print(ImportNote(Harmless(path), done, TranslatedText));
 }
 
 /// Reports a failure in a message box, because a user who clicked on a file has no terminal.
@@ -147,14 +151,14 @@ bool AppWindows::BeginWithTemplate(const std::string& path, KeyValueTree& tree) 
   TemplateFile file(disk);
   const auto fault = StoreTemplate(file, path, tree);
   if (!fault) return true;
-  Fail("cannot read " + Quoted(path) + ": " + *fault, kExitWrongUse);
+  Fail({STARFOLDS_TEXT("cannot read %1"), {Quoted(path)}, *fault}, kExitWrongUse);
   boxes_.Show(TemplateFaultText(true, path, *fault), BoxStyle::Exclamation,
               std::string(kProductName));
   return false;
 }
 
-void AppWindows::Fail(const std::string& message, int exitCode) {
-  Complain("starfolds", message);
+void AppWindows::Fail(const UserText& message, int exitCode) {
+  Complain("starfolds", InOneLine(message, TranslatedText));
   exitCode_ = exitCode;
 }
 

@@ -39,7 +39,7 @@ class AppWindows : public StartActions {
  private:
   /// Opens the properties dialog with the parent `owner`, or without one.
   void RunFrmProps(QWindow* owner);
-  void Fail(const std::string& message, int exitCode);
+  void Fail(const UserText& message, int exitCode);
 
   ProcessState& process_;
   StartOptions options_;

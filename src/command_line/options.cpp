@@ -46,36 +46,41 @@ Rows AddOptions(CLI::App& app, const OptionTable& table, const ShownText& shown 
   return rows;
 }
 
-Fault Unexpected(const CLI::App& app) {
+TextFault Unexpected(const CLI::App& app) {
   for (const std::string& argument : app.remaining()) {
     if (argument == "--") continue;
     const bool isOption = argument.size() > 1 && argument.front() == '-';
-    return (isOption ? "unknown option " : "unexpected argument ") + QuotedStart(argument);
+    return UserText(
+        isOption ? STARFOLDS_TEXT("unknown option %1") : STARFOLDS_TEXT("unexpected argument %1"),
+        {QuotedStart(argument)});
   }
   return std::nullopt;
 }
 
-Fault Take(const Option& option, const std::string& value) {
+TextFault Take(const Option& option, const std::string& value) {
   const bool given = !IsFlag(option) || value != "true";  // what CLI11 passes for a flag
   if (given && (IsFlag(option) || value.empty())) {
-    return NameOf(option) + (IsFlag(option) ? " takes no value" : " needs a value");
+    return UserText(
+        IsFlag(option) ? STARFOLDS_TEXT("%1 takes no value") : STARFOLDS_TEXT("%1 needs a value"),
+        {NameOf(option)});
   }
-  const Fault fault = option.Take(given ? value : std::string());
-  return fault ? NameOf(option) + ": " + *fault : fault;
+  TextFault fault = option.Take(given ? value : std::string());
+  if (fault) fault->Subject = NameOf(option);
+  return fault;
 }
 
 /// Appends the change, and checks it on a temporary set of records.
-Fault AddChange(Changes& changes, std::string_view name, std::string_view value) {
+TextFault AddChange(Changes& changes, std::string_view name, std::string_view value) {
   changes.emplace_back(name, value);
   return SetByName(*std::make_unique<SettingsRecords>(), name, value);
 }
 
 }  // namespace
 
-Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments) {
+TextFault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments) {
   CLI::App app;
   const Rows rows = AddOptions(app, table);
-  Fault wrong;
+  TextFault wrong;
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     wrong = Unexpected(app);
@@ -121,25 +126,27 @@ std::string QuotedStart(std::string_view text) {
 TakeValue TakeText(std::string& target) {
   return [&](std::string_view text) {
     target = text;
-    return Fault();
+    return TextFault();
   };
 }
 
 TakeValue TakeSize(int& width, int& height) {
-  return [&](std::string_view text) -> Fault {
+  return [&](std::string_view text) -> TextFault {
     const std::size_t cross = std::min(text.find('x'), text.size());
     width = WholeNumber<int>(text.substr(0, cross)).value_or(0);
     height = WholeNumber<int>(text.substr(std::min(cross + 1, text.size()))).value_or(0);
     if (std::min(width, height) >= 1 && std::max(width, height) <= kMaxSide) return std::nullopt;
-    return "takes WIDTHxHEIGHT, each from 1 to " + std::to_string(kMaxSide) + ", not " +
-           QuotedStart(text);
+    return UserText(STARFOLDS_TEXT("takes WIDTHxHEIGHT, each from 1 to %1, not %2"),
+                    {std::to_string(kMaxSide), QuotedStart(text)});
   };
 }
 
 TakeValue TakeChange(Changes& target) {
-  return [&](std::string_view text) -> Fault {
+  return [&](std::string_view text) -> TextFault {
     const std::size_t equals = text.find('=');
-    if (equals == std::string_view::npos) return "takes Name=value, not " + QuotedStart(text);
+    if (equals == std::string_view::npos) {
+      return UserText(STARFOLDS_TEXT("takes Name=value, not %1"), {QuotedStart(text)});
+    }
     return AddChange(target, text.substr(0, equals), text.substr(equals + 1));
   };
 }

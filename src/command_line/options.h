@@ -19,7 +19,7 @@ namespace starfolds {
 
 /// Stores the value of an option, or returns what is wrong with it. The value is empty for an
 /// option without a value.
-using TakeValue = std::function<Fault(std::string_view value)>;
+using TakeValue = std::function<TextFault(std::string_view value)>;
 
 /// What a shell offers as the value of an option. A list of words is the values themselves.
 inline constexpr const char* kAnyFile = "*";
@@ -52,7 +52,7 @@ inline Option Heading(const char* text) { return {"", "", text, {}}; }
 
 /// Parses the arguments after the program's name. Options may be in any order, with their value
 /// after a blank or "=", and are applied from left to right. Returns what is wrong with them.
-Fault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments);
+TextFault ReadOptions(const OptionTable& table, std::span<const std::string_view> arguments);
 
 /// The help text of the listed options, group by group, in the language that `shown` gives.
 std::string OptionsHelp(const OptionTable& table, const ShownText& shown = InEnglish);
@@ -93,18 +93,18 @@ template <class Value>
 TakeValue TakeFixed(Value& target, std::type_identity_t<Value> value) {
   return [&target, value](std::string_view) {
     target = value;
-    return Fault();
+    return TextFault();
   };
 }
 
 /// A whole number from `low` to `high`; the target may be a std::optional of one.
 template <class Target, class Wide = std::uint64_t>
 TakeValue TakeNumber(Target& target, Wide low = 0, Wide high = ~Wide{0}) {
-  return [&target, low, high](std::string_view text) -> Fault {
+  return [&target, low, high](std::string_view text) -> TextFault {
     const auto number = WholeNumber<Wide>(text);
     if (!number || *number < low || *number > high) {
-      return "takes a whole number from " + std::to_string(low) + " to " + std::to_string(high) +
-             ", not " + QuotedStart(text);
+      return UserText(STARFOLDS_TEXT("takes a whole number from %1 to %2, not %3"),
+                      {std::to_string(low), std::to_string(high), QuotedStart(text)});
     }
     if constexpr (requires { typename Target::value_type; }) {
       target = static_cast<typename Target::value_type>(*number);

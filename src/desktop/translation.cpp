@@ -22,8 +22,7 @@ class AnyContext : public QTranslator {
   }
 };
 
-/// The application owns a translation that was found. Of "starfolds_de_AT" Qt also tries
-/// "starfolds_de".
+/// The application owns a translation that was found.
 template <class Translator>
 bool InstallFrom(const QString& folder, const QString& name) {
   auto translator = std::make_unique<Translator>();
@@ -32,24 +31,39 @@ bool InstallFrom(const QString& folder, const QString& name) {
   return QCoreApplication::installTranslator(translator.release());
 }
 
-/// The empty text stands for the file's header.
-std::string InUsersLanguage(const std::string& text) {
-  if (text.empty()) return {};
-  return QCoreApplication::translate(kContext, text.c_str()).toStdString();
+constexpr char kFolder[] = ":/translations";
+
+/// The ending of the file for the user's language, such as "_de_AT"; empty if the texts stay
+/// English. Qt's own search goes on to the next language after English, which needs no file.
+/// Of "starfolds_de_AT" Qt also tries "starfolds_de".
+QString EndingOfLanguage() {
+  for (const QString& language : QLocale::system().uiLanguages()) {
+    const QLocale::Language known = QLocale(language).language();
+    if (known == QLocale::English || known == QLocale::C) break;
+    QString ending = '_' + QString(language).replace('-', '_');
+    if (QTranslator().load("starfolds" + ending, kFolder)) return ending;
+  }
+  return {};
+}
+
+/// `lookUp` gives a marked text in the user's language. The empty text stands for the file's
+/// header.
+template <class LookUp>
+std::string Shown(const UserText& text, const LookUp& lookUp) {
+  const auto translated = [&](const std::string& english) {
+    return english.empty() ? english : lookUp(english.c_str()).toStdString();
+  };
+  return WithReason(WithSubject(text.Subject, Filled(translated(text.Text), text.Values)),
+                    translated(text.Reason));
 }
 
 }  // namespace
 
-/// Qt's own search goes on to the next language after English, which needs no file.
 void InstallTranslations() {
-  for (const QString& language : QLocale::system().uiLanguages()) {
-    const QLocale::Language known = QLocale(language).language();
-    if (known == QLocale::English || known == QLocale::C) return;
-    const QString ending = '_' + QString(language).replace('-', '_');
-    if (!InstallFrom<AnyContext>(":/translations", "starfolds" + ending)) continue;
-    InstallFrom<QTranslator>(QLibraryInfo::path(QLibraryInfo::TranslationsPath), "qtbase" + ending);
-    return;
-  }
+  const QString ending = EndingOfLanguage();
+  if (ending.isEmpty()) return;
+  InstallFrom<AnyContext>(kFolder, "starfolds" + ending);
+  InstallFrom<QTranslator>(QLibraryInfo::path(QLibraryInfo::TranslationsPath), "qtbase" + ending);
 }
 
 bool InstallTranslation(const QString& file) { return InstallFrom<AnyContext>({}, file); }
@@ -57,7 +71,20 @@ bool InstallTranslation(const QString& file) { return InstallFrom<AnyContext>({}
 QString Translated(const UserText& text) { return QString::fromStdString(TranslatedText(text)); }
 
 std::string TranslatedText(const UserText& text) {
-  return WithReason(Filled(InUsersLanguage(text.Text), text.Values), InUsersLanguage(text.Reason));
+  return Shown(text,
+               [](const char* english) { return QCoreApplication::translate(kContext, english); });
+}
+
+ShownText TranslationBeforeStart() {
+  const auto translator = std::make_shared<AnyContext>();
+  const QString ending = EndingOfLanguage();
+  if (ending.isEmpty() || !translator->load("starfolds" + ending, kFolder)) return InEnglish;
+  return [translator](const UserText& text) {
+    return Shown(text, [&](const char* english) {
+      const QString translated = translator->translate(kContext, english, nullptr, -1);
+      return translated.isEmpty() ? QString(english) : translated;
+    });
+  };
 }
 
 }  // namespace starfolds

@@ -23,4 +23,8 @@ QString Translated(const UserText& text);
 /// The same as UTF-8.
 std::string TranslatedText(const UserText& text);
 
+/// Gives the same texts before there is an application object, for programs that only print
+/// something and end. Loads the translation.
+ShownText TranslationBeforeStart();
+
 }  // namespace starfolds

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "desktop/translation.h"
 #include "platform/console.h"
 #include "settings/registry.h"
 
@@ -20,8 +21,9 @@ std::optional<IdleConfig> ReadIdleConfig(KeyValueTree& tree) {
     return RegistryReadText(tree, sections::kAdvanced, setting) == "1";
   };
   IdleConfig config;
-  const auto idle =
-      ReadIdleSettings(tree, [](const std::string& line) { Complain("starfolds-idle", line); });
+  const auto idle = ReadIdleSettings(tree, [](const UserText& line) {
+    Complain("starfolds-idle", InOneLine(line, TranslatedText));
+  });
   config.EndsOnInput = !isOn("Adv_MouseMove") && !isOn("Adv_DispBackG");
   if (!look.Commit() || !idle) return std::nullopt;
   config.Idle = *idle;

@@ -16,9 +16,8 @@
 #include "platform/console.h"
 #include "storage/storage_places.h"
 
+namespace starfolds {
 namespace {
-
-using namespace starfolds;
 
 constexpr int kExitCannotDo = 1;
 constexpr int kExitWrongUse = 2;
@@ -28,9 +27,16 @@ constexpr IdleTime kTestTime{5'000};
 constexpr int kLogin = 60'000;
 constexpr int kLongestAnswer = 1500;  // of the buses, for --status, in milliseconds
 
-int Fail(const std::string& message, int exitCode) {
-  Complain("starfolds-idle", message);
+int Fail(const QString& message, int exitCode) {
+  Complain("starfolds-idle", message.toStdString());
   return exitCode;
+}
+
+int FailWithHint(const UserText& wrong) {
+  const ShownText shown = TranslationBeforeStart();
+  Complain("starfolds-idle",
+           InOneLine(wrong, shown) + " " + shown(STARFOLDS_TEXT("(--help lists the options)")));
+  return kExitWrongUse;
 }
 
 /// The context of the texts below.
@@ -73,14 +79,14 @@ IdlePlan PlanOf(const IdleConfig& config) {
 /// Runs until a signal, the end of the window system, or settings that turn it off.
 int Serve(const IdleOptions& options, SqliteTree& tree) {
   const auto config = ReadIdleConfig(tree);
-  if (!config) return Fail("the settings cannot be read", kExitCannotDo);
+  if (!config) return Fail(IdleProgram::tr("the settings cannot be read"), kExitCannotDo);
   if (!config->Idle.Idle_On) return 0;
   QLockFile lock(LockPath());
   lock.setStaleLockTime(0);
   if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError) return 0;
 
   IdleSurroundings around(QCoreApplication::quit, config->Idle.Idle_Battery);
-  if (!around.Source()) return Fail(NoSource(around).toStdString(), kExitCannotDo);
+  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
   InhibitService inhibitions(around.SessionBus(), around.Against());
   QTimer::singleShot(kLogin, &inhibitions, &InhibitService::Offer);
   IdleService service(*around.Source(), around.Against(), SaverProgram(options), PlanOf(*config),
@@ -98,7 +104,7 @@ int Serve(const IdleOptions& options, SqliteTree& tree) {
 int Test(const IdleOptions& options, SqliteTree& tree) {
   const IdleConfig config = ReadIdleConfig(tree).value_or(IdleConfig());
   IdleSurroundings around(QCoreApplication::quit, config.Idle.Idle_Battery);
-  if (!around.Source()) return Fail(NoSource(around).toStdString(), kExitCannotDo);
+  if (!around.Source()) return Fail(NoSource(around), kExitCannotDo);
   IdleService service(*around.Source(), around.Against(), SaverProgram(options),
                       {kTestTime, config.EndsOnInput, true}, PrintLine, QCoreApplication::quit);
   PrintLine(IdleProgram::tr("Waiting for five seconds without input."));
@@ -141,14 +147,16 @@ int Status(SqliteTree& tree) {
 }
 
 }  // namespace
+}  // namespace starfolds
 
 int main(int argc, char** argv) {
+  using namespace starfolds;
   const std::vector<std::string_view> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   IdleOptions options;
-  if (const Fault wrong = ParseIdleOptions(arguments, options)) {
-    return Fail(*wrong + " (--help lists the options)", kExitWrongUse);
+  if (const TextFault wrong = ParseIdleOptions(arguments, options)) return FailWithHint(*wrong);
+  if (options.AskedFor == IdleRole::Help) {
+    return Print(HelpOf(IdleGuide(), TranslationBeforeStart())) ? 0 : kExitCannotDo;
   }
-  if (options.AskedFor == IdleRole::Help) return Print(HelpOf(IdleGuide())) ? 0 : kExitCannotDo;
   if (options.AskedFor == IdleRole::Version) {
     return Print("starfolds-idle " STARFOLDS_VERSION "\n") ? 0 : kExitCannotDo;
   }
@@ -156,8 +164,9 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   InstallTranslations();
   stopSignals.Watch(QCoreApplication::quit);
-  SqliteTree tree(OwnTreeFiles(),
-                  [](const std::string& line) { Complain("starfolds-idle", line); });
+  SqliteTree tree(OwnTreeFiles(), [](const UserText& line) {
+    Complain("starfolds-idle", InOneLine(line, TranslatedText));
+  });
   switch (options.AskedFor) {
     case IdleRole::Status: return Status(tree);
     case IdleRole::Test: return Test(options, tree);

@@ -18,7 +18,7 @@ struct IdleOptions {
 };
 
 /// Parses the arguments after the program's name. Returns what is wrong with them.
-Fault ParseIdleOptions(std::span<const std::string_view> arguments, IdleOptions& options);
+TextFault ParseIdleOptions(std::span<const std::string_view> arguments, IdleOptions& options);
 
 /// What `--help`, the manual page and shells say about the program.
 ProgramGuide IdleGuide();

@@ -23,7 +23,8 @@ struct UserText {
   // NOLINTEND(google-explicit-constructor)
   std::string Text;
   std::vector<std::string> Values;
-  std::string Reason;  // a marked text, or one of the system; shown as a paragraph at the end
+  std::string Reason;   // a marked text, or one of the system; shown as a paragraph at the end
+  std::string Subject;  // shown as it is, with a colon, in front of the text
 };
 
 /// The text with its values inserted. A place without a value stays as it is; so does what looks
@@ -42,16 +43,26 @@ inline std::string Filled(std::string_view text, const std::vector<std::string>&
   return filled;
 }
 
+inline std::string WithSubject(std::string_view subject, const std::string& text) {
+  return subject.empty() ? text : std::string(subject) + ": " + text;
+}
+
 inline std::string WithReason(std::string text, std::string_view reason) {
   if (!reason.empty()) text.append("\n\n").append(reason);
   return text;
 }
 
 inline std::string InEnglish(const UserText& text) {
-  return WithReason(Filled(text.Text, text.Values), text.Reason);
+  return WithReason(WithSubject(text.Subject, Filled(text.Text, text.Values)), text.Reason);
 }
 
 /// Gives a text in the language in which it is shown.
 using ShownText = std::function<std::string(const UserText&)>;
+
+/// The text for one line of a terminal: the reason follows behind a colon.
+inline std::string InOneLine(UserText text, const ShownText& shown = InEnglish) {
+  const std::string reason = std::exchange(text.Reason, {});
+  return shown(text) + (reason.empty() ? "" : ": " + shown(reason));
+}
 
 }  // namespace starfolds

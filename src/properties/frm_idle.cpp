@@ -67,7 +67,7 @@ FrmIdle::FrmIdle(KeyValueTree& tree, Help& helpBook, const QString& program, QWi
          "minutes here: the saver starts before the lock, and ends when it comes.")));
   column->addStretch(1);
   column->addLayout(MakeButtons());
-  ShowSettings(ReadIdleSettings(tree_, [](const std::string&) {}).value_or(IdleSettings()));
+  ShowSettings(ReadIdleSettings(tree_, [](const UserText&) {}).value_or(IdleSettings()));
   AskWhatIsFound();
 }
 

@@ -59,7 +59,7 @@ int RunWith(const std::vector<std::string_view>& arguments) {
     case RenderAction::Render: break;
   }
   const auto records = std::make_unique<SettingsRecords>();
-  SqliteTree tree(OwnTreeFiles(), [](const std::string& line) { Fail(line); });
+  SqliteTree tree(OwnTreeFiles(), [](const UserText& line) { Fail(InOneLine(line)); });
   DiskFiles disk;
   if (const Fault fault = MakeSettings(options, tree, disk, *records)) return Fail(*fault);
   if (options.Action == RenderAction::List) return PrintAndEnd(ListText(*records));

@@ -152,7 +152,7 @@ Fault CheckTogether(const RenderOptions& options) {
 }  // namespace
 
 Fault ParseOptions(std::span<const std::string_view> arguments, RenderOptions& options) {
-  if (Fault fault = ReadOptions(TableFor(options), arguments)) return fault;
+  if (const TextFault fault = ReadOptions(TableFor(options), arguments)) return InOneLine(*fault);
   options.Plan.Frames = options.FramesGiven.value_or(options.Universes ? kMaxFrames : kUsualFrames);
   return options.Action == RenderAction::Render ? CheckTogether(options) : std::nullopt;
 }

@@ -321,11 +321,15 @@ const Field<Record>& RowOf(std::span<const Field<Record>> fields, const Setting<
   return *row;
 }
 
+UserText NoNumber(std::string_view name, std::string_view value) {
+  return {STARFOLDS_TEXT("%1 takes a number, not %2"), {Quoted(name), Quoted(value)}};
+}
+
 template <class Record>
-std::optional<std::string> SetFieldOrFault(Record& record, const Field<Record>& field,
-                                           std::string_view text) {
+std::optional<UserText> SetFieldOrFault(Record& record, const Field<Record>& field,
+                                        std::string_view text) {
   if (SetFieldText(record, field, text)) return std::nullopt;
-  return Quoted(field.Name) + " takes a number, not " + Quoted(text);
+  return NoNumber(field.Name, text);
 }
 
 /// The number after `prefix` in a section's name; nullopt if it is missing or not below `count`.
@@ -340,14 +344,16 @@ std::optional<int> SectionIndex(std::string_view section, std::string_view prefi
   return static_cast<int>(index);
 }
 
-std::optional<std::string> SetInComposite(CompositeProfile& composite, std::string_view name,
-                                          std::string_view value) {
+std::optional<UserText> SetInComposite(CompositeProfile& composite, std::string_view name,
+                                       std::string_view value) {
   if (const auto* field = FindField(CompositeFields(), name)) {
     return SetFieldOrFault(composite, *field, value);
   }
   const auto member = SectionIndex(name, "CompFold_Type", kMaxMembers);
-  if (!member) return "there is no setting " + Quoted(name) + " in a composite";
-  if (!IsNumeric(value)) return Quoted(name) + " takes a number, not " + Quoted(value);
+  if (!member) {
+    return UserText(STARFOLDS_TEXT("there is no setting %1 in a composite"), {Quoted(name)});
+  }
+  if (!IsNumeric(value)) return NoNumber(name, value);
   composite.CompFold_Type[*member] = RoundedToLimits<Integer>(LenientNumber(value));
   return std::nullopt;
 }
@@ -522,8 +528,8 @@ STARFOLDS_FIELD_TEXT(AtomPoint)
 STARFOLDS_FIELD_TEXT(IdleSettings)
 #undef STARFOLDS_FIELD_TEXT
 
-std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
-                                     std::string_view value) {
+std::optional<UserText> SetByName(SettingsRecords& records, std::string_view name,
+                                  std::string_view value) {
   if (const auto* field = FindField(UniverseFields(), name)) {
     return SetFieldOrFault(records.Universe, *field, value);
   }
@@ -542,14 +548,16 @@ std::optional<std::string> SetByName(SettingsRecords& records, std::string_view 
     const std::string_view key = name.substr(slash + 1);
     if (const auto index = SectionIndex(section, "Starfold", kProfileCount)) {
       const auto* field = FindField(ProfileFields(), key);
-      if (!field) return "there is no setting " + Quoted(key) + " in a profile";
+      if (!field) {
+        return UserText(STARFOLDS_TEXT("there is no setting %1 in a profile"), {Quoted(key)});
+      }
       return SetFieldOrFault(records.Profiles[*index], *field, value);
     }
     if (const auto index = SectionIndex(section, "CompFold", kCompositeCount)) {
       return SetInComposite(records.Composites[*index], key, value);
     }
   }
-  return "there is no setting " + Quoted(name);
+  return UserText(STARFOLDS_TEXT("there is no setting %1"), {Quoted(name)});
 }
 
 VisitList ParseVisitList(std::string_view text) {

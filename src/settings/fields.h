@@ -8,6 +8,7 @@
 #include <string_view>
 #include <variant>
 
+#include "platform/user_text.h"
 #include "settings/records.h"
 #include "settings/styles.h"
 
@@ -135,8 +136,8 @@ bool SetFieldText(Record& record, const Field<Record>& field, std::string_view t
 /// Sets any setting by its name: "Universe_Stars", "Adv_TimeDelay",
 /// "Starfold_Radius" (in all 50 profiles), "Starfold7/Starfold_Radius" (in profile 7),
 /// "CompFold3/CompFold_Type0". Returns a message if the name or the value is invalid.
-std::optional<std::string> SetByName(SettingsRecords& records, std::string_view name,
-                                     std::string_view value);
+std::optional<UserText> SetByName(SettingsRecords& records, std::string_view name,
+                                  std::string_view value);
 
 /// The bodies that `Universe_GS_Idx` lists, 0-based, at most 64. The text is split at blanks. A
 /// part that is a number above 0 and up to 66 gives that number less 1, rounded half to even; parts

@@ -43,33 +43,48 @@ KeptCopy KeepFormerSettings(KeyValueTree& tree, Files& disk, const std::string& 
 TemplateImport ImportOverFormerSettings(TemplateFile& file, const std::string& path,
                                         KeyValueTree& tree, ProfileArray& profiles, Files& disk,
                                         const std::string& folder) {
-  if (auto fault = file.Load(path)) return {"cannot read it: " + *fault, {}};
+  if (auto fault = file.Load(path)) {
+    return {UserText(STARFOLDS_TEXT("it cannot be read"), {}, *fault), {}};
+  }
   TreeBulk change = TreeBulk::Change(tree);
-  if (!change.Begun()) return {"the stored settings cannot be changed", {}};
+  if (!change.Begun()) {
+    return {UserText(STARFOLDS_TEXT("the stored settings cannot be changed")), {}};
+  }
   const KeptCopy copy = KeepFormerSettings(tree, disk, folder);
   if (!copy.Fault.empty()) {
-    return {"your settings cannot be kept as " + Quoted(copy.Path) + ": " + copy.Fault, {}};
+    return {UserText(STARFOLDS_TEXT("your settings cannot be kept as %1"), {Quoted(copy.Path)},
+                     copy.Fault),
+            {}};
   }
   const bool isFirstAct = !HasMark(tree, kAnimationType);
   EnsureFactoryProfiles(tree);
   auto fault = ImportTemplate(file, path, tree, profiles);
   if (isFirstAct) RegistryWrite(tree, sections::kGeneral, kResetSettings, Long{1});
-  if (!change.Commit() || fault) return {"the settings could not be stored", {}};
+  if (!change.Commit() || fault) {
+    return {UserText(STARFOLDS_TEXT("the settings could not be stored")), {}};
+  }
   return {std::nullopt, copy.Path};
 }
 
-std::string ImportNote(const std::string& path, const TemplateImport& done) {
-  std::string note = "Stored the universe and the advanced settings of " + Quoted(path) + ".\n";
+std::string ImportNote(const std::string& path, const TemplateImport& done,
+                       const ShownText& shown) {
+  std::string note = shown(
+      {STARFOLDS_TEXT("Stored the universe and the advanced settings of %1."), {Quoted(path)}});
+  note += "\n";
   if (done.FormerSettings.empty()) {
     note +=
-        "To get the factory settings back: starfolds --settings, Edit > Reset Properties, Accept "
-        "Settings.\n";
+        shown(STARFOLDS_TEXT("To get the factory settings back: starfolds --settings, Edit > Reset "
+                             "Properties, Accept Settings."));
   } else {
-    note += "Your former settings are kept in " + Quoted(done.FormerSettings) +
-            ".\n"
-            "To get them back: starfolds --settings, File > Open Template, Accept Settings.\n";
+    note +=
+        shown({STARFOLDS_TEXT("Your former settings are kept in %1.\nTo get them back: starfolds "
+                              "--settings, File > Open Template, Accept Settings."),
+               {Quoted(done.FormerSettings)}});
   }
-  return note + "To look at a template and store nothing: starfolds --window FILE\n";
+  note += "\n";
+  return note +
+         shown(STARFOLDS_TEXT("To look at a template and store nothing: starfolds --window FILE")) +
+         "\n";
 }
 
 }  // namespace starfolds

@@ -6,6 +6,7 @@
 
 #include "platform/files.h"
 #include "platform/key_value_tree.h"
+#include "platform/user_text.h"
 #include "settings/records.h"
 #include "settings/template_file.h"
 
@@ -28,8 +29,8 @@ KeptCopy KeepFormerSettings(KeyValueTree& tree, Files& disk, const std::string& 
 
 /// The result of an import from the command line.
 struct TemplateImport {
-  std::optional<std::string> Fault;  // a reason for the user; then nothing was stored
-  std::string FormerSettings;        // the file with the copy; empty if there is none
+  std::optional<UserText> Fault;  // a reason for the user; then nothing was stored
+  std::string FormerSettings;     // the file with the copy; empty if there is none
 };
 
 /// `ImportTemplate` for a user who runs the program with a template: a tree without bodies gets the
@@ -39,7 +40,8 @@ TemplateImport ImportOverFormerSettings(TemplateFile& file, const std::string& p
                                         KeyValueTree& tree, ProfileArray& profiles, Files& disk,
                                         const std::string& folder);
 
-/// The text for the terminal: what the import did, and how to undo it.
-std::string ImportNote(const std::string& path, const TemplateImport& done);
+/// The text for the terminal, in the language that `shown` gives: what the import did, and how to
+/// undo it.
+std::string ImportNote(const std::string& path, const TemplateImport& done, const ShownText& shown);
 
 }  // namespace starfolds

@@ -40,9 +40,9 @@ const Field<IdleSettings>& FieldOf(Setting<IdleSettings> setting) {
 }
 
 std::optional<IdleSettings> ReadIdleSettings(
-    KeyValueTree& tree, const std::function<void(const std::string& line)>& complain) {
+    KeyValueTree& tree, const std::function<void(const UserText& line)>& complain) {
   IdleSettings settings;
-  std::vector<std::string> faults;
+  std::vector<UserText> faults;
   TreeBulk look = TreeBulk::Look(tree);
   for (const Field<I>& field : kIdleFields) {
     const std::string standard = DefaultText(field);
@@ -51,13 +51,15 @@ std::optional<IdleSettings> ReadIdleSettings(
       SetFieldText(settings, field, text);
       continue;
     }
-    faults.push_back("the setting " + std::string(field.Name) + " is " + Quoted(text) +
-                     ", which is no number from " + NumberText(static_cast<Long>(field.Low)) +
-                     " to " + NumberText(static_cast<Long>(field.High)) + "; its default " +
-                     standard + " is used");
+    faults.emplace_back(
+        STARFOLDS_TEXT(
+            "the setting %1 is %2, which is no number from %3 to %4; its default %5 is used"),
+        std::vector<std::string>{std::string(field.Name), Quoted(text),
+                                 NumberText(static_cast<Long>(field.Low)),
+                                 NumberText(static_cast<Long>(field.High)), standard});
   }
   if (!look.Commit()) return std::nullopt;
-  for (const std::string& fault : faults) complain(fault);
+  for (const UserText& fault : faults) complain(fault);
   return settings;
 }
 

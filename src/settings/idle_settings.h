@@ -30,7 +30,7 @@ const Field<IdleSettings>& FieldOf(Setting<IdleSettings> setting);
 /// Reads the stored settings. A value that is no number or out of its range is replaced by its
 /// default, which `complain` is told in one line. nullopt if the tree cannot be read at present.
 std::optional<IdleSettings> ReadIdleSettings(
-    KeyValueTree& tree, const std::function<void(const std::string& line)>& complain);
+    KeyValueTree& tree, const std::function<void(const UserText& line)>& complain);
 
 /// Stores all settings or none. False if they could not be stored.
 bool StoreIdleSettings(KeyValueTree& tree, const IdleSettings& settings);

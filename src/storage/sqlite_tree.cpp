@@ -157,8 +157,8 @@ bool SqliteTree::MadeWayForNewFile(const TreePlace& place, TreeOutcome outcome,
   if (damaged) {
     const auto name = SetAside(place.File, *damaged, patience_.Look);
     if (name && complain_) {
-      complain_(Quoted(place.File) + " holds no settings that can be read; it is kept as " +
-                Quoted(*name));
+      complain_({STARFOLDS_TEXT("%1 holds no settings that can be read; it is kept as %2"),
+                 {Quoted(place.File), Quoted(*name)}});
     }
   }
   return LookAtFile(place.File).Identity != damaged;
@@ -178,9 +178,9 @@ void SqliteTree::NoteTrouble(const TreePlace& place, const TreeTransaction& tran
   if (IsResting()) return;
   restUntil_ = std::chrono::steady_clock::now() + patience_.Rest;
   if (!complain_) return;
-  complain_(Quoted(place.File) + " " +
-            (locked ? "is locked by another process" : "takes too long to read") +
-            "; its settings are ignored");
+  complain_({locked ? STARFOLDS_TEXT("%1 is locked by another process; its settings are ignored")
+                    : STARFOLDS_TEXT("%1 takes too long to read; its settings are ignored"),
+             {Quoted(place.File)}});
 }
 
 }  // namespace starfolds

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "platform/key_value_tree.h"
+#include "platform/user_text.h"
 #include "storage/storage_places.h"
 #include "storage/tree_transaction.h"
 
@@ -38,7 +39,7 @@ struct TreePatience {
 /// Texts may be up to a megabyte including the names; paths and names must not contain NUL bytes.
 class SqliteTree : public KeyValueTree {
  public:
-  using Complaint = std::function<void(const std::string& line)>;
+  using Complaint = std::function<void(const UserText& line)>;
 
   /// Returns true if waiting must end at once, because the process is to end.
   using GiveUp = std::function<bool()>;

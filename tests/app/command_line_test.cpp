@@ -20,6 +20,7 @@ const QStringList kNoDesktop{"DISPLAY=", "QT_QPA_PLATFORM="};
 const QStringList kOffscreen{"QT_QPA_PLATFORM=offscreen"};
 const QStringList kDeadServer{"DISPLAY=:9999"};
 const QStringList kNoPlugIn{"QT_QPA_PLATFORM=nonsense"};
+const QStringList kGerman{"LANGUAGE=de_AT:en", "DISPLAY=:9999"};
 
 struct Row {
   QStringList Line;  // the arguments; the first one "render" for the renderer
@@ -34,6 +35,7 @@ class Program : public QProcess {
  public:
   Program(const Row& row, const QString& folder) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LANGUAGE", "en");
     environment.insert("XDG_CONFIG_HOME", folder + "/config");
     environment.insert("XDG_RUNTIME_DIR", folder);  // the toolkit complains where there is none
     environment.remove("XSCREENSAVER_WINDOW");
@@ -171,6 +173,8 @@ TEST_F(CommandLines, ThatAreWrong) {
       {{"render", "x", "--hash"}, 2, "", "unexpected argument \"x\""},
       {{"render", "--hash", "--seed", QString(100'000, '9')}, 2, "", "9{200}\\.\\.\\."},
       {{"render", "--hash", "--template", "none.sfd"}, 2, "", "cannot read \"none.sfd\""},
+      {{"--seed=x"}, 2, "", "--seed: braucht .*, nicht \"x\" \\(--help zeigt .*\\)", kGerman},
+      {{"--window"}, 1, "", "keine Verbindung zur Anzeige: could not connect.*", kGerman},
   });
   EXPECT_FALSE(QDir(Folder.path()).exists("config")) << "a wrong command line stores nothing";
 }

@@ -20,7 +20,7 @@ StartOptions Parsed(const Arguments& arguments) {
 
 std::string Refused(const Arguments& arguments) {
   StartOptions options;
-  return ParseStartOptions(arguments, options).value_or("");
+  return InOneLine(ParseStartOptions(arguments, options).value_or(UserText("")));
 }
 
 TEST(StartOptions, LeaveTheCommandLineToTheSystem) {

@@ -7,7 +7,7 @@ faults=0
 output=$(mktemp)
 errors=$(mktemp)
 XDG_CONFIG_HOME=$(mktemp -d) # nobody's settings
-export XDG_CONFIG_HOME
+export XDG_CONFIG_HOME LANGUAGE=en
 trap 'rm -rf "$output" "$errors" "$XDG_CONFIG_HOME"' EXIT
 
 # expect CODE OUTPUT-PATTERN ERROR-PATTERN ARGUMENT...: an empty pattern wants silence.

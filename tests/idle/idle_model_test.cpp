@@ -85,7 +85,8 @@ TEST(IdleSettingsTest, AreStoredTogetherAndRepaired) {
   MemoryTree tree;
   std::string complaints;
   const auto read = [&] {
-    return ReadIdleSettings(tree, [&](const std::string& line) { complaints += line + '\n'; });
+    return ReadIdleSettings(tree,
+                            [&](const UserText& line) { complaints += InOneLine(line) + '\n'; });
   };
   const IdleSettings chosen{true, 12, 100};
   EXPECT_EQ(read(), IdleSettings());

@@ -19,7 +19,7 @@ struct StoredTree {
   explicit StoredTree(const std::string& file, const std::string& machine = {},
                       TreePatience patience = {})
       : Tree(
-            {file, machine}, [this](const std::string& line) { Complaints.push_back(line); },
+            {file, machine}, [this](const UserText& line) { Complaints.push_back(line.Text); },
             patience) {}
 
   std::vector<std::string> Complaints;

@@ -54,7 +54,7 @@ TEST_F(TreeFile, ALockedFileIsWaitedForOnce) {
   int complaints = 0;
   bool mustEnd = false;
   SqliteTree tree(
-      {File, File}, [&](const std::string&) { ++complaints; }, {look, never, never, never},
+      {File, File}, [&](const UserText&) { ++complaints; }, {look, never, never, never},
       [&] {
         ++tries;
         return mustEnd;

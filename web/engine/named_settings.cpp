@@ -168,7 +168,7 @@ std::optional<std::string> ChangeSetting(SettingsRecords& records, std::string_v
                                          std::string_view value) {
   std::optional<std::string> fault;
   if (Integer* member = MemberOf(records, name)) {
-    fault = SetByName(records, name, value);
+    if (const auto wrong = SetByName(records, name, value)) fault = InOneLine(*wrong);
     *member = ClampTo<Integer>(*member, 0, kProfileCount - 1);
   } else {
     const auto set = WithSetting(records, name, [&](auto& record, const auto& field) {
