@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -16,13 +17,16 @@
 #include <set>
 
 #include "desktop/translation.h"
+#include "info/frm_about.h"
 #include "info/frm_system_diag.h"
 #include "info/help_viewer.h"
 #include "properties/frm_advanced.h"
+#include "properties/frm_idle.h"
 #include "properties/frm_welcome.h"
 #include "properties/props_dialog.h"
 #include "template_dialogs/frm_file_io.h"
 #include "widgets/elided_label.h"
+#include "widgets/qt_message_boxes.h"
 
 namespace starfolds {
 namespace {
@@ -185,11 +189,30 @@ TEST_P(LanguagesTest, TheOtherDialogsFit) {
   FrmAdvanced advanced(Tree, HelpBook);
   FrmSystemDiag diagnostics({Tree, Desktop, Boxes, HelpBook, {"1", "settings.db"}, {}});
   FrmWelcome welcome(MakeWelcomePage(true), {}, HelpBook);
+  FrmIdle idle(Tree, HelpBook, "/nonexistent");
   HelpViewer help(Tree, {});
   for (QWidget* window :
-       std::initializer_list<QWidget*>{&advanced, &diagnostics, &welcome, &help}) {
+       std::initializer_list<QWidget*>{&advanced, &diagnostics, &welcome, &idle, &help}) {
     window->show();
     Expect(*window, window->objectName().toStdString());
+  }
+  FrmAbout about({*Process, HelpBook, "1", [] { return 1U; }});
+  Events.Plan[Events.Pumps + 5] = [&] {  // its run ends when it closes
+    Expect(about, "frmAbout");
+    about.accept();
+  };
+  about.exec();
+}
+
+TEST_P(LanguagesTest, TheMessageBoxesFit) {
+  for (const BoxStyle style : {BoxStyle::YesNoCancelQuestion, BoxStyle::UnacceptedChanges,
+                               BoxStyle::SaveFailed, BoxStyle::Information}) {
+    WhenShown<QMessageBox>([&](QMessageBox& box) {
+      Expect(box, "box " + std::to_string(static_cast<int>(style)));
+      box.reject();
+    });
+    QtMessageBoxes().Show(TemplateFaultText(true, "/" + std::string(200, 'x'), "Not a plain file"),
+                          style, "Starfolds");
   }
 }
 
