@@ -20,7 +20,7 @@ IdleService::IdleService(IdleSource& source, Hindrances& hindrances, const QStri
   });
   source_.Idled = [this] { SourceIdled(); };
   source_.Resumed = [this] { Do(model_.Resumed()); };
-  hindrances_.Changed = [this] { Do(model_.Hindered(hindrances_.Any())); };
+  hindrances_.Changed = [this] { HindrancesChanged(); };
   hindrances_.LockAsked = [this] { Do(model_.LockAsked()); };
   Do(model_.Hindered(hindrances_.Any()));
   Do(model_.Begin(plan.Timeout, plan.EndsOnInput));
@@ -29,6 +29,14 @@ IdleService::IdleService(IdleSource& source, Hindrances& hindrances, const QStri
 void IdleService::Change(const IdlePlan& plan) {
   plan_ = plan;
   Do(model_.Begin(plan.Timeout, plan.EndsOnInput));
+}
+
+/// Mutter does not report idleness while a program inhibits it, so a test would say nothing.
+void IdleService::HindrancesChanged() {
+  if (plan_.Once && hindrances_.Any() && !model_.IsShowing()) {
+    say_(tr("Against a screen saver now: %1").arg(hindrances_.Reasons().join(' ')));
+  }
+  Do(model_.Hindered(hindrances_.Any()));
 }
 
 void IdleService::SourceIdled() {

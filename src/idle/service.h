@@ -38,6 +38,7 @@ class IdleService {
 
  private:
   void Do(const IdleStep& step);
+  void HindrancesChanged();
   void SourceIdled();
   void SaverEnded(const QString& fault);
 
