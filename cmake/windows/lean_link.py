@@ -19,7 +19,7 @@ CODE = '.text'
 HANDLERS = ('__gxx_personality_seh0', '__C_specific_handler')
 MOST_LINKS = 5  # the second one is hardly ever repeated
 
-SECTION = re.compile(r'^ (\.text[.$]\S+)\s+0x([0-9a-f]+)\s+0x([0-9a-f]+)', re.MULTILINE)
+SECTION = re.compile(r'^ (\.text[.$]\S+)\s+0x[0-9a-f]+\s+0x([0-9a-f]+)', re.MULTILINE)
 
 
 def fail(message):
@@ -62,11 +62,12 @@ def script_for(script, used, unused):
 
 def functions_of(link_map):
     """The names of used and of unused functions, as they follow the name of a section. A name that is
-    used in one file is used."""
+    used in one file is used; one without any code is not."""
     dropped, kept = link_map.read_text(errors='replace').split('\nLinker script and memory map\n')
-    used = {name[len(CODE):] for name, address, size in SECTION.findall(re.sub(r'(\S)\n\s+0x', r'\1 0x', kept))
-            if int(address, 16) and int(size, 16)}
-    unused = {line.split()[0][len(CODE):] for line in dropped.splitlines() if line.startswith(' .text')}
+    linked = SECTION.findall(re.sub(r'(\S)\n\s+0x', r'\1 0x', kept))
+    used = {name[len(CODE):] for name, size in linked if int(size, 16)}
+    unused = {name[len(CODE):] for name, _ in linked}
+    unused |= {line.split()[0][len(CODE):] for line in dropped.splitlines() if line.startswith(' .text')}
     return used, unused - used - {''}
 
 
