@@ -36,11 +36,11 @@ TEST(Factory, TheTablesAreAsPinned) {
     std::uint64_t Hash;
   };
   for (const Case& c :
-       {Case{Starfolds20, 1, 11753217735273281910U}, Case{Starfolds4x, 1, 11326408855952322607U},
-        Case{Starfolds4x, 2, 12197726869254754344U}, Case{Starfolds4x, 3, 8612810588936556017U},
-        Case{Starfolds4x, 4, 16343754250884364840U}, Case{Starfolds4x, 5, 10767867934231148589U},
-        Case{Starfolds4x, 6, 4793958118028636847U}, Case{Starfolds4x, 7, 7464397733202929368U},
-        Case{Starfolds4x, 8, 10973958280075177114U}}) {
+       {Case{Starfolds20, 1, 8690647335938517820U}, Case{Starfolds4x, 1, 12856629752367997910U},
+        Case{Starfolds4x, 2, 4397437874453593571U}, Case{Starfolds4x, 3, 17169486513424203528U},
+        Case{Starfolds4x, 4, 11197319832915532771U}, Case{Starfolds4x, 5, 17469340214280492868U},
+        Case{Starfolds4x, 6, 9577170947338232662U}, Case{Starfolds4x, 7, 1922879977333263475U},
+        Case{Starfolds4x, 8, 17976720747339371365U}}) {
     SettingsRecords records;
     LoadFactorySettings(records, c.Set, c.Theme);
     EXPECT_EQ(HashOf(records), c.Hash) << "theme " << c.Theme;
