@@ -18,8 +18,7 @@ wait_for_window() {
 # activate WINDOW: makes it the one that gets the keys. A new window is in the search before the
 # window manager gives it the focus, and a key sent in between reaches no window.
 activate() {
-  local tries
-  for tries in $(seq 1 300); do
+  for _ in $(seq 1 300); do
     xdotool windowactivate "$1" 2>/dev/null
     [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ] &&
       [ "$(xdotool getwindowfocus -f 2>/dev/null)" = "$1" ] && return
