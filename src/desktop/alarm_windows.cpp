@@ -25,7 +25,8 @@ class WaitableTimer : public Alarm {
   WaitableTimer(const WaitableTimer&) = delete;
   WaitableTimer& operator=(const WaitableTimer&) = delete;
 
-  /// Qt's own events are announced by a message, too, so after the timer alone there are none.
+  /// Qt's own events are announced by a message, too. If the timer ended the wait, there are no
+  /// events to process.
   void Wait(nanoseconds time) override {
     time = std::max(time, nanoseconds(1));
     LARGE_INTEGER due{};

@@ -23,7 +23,7 @@ void PlacesByColour::Sort(std::span<const PixelChange> changes) {
   }
 }
 
-/// Half of the pixels are erased, so black has the first group without a search.
+/// Half of the pixels are erased, so black is given its group without a search of the table.
 void PlacesByColour::Count(std::span<const PixelChange> changes) {
   groups_.assign(1, {kBlack, 0, 0});
   usedSlots_.clear();

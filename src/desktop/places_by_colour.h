@@ -22,7 +22,8 @@ class PlacesByColour {
     std::size_t Count = 0;
   };
 
-  /// Groups the pixels. After `kMostColours` colours, each pixel of another one has its own group.
+  /// Groups the pixels. The first group is black, and may be empty. After `kMostColours` other
+  /// colours, each pixel of one more has its own group.
   void Sort(std::span<const PixelChange> changes);
 
   std::span<const Group> Groups() const { return groups_; }

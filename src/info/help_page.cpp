@@ -256,7 +256,8 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   if (picture.isNull()) return {};
   const double wanted = ShownSize(picture).width() * devicePixelRatioF();
   const int width = std::min(static_cast<int>(std::lround(wanted)), picture.width());
-  // A palette picture that Qt 6.4 scales is dithered to 216 colours, or Qt crashes.
+  // When Qt 6.4 scales a palette picture, it dithers it to 216 colours, and it crashes if the
+  // picture has a pixel ratio.
   picture.convertTo(QImage::Format_ARGB32_Premultiplied);
   picture.setDevicePixelRatio(1);
   return picture.scaledToWidth(width, Qt::SmoothTransformation);

@@ -14,8 +14,9 @@
 namespace starfolds {
 
 /// A marked text, in which %1 to %9 stand for values, and these values, which are shown as they
-/// are. Other texts are shown as they are: texts convert. NOLINTBEGIN(google-explicit-constructor)
+/// are. Any other text converts to it and is shown as it is.
 struct UserText {
+  // NOLINTBEGIN(google-explicit-constructor): conversions are meant
   UserText(std::string text, std::vector<std::string> values = {}, std::string reason = {})
       : Text(std::move(text)), Values(std::move(values)), Reason(std::move(reason)) {}
   UserText(std::string_view text) : Text(text) {}

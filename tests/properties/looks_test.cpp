@@ -66,7 +66,8 @@ TEST_F(LooksTest, ManyValuesAreReadInOneTransaction) {
     ReadUniverseSettings(*Process, false);
   };
   EXPECT_LE(Looks(startRun), 4) << "the marks, the advanced values, and all of the run";
-  // The preview starts by a timer, and on a busy machine within any of these.
+  // A timer starts the preview, which reads the camera; on a busy machine within any of these
+  // steps.
   constexpr int preview = 1;
   EXPECT_LE(Looks([&] { Open(); }), 2 + preview) << "the settings, and the place of the window";
   EXPECT_EQ(Edit("txtUni_0").text(), "5000");

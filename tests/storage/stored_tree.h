@@ -19,8 +19,8 @@ struct StoredTree {
   explicit StoredTree(const std::string& file, const std::string& machine = {},
                       TreePatience patience = {})
       : Tree(
-            {file, machine}, [this](const UserText& line) { Complaints.push_back(line.Text); },
-            patience) {}
+            {file, machine},
+            [this](const UserText& line) { Complaints.push_back(InOneLine(line)); }, patience) {}
 
   std::vector<std::string> Complaints;
   SqliteTree Tree;

@@ -14,7 +14,7 @@ struct InMemory {
 struct OnDisk {
   TestFolder Folder{QuickFolder()};
   SqliteTree Tree{{Folder.Path("user/a.db"), Folder.Path("machine/a.db")},
-                  [](const UserText& line) { ADD_FAILURE() << line.Text; }};
+                  [](const UserText& line) { ADD_FAILURE() << InOneLine(line); }};
 };
 
 template <class Place>
