@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Renders the contact sheets of the factory settings into docs/pictures/sheets/: every profile and
-# composite of both sets at its own viewing distance, and the eight universe themes; and six frames
-# of each template into docs/pictures/templates/.
+# composite of both sets at three moments, and the eight universe themes; and six frames of each
+# template into docs/pictures/templates/.
 # Usage: docs/sheets.sh PROGRAM   (the path of starfolds-render)
 set -euo pipefail
 program=$(realpath "$1")
@@ -16,6 +16,14 @@ tile() {
   local file=$1 frame=$2
   shift 2
   "$program" --size 384x216 --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
+  mv "$scratch"/frame/frame-*.png "$file"
+}
+
+# moment FILE FRAME OPTION...: writes one frame of a body, half as large as a tile.
+moment() {
+  local file=$1 frame=$2
+  shift 2
+  "$program" --size 192x108 --seed 5 --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
   mv "$scratch"/frame/frame-*.png "$file"
 }
 
@@ -34,18 +42,26 @@ sheet() {
   rm -r "$scratch/tiles"
 }
 
-# bodies SET KIND FRAME: makes a sheet of all profiles or composites of a set. Undefined ones repeat
-# the first one.
+# bodies SET KIND VISIT: makes a sheet of all profiles or composites of a set, three moments of each:
+# alone at the frames 250 and 800, and at the frame VISIT of a universe that visits it first.
+# Undefined ones repeat the first one.
 bodies() {
-  local set=$1 kind=$2 frame=$3 number name
-  mkdir -p "$scratch/tiles"
+  local set=$1 kind=$2 visit=$3 number name place=1
+  [ "$kind" = profile ] || place=51
+  mkdir -p "$scratch/tiles" "$scratch/moments"
   "$program" --factory "$set" --list --hash | sed -n "s/^$kind //p" | grep -v ' Undefined$' |
     while read -r number name; do
-      tile "$(printf '%s/tiles/%02d_%s %s.png' "$scratch" "$number" "$number" "${name//\// }")" \
-        "$frame" --factory "$set" "--$kind" "$number" --set Universe_STrail=1 \
-        --set Universe_Stars=5000
+      for frame in 250 800; do
+        moment "$scratch/moments/$frame.png" "$frame" --factory "$set" "--$kind" "$number" \
+          --set Universe_STrail=1 --set Universe_Stars=5000
+      done
+      moment "$scratch/moments/visit.png" "$visit" --factory "$set" \
+        --set Universe_GS_Idx=$((10#$number + place))
+      montage -background '#303030' "$scratch"/moments/{250,800,visit}.png -tile 3x \
+        -geometry +1+0 "$(printf '%s/tiles/%02d_%s %s.png' "$scratch" "$number" "$number" \
+          "${name//\// }")"
     done
-  sheet "set$set-${kind}s.png" 5
+  sheet "set$set-${kind}s.png" 2
 }
 
 # themes: shows blast, end of the blast, a visit and the pull-out of each theme. The frame numbers
@@ -82,9 +98,11 @@ template() {
   rm -r "$scratch/tiles"
 }
 
-for set in 0 1; do
-  bodies "$set" profile 300
-  bodies "$set" composite 300
+# The camera is in front of the body, which fills the view, at the frames 820 and 1000: a control step
+# takes 160 frames in the first set and 250 in the second.
+for kind in profile composite; do
+  bodies 0 "$kind" 820
+  bodies 1 "$kind" 1000
 done
 themes
 
