@@ -36,11 +36,11 @@ TEST(Factory, TheTablesAreAsPinned) {
     std::uint64_t Hash;
   };
   for (const Case& c :
-       {Case{Starfolds20, 1, 8690647335938517820U}, Case{Starfolds4x, 1, 12856629752367997910U},
-        Case{Starfolds4x, 2, 4397437874453593571U}, Case{Starfolds4x, 3, 17169486513424203528U},
-        Case{Starfolds4x, 4, 11197319832915532771U}, Case{Starfolds4x, 5, 17469340214280492868U},
-        Case{Starfolds4x, 6, 9577170947338232662U}, Case{Starfolds4x, 7, 1922879977333263475U},
-        Case{Starfolds4x, 8, 17976720747339371365U}}) {
+       {Case{Starfolds20, 1, 13552053300490478950U}, Case{Starfolds4x, 1, 17022662409873241019U},
+        Case{Starfolds4x, 2, 16013063029177855890U}, Case{Starfolds4x, 3, 3860252936476035921U},
+        Case{Starfolds4x, 4, 14205939925069868434U}, Case{Starfolds4x, 5, 12037082167697735837U},
+        Case{Starfolds4x, 6, 4272733420451900219U}, Case{Starfolds4x, 7, 8881349153227294818U},
+        Case{Starfolds4x, 8, 12585771623084587240U}}) {
     SettingsRecords records;
     LoadFactorySettings(records, c.Set, c.Theme);
     EXPECT_EQ(HashOf(records), c.Hash) << "theme " << c.Theme;
