@@ -43,5 +43,5 @@ for shape in 0 1 2 3 4; do
 done
 
 # For the README, where pictures are shown small.
-one readme.png 4764 --size 640x360 --scale 2
+one readme.png 840 --size 640x360 --scale 2 --set Universe_GS_Idx=19
 "$program" --set Universe_Recycle=1 --frames 1300 --first 10 --every 115 --sheet universe.png
