@@ -7,9 +7,12 @@ file=$2
 folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
 
+# The body is "Stellar Turbines" with values of its own, so that changes of the factory body do not
+# change the icon.
+body=(AngleTilt=60 AngleTInc=0 GHW_Ratio=0.25 RadiusExp=0.9 HeightExp=1 HWheelInc=0.02 HWC_Start=20
+  HueBase=0 HueBlend=60 NewFreq=500 NewFrames=10 NewExtMult=700 NovaFreq=0 CometFreq=0)
 "$render" --profile 2 --size 64x64 --frames 300 --first 300 --png "$folder" \
-  --set Universe_Stars=900 --set FocalLength=1.25 --set Starfold_AngleTilt=60 \
-  --set Starfold_AngleTInc=0 --set Starfold_CometFreq=0 --set Starfold_NovaFreq=0 2>/dev/null
+  --set Universe_Stars=900 --set FocalLength=1.25 "${body[@]/#/--set=Starfold_}" 2>/dev/null
 {
   cat <<'HEAD'
 <svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 64 64">
