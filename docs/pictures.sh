@@ -42,6 +42,7 @@ for shape in 0 1 2 3 4; do
     --set Starfold_PulsarFreq=2500 --set "Starfold_PulsarShape=$shape"
 done
 
-# For the README, where pictures are shown small.
+# For the README, where pictures are shown small. The first visit is to "IFS Point: Spiral Wheel
+# Burst".
 one readme.png 840 --size 640x360 --scale 2 --set Universe_GS_Idx=19
 "$program" --set Universe_Recycle=1 --frames 1300 --first 10 --every 115 --sheet universe.png

@@ -11,21 +11,19 @@ cd "$(dirname "${BASH_SOURCE[0]}")/pictures/sheets"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-# tile FILE FRAME OPTION...: writes one frame as a tile.
-tile() {
-  local file=$1 frame=$2
-  shift 2
-  "$program" --size 384x216 --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
+# picture SIZE FILE FRAME OPTION...: writes one frame.
+picture() {
+  local size=$1 file=$2 frame=$3
+  shift 3
+  "$program" --size "$size" --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
   mv "$scratch"/frame/frame-*.png "$file"
 }
 
-# moment FILE FRAME OPTION...: writes one frame of a body, half as large as a tile.
-moment() {
-  local file=$1 frame=$2
-  shift 2
-  "$program" --size 192x108 --seed 5 --frames "$frame" --first "$frame" --png "$scratch/frame" "$@"
-  mv "$scratch"/frame/frame-*.png "$file"
-}
+# tile FILE FRAME OPTION...: writes one frame as a tile.
+tile() { picture 384x216 "$@"; }
+
+# moment FILE FRAME OPTION...: writes one frame of a body, half as wide as a tile.
+moment() { picture 192x108 "$@" --seed 5; }
 
 # sheet FILE COLUMNS: assembles all tiles in the order of their names, each above its caption.
 sheet() {
@@ -46,8 +44,8 @@ sheet() {
 # alone at the frames 250 and 800, and at the frame VISIT of a universe that visits it first.
 # Undefined ones repeat the first one.
 bodies() {
-  local set=$1 kind=$2 visit=$3 number name place=1
-  [ "$kind" = profile ] || place=51
+  local set=$1 kind=$2 visit=$3 number name frame first=1
+  [ "$kind" = profile ] || first=51 # in the list of bodies to visit, composites follow 50 profiles
   mkdir -p "$scratch/tiles" "$scratch/moments"
   "$program" --factory "$set" --list --hash | sed -n "s/^$kind //p" | grep -v ' Undefined$' |
     while read -r number name; do
@@ -56,7 +54,7 @@ bodies() {
           --set Universe_STrail=1 --set Universe_Stars=5000
       done
       moment "$scratch/moments/visit.png" "$visit" --factory "$set" \
-        --set Universe_GS_Idx=$((10#$number + place))
+        --set Universe_GS_Idx=$((10#$number + first))
       montage -background '#303030' "$scratch"/moments/{250,800,visit}.png -tile 3x \
         -geometry +1+0 "$(printf '%s/tiles/%02d_%s %s.png' "$scratch" "$number" "$number" \
           "${name//\// }")"
@@ -98,8 +96,8 @@ template() {
   rm -r "$scratch/tiles"
 }
 
-# The camera is in front of the body, which fills the view, at the frames 820 and 1000: a control step
-# takes 160 frames in the first set and 250 in the second.
+# At these frames of its visit the body fills the view, and the camera has not yet passed it. The
+# second set's is later because its tour has 250 frames for each control step, not 160.
 for kind in profile composite; do
   bodies 0 "$kind" 820
   bodies 1 "$kind" 1000
